@@ -1,0 +1,53 @@
+# A room is one folder and one static library. chart_room(NAME DEPS...) makes the library `NAME` from the
+# sources of the current folder; the shared libraries and the tests are linked from rooms.
+
+add_library(chart_flags INTERFACE)
+target_include_directories(chart_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/model/include)
+if(MSVC)
+    target_compile_options(chart_flags INTERFACE /W4 $<$<BOOL:${CHART_WARNINGS_AS_ERRORS}>:/WX>)
+else()
+    target_compile_options(chart_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
+        $<$<BOOL:${CHART_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
+if(CHART_SANITIZE)
+    target_compile_options(chart_flags INTERFACE -fsanitize=${CHART_SANITIZE} -fno-omit-frame-pointer
+        $<$<STREQUAL:${CHART_SANITIZE},thread>:-Wno-tsan>)
+    if(CHART_SANITIZE MATCHES "undefined")
+        target_compile_options(chart_flags INTERFACE -fno-sanitize-recover=undefined)
+    endif()
+    target_link_options(chart_flags INTERFACE -fsanitize=${CHART_SANITIZE})
+endif()
+
+function(chart_room name)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    if(sources)
+        add_library(${name} STATIC ${sources})
+        target_link_libraries(${name} PUBLIC chart_flags ${ARGN})
+    else()
+        add_library(${name} INTERFACE)
+        target_link_libraries(${name} INTERFACE chart_flags ${ARGN})
+    endif()
+endfunction()
+
+# chart_test(NAME DEPS...): one GoogleTest program from the *.cpp files of the current folder.
+function(chart_test name)
+    file(GLOB sources CONFIGURE_DEPENDS ${CMAKE_CURRENT_SOURCE_DIR}/*.cpp)
+    if(NOT sources)
+        return()
+    endif()
+    add_executable(${name} ${sources})
+    target_link_libraries(${name} PRIVATE chart_flags ${ARGN} chart_test_main)
+    add_test(NAME ${name} COMMAND ${name})
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+endfunction()
+
+# chart_bench(NAME DEPS...): one Google Benchmark program from NAME.cpp; CTest runs it once, briefly, so
+# that it keeps working. Figures come from running the program of the release build by hand.
+function(chart_bench name)
+    add_executable(${name} ${name}.cpp)
+    target_link_libraries(${name} PRIVATE chart_flags ${ARGN} benchmark::benchmark)
+    if(CHART_BUILD_TESTS)
+        add_test(NAME ${name} COMMAND ${name} --benchmark_min_time=0.001)
+        set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen")
+    endif()
+endfunction()

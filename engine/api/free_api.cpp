@@ -1,0 +1,21 @@
+// Operations without a handle that concern colours and effects.
+
+#include "drawing/surface.h"
+#include "engine/paint/colour.h"
+#include "engine/paint/effect.h"
+
+extern "C" {
+
+int CChart_metalColor(int base, int angle) {
+    return static_cast<int>(chartdraw::metalColour(static_cast<chartdraw::Colour>(base), angle));
+}
+
+int CChart_softLighting(int direction, int raisedEffect) {
+    return chartdraw::softLighting(direction, raisedEffect);
+}
+
+int CChart_glassEffect(int glareSize, int direction, int raisedEffect) {
+    return chartdraw::glassEffect(glareSize, direction, raisedEffect);
+}
+
+} // extern "C"

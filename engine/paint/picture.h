@@ -1,0 +1,19 @@
+#pragma once
+// Images in and out: files read for wallpapers, patterns and draw areas, and the finished chart as bytes.
+
+#include <QByteArray>
+#include <QImage>
+#include <string>
+
+namespace chartdraw {
+
+constexpr int kMaxSide = 16384; ///< Pixels; larger pictures are not made and not read.
+
+/// Reads PNG, JPEG, GIF (first frame), BMP or WBMP from a file named in UTF-8. Null when it cannot be read or
+/// is larger than kMaxSide a side. Images of the last few files are cached by path, size and date.
+QImage loadPicture(const std::string& path);
+
+/// A 24-bit bottom-up bitmap file: 14 bytes of file header, 40 of information, rows padded to 4 bytes.
+QByteArray bitmapFile(const QImage& image);
+
+} // namespace chartdraw

@@ -1,0 +1,32 @@
+#!/usr/bin/env bash
+# Installs what the build, the demo and the tests need, by package name. Does nothing when all is there.
+set -euo pipefail
+
+packages=(
+    g++ cmake ninja-build pkg-config python3
+    qt6-base-dev qt6-image-formats-plugins
+    libgtest-dev libgmock-dev libbenchmark-dev
+    xvfb fontconfig
+    # Faces: the default sans and its fallbacks for other scripts and symbols; the tests read some by name.
+    fonts-liberation fonts-dejavu-core fonts-noto-cjk fonts-noto-core fonts-nanum fonts-vlgothic fonts-symbola
+)
+if [ "${1:-}" = --ci ]; then
+    packages+=(clang clang-format valgrind)
+fi
+
+missing=()
+for package in "${packages[@]}"; do
+    if [ "$(dpkg-query -W -f='${Status}' "$package" 2>/dev/null)" != "install ok installed" ]; then
+        missing+=("$package")
+    fi
+done
+[ ${#missing[@]} -eq 0 ] && exit 0
+
+sudo=()
+if [ "$(id -u)" -ne 0 ]; then
+    sudo=(sudo)
+fi
+echo "Installing: ${missing[*]}"
+export DEBIAN_FRONTEND=noninteractive
+"${sudo[@]}" apt-get update -qq
+"${sudo[@]}" apt-get install -y -qq --no-install-recommends "${missing[@]}"
