@@ -1,0 +1,196 @@
+// Operations of every chart: size, background, fonts, titles, texts, lines, legend, picture, patterns.
+
+#include "drawing/surface.h"
+#include "engine/api/convert.h"
+#include "engine/chart/chart.h"
+#include "engine/paint/picture.h"
+#include "engine/scale/format.h"
+
+using chartdraw::Chart;
+using chartdraw::handle;
+using chartdraw::object;
+using chartdraw::toColour;
+using chartdraw::toText;
+
+namespace {
+
+/// A title as it looks until its box is edited: a little air around it, centred.
+chartdraw::TextLook titleLook(const char* font, double size, int fontColor, int background, int edge) {
+    chartdraw::TextLook look = chartdraw::toLook(font, size > 0 ? size : 12, fontColor);
+    look.background = chartdraw::orDefault(toColour(background), chartdraw::kTransparent);
+    look.edge = chartdraw::orDefault(toColour(edge), chartdraw::kTransparent);
+    look.setMargins(6, 6, 4, 4);
+    return look;
+}
+
+TextBox* addTitle(BaseChart* base, int alignment, const char* title, const chartdraw::TextLook& look,
+                  bool strip) {
+    auto* chart = object<Chart>(base);
+    return chart != nullptr ? handle<TextBox>(chart->addTitle(alignment, toText(title), look, strip))
+                            : nullptr;
+}
+
+} // namespace
+
+extern "C" {
+
+void CBaseChart_destroy(BaseChart* base) {
+    delete object<Chart>(base);
+}
+
+void CBaseChart_setSize(BaseChart* base, int width, int height) {
+    if (auto* chart = object<Chart>(base)) {
+        chart->setSize(width, height);
+    }
+}
+
+void CBaseChart_setBackground(BaseChart* base, int background, int edge, int raisedEffect) {
+    if (auto* chart = object<Chart>(base)) {
+        chart->setBackground(toColour(background), toColour(edge), raisedEffect);
+    }
+}
+
+void CBaseChart_setBgImage(BaseChart* base, const char* file, int alignment) {
+    if (auto* chart = object<Chart>(base)) {
+        chart->setBackgroundImage(toText(file), alignment);
+    }
+}
+
+void CBaseChart_setRoundedFrame(BaseChart* base, int exterior, int r1, int r2, int r3, int r4) {
+    if (auto* chart = object<Chart>(base)) {
+        const int first = r1 < 0 ? 10 : r1;
+        const auto corner = [&](int radius) { return radius < 0 ? first : radius; };
+        chart->setRoundedFrame(toColour(exterior), {first, corner(r2), corner(r3), corner(r4)});
+    }
+}
+
+void CBaseChart_setDefaultFonts(BaseChart* base, const char* normal, const char* bold, const char* italic,
+                                const char* boldItalic) {
+    if (auto* chart = object<Chart>(base)) {
+        chart->setDefaultFonts({{toText(normal), toText(bold), toText(italic), toText(boldItalic)}});
+    }
+}
+
+void CBaseChart_setAntiAlias(BaseChart* base, bool shapes, int textMode) {
+    if (auto* chart = object<Chart>(base)) {
+        chart->setAntiAlias(shapes, textMode);
+    }
+}
+
+TextBox* CBaseChart_addTitle(BaseChart* base, const char* title, const char* font, double size, int fontColor,
+                             int background, int edge) {
+    return addTitle(base, chartdraw::TopCenter, title, titleLook(font, size, fontColor, background, edge),
+                    true);
+}
+
+TextBox* CBaseChart_addTitle2(BaseChart* base, int alignment, const char* title, const char* font,
+                              double size, int fontColor, int background, int edge) {
+    return addTitle(base, alignment, title, titleLook(font, size, fontColor, background, edge), false);
+}
+
+TextBox* CBaseChart_addText(BaseChart* base, int x, int y, const char* text, const char* font, double size,
+                            int fontColor, int alignment, double angle, bool vertical) {
+    auto* chart = object<Chart>(base);
+    if (chart == nullptr) {
+        return nullptr;
+    }
+    chartdraw::TextLook look = chartdraw::toLook(font, size, fontColor, angle);
+    look.vertical = vertical;
+    look.alignment = alignment;
+    return handle<TextBox>(chart->addText(toText(text), look, {x, y}, alignment));
+}
+
+Line* CBaseChart_addLine(BaseChart* base, int x1, int y1, int x2, int y2, int color, int width) {
+    auto* chart = object<Chart>(base);
+    return chart != nullptr ? handle<Line>(chart->addLine({x1, y1}, {x2, y2}, toColour(color), width))
+                            : nullptr;
+}
+
+LegendBox* CBaseChart_addLegend(BaseChart* base, int x, int y, bool vertical, const char* font, double size) {
+    auto* chart = object<Chart>(base);
+    if (chart == nullptr) {
+        return nullptr;
+    }
+    chartdraw::TextLook look = chartdraw::toLook(font, size, -1);
+    look.setMargins(5, 5, 4, 4);
+    return handle<LegendBox>(chart->addLegend({x, y}, vertical, look));
+}
+
+LegendBox* CBaseChart_getLegend(BaseChart* base) {
+    auto* chart = object<Chart>(base);
+    return chart != nullptr ? handle<LegendBox>(chart->legend()) : nullptr;
+}
+
+DrawArea* CBaseChart_getDrawArea(BaseChart* base) {
+    auto* chart = object<Chart>(base);
+    return chart != nullptr ? handle<DrawArea>(chart->drawArea()) : nullptr;
+}
+
+bool CBaseChart_makeChart2(BaseChart* base, int format, const char** data, int* length) {
+    const char* bytes = nullptr;
+    int count = 0;
+    auto* chart = object<Chart>(base);
+    const bool made = chart != nullptr && format == 4 && chart->makePicture(&bytes, &count);
+    if (data != nullptr) {
+        *data = bytes;
+    }
+    if (length != nullptr) {
+        *length = count;
+    }
+    return made;
+}
+
+int CBaseChart_patternColor(BaseChart* base, const int* pixels, int count, int height, int startX,
+                            int startY) {
+    auto* chart = object<Chart>(base);
+    if (chart == nullptr || pixels == nullptr || height <= 0 || count < height) {
+        return static_cast<int>(chartdraw::kTransparent);
+    }
+    const int width = count / height;
+    if (width > chartdraw::kMaxSide || height > chartdraw::kMaxSide) {
+        return static_cast<int>(chartdraw::kTransparent);
+    }
+    QImage tile(width, height, QImage::Format_ARGB32);
+    for (int y = 0; y < height; ++y) {
+        for (int x = 0; x < width; ++x) {
+            tile.setPixel(x, y, chart->colours().solid(toColour(pixels[y * width + x])).rgba());
+        }
+    }
+    return static_cast<int>(chart->colours().addPattern(tile, startX, startY));
+}
+
+int CBaseChart_patternColor2(BaseChart* base, const char* file, int startX, int startY) {
+    auto* chart = object<Chart>(base);
+    return static_cast<int>(
+        chart != nullptr ? chart->colours().addPattern(chartdraw::loadPicture(toText(file)), startX, startY)
+                         : chartdraw::kTransparent);
+}
+
+const char* CBaseChart_formatValue(BaseChart* base, double value, const char* format) {
+    auto* chart = object<Chart>(base);
+    return chart != nullptr ? chart->keepText(chartdraw::formatValue(value, toText(format))) : "";
+}
+
+void CDrawArea_destroy(DrawArea* area) {
+    auto* object = chartdraw::object<chartdraw::DrawArea>(area);
+    if (object != nullptr && !object->ownedByChart()) {
+        delete object;
+    }
+}
+
+int CDrawArea_getWidth(DrawArea* area) {
+    auto* object = chartdraw::object<chartdraw::DrawArea>(area);
+    return object != nullptr ? object->size().width() : 0;
+}
+
+int CDrawArea_getHeight(DrawArea* area) {
+    auto* object = chartdraw::object<chartdraw::DrawArea>(area);
+    return object != nullptr ? object->size().height() : 0;
+}
+
+bool CDrawArea_load(DrawArea* area, const char* file) {
+    auto* object = chartdraw::object<chartdraw::DrawArea>(area);
+    return object != nullptr && object->load(toText(file));
+}
+
+} // extern "C"

@@ -1,0 +1,196 @@
+#include "engine/chart/chart.h"
+
+#include "engine/paint/picture.h"
+#include "engine/text/application.h"
+
+#include <algorithm>
+
+namespace chartdraw {
+
+bool DrawArea::load(const std::string& path) {
+    QImage read = loadPicture(path);
+    if (read.isNull()) {
+        return false;
+    }
+    m_image = std::move(read);
+    if (m_chart != nullptr) {
+        m_chart->setSize(m_image.width(), m_image.height());
+    }
+    return true;
+}
+
+QSize DrawArea::size() const {
+    return m_chart != nullptr ? QSize(m_chart->width(), m_chart->height()) : m_image.size();
+}
+
+Chart::Chart(Kind kind, int width, int height, Colour background, Colour edge, int effect)
+    : Object(kind), m_width(width), m_height(height), m_background(background), m_edge(edge),
+      m_effect(effect), m_drawArea(this) {
+    ensureApplication();
+}
+
+Chart::~Chart() {
+    for (Chart* host : m_hosts) {
+        host->hostedEnds(this);
+    }
+}
+
+void Chart::setSize(int width, int height) {
+    m_width = width;
+    m_height = height;
+    changed();
+}
+
+void Chart::setBackground(Colour background, Colour edge, int effect) {
+    m_background = orDefault(background, m_background);
+    m_edge = orDefault(edge, m_edge);
+    m_effect = effect;
+    changed();
+}
+
+void Chart::setBackgroundImage(std::string path, int alignment) {
+    m_imagePath = std::move(path);
+    m_imageAlignment = alignment;
+    changed();
+}
+
+void Chart::setRoundedFrame(Colour exterior, const Corners& corners) {
+    m_rounded = true;
+    m_exterior = orDefault(exterior, 0xffffff);
+    m_corners = corners;
+    changed();
+}
+
+void Chart::setDefaultFonts(FontSet fonts) {
+    for (std::size_t i = 0; i < fonts.files.size(); ++i) {
+        if (!fonts.files[i].empty()) {
+            m_fonts.files[i] = std::move(fonts.files[i]);
+        }
+    }
+    changed();
+}
+
+void Chart::setAntiAlias(bool shapes, int textMode) {
+    m_smoothShapes = shapes;
+    m_textMode = textMode;
+    changed();
+}
+
+TextBox* Chart::addTitle(int alignment, std::string text, const TextLook& look, bool strip) {
+    auto* title = own<Title>(*this, std::move(text), look, alignment, strip);
+    m_titles.push_back(title);
+    return title;
+}
+
+TextBox* Chart::addText(std::string text, const TextLook& look, QPoint at, int alignment) {
+    auto* box = own<FreeText>(*this, std::move(text), look, at, alignment);
+    m_objects.push_back(box);
+    return box;
+}
+
+Line* Chart::addLine(QPoint from, QPoint to, Colour colour, int width) {
+    auto* line = own<Line>(*this, from, to, colour, width);
+    m_objects.push_back(line);
+    return line;
+}
+
+LegendBox* Chart::addLegend(QPoint at, bool vertical, const TextLook& look) {
+    m_legend = own<LegendBox>(*this, at, vertical, look);
+    return m_legend;
+}
+
+const char* Chart::keepText(std::string text) {
+    return m_texts.insert(std::move(text)).first->c_str();
+}
+
+void Chart::changed() {
+    m_stale = true;
+    for (Chart* host : m_hosts) {
+        host->changed();
+    }
+}
+
+bool Chart::makePicture(const char** data, int* length) {
+    if (m_stale) {
+        m_picture.clear();
+        if (m_width > 0 && m_height > 0 && m_width <= kMaxSide && m_height <= kMaxSide) {
+            QImage image(m_width, m_height, QImage::Format_ARGB32_Premultiplied);
+            if (!image.isNull()) {
+                image.fill(Qt::white);
+                Canvas canvas(image, m_colours, m_smoothShapes);
+                draw(canvas);
+                m_picture = bitmapFile(image);
+            }
+        }
+        m_stale = false;
+    }
+    *data = m_picture.isEmpty() ? nullptr : m_picture.constData();
+    *length = static_cast<int>(m_picture.size());
+    return !m_picture.isEmpty();
+}
+
+void Chart::draw(Canvas& canvas) {
+    canvas.painter().setRenderHint(QPainter::TextAntialiasing, m_textMode != 0);
+    drawBackground(canvas);
+    if (!m_drawArea.image().isNull()) {
+        canvas.painter().drawImage(0, 0, m_drawArea.image());
+    }
+    drawBody(canvas);
+    TitleStacks stacks(QSize(m_width, m_height));
+    for (Title* title : m_titles) {
+        title->drawIn(canvas, stacks);
+    }
+    if (m_legend != nullptr) {
+        m_legend->draw(canvas);
+    }
+    for (DrawObj* object : m_objects) {
+        object->draw(canvas);
+    }
+    drawTop(canvas);
+}
+
+void Chart::drawBackground(Canvas& canvas) {
+    const QRect all(0, 0, m_width, m_height);
+    if (m_rounded) {
+        canvas.fillRect(all, m_exterior);
+    }
+    const Corners corners = m_rounded ? m_corners : Corners{};
+    if (m_imagePath.empty()) {
+        canvas.box(all, m_background, m_edge, m_effect, corners);
+        return;
+    }
+    canvas.box(all, m_background, kTransparent, 0, corners);
+    QPainter& painter = canvas.painter();
+    painter.save();
+    if (m_rounded) {
+        painter.setClipPath(roundedRect(all, corners));
+    }
+    drawImage(canvas, loadPicture(m_imagePath), all, m_imageAlignment);
+    painter.restore();
+    canvas.box(all, kTransparent, m_edge, m_effect, corners);
+}
+
+void Chart::drawBody(Canvas& /*canvas*/) {}
+
+void Chart::drawTop(Canvas& /*canvas*/) {}
+
+void Chart::collectKeys(std::vector<LegendKey>& /*keys*/) const {}
+
+void Chart::hostedEnds(Chart* /*chart*/) {}
+
+void Chart::addHost(Chart* host) {
+    if (std::find(m_hosts.begin(), m_hosts.end(), host) == m_hosts.end()) {
+        m_hosts.push_back(host);
+    }
+}
+
+void Chart::removeHost(Chart* host) {
+    std::erase(m_hosts, host);
+}
+
+bool Chart::isShownIn(const Chart* other) const {
+    return this == other || std::any_of(m_hosts.begin(), m_hosts.end(),
+                                        [&](const Chart* host) { return host->isShownIn(other); });
+}
+
+} // namespace chartdraw

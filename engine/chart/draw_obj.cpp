@@ -1,0 +1,60 @@
+#include "engine/chart/draw_obj.h"
+
+#include "engine/chart/chart.h"
+
+namespace chartdraw {
+
+void DrawObj::changed() {
+    m_chart.changed();
+}
+
+void DrawObj::draw(Canvas& /*canvas*/) {}
+
+TextLook& Box::edit() {
+    changed();
+    return m_look;
+}
+
+void Box::setPos(int x, int y) {
+    m_pos = QPoint(x, y);
+    changed();
+}
+
+TextBox::TextBox(Chart& chart, std::string text, const TextLook& look)
+    : TextBox(Kind::TextBox, chart, std::move(text), look) {}
+
+TextBox::TextBox(Kind kind, Chart& chart, std::string text, const TextLook& look)
+    : Box(kind, chart), m_text(std::move(text)) {
+    edit() = look;
+}
+
+void TextBox::setText(std::string text) {
+    m_text = std::move(text);
+    changed();
+}
+
+TextBlock TextBox::block(std::string_view text) const {
+    return {look(), text, chart().fonts()};
+}
+
+int TextBox::measuredHeight() const {
+    return block().size().height();
+}
+
+FreeText::FreeText(Chart& chart, std::string text, const TextLook& look, QPoint at, int alignment)
+    : TextBox(chart, std::move(text), look), m_anchor(alignment) {
+    setPos(at.x(), at.y());
+}
+
+void FreeText::draw(Canvas& canvas) {
+    block().drawAt(canvas, *pos(), m_anchor);
+}
+
+Line::Line(Chart& chart, QPoint from, QPoint to, Colour colour, int width)
+    : DrawObj(Kind::Line, chart), m_from(from), m_to(to), m_colour(colour), m_width(width) {}
+
+void Line::draw(Canvas& canvas) {
+    canvas.line(m_from, m_to, orDefault(m_colour, kLineColour), m_width);
+}
+
+} // namespace chartdraw

@@ -1,0 +1,47 @@
+#include "engine/chart/title.h"
+
+#include "engine/chart/chart.h"
+
+namespace chartdraw {
+
+QPoint TitleStacks::place(QSize size, int alignment) {
+    const int column = horizontalOf(alignment);
+    const int row = verticalOf(alignment);
+    int& used = m_used[static_cast<std::size_t>((row + 1) * 3 + column + 1)];
+    const int freeX = m_picture.width() - size.width();
+    const int freeY = m_picture.height() - size.height();
+    QPoint at((column + 1) * freeX / 2, (row + 1) * freeY / 2);
+    if (row != 0) {
+        at.ry() -= row * used;
+        used += size.height();
+    } else if (column != 0) {
+        at.rx() -= column * used;
+        used += size.width();
+    } else {
+        at.ry() += used;
+        used += size.height();
+    }
+    return at;
+}
+
+Title::Title(Chart& chart, std::string text, const TextLook& look, int alignment, bool strip)
+    : TextBox(chart, std::move(text), look), m_alignment(alignment), m_strip(strip) {}
+
+TextBlock Title::laidOut() const {
+    TextLook full = look();
+    if (m_strip && full.width <= 0) {
+        full.width = chart().width();
+    }
+    return {full, text(), chart().fonts()};
+}
+
+int Title::measuredHeight() const {
+    return laidOut().size().height();
+}
+
+void Title::drawIn(Canvas& canvas, TitleStacks& stacks) {
+    const TextBlock laid = laidOut();
+    laid.drawAt(canvas, pos() ? *pos() : stacks.place(laid.size(), m_alignment), TopLeft);
+}
+
+} // namespace chartdraw
