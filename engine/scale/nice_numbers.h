@@ -1,0 +1,31 @@
+#pragma once
+// Round numbers for scales: steps of 1, 2 or 5 times a power of ten and tick positions without the noise of
+// binary fractions (0.3, never 0.30000000000000004).
+
+#include <string>
+#include <vector>
+
+namespace chartdraw {
+
+/// Smallest step of 1, 2 or 5 times a power of ten, or of 25 times one that is whole, that is not below
+/// `least` (but for a relative 1e-9). `least` at or below 0, NaN or infinite gives 1. Between 1e-307 and
+/// 1e307.
+double niceStep(double least);
+
+/// The step after `step` in that row: 1, 2, 5, 10, 20, 25, 50, 100...
+double nextNiceStep(double step);
+
+/// `value` rounded to the nearest number with `decimals` decimals (below 0: to tens, hundreds...). Unchanged
+/// where doubles are too coarse for a difference.
+double roundToDecimals(double value, int decimals);
+
+/// `value` divided by `step` and rounded down or up to a whole number, where a value within a billionth of a
+/// step of a multiple counts as that multiple. Within +-1e15.
+double floorToStep(double value, double step);
+double ceilToStep(double value, double step);
+
+/// Texts of values that lie `step` apart: all with the decimals of the step (and of `origin`, when the values
+/// are counted from there), with exponents where they are huge or tiny; no two of different values are alike.
+std::vector<std::string> stepLabels(const std::vector<double>& values, double step, double origin = 0);
+
+} // namespace chartdraw
