@@ -13,12 +13,8 @@ namespace {
 class NameSource final : public FieldSource {
 public:
     explicit NameSource(std::string name) : m_name(std::move(name)) {}
-    bool find(std::string_view field, FieldValue& value) const override {
-        if (field != "dataSetName" && field != "label" && field != "name") {
-            return false;
-        }
-        value = FieldValue::ofText(m_name);
-        return true;
+    FieldValue field(std::string_view name) const override {
+        return name == "dataSetName" || name == "label" ? FieldValue::text(m_name) : FieldValue::unknown();
     }
 
 private:
