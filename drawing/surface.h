@@ -145,7 +145,8 @@ typedef struct ArrayMath ArrayMath; /**< a series being calculated with */
 #define CHART_DATA_COLOR ((int)0xffff0008)       /**< palette entry 8, the first of the series colours */
 #define CHART_DEFAULT_COLOR (-1)                 /**< the default, or the value already set */
 
-/** Where something stands. The 2 forms stand outside: TOP_LEFT2 is above the left end, not in the corner. */
+/** Where something stands. TOP_LEFT2 is at the left side, level with the top, and the other 2 forms likewise.
+ */
 enum {
     CHART_BOTTOM_LEFT = 1,
     CHART_BOTTOM = 2,
@@ -316,7 +317,7 @@ CHARTDRAW_API Line* CBaseChart_addLine(BaseChart* chart, int x1, int y1, int x2,
  */
 CHARTDRAW_API LegendBox* CBaseChart_addLegend(BaseChart* chart, int x, int y, bool vertical, const char* font,
                                               double size);
-/** The legend of the chart. One is made, not shown until CBaseChart_addLegend, where there is none yet. */
+/** The legend of the chart; null before CBaseChart_addLegend. */
 CHARTDRAW_API LegendBox* CBaseChart_getLegend(BaseChart* chart);
 /** The chart's picture area, which belongs to it and has the size of the chart. */
 CHARTDRAW_API DrawArea* CBaseChart_getDrawArea(BaseChart* chart);
@@ -331,7 +332,7 @@ CHARTDRAW_API bool CBaseChart_makeChart2(BaseChart* chart, int format, const cha
 /**
  * A fill that repeats a pattern of pixels. pixels: count colours, row by row from the top, count / height a
  * row. startX, startY: where in the picture a tile begins. The result is for this chart only and ends with
- * it; CHART_TRANSPARENT where there is no full row or height is below 1.
+ * it; CHART_TRANSPARENT where there is no full row, height is below 1 or the chart is null.
  */
 CHARTDRAW_API int CBaseChart_patternColor(BaseChart* chart, const int* pixels, int count, int height,
                                           int startX, int startY);
@@ -339,8 +340,8 @@ CHARTDRAW_API int CBaseChart_patternColor(BaseChart* chart, const int* pixels, i
 CHARTDRAW_API int CBaseChart_patternColor2(BaseChart* chart, const char* imageFile, int startX, int startY);
 /**
  * A value as text. format: either what stands after the bar of a field ("2,.", "G", "yyyy-mm-dd") or a whole
- * format with "{value}"; null is the shortest form. CHART_NO_VALUE and NaN give an empty text. The text
- * belongs to the chart.
+ * format with "{value}"; null is the shortest form. CHART_NO_VALUE and NaN give an empty text, as a null
+ * chart does. The text belongs to the chart.
  */
 CHARTDRAW_API const char* CBaseChart_formatValue(BaseChart* chart, double value, const char* format);
 
@@ -352,7 +353,8 @@ CHARTDRAW_API const char* CBaseChart_formatValue(BaseChart* chart, double value,
  * end of the minute before. The result is limited to years 1 to 9999.
  */
 CHARTDRAW_API double CChart_chartTime(int year, int month, int day, int hour, int minute, int second);
-/** The date of a chart time as year * 10000 + month * 100 + day, limited to years 1 to 9999; NaN gives 0. */
+/** The date of a chart time as year * 10000 + month * 100 + day, limited to years 1 to 9999. NaN is in
+ * year 1. */
 CHARTDRAW_API int CChart_getChartYMD(double time);
 /**
  * A label filter for CAxis_setMultiFormat. type: CHART_START_OF_HOUR to CHART_NONE_PASS; another is
@@ -816,7 +818,7 @@ CHARTDRAW_API void CAngularAxis_addZone2(AngularAxis* axis, double start, double
 /**
  * A table of random numbers for sample data, all 0 at first. One seed gives the same numbers on every
  * platform, and a column's numbers depend on the seed and the column alone, not on what was filled before.
- * columns: 0 to 1000. rows: 0 to 1000000; at most 50000000 cells, else fewer rows. The caller owns the table.
+ * columns: 0 to 1000. rows: 0 to 1000000; at most 10000000 cells, else fewer rows. The caller owns the table.
  */
 CHARTDRAW_API RanTable* CRanTable_create(int seed, int columns, int rows);
 /** Ends a table and the columns that it gave out. Null is ignored. */
