@@ -27,29 +27,46 @@ public:
     int width() const;
     int height() const;
 
-
+    /// The sides are rounded to whole pixels; what is then empty draws nothing.
     void fillRect(const QRectF& rect, Colour colour);
-    /// `extent`: what a metal gradient spans, the path's bounds when null.
+    /// Coordinates are pixel borders: a rectangle (1, 1, 2, 2) in a path covers 4 pixels. `extent`: what a
+    /// metal gradient spans, the path's bounds when null.
     void fillPath(const QPainterPath& path, Colour colour, const QRectF* extent = nullptr);
+    /// The pen is centred on the path, whose coordinates are pixel borders; nothing is put onto whole pixels.
     void strokePath(const QPainterPath& path, Colour colour, double width);
     /// A straight line between points; horizontal and vertical ones are crisp, others anti-aliased. Width in
-    /// pixels; 0 or less draws nothing.
+    /// pixels; 0 or less draws nothing. Here and in `polyline` whole coordinates are the middle of pixels: a
+    /// line of width 1 from (10, 5) to (20, 5) covers the columns 10 to 20 of row 5. An even width takes the
+    /// odd pixel below or to the right.
     void line(QPointF from, QPointF to, Colour colour, double width);
-    /// A connected line. Long lines are handed to the raster engine in pieces, so that a wide pen stays
-    /// linear in the number of points.
+    /// A connected line with round joins and ends. A point that is not a number breaks it; a point alone
+    /// between two breaks is a dot. Long lines are handed to the raster engine in pieces, so that a wide pen
+    /// stays linear in the number of points; a colour that shows through is laid on once all the same.
     void polyline(std::span<const QPointF> points, Colour colour, double width);
-    /// A box: fill, then the effect, then the edge inside its outermost pixels. With a plain border effect and
-    /// a default (-1) edge the border alone is drawn.
-    void box(const QRect& rect, Colour fill, Colour edge, int effect, const Corners& corners = {});
-    /// Any closed shape (a bar, a sector, a ring) with fill, edge and effect.
+    /// A box: fill, then the effect, then the edge inside its outermost pixels. With a plain border effect
+    /// and a default (-1) edge the border alone is drawn; without one a default edge is none.
+    void box(const QRect& rect, Colour fill, Colour edge, int effect, const Corners& corners = {},
+             int edgeWidth = 1);
+    /// Any closed shape (a bar, a sector, a ring) with fill, edge and effect. A path that is an upright
+    /// rectangle is drawn as a box, on whole pixels; the edge of others is centred on the path. A default
+    /// (-1) edge is none.
     void shape(const QPainterPath& path, Colour fill, Colour edge, int effect, double edgeWidth = 1);
 
 private:
+    /// What can show, with `margin` pixels around it, in the painter's coordinates.
+    QRectF visible(double margin) const;
+    void fill(const QPainterPath& path, const QBrush& brush);
+    void frame(const QRect& rect, Colour colour, const Corners& corners, int width);
+
     QPainter m_painter;
     const ColourTable& m_colours;
 };
 
 /// The outline of a rectangle with rounded corners; radii are limited to half the sides.
 QPainterPath roundedRect(const QRectF& rect, const Corners& corners);
+
+/// Draws an image at its own size, placed in the area by an alignment code (the digits of a number pad, 5 and
+/// unknown codes the middle) and cut off at the area's sides.
+void drawImage(Canvas& canvas, const QImage& image, const QRect& area, int alignment);
 
 } // namespace chartdraw

@@ -1,0 +1,228 @@
+#include "engine/paint/canvas.h"
+
+#include "engine/paint/clip.h"
+#include "engine/paint/lighting.h"
+
+#include <algorithm>
+#include <cmath>
+#include <optional>
+
+namespace chartdraw {
+
+namespace {
+
+constexpr double kSafeCoordinate = 30000; // the raster engine's own limit is 2 to the 15th
+
+/// Whether the raster engine can take the coordinates as they are.
+bool isSafe(const QRectF& bounds) {
+    return bounds.left() > -kSafeCoordinate && bounds.right() < kSafeCoordinate &&
+           bounds.top() > -kSafeCoordinate && bounds.bottom() < kSafeCoordinate;
+}
+
+/// The whole pixels that a rectangle stands for, within `limits`; empty for one that is not a number.
+QRect wholePixels(const QRectF& rect, const QRectF& limits) {
+    const auto side = [](double value, double low, double high) {
+        return static_cast<int>(std::floor(std::clamp(value, low, high) + 0.5));
+    };
+    const QRectF upright = rect.normalized();
+    if (std::isnan(upright.left() + upright.right() + upright.top() + upright.bottom())) {
+        return {};
+    }
+    const QPoint topLeft(side(upright.left(), limits.left(), limits.right()),
+                         side(upright.top(), limits.top(), limits.bottom()));
+    const QPoint behind(side(upright.right(), limits.left(), limits.right()),
+                        side(upright.bottom(), limits.top(), limits.bottom()));
+    return {topLeft, QSize(behind.x() - topLeft.x(), behind.y() - topLeft.y())};
+}
+
+bool isSquare(const Corners& corners) {
+    return std::all_of(corners.begin(), corners.end(), [](int radius) { return radius <= 0; });
+}
+
+/// The rectangle that a path of four upright sides is.
+std::optional<QRectF> asRect(const QPainterPath& path) {
+    if (path.elementCount() != 5 && path.elementCount() != 4) {
+        return std::nullopt;
+    }
+    for (int i = 0; i < path.elementCount(); ++i) {
+        const QPointF from = path.elementAt(i);
+        const QPointF to = path.elementAt((i + 1) % path.elementCount());
+        if (path.elementAt(i).isCurveTo() || (i > 0 && path.elementAt(i).isMoveTo()) ||
+            (from.x() != to.x() && from.y() != to.y())) {
+            return std::nullopt;
+        }
+    }
+    return path.boundingRect();
+}
+
+} // namespace
+
+Canvas::Canvas(QImage& image, const ColourTable& colours, bool antiAlias)
+    : m_painter(&image), m_colours(colours) {
+    m_painter.setRenderHint(QPainter::Antialiasing, antiAlias);
+    m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
+}
+
+int Canvas::width() const {
+    return m_painter.device()->width();
+}
+int Canvas::height() const {
+    return m_painter.device()->height();
+}
+
+QRectF Canvas::visible(double margin) const {
+    const QRectF device = QRectF(0, 0, width(), height()).adjusted(-margin, -margin, margin, margin);
+    const QTransform& transform = m_painter.worldTransform();
+    return transform.isIdentity() ? device : transform.inverted().mapRect(device);
+}
+
+void Canvas::fillRect(const QRectF& rect, Colour colour) {
+    const QRect pixels = wholePixels(rect, visible(1));
+    if (pixels.isEmpty() || m_colours.invisible(colour)) {
+        return;
+    }
+    if (colour < kTransparent) {
+        m_painter.fillRect(pixels, m_colours.solid(colour));
+    } else {
+        m_painter.fillRect(pixels, m_colours.brush(colour, rect));
+    }
+}
+
+void Canvas::fill(const QPainterPath& path, const QBrush& brush) {
+    if (isSafe(path.controlPointRect())) {
+        m_painter.fillPath(path, brush);
+    } else {
+        m_painter.fillPath(clipPath(path, visible(2)), brush);
+    }
+}
+
+void Canvas::fillPath(const QPainterPath& path, Colour colour, const QRectF* extent) {
+    if (!m_colours.invisible(colour)) {
+        fill(path, m_colours.brush(colour, extent != nullptr ? *extent : path.boundingRect()));
+    }
+}
+
+void Canvas::strokePath(const QPainterPath& path, Colour colour, double width) {
+    if (!(width > 0) || m_colours.invisible(colour)) {
+        return;
+    }
+    const QRectF bounds = path.controlPointRect();
+    const double penWidth = std::min(width, kSafeCoordinate);
+    QPen pen(m_colours.brush(colour, bounds), penWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
+    if (isSafe(bounds)) {
+        m_painter.strokePath(path, pen);
+        return;
+    }
+    const QRectF limits = visible(penWidth + 2);
+    const QList<QPolygonF> polygons = path.toSubpathPolygons();
+    m_painter.setPen(pen);
+    for (const QPolygonF& polygon : polygons) {
+        for (qsizetype i = 1; i < polygon.size(); ++i) {
+            QPointF from = polygon[i - 1];
+            QPointF to = polygon[i];
+            if (clipSegment(from, to, limits)) {
+                m_painter.drawLine(from, to);
+            }
+        }
+    }
+}
+
+void Canvas::frame(const QRect& rect, Colour colour, const Corners& corners, int width) {
+    const int inner = std::min({width, (rect.width() + 1) / 2, (rect.height() + 1) / 2});
+    if (inner <= 0 || m_colours.invisible(colour)) {
+        return;
+    }
+    const QRectF extent(rect);
+    const QBrush brush = m_colours.brush(colour, extent);
+    if (!isSquare(corners)) {
+        QPainterPath outline = roundedRect(rect, corners);
+        Corners inside = corners;
+        std::for_each(inside.begin(), inside.end(), [&](int& radius) { radius -= inner; });
+        outline.addPath(roundedRect(rect.adjusted(inner, inner, -inner, -inner), inside));
+        fill(outline, brush);
+        return;
+    }
+    const int between = std::max(0, rect.height() - 2 * inner);
+    const QRectF limits = visible(1);
+    const QRect sides[] = {{rect.left(), rect.top(), rect.width(), inner},
+                           {rect.left(), rect.top() + inner, inner, between},
+                           {rect.right() + 1 - inner, rect.top() + inner, inner, between},
+                           {rect.left(), rect.bottom() + 1 - inner, rect.width(), inner}};
+    for (const QRect& side : sides) {
+        m_painter.fillRect(wholePixels(side, limits), brush);
+    }
+}
+
+void Canvas::box(const QRect& rect, Colour fillColour, Colour edge, int effect, const Corners& corners,
+                 int edgeWidth) {
+    if (rect.isEmpty()) {
+        return;
+    }
+    const Effect light = Effect::decode(effect);
+    if (isSquare(corners)) {
+        fillRect(rect, fillColour);
+        const QRect lit = wholePixels(rect, visible(kMaxEffectSize + 1));
+        lightRect(m_painter, lit, light);
+    } else {
+        const QPainterPath outline = roundedRect(rect, corners);
+        fillPath(outline, fillColour);
+        if (isSafe(rect)) {
+            lightPath(m_painter, outline, light);
+        }
+    }
+    if (edge != kDefaultColour) {
+        frame(rect, edge, corners, edgeWidth);
+    }
+}
+
+void Canvas::shape(const QPainterPath& path, Colour fillColour, Colour edge, int effect, double edgeWidth) {
+    if (const std::optional<QRectF> rect = asRect(path)) {
+        const double limit = 1e6;
+        const QRect pixels = wholePixels(*rect, QRectF(-limit, -limit, 2 * limit, 2 * limit));
+        box(pixels, fillColour, edge, effect, {},
+            static_cast<int>(std::lround(std::clamp(edgeWidth, 0.0, limit))));
+        return;
+    }
+    fillPath(path, fillColour);
+    if (isSafe(path.controlPointRect())) {
+        lightPath(m_painter, path, Effect::decode(effect));
+    }
+    if (edge != kDefaultColour) {
+        strokePath(path, edge, edgeWidth);
+    }
+}
+
+QPainterPath roundedRect(const QRectF& rect, const Corners& corners) {
+    const double limit = std::min(rect.width(), rect.height()) / 2;
+    const auto size = [&](int corner) {
+        return std::clamp<double>(corners[static_cast<std::size_t>(corner)], 0, std::max(limit, 0.0)) * 2;
+    };
+    QPainterPath path;
+    const auto arc = [&](double x, double y, double diameter, double startAngle) {
+        if (diameter > 0) {
+            path.arcTo(x, y, diameter, diameter, startAngle, -90);
+        } else {
+            path.lineTo(x, y);
+        }
+    };
+    path.moveTo(rect.left(), rect.top() + size(0) / 2);
+    arc(rect.left(), rect.top(), size(0), 180);
+    arc(rect.right() - size(1), rect.top(), size(1), 90);
+    arc(rect.right() - size(2), rect.bottom() - size(2), size(2), 0);
+    arc(rect.left(), rect.bottom() - size(3), size(3), 270);
+    path.closeSubpath();
+    return path;
+}
+
+void drawImage(Canvas& canvas, const QImage& image, const QRect& area, int alignment) {
+    const int code = alignment >= 1 && alignment <= 9 ? alignment - 1 : 4;
+    const QSize room = area.size() - image.size();
+    const QRect target(area.left() + room.width() * (code % 3) / 2,
+                       area.top() + room.height() * (2 - code / 3) / 2, image.width(), image.height());
+    const QRect shown = target & area;
+    if (!image.isNull() && !shown.isEmpty()) {
+        canvas.painter().drawImage(shown.topLeft(), image, shown.translated(-target.topLeft()));
+    }
+}
+
+} // namespace chartdraw

@@ -1,0 +1,166 @@
+#include "engine/paint/picture.h"
+
+#include <QBuffer>
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QImageReader>
+#include <algorithm>
+#include <list>
+#include <mutex>
+
+namespace chartdraw {
+
+namespace {
+
+constexpr qint64 kMaxFileBytes = qint64{256} << 20;
+constexpr std::size_t kCachedFiles = 8;
+constexpr qsizetype kMaxCachedBytes = qsizetype{16} << 20; // an image; larger ones are read each time
+
+/// The decoder for the bytes, by their signature alone: a wrong suffix does no harm, and decoders of other
+/// formats that are installed never see the file. Empty for none.
+QByteArray formatOf(const QByteArray& bytes) {
+    static const std::pair<QByteArray, const char*> kSignatures[] = {
+        {QByteArray::fromRawData("\x89PNG\r\n\x1a\n", 8), "png"},
+        {QByteArray::fromRawData("\xff\xd8\xff", 3), "jpeg"},
+        {QByteArray::fromRawData("GIF8", 4), "gif"},
+        {QByteArray::fromRawData("BM", 2), "bmp"},
+        {QByteArray::fromRawData("\0\0", 2), "wbmp"},
+    };
+    for (const auto& [signature, format] : kSignatures) {
+        if (bytes.startsWith(signature)) {
+            return format;
+        }
+    }
+    return {};
+}
+
+struct CachedFile {
+    QString path;
+    qint64 size;
+    QDateTime modified;
+    QImage image;
+
+    bool isOf(const QFileInfo& info) const {
+        return size == info.size() && modified == info.lastModified() && path == info.absoluteFilePath();
+    }
+};
+
+class PictureCache {
+public:
+    QImage find(const QFileInfo& info) {
+        const std::lock_guard lock(m_mutex);
+        const auto found = std::find_if(m_files.begin(), m_files.end(),
+                                        [&](const CachedFile& file) { return file.isOf(info); });
+        if (found == m_files.end()) {
+            return {};
+        }
+        m_files.splice(m_files.begin(), m_files, found);
+        return found->image;
+    }
+
+    void add(const QFileInfo& info, const QImage& image) {
+        if (image.sizeInBytes() > kMaxCachedBytes) {
+            return;
+        }
+        const std::lock_guard lock(m_mutex);
+        m_files.push_front({info.absoluteFilePath(), info.size(), info.lastModified(), image});
+        if (m_files.size() > kCachedFiles) {
+            m_files.pop_back();
+        }
+    }
+
+private:
+    std::mutex m_mutex;
+    std::list<CachedFile> m_files; // the last used first
+};
+
+} // namespace
+
+QImage decodePicture(const QByteArray& bytes) {
+    const QByteArray format = formatOf(bytes);
+    if (format.isEmpty()) {
+        return {};
+    }
+    QBuffer buffer;
+    buffer.setData(bytes);
+    buffer.open(QIODevice::ReadOnly);
+    QImageReader reader(&buffer, format);
+    reader.setAutoDetectImageFormat(false);
+    reader.setAutoTransform(true);
+    const QSize size = reader.size();
+    if (size.isEmpty() || size.width() > kMaxSide || size.height() > kMaxSide) {
+        return {};
+    }
+    QImage image;
+    if (!reader.read(&image)) {
+        return {};
+    }
+    return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+}
+
+QImage loadPicture(const std::string& path) {
+    static PictureCache cache;
+    const QFileInfo info(QString::fromStdString(path));
+    // Opening a pipe or a device could wait for ever.
+    if (!info.isFile() || info.size() > kMaxFileBytes) {
+        return {};
+    }
+    QImage image = cache.find(info);
+    if (image.isNull()) {
+        QFile file(info.filePath());
+        if (!file.open(QIODevice::ReadOnly)) {
+            return {};
+        }
+        image = decodePicture(file.readAll());
+        if (!image.isNull()) {
+            cache.add(info, image);
+        }
+    }
+    return image;
+}
+
+QByteArray bitmapFile(const QImage& image) {
+    const int width = image.width();
+    const int height = image.height();
+    if (image.isNull() || width > kMaxSide || height > kMaxSide) {
+        return {};
+    }
+    constexpr int kHeaderBytes = 54;
+    const int stride = (width * 3 + 3) / 4 * 4;
+    QByteArray file(kHeaderBytes + static_cast<qsizetype>(stride) * height, '\0');
+    auto* bytes = reinterpret_cast<uchar*>(file.data());
+    const auto put = [bytes](int at, int count, qint64 value) {
+        for (int i = 0; i < count; ++i) {
+            bytes[at + i] = static_cast<uchar>(value >> (8 * i));
+        }
+    };
+    put(0, 2, 'B' | 'M' << 8);
+    put(2, 4, file.size());
+    put(10, 4, kHeaderBytes);
+    put(14, 4, 40);
+    put(18, 4, width);
+    put(22, 4, height);
+    put(26, 2, 1);
+    put(28, 2, 24);
+    put(34, 4, file.size() - kHeaderBytes);
+    put(38, 4, kPixelsPerMetre);
+    put(42, 4, kPixelsPerMetre);
+
+    const QImage pixels = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    for (int y = 0; y < height; ++y) {
+        const auto* from = reinterpret_cast<const QRgb*>(pixels.constScanLine(height - 1 - y));
+        uchar* to = bytes + kHeaderBytes + static_cast<qsizetype>(stride) * y;
+        for (int x = 0; x < width; ++x, to += 3) {
+            // The file has no alpha: what shows through is white paper.
+            const QRgb pixel = from[x];
+            const QRgb white = 255 - (pixel >> 24);
+            to[0] = static_cast<uchar>((pixel & 0xff) + white);
+            to[1] = static_cast<uchar>((pixel >> 8 & 0xff) + white);
+            to[2] = static_cast<uchar>((pixel >> 16 & 0xff) + white);
+        }
+    }
+    return file;
+}
+
+} // namespace chartdraw
