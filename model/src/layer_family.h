@@ -1,0 +1,60 @@
+#pragma once
+
+// A family of layers: what the managers' static factories do by the number of a kind. The numbers are the
+// positions of `Kinds`.
+
+#include <memory>
+#include <new>
+
+namespace model {
+
+template <class Layer, class... Kinds>
+class LayerFamily {
+public:
+    /// A new default layer, or null for a number out of range.
+    static std::unique_ptr<Layer> create(int type) {
+        std::unique_ptr<Layer> layer;
+        withKind(type, [&]<class Kind>() { layer = std::make_unique<Kind>(); });
+        return layer;
+    }
+
+    /// Copies between two layers of one kind. The casts also catch a type number that belies its object.
+    static bool copy(const Layer& from, Layer& to) {
+        bool copied = false;
+        if (from.GetType() == to.GetType())
+            withKind(from.GetType(), [&]<class Kind>() {
+                const auto* source = dynamic_cast<const Kind*>(&from);
+                auto* target = dynamic_cast<Kind*>(&to);
+                copied = source && target;
+                if (copied)
+                    *target = *source;
+            });
+        return copied;
+    }
+
+    /// A copy, or null for a layer of no kind.
+    static std::unique_ptr<Layer> clone(const Layer& layer) {
+        std::unique_ptr<Layer> made = create(layer.GetType());
+        return made && copy(layer, *made) ? std::move(made) : nullptr;
+    }
+
+    /// The layer that `make` gives, for the host to own; null when memory runs out.
+    template <class Make>
+    static Layer* orNull(Make make) {
+        try {
+            return make().release();
+        } catch (const std::bad_alloc&) {
+            return nullptr;
+        }
+    }
+
+private:
+    /// Calls `action` for the kind of that number.
+    template <class Action>
+    static void withKind(int type, Action action) {
+        int number = 0;
+        ((number++ == type ? action.template operator()<Kinds>() : void()), ...);
+    }
+};
+
+} // namespace model

@@ -1,0 +1,157 @@
+#include "platform/narrow_text.h"
+#include <algorithm>
+
+namespace {
+
+bool isAscii(std::string_view text) {
+    return std::all_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) < 0x80; });
+}
+
+} // namespace
+
+#if defined(__unix__) || defined(__APPLE__)
+
+#include <cerrno>
+#include <iconv.h>
+#include <langinfo.h>
+#include <locale.h>
+
+namespace {
+
+bool isContinuation(char c) {
+    return (static_cast<unsigned char>(c) & 0xC0) == 0x80;
+}
+
+/// One conversion descriptor; falls back to UTF-8 on either side where the system does not know a name.
+class Converter {
+public:
+    Converter(const std::string& from, const std::string& to)
+        : m_descriptor(iconv_open(to.c_str(), from.c_str())) {
+        if (!open())
+            m_descriptor = iconv_open("UTF-8", "UTF-8");
+    }
+    Converter(const Converter&) = delete;
+    Converter& operator=(const Converter&) = delete;
+    ~Converter() {
+        if (open())
+            iconv_close(m_descriptor);
+    }
+
+    bool open() const { return m_descriptor != reinterpret_cast<iconv_t>(-1); }
+
+    /// Converts what it can of `text` onto `result`, and takes it off the front. Returns whether all went
+    /// well; if not, the front of `text` is what cannot be converted.
+    bool convert(std::string_view& text, std::string& result) const {
+        char* from = const_cast<char*>(text.data()); // iconv only reads it
+        std::size_t left = text.size();
+        const bool good = run(&from, &left, result);
+        text.remove_prefix(text.size() - left);
+        return good;
+    }
+
+    /// Ends the text: an encoding with shift states goes back to its first one.
+    void finish(std::string& result) const { run(nullptr, nullptr, result); }
+
+private:
+    bool run(char** from, std::size_t* left, std::string& result) const {
+        for (;;) {
+            char buffer[256];
+            char* to = buffer;
+            std::size_t room = sizeof buffer;
+            const bool failed = iconv(m_descriptor, from, left, &to, &room) == static_cast<std::size_t>(-1);
+            const int error = errno;
+            result.append(buffer, sizeof buffer - room);
+            if (!failed || error != E2BIG)
+                return !failed;
+        }
+    }
+
+    iconv_t m_descriptor;
+};
+
+std::string convertAll(std::string_view text, const std::string& from, const std::string& to) {
+    const bool toUtf8 = to == "UTF-8";
+    const Converter converter(from, to);
+    std::string result;
+    if (!converter.open())
+        return std::string(text.size(), '?');
+    while (!converter.convert(text, result) && !text.empty()) {
+        // What is skipped is one byte of narrow text, or one whole character of UTF-8 that cannot be had.
+        text.remove_prefix(1);
+        while (!text.empty() && isContinuation(text.front()) && from == "UTF-8")
+            text.remove_prefix(1);
+        // The stand-in goes the same way as the text, so that an encoding with shift states stays in step.
+        std::string_view standIn = toUtf8 ? std::string_view("\xEF\xBF\xBD") : std::string_view("?");
+        if (toUtf8)
+            result += standIn;
+        else
+            converter.convert(standIn, result);
+    }
+    converter.finish(result);
+    return result;
+}
+
+} // namespace
+
+namespace platform {
+
+const std::string& NarrowCodeset() {
+    static const std::string codeset = [] {
+        std::string name;
+        if (const locale_t locale = newlocale(LC_CTYPE_MASK, "", nullptr)) {
+            name = nl_langinfo_l(CODESET, locale);
+            freelocale(locale);
+        }
+        const bool none = name.empty() || name == "ANSI_X3.4-1968" || name == "US-ASCII" || name == "ASCII";
+        return none ? std::string("UTF-8") : name;
+    }();
+    return codeset;
+}
+
+} // namespace platform
+
+#else
+
+#include <QByteArray>
+#include <QString>
+#include <QStringConverter>
+
+namespace platform {
+
+const std::string& NarrowCodeset() {
+    static const std::string codeset = QStringConverter::nameForEncoding(QStringConverter::System);
+    return codeset;
+}
+
+} // namespace platform
+
+namespace {
+
+/// Between two encodings, one of which is UTF-8.
+std::string convertAll(std::string_view text, const std::string& from, const std::string& to) {
+    QStringDecoder decoder(from.c_str());
+    QStringEncoder encoder(to.c_str());
+    if (!decoder.isValid())
+        decoder = QStringDecoder(QStringDecoder::Utf8);
+    if (!encoder.isValid())
+        encoder = QStringEncoder(QStringEncoder::Utf8);
+    const QString decoded = decoder(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
+    const QByteArray encoded = encoder(decoded);
+    return encoded.toStdString();
+}
+
+} // namespace
+
+#endif
+
+namespace platform {
+
+std::string NarrowToUtf8(std::string_view text, const std::string& codeset) {
+    return isAscii(text) ? std::string(text) : convertAll(text, codeset, "UTF-8");
+}
+
+std::string Utf8ToNarrow(std::string_view text, const std::string& codeset) {
+    return isAscii(text) ? std::string(text) : convertAll(text, "UTF-8", codeset);
+}
+
+} // namespace platform

@@ -1,0 +1,104 @@
+#include "platform/widgets/dialog.h"
+
+#include "platform/widgets/field_changed.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QKeyEvent>
+#include <QMessageBox>
+#include <QPushButton>
+
+void SendFieldChanged(QWidget* target, int key) {
+    if (target != nullptr) {
+        CFieldChangedEvent event(key);
+        QCoreApplication::sendEvent(target, &event);
+    }
+}
+
+CDialog::CDialog(const QString& caption) {
+    setWindowTitle(caption);
+    setObjectName(caption);
+}
+
+int CDialog::DoModal() {
+    // The owner is found when the dialog is shown, as the active window can change until then.
+    if (QWidget* active = QApplication::activeWindow(); active != nullptr && active != this) {
+        setParent(active, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
+                              Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+    }
+    if (!OnInitDialog()) {
+        return kCancel;
+    }
+    const int result = exec();
+    setParent(nullptr);
+    return result == Accepted ? kOK : kCancel;
+}
+
+bool CDialog::Create(QWidget* parent) {
+    setParent(parent, Qt::Widget);
+    return OnInitDialog();
+}
+
+bool CDialog::UpdateData(bool read) { return DoDataExchange(read); }
+
+void CDialog::OnFieldChanged(int /*key*/) {}
+
+bool CDialog::DoDataExchange(bool /*read*/) { return true; }
+
+bool CDialog::OnInitDialog() { return UpdateData(false); }
+
+void CDialog::OnOK() {
+    if (UpdateData(true)) {
+        done(Accepted);
+    }
+}
+
+void CDialog::OnCancel() { done(Rejected); }
+
+QWidget* CDialog::MakeOkCancel() {
+    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
+    QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
+    QPushButton* cancel = buttons->button(QDialogButtonBox::Cancel);
+    ok->setText(QStringLiteral("OK"));
+    cancel->setText(QStringLiteral("Cancel"));
+    ok->setObjectName(QStringLiteral("OK"));
+    cancel->setObjectName(QStringLiteral("Cancel"));
+    // A press takes the focus on every platform, so that the edit that had it commits before the dialog ends.
+    ok->setFocusPolicy(Qt::StrongFocus);
+    cancel->setFocusPolicy(Qt::StrongFocus);
+    ok->setDefault(true);
+    connect(ok, &QPushButton::clicked, this, [this] { OnOK(); });
+    connect(cancel, &QPushButton::clicked, this, [this] { OnCancel(); });
+    return buttons;
+}
+
+bool CDialog::event(QEvent* event) {
+    if (event->type() == CFieldChangedEvent::kType) {
+        OnFieldChanged(static_cast<CFieldChangedEvent*>(event)->Key());
+        return true;
+    }
+    return QDialog::event(event);
+}
+
+void CDialog::keyPressEvent(QKeyEvent* event) {
+    const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
+    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+        OnOK();
+    } else if (plain && event->key() == Qt::Key_Escape) {
+        OnCancel();
+    } else {
+        QWidget::keyPressEvent(event);
+    }
+}
+
+void CDialog::closeEvent(QCloseEvent* event) {
+    // The close box is a Cancel; OnCancel decides whether the window goes.
+    event->ignore();
+    OnCancel();
+}
+
+void WarnBox(QWidget* owner, const QString& text, const QString& caption) {
+    QMessageBox box(QMessageBox::Warning, caption, text, QMessageBox::Ok, owner);
+    box.exec();
+}
