@@ -3,8 +3,13 @@
 
 namespace chartdraw {
 
-/// Makes an application object if the process has none, off screen where there is no display. A host's own
-/// object is used as it is. Safe to call from any thread, any number of times; cheap after the first.
+/// Makes an application object if the process has none. A host's own object is used as it is. Where a library
+/// of this family has registered a meta type "charteditors::ApplicationFactory", creating one of these makes
+/// the object, so that widgets will work too; otherwise it is one without a screen. Safe to call from any
+/// thread, any number of times; cheap after the first.
 void ensureApplication();
+
+/// Ensures an application object and tells whether it can do text: a host's own object without a GUI cannot.
+bool textAvailable();
 
 } // namespace chartdraw

@@ -1,7 +1,7 @@
 #pragma once
 // Fonts by file name. A name is "file.ttf", "file.ttc|2", a path to a file, one of the style words "normal",
-// "bold", "italic", "boldItalic" (a chart's default fonts), or empty for "normal". Loaded faces are cached for
-// the life of the process and shared by all charts and threads.
+// "bold", "italic", "boldItalic" (a chart's default fonts), or empty for "normal". Loaded faces are cached
+// for the life of the process and shared by all charts and threads.
 
 #include <QFont>
 #include <array>
@@ -14,16 +14,22 @@ namespace chartdraw {
 struct FontSet {
     std::array<std::string, 4> files; ///< normal, bold, italic, bold italic
 
-    /// The file behind a name: a style word or an empty name looked up, anything else as it stands.
-    const std::string& resolve(std::string_view name) const;
+    /// The file behind a name: a style word or an empty name looked up, anything else as it stands. A style
+    /// word without a file gives the word itself, "normal" for the empty name.
+    std::string resolve(std::string_view name) const;
 };
 
 constexpr double kDefaultFontSize = 8.0; ///< points
 constexpr double kMaxFontSize = 1000.0;
 constexpr double kDotsPerInch = 96.0; ///< 1 point is 4/3 pixel in every picture
 
+/// `points` within what can be drawn: the default for NaN, 0 and less, at most kMaxFontSize.
+double limitedFontSize(double points);
+
 /// A font for a name and a size in points. A missing or damaged file gives a good sans face of the same size.
-/// Glyphs that the face lacks come from an installed face that has them.
-QFont font(const FontSet& set, std::string_view name, double points);
+/// Glyphs that the face lacks come from an installed face that has them. Fonts hold engines of the calling
+/// thread: do not hand one to another thread. `widthPoints`: the size that sets the width of the glyphs, 0
+/// for the same.
+QFont font(const FontSet& set, std::string_view name, double points, double widthPoints = 0);
 
 } // namespace chartdraw

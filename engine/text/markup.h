@@ -14,11 +14,11 @@ namespace chartdraw {
 
 /// How a run differs from the text box's own look.
 struct RunStyle {
-    std::string font;      ///< empty: the box's
-    double size = 0;       ///< points; 0: the box's
+    std::string font; ///< empty: the box's
+    double size = 0;  ///< points; 0: the box's
     Colour colour = kDefaultColour;
     bool underline = false;
-    int script = 0;        ///< 1 superscript, -1 subscript
+    int script = 0; ///< 1 superscript, -1 subscript
     bool operator==(const RunStyle&) const = default;
 };
 

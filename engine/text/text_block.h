@@ -16,20 +16,20 @@ namespace chartdraw {
 /// The look of a text and its box. Every text of a chart (titles, labels of axes, sectors and data, keys) has
 /// one; a handle to a text box edits it.
 struct TextLook {
-    std::string font;                 ///< as fonts.h tells; empty is "normal"
-    double size = kDefaultFontSize;   ///< points
-    double widthSize = 0;             ///< points; glyph width when not 0 and unlike `size`
+    std::string font;               ///< as fonts.h tells; empty is "normal"
+    double size = kDefaultFontSize; ///< points
+    double widthSize = 0;           ///< points; glyph width when not 0 and unlike `size`
     Colour colour = kTextColour;
-    double angle = 0;                 ///< degrees, counter-clockwise
-    bool vertical = false;            ///< letters stacked from top to bottom
-    int alignment = Center;           ///< of the lines inside the box
+    double angle = 0;       ///< degrees, counter-clockwise
+    bool vertical = false;  ///< letters stacked from top to bottom
+    int alignment = Center; ///< of the lines inside the box
     int marginLeft = 0, marginRight = 0, marginTop = 0, marginBottom = 0; ///< pixels
-    int width = 0, height = 0;        ///< pixels of the box; 0 or less fits the text
+    int width = 0, height = 0; ///< pixels of the box; 0 or less fits the text
     Colour background = kTransparent;
     Colour edge = kTransparent;
     int effect = 0;
     Corners corners = {};
-    int wrapWidth = 0;                ///< pixels; longer lines are broken at words; 0 never
+    int wrapWidth = 0; ///< pixels; longer lines are broken at words; 0 never
 
     void setMargins(int left, int right, int top, int bottom);
 };

@@ -1,0 +1,265 @@
+#include "engine/text/glyph_text.h"
+
+#include "engine/text/application.h"
+#include "engine/text/markup.h"
+
+#include <QFontMetricsF>
+#include <QRawFont>
+#include <QTextBoundaryFinder>
+#include <QTextLayout>
+#include <algorithm>
+#include <cmath>
+
+namespace chartdraw {
+
+namespace {
+
+// More than any picture can show.
+constexpr std::size_t kMaxBytes = 64 * 1024;
+constexpr std::size_t kMaxLines = 4096;
+constexpr int kMaxStacked = 4096;
+
+constexpr double kScriptScale = 0.7;      ///< size of a superscript or subscript
+constexpr double kSuperscriptRise = 0.38; ///< of the size of the full font, upwards
+constexpr double kSubscriptDrop = 0.14;
+
+/// Text as a layout takes it: control characters and separators that would break lines or jump to tab stops
+/// become spaces.
+QString plainText(std::string_view utf8) {
+    QString text = QString::fromUtf8(utf8.data(), std::ssize(utf8));
+    for (QChar& c : text) {
+        const auto category = c.category();
+        if (category == QChar::Other_Control || category == QChar::Separator_Line ||
+            category == QChar::Separator_Paragraph || c == QChar::ObjectReplacementCharacter)
+            c = u' ';
+    }
+    return text;
+}
+
+std::string_view limited(std::string_view text) {
+    if (text.size() <= kMaxBytes)
+        return text;
+    std::size_t end = kMaxBytes;
+    while (end > kMaxBytes - 4 && (static_cast<unsigned char>(text[end]) & 0xC0) == 0x80)
+        --end; // Not inside a character.
+    return text.substr(0, end);
+}
+
+/// What a reader sees as one letter each. An empty text counts as one empty letter, which has a height.
+QStringList letters(const QString& text) {
+    QStringList result;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    qsizetype from = 0;
+    for (qsizetype to = finder.toNextBoundary(); to > from; to = finder.toNextBoundary()) {
+        result.append(text.sliced(from, to - from));
+        from = to;
+    }
+    return result.isEmpty() ? QStringList(QString()) : result;
+}
+
+/// A run with its font chosen.
+struct StyledRun {
+    QString text;
+    QFont font;
+    QFont fullFont; ///< The font that a superscript or subscript stands beside; else the same.
+    double rise = 0;
+    bool underline = false;
+    Colour colour = kTextColour;
+};
+
+class Layouter {
+public:
+    Layouter(const TextLook& look, const FontSet& fonts, bool columns)
+        : m_look(look), m_fonts(fonts), m_columns(columns) {}
+
+    GlyphText lay(std::string_view text) {
+        std::vector<MarkupLine> lines = parseMarkup(limited(text));
+        if (lines.size() > kMaxLines)
+            lines.resize(kMaxLines);
+        for (const MarkupLine& line : lines) {
+            std::vector<StyledRun> runs;
+            for (const Run& run : line)
+                runs.push_back(styled(run));
+            if (runs.empty())
+                runs.push_back(styled(Run()));
+            if (m_columns)
+                addColumn(runs);
+            else
+                addLine(runs);
+        }
+        alignLines();
+        return std::move(m_result);
+    }
+
+private:
+    /// The pieces from `firstPiece` on make up a line of this width, or a column of this height.
+    struct PlacedLine {
+        std::size_t firstPiece;
+        int extent;
+    };
+
+    StyledRun styled(const Run& run) const {
+        const RunStyle& style = run.style;
+        const std::string_view name = style.font.empty() ? std::string_view(m_look.font) : style.font;
+        const double points = limitedFontSize(style.size > 0 ? style.size : m_look.size);
+        const double widthPoints = style.size > 0 ? 0 : m_look.widthSize;
+        StyledRun result{.text = plainText(run.text),
+                         .font = {},
+                         .fullFont = chartdraw::font(m_fonts, name, points, widthPoints),
+                         .underline = style.underline,
+                         .colour = orDefault(style.colour, orDefault(m_look.colour, kTextColour))};
+        result.font = result.fullFont;
+        if (style.script != 0) {
+            result.font = chartdraw::font(m_fonts, name, points * kScriptScale, widthPoints * kScriptScale);
+            const double pixels = points * kDotsPerInch / 72;
+            result.rise = std::round(pixels * (style.script > 0 ? kSuperscriptRise : -kSubscriptDrop));
+        }
+        return result;
+    }
+
+    void addLine(const std::vector<StyledRun>& runs) {
+        QString text;
+        QList<QTextLayout::FormatRange> formats;
+        for (const StyledRun& run : runs) {
+            if (runs.size() > 1) {
+                QTextCharFormat format;
+                format.setFont(run.font);
+                formats.append({static_cast<int>(text.size()), static_cast<int>(run.text.size()), format});
+            }
+            text += run.text;
+        }
+        QTextLayout layout(text, runs.front().font);
+        layout.setFormats(formats);
+        layout.setCacheEnabled(true);
+        QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
+        const bool wraps = m_look.wrapWidth > 0 && !m_look.vertical;
+        option.setWrapMode(wraps ? QTextOption::WordWrap : QTextOption::NoWrap);
+        option.setFlags(QTextOption::IncludeTrailingSpaces);
+        layout.setTextOption(option);
+        layout.beginLayout();
+        for (QTextLine line = layout.createLine(); line.isValid() && m_lines.size() < kMaxLines;
+             line = layout.createLine()) {
+            line.setLineWidth(wraps ? m_look.wrapWidth : 1e6);
+            placeLine(line, runs);
+        }
+        layout.endLayout();
+        for (std::size_t i = 0; i < m_pending.size(); ++i)
+            takeGlyphs(layout.lineAt(static_cast<int>(i)), runs, m_pending[i]);
+        m_pending.clear();
+    }
+
+    /// Puts a line below the ones before it, its baseline on a whole pixel.
+    void placeLine(QTextLine& line, const std::vector<StyledRun>& runs) {
+        double ascent = line.ascent(), descent = line.descent();
+        for (const StyledRun& run : runs) {
+            if (run.rise == 0)
+                continue;
+            const QFontMetricsF full(run.fullFont), script(run.font);
+            ascent = std::max({ascent, full.ascent(), script.ascent() + run.rise});
+            descent = std::max({descent, full.descent(), script.descent() - run.rise});
+        }
+        const int baseline = m_result.size.height() + static_cast<int>(std::ceil(ascent));
+        m_result.size.setHeight(baseline + static_cast<int>(std::ceil(descent)));
+        line.setPosition(QPointF(0, baseline - line.ascent()));
+        m_pending.push_back(baseline);
+    }
+
+    void takeGlyphs(const QTextLine& line, const std::vector<StyledRun>& runs, int baseline) {
+        const int width = static_cast<int>(std::ceil(line.naturalTextWidth()));
+        m_lines.push_back({m_result.pieces.size(), width});
+        int start = 0;
+        for (const StyledRun& run : runs) {
+            const int from = std::max(start, line.textStart());
+            start += static_cast<int>(run.text.size());
+            const int to = std::min(start, line.textStart() + line.textLength());
+            if (from >= to)
+                continue;
+            GlyphPiece piece{.glyphs = line.glyphRuns(from, to - from),
+                             .offset = QPointF(0, -run.rise),
+                             .underline = {},
+                             .colour = run.colour};
+            if (run.underline) {
+                const double x1 = line.cursorToX(from), x2 = line.cursorToX(to);
+                piece.underline =
+                    underlineBelow(run.font, QPointF(std::min(x1, x2), baseline), std::abs(x2 - x1));
+            }
+            m_result.pieces.push_back(std::move(piece));
+        }
+    }
+
+    static QRectF underlineBelow(const QFont& font, QPointF start, double length) {
+        const QFontMetricsF metrics(font);
+        const double thickness = std::max(1.0, std::round(metrics.lineWidth()));
+        const double y = start.y() + std::max(1.0, std::round(metrics.underlinePos()));
+        return {start.x(), y, length, thickness};
+    }
+
+    /// Letters below each other, each in the middle of the column; the next column stands to the right.
+    void addColumn(const std::vector<StyledRun>& runs) {
+        std::vector<GlyphText> cells;
+        QSize column(0, 0);
+        for (const StyledRun& run : runs) {
+            for (const QString& letter : letters(run.text)) {
+                if (m_stacked++ >= kMaxStacked)
+                    break;
+                StyledRun alone = run;
+                alone.text = letter;
+                Layouter cell(m_look, m_fonts, false);
+                cell.addLine({alone});
+                cell.alignLines();
+                column = {std::max(column.width(), cell.m_result.size.width()),
+                          column.height() + cell.m_result.size.height()};
+                cells.push_back(std::move(cell.m_result));
+            }
+        }
+        m_lines.push_back({m_result.pieces.size(), column.height()});
+        QPoint corner(m_result.size.width(), 0);
+        for (GlyphText& cell : cells) {
+            for (GlyphPiece& piece : cell.pieces) {
+                shift(piece, corner + QPoint((column.width() - cell.size.width()) / 2, 0));
+                m_result.pieces.push_back(std::move(piece));
+            }
+            corner.ry() += cell.size.height();
+        }
+        m_result.size.rwidth() += column.width();
+    }
+
+    static void shift(GlyphPiece& piece, QPointF by) {
+        piece.offset += by;
+        piece.underline.translate(by);
+    }
+
+    /// Settles the long side of the text and aligns the lines along it.
+    void alignLines() {
+        int longest = 0;
+        for (const PlacedLine& line : m_lines)
+            longest = std::max(longest, line.extent);
+        const int place = m_columns ? verticalOf(m_look.alignment) : horizontalOf(m_look.alignment);
+        for (std::size_t i = 0; i < m_lines.size(); ++i) {
+            const int move = (longest - m_lines[i].extent) * (place + 1) / 2;
+            const std::size_t end =
+                i + 1 < m_lines.size() ? m_lines[i + 1].firstPiece : m_result.pieces.size();
+            for (std::size_t k = m_lines[i].firstPiece; k < end; ++k)
+                shift(m_result.pieces[k], m_columns ? QPointF(0, move) : QPointF(move, 0));
+        }
+        m_columns ? m_result.size.setHeight(longest) : m_result.size.setWidth(longest);
+    }
+
+    const TextLook& m_look;
+    const FontSet& m_fonts;
+    const bool m_columns; ///< Whether each line is a column of letters.
+    GlyphText m_result;
+    std::vector<PlacedLine> m_lines;
+    std::vector<int> m_pending; ///< Baselines of the lines of the layout in work.
+    int m_stacked = 0;          ///< Letters in columns so far.
+};
+
+} // namespace
+
+GlyphText layOutGlyphs(const TextLook& look, std::string_view text, const FontSet& fonts) {
+    if (text.empty() || !textAvailable())
+        return {};
+    return Layouter(look, fonts, look.vertical).lay(text);
+}
+
+} // namespace chartdraw

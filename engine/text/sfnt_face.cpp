@@ -1,0 +1,195 @@
+#include "engine/text/sfnt_face.h"
+
+#include <QtEndian>
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace chartdraw {
+
+namespace {
+
+constexpr std::uint32_t tag(const char (&text)[5]) {
+    std::uint32_t value = 0;
+    for (int i = 0; i < 4; ++i)
+        value = value << 8 | static_cast<unsigned char>(text[i]);
+    return value;
+}
+
+constexpr std::int64_t kHeaderSize = 12;
+constexpr std::int64_t kRecordSize = 16;
+constexpr int kMaxTables = 256;
+
+struct Table {
+    std::uint32_t tag = 0;
+    QByteArrayView bytes;
+};
+
+/// Big-endian numbers of a block of bytes; 0 outside it.
+class Reader {
+public:
+    explicit Reader(QByteArrayView bytes) : m_bytes(bytes) {}
+    std::uint16_t u16(std::int64_t at) const { return read<std::uint16_t>(at); }
+    std::uint32_t u32(std::int64_t at) const { return read<std::uint32_t>(at); }
+
+private:
+    template <class Number>
+    Number read(std::int64_t at) const {
+        if (at < 0 || at + static_cast<std::int64_t>(sizeof(Number)) > m_bytes.size())
+            return 0;
+        return qFromBigEndian<Number>(m_bytes.data() + at);
+    }
+    QByteArrayView m_bytes;
+};
+
+template <class Number>
+void append(QByteArray& out, Number number) {
+    char bytes[sizeof(Number)];
+    qToBigEndian(number, bytes);
+    out.append(bytes, sizeof(Number));
+}
+
+void append16(QByteArray& out, std::int64_t number) {
+    append(out, static_cast<std::uint16_t>(number));
+}
+
+void append32(QByteArray& out, std::int64_t number) {
+    append(out, static_cast<std::uint32_t>(number));
+}
+
+void padTo4(QByteArray& out) {
+    out.append((4 - out.size() % 4) % 4, '\0');
+}
+
+std::uint32_t checksum(QByteArrayView bytes) {
+    const Reader reader(bytes);
+    std::uint32_t sum = 0;
+    for (std::int64_t at = 0; at < bytes.size(); at += 4)
+        sum += reader.u32(at); // The tables that this sums are padded to 4.
+    return sum;
+}
+
+/// Where the table directory of a face begins, -1 for none.
+std::int64_t directoryOffset(const Reader& file, int index) {
+    if (index < 0)
+        return -1;
+    if (file.u32(0) != tag("ttcf"))
+        return index == 0 ? 0 : -1;
+    if (static_cast<std::uint32_t>(index) >= file.u32(8))
+        return -1;
+    const std::int64_t offset = file.u32(12 + 4 * std::int64_t{index});
+    return offset == 0 ? -1 : offset;
+}
+
+/// The tables of a face, empty when the directory is not sound.
+std::vector<Table> readTables(const QByteArray& file, std::int64_t directory) {
+    const Reader reader(file);
+    const int count = reader.u16(directory + 4);
+    std::vector<Table> tables;
+    if (count == 0 || count > kMaxTables || directory + kHeaderSize + count * kRecordSize > file.size())
+        return tables;
+    std::int64_t total = 0;
+    for (int i = 0; i < count; ++i) {
+        const std::int64_t record = directory + kHeaderSize + i * kRecordSize;
+        const std::int64_t offset = reader.u32(record + 8);
+        const std::int64_t length = reader.u32(record + 12);
+        total += length; // Tables may share bytes, so that a small file could make a huge copy.
+        if (offset + length > file.size() || total > kMaxFontFile)
+            return {};
+        tables.push_back({reader.u32(record), QByteArrayView(file).sliced(offset, length)});
+    }
+    return tables;
+}
+
+QByteArray nameTable(std::string_view family) {
+    const std::string name(family);
+    const std::pair<int, std::string> records[] = {
+        {1, name}, {2, "Regular"}, {3, name}, {4, name}, {6, name},
+    };
+    QByteArray out, storage;
+    append16(out, 0);
+    append16(out, std::ssize(records));
+    append16(out, 6 + 12 * std::ssize(records));
+    for (const auto& [id, text] : records) {
+        // Platform 3, encoding 1, language 0x409: UTF-16, English.
+        for (const std::int64_t field : {3, 1, 0x409, id})
+            append16(out, field);
+        append16(out, 2 * std::ssize(text));
+        append16(out, storage.size());
+        for (const char c : text)
+            append16(storage, static_cast<unsigned char>(c));
+    }
+    return out + storage;
+}
+
+QByteArrayView find(const std::vector<Table>& tables, std::uint32_t wanted) {
+    const auto found = std::ranges::find(tables, wanted, &Table::tag);
+    return found == tables.end() ? QByteArrayView() : found->bytes;
+}
+
+/// Bold and italic as font engines decide it, so that none of them adds a style to a face that has it.
+void readStyle(const std::vector<Table>& tables, SfntFace& face) {
+    const QByteArrayView os2 = find(tables, tag("OS/2"));
+    if (os2.size() >= 64) {
+        const int selection = Reader(os2).u16(62);
+        face.bold = selection & 0x20;
+        face.italic = selection & 0x201; // italic or oblique
+    } else {
+        const int style = Reader(find(tables, tag("head"))).u16(44);
+        face.bold = style & 1;
+        face.italic = style & 2;
+    }
+}
+
+QByteArray assemble(std::uint32_t version, const std::vector<Table>& tables) {
+    const std::int64_t count = std::ssize(tables);
+    std::int64_t power = 1, log = 0;
+    while (power * 2 <= count) {
+        power *= 2;
+        ++log;
+    }
+    QByteArray directory, body;
+    append32(directory, version);
+    for (const std::int64_t field : {count, power * kRecordSize, log, (count - power) * kRecordSize})
+        append16(directory, field);
+    const std::int64_t bodyStart = kHeaderSize + count * kRecordSize;
+    for (const Table& table : tables) {
+        const std::int64_t start = body.size();
+        body.append(table.bytes);
+        padTo4(body);
+        append32(directory, table.tag);
+        append32(directory, checksum(QByteArrayView(body).sliced(start)));
+        append32(directory, bodyStart + start);
+        append32(directory, table.bytes.size());
+    }
+    return directory + body;
+}
+
+} // namespace
+
+std::optional<SfntFace> extractFace(const QByteArray& file, int index, std::string_view family) {
+    if (file.size() > kMaxFontFile)
+        return std::nullopt;
+    const Reader reader(file);
+    const std::int64_t directory = directoryOffset(reader, index);
+    const std::uint32_t version = directory < 0 ? 0 : reader.u32(directory);
+    if (version != 0x00010000 && version != tag("OTTO") && version != tag("true"))
+        return std::nullopt;
+    std::vector<Table> tables = readTables(file, directory);
+    for (const std::uint32_t needed : {tag("cmap"), tag("head"), tag("hhea"), tag("hmtx"), tag("maxp")}) {
+        if (find(tables, needed).isEmpty())
+            return std::nullopt;
+    }
+    SfntFace face;
+    readStyle(tables, face);
+    // A signature would no longer hold.
+    std::erase_if(tables, [](const Table& t) { return t.tag == tag("name") || t.tag == tag("DSIG"); });
+    const QByteArray name = nameTable(family);
+    tables.push_back({tag("name"), name});
+    std::ranges::sort(tables, {}, &Table::tag);
+    face.data = assemble(version, tables);
+    return face;
+}
+
+} // namespace chartdraw
