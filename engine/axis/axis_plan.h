@@ -1,0 +1,50 @@
+#pragma once
+// What an axis shows of the data: limits, ticks and labels, found together, because limits stand on ticks and
+// ticks make room for labels. Fractions run from 0 at the lower limit to 1 at the upper one; no pixels yet.
+
+#include "engine/axis/axis.h"
+#include "engine/axis/axis_map.h"
+#include "engine/scale/scale.h"
+#include "engine/text/text_block.h"
+
+#include <optional>
+#include <span>
+
+namespace chartdraw {
+
+/// What the chart knows of an axis's data.
+struct AxisRequest {
+    DataRange data;           ///< of all that is shown on the axis
+    bool includeZero = false; ///< bars and areas stand on 0
+    bool symmetric = false;   ///< 0 in the middle, with limits from the data
+    /// Rows shown, for an axis without a numeric scale: the rows first to first + count - 1 of the data stand
+    /// at 0 to count - 1. A count of 0: the data have values of their own in this direction.
+    int firstRow = 0, rowCount = 0;
+    bool indent = false;  ///< half a row free at the ends, if the axis does not say
+    double length = 100;  ///< pixels between the ends of the scale, its margins taken off
+    bool upright = false; ///< labels stand above each other, not side by side
+    /// For a tied axis: the scale of the axis at the end of the chain, and how values turn into it.
+    const Scale* tiedTo = nullptr;
+    double slope = 1, intercept = 0;
+};
+
+struct PlannedTick {
+    double value = 0; ///< on this axis; the row number on an axis of rows
+    bool major = true;
+    std::optional<TextBlock> label;
+    std::string text; ///< of the label, empty where there is none
+};
+
+struct AxisPlan {
+    Scale scale; ///< of the axis, or of the one that it is tied to
+    bool tied = false;
+    double slope = 1, intercept = 0;
+    std::vector<PlannedTick> ticks; ///< major ones first, each kind ascending by value
+
+    /// The map with the limits at these positions.
+    AxisMap map(double lowerPixel, double upperPixel) const;
+};
+
+AxisPlan planAxis(const Axis& axis, const AxisRequest& request);
+
+} // namespace chartdraw

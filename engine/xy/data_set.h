@@ -1,0 +1,64 @@
+#pragma once
+// One series of a layer: its numbers, its name and its looks.
+
+#include "engine/object/object.h"
+#include "engine/paint/colour.h"
+
+#include <span>
+#include <string>
+#include <vector>
+
+namespace chartdraw {
+
+class Chart;
+
+/// The symbol at each point.
+struct DataSymbol {
+    int shape = 0;                ///< a symbol code, 0 none
+    int size = 5;                 ///< pixels
+    Colour fill = kDefaultColour; ///< as the data
+    Colour edge = kDefaultColour; ///< as the fill
+    int lineWidth = 1;            ///< pixels of the edge, and of the strokes of a cross
+
+    bool operator==(const DataSymbol&) const = default;
+};
+
+/// Colours are resolved: the functions below never give kDefaultColour.
+class DataSet : public Object {
+public:
+    static constexpr Kind kKind = Kind::DataSet;
+
+    /// `colour` may be a literal, a palette entry or a token, not -1 (Layer::addDataSet sees to that).
+    DataSet(Chart& chart, std::vector<double> data, Colour colour, std::string name);
+
+    /// All rows, before trimming; a gap is what isValue() refuses.
+    std::span<const double> data() const { return m_data; }
+    const std::string& name() const { return m_name; }
+
+    Colour colour() const { return m_colour; }
+    /// Edge of bars, areas and boxes: what was set here, else `layerBorder` (the layer's border colour) where
+    /// that is not -1, else none.
+    Colour edge(Colour layerBorder = kDefaultColour) const;
+    /// Sides of a 3D body: what was set, else -1: the layer darkens the data colour.
+    Colour shadow() const { return m_shadow; }
+    Colour shadowEdge() const { return m_shadowEdge; }
+
+    const DataSymbol& symbol() const { return m_symbol; }
+    Colour symbolFill() const { return orDefault(m_symbol.fill, m_colour); }
+    Colour symbolEdge() const { return orDefault(m_symbol.edge, symbolFill()); }
+
+    void setName(std::string name);
+    /// -1 for the data colour keeps it; for the others it is their default.
+    void setColours(Colour data, Colour edge, Colour shadow, Colour shadowEdge);
+    void setSymbol(const DataSymbol& symbol);
+
+private:
+    Chart& m_chart;
+    std::vector<double> m_data;
+    Colour m_colour;
+    Colour m_edge = kDefaultColour, m_shadow = kDefaultColour, m_shadowEdge = kDefaultColour;
+    std::string m_name;
+    DataSymbol m_symbol;
+};
+
+} // namespace chartdraw
