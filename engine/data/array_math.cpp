@@ -100,7 +100,7 @@ struct Deviation {
         merged.squares = squares + next.squares + distance * distance * (count * next.count / merged.count);
         return merged;
     }
-    double result() const { return std::sqrt(squares / count); }
+    double result() const { return std::isnan(mean) ? kGap : std::sqrt(squares / count); }
 };
 
 /// The larger number, or with sign -1 the smaller one.
