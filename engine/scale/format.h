@@ -30,8 +30,9 @@
 //     yyyy 2003   yy 03   mmmm January   mmm Jan   MMM JAN   mm 01   m 1
 //     dddd Monday   ddd Mon   dd 05   d 5   hh 09   h 9   nn 05 (minutes)   ss 07   fff 250 (milliseconds)
 //     a  am or pm, and the hours of the whole spec count from 1 to 12
-//   All other characters stand for themselves; a backslash makes the next character stand for itself. A spec
-//   is a date when it begins with a letter form and its first run of letters is made of letter forms only.
+//   A run of letters that is not made of these forms only stands for itself ("of", "at"), and so do all other
+//   characters; a backslash makes the next character stand for itself. A spec is a date when it begins with a
+//   run of forms.
 //
 // NaN, infinities and missing values are shown as empty text.
 
@@ -89,6 +90,7 @@ private:
         std::size_t nameEnd;    // of fields: the name is [begin + 1, nameEnd)
         std::size_t spec;       // of number fields: index into m_specs
     };
+    std::string_view name(const Piece& piece) const;
     void addField(std::size_t open, std::size_t close);
     void appendField(std::string& out, const Piece& piece, const FieldValue& value) const;
 

@@ -55,4 +55,8 @@ std::string numberText(double value, const NumberSpec& spec = {});
 /// 0 for 7, -3 for 5000. 0 for zero and for what is no finite number.
 int decimalsOf(double value);
 
+/// The power of ten of the first digit of `value` so written: 2 for 250, -1 for 0.25; 0 for zero and for what
+/// is no finite number.
+int exponentOf(double value);
+
 } // namespace chartdraw

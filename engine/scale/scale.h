@@ -24,10 +24,10 @@ class Scale {
 public:
     Scale() = default;
     static Scale linear(double lower, double upper);
-    /// Limits at or below 0 are replaced by ones two decades below the other limit, both by 1 to 10. A span
-    /// is at least a millionth of a decade.
+    /// A lower limit at or below 0 is replaced by one two decades below the upper one, both by 1 to 10. Equal
+    /// limits show the decade that follows. Sizes are limited to 1e-300..1e300.
     static Scale log(double lower, double upper);
-    /// Limited to the years 1 to 9999; equal limits show the day that follows.
+    /// Limited to the years 1 to 9999; limits less than a second apart show the day that follows.
     static Scale date(double lower, double upper);
     /// Items 0 to count - 1: half an item of room at either end with `indent`, none without. A count at or
     /// below 0 counts as 1, and a single item always has its room.

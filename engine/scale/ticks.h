@@ -39,10 +39,8 @@ struct Increments {
 /// How dense ticks may stand, in pixels.
 struct Density {
     double lengthPx = 300; ///< length of the axis; limited to 1..100,000
-    double majorPx = 0;    ///< least distance of automatic major ticks; 0 or less: 32
+    double majorPx = 0;    ///< least distance of automatic major ticks; 0 or less: 32, for dates 50
     double minorPx = -1;   ///< least distance of automatic minor ticks; 0 or less: none
-
-    double wantedMajorPx() const { return majorPx > 0 ? majorPx : 32; }
 };
 
 /// Ticks of any scale, by its kind. For items: one major tick an item, thinned as a linear scale with whole

@@ -1,0 +1,160 @@
+#include "engine/scale/auto_scale.h"
+
+#include "engine/data/chart_time.h"
+#include "engine/scale/nice_numbers.h"
+#include "engine/scale/tick_steps.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace chartdraw {
+namespace {
+
+constexpr double kLargest = 1e307;
+constexpr double kTinyRange = 1e-305;
+
+struct Limits {
+    double lower;
+    double upper;
+
+    double span() const { return upper - lower; }
+};
+
+/// Extensions as parts of the axis that leave at least a tenth of it to the data.
+struct Extensions {
+    double top;
+    double bottom;
+
+    explicit Extensions(const AutoScale& options) {
+        constexpr double most = 0.9;
+        const auto part = [](double value) { return value > 0 ? std::min(value, most) : 0.0; };
+        top = part(options.topExtension);
+        bottom = part(options.bottomExtension);
+        const double excess = std::max(1.0, (top + bottom) / most);
+        top /= excess;
+        bottom /= excess;
+    }
+    Limits extend(const Limits& data) const {
+        const double length = data.span() / (1 - top - bottom);
+        return {data.lower - bottom * length, data.upper + top * length};
+    }
+};
+
+/// Zero as a limit where the options ask for it.
+Limits withZero(Limits data, const AutoScale& options) {
+    const double affinity = options.zeroAffinity > 0 ? std::min(options.zeroAffinity, 1.0) : 0.0;
+    const double farthest = std::max(std::abs(data.lower), std::abs(data.upper));
+    if (options.includeZero || data.span() >= (1 - affinity) * farthest) {
+        data.lower = std::min(data.lower, 0.0);
+        data.upper = std::max(data.upper, 0.0);
+    }
+    return data;
+}
+
+/// Constant data get room of a tenth of their size on either side, zero the room from 0 to 1.
+Limits withRoom(const Limits& data) {
+    const double size = std::max(std::abs(data.lower), std::abs(data.upper));
+    if (data.span() > std::max(size * 1e-12, kTinyRange))
+        return data;
+    if (size <= kTinyRange)
+        return {0, 1};
+    return {data.lower - size * 0.1, data.upper + size * 0.1};
+}
+
+Limits notAcrossZero(Limits limits, const Limits& data) {
+    if (data.lower >= 0)
+        limits.lower = std::max(limits.lower, 0.0);
+    if (data.upper <= 0)
+        limits.upper = std::min(limits.upper, 0.0);
+    return limits;
+}
+
+/// Limits on multiples of the smallest nice step of which the axis has room for all.
+Limits onSteps(const Limits& limits, const Density& density) {
+    const double most = mostSteps(density);
+    double step = niceStep(limits.span() / most);
+    while (ceilToStep(limits.upper, step) - floorToStep(limits.lower, step) > most)
+        step = nextNiceStep(step);
+    const int decimals = stepDecimals(step);
+    return {roundToDecimals(floorToStep(limits.lower, step) * step, decimals),
+            roundToDecimals(ceilToStep(limits.upper, step) * step, decimals)};
+}
+
+/// The nearest 1, 2 or 5 times a power of ten at or below `value` (above 0).
+double floorTo125(double value) {
+    const double decade = std::pow(10.0, std::floor(std::log10(value) + 1e-9));
+    const double mantissa = value / decade * (1 + 1e-9);
+    return decade * (mantissa >= 5 ? 5 : mantissa >= 2 ? 2 : 1);
+}
+
+} // namespace
+
+void DataRange::add(double value) {
+    if (!isValue(value))
+        return;
+    min = empty ? value : std::min(min, value);
+    max = empty ? value : std::max(max, value);
+    if (value > 0 && (minPositive <= 0 || value < minPositive))
+        minPositive = value;
+    empty = false;
+}
+
+void DataRange::add(std::span<const double> values) {
+    for (const double value : values)
+        add(value);
+}
+
+void DataRange::add(const DataRange& other) {
+    if (other.empty)
+        return;
+    add(other.min);
+    add(other.max);
+    if (other.minPositive > 0)
+        add(other.minPositive);
+}
+
+Scale autoLinearScale(const DataRange& data, const AutoScale& options, const Density& density) {
+    if (data.empty)
+        return Scale::linear(options.symmetric ? -1 : 0, 1);
+    Limits limits{std::clamp(data.min, -kLargest, kLargest), std::clamp(data.max, -kLargest, kLargest)};
+    const Limits shown = withZero(limits, options);
+    limits = notAcrossZero(Extensions(options).extend(withRoom(shown)), shown);
+    if (options.symmetric) {
+        const double size = std::max(std::abs(limits.lower), std::abs(limits.upper));
+        limits = {-size, size};
+    }
+    limits = onSteps(limits, density);
+    return Scale::linear(limits.lower, limits.upper);
+}
+
+Scale autoLogScale(const DataRange& data, const AutoScale& options, const Density& density) {
+    if (data.empty || data.minPositive <= 0)
+        return Scale::log(1, 10);
+    Limits decades{std::log10(data.minPositive), std::log10(data.max)};
+    constexpr double same = 1e-6;
+    if (decades.span() < same)
+        return Scale::log(std::pow(10.0, std::ceil(decades.lower - same) - 1),
+                          std::pow(10.0, std::floor(decades.upper + same) + 1));
+    decades = Extensions(options).extend(decades);
+    const double lower = std::pow(10.0, decades.lower);
+    const double upper = std::pow(10.0, decades.upper);
+    if (decades.span() >= 3)
+        return Scale::log(std::pow(10.0, std::floor(decades.lower + same)),
+                          std::pow(10.0, std::ceil(decades.upper - same)));
+    const Limits round125{floorTo125(lower), 10 / floorTo125(10 / upper)};
+    if (decades.span() >= 1)
+        return Scale::log(round125.lower, round125.upper);
+    const Limits round = onSteps({lower, upper}, density);
+    return Scale::log(round.lower > 0 ? round.lower : round125.lower, round.upper);
+}
+
+Scale autoDateScale(const DataRange& data, const AutoScale& options) {
+    if (data.empty)
+        return Scale::date(chartTime(2000, 1, 1), chartTime(2000, 1, 2));
+    const Limits times{std::clamp(data.min, kFirstChartTime, kLastChartTime),
+                       std::clamp(data.max, kFirstChartTime, kLastChartTime)};
+    const Limits limits = Extensions(options).extend(times);
+    return Scale::date(limits.lower, limits.upper);
+}
+
+} // namespace chartdraw
