@@ -40,13 +40,19 @@ bool CDialog::Create(QWidget* parent) {
     return OnInitDialog();
 }
 
-bool CDialog::UpdateData(bool read) { return DoDataExchange(read); }
+bool CDialog::UpdateData(bool read) {
+    return DoDataExchange(read);
+}
 
 void CDialog::OnFieldChanged(int /*key*/) {}
 
-bool CDialog::DoDataExchange(bool /*read*/) { return true; }
+bool CDialog::DoDataExchange(bool /*read*/) {
+    return true;
+}
 
-bool CDialog::OnInitDialog() { return UpdateData(false); }
+bool CDialog::OnInitDialog() {
+    return UpdateData(false);
+}
 
 void CDialog::OnOK() {
     if (UpdateData(true)) {
@@ -54,7 +60,9 @@ void CDialog::OnOK() {
     }
 }
 
-void CDialog::OnCancel() { done(Rejected); }
+void CDialog::OnCancel() {
+    done(Rejected);
+}
 
 QWidget* CDialog::MakeOkCancel() {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);

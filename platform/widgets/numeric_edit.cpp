@@ -17,7 +17,9 @@ void CNumericEdit::SetDigitsOnly() {
     lineEdit()->setValidator(new QRegularExpressionValidator(digits, this));
 }
 
-QString CNumericEdit::Text() const { return lineEdit()->text(); }
+QString CNumericEdit::Text() const {
+    return lineEdit()->text();
+}
 
 void CNumericEdit::SetText(const QString& text) {
     if (text != lineEdit()->text()) {
@@ -26,7 +28,9 @@ void CNumericEdit::SetText(const QString& text) {
     lineEdit()->setModified(false);
 }
 
-bool CNumericEdit::Touched() const { return lineEdit()->isModified(); }
+bool CNumericEdit::Touched() const {
+    return lineEdit()->isModified();
+}
 
 void CNumericEdit::SelectAll() {
     lineEdit()->selectAll();
@@ -54,7 +58,9 @@ QSize CNumericEdit::sizeHint() const {
                                      QSize(width, lineEdit()->sizeHint().height()), this);
 }
 
-QAbstractSpinBox::StepEnabled CNumericEdit::stepEnabled() const { return StepUpEnabled | StepDownEnabled; }
+QAbstractSpinBox::StepEnabled CNumericEdit::stepEnabled() const {
+    return StepUpEnabled | StepDownEnabled;
+}
 
 void CNumericEdit::wheelEvent(QWheelEvent* event) {
     // A page that scrolls under the pointer must not change what it scrolls over.

@@ -1,6 +1,6 @@
 #pragma once
-// An edit for a number with a pair of arrows. The arrows, the up and down keys and the wheel are only a source
-// of presses: the control never changes its text by itself.
+// An edit for a number with a pair of arrows. The arrows, the up and down keys and the wheel are only a
+// source of presses: the control never changes its text by itself.
 
 #include <QAbstractSpinBox>
 

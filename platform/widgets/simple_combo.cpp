@@ -41,9 +41,13 @@ void CSimpleCombo::Clear() {
     m_edit->clear();
 }
 
-int CSimpleCombo::Count() const { return m_list->count(); }
+int CSimpleCombo::Count() const {
+    return m_list->count();
+}
 
-void CSimpleCombo::Add(const QString& text) { Insert(Count(), text); }
+void CSimpleCombo::Add(const QString& text) {
+    Insert(Count(), text);
+}
 
 void CSimpleCombo::Insert(int row, const QString& text) {
     const QSignalBlocker quiet(m_list);
@@ -60,7 +64,9 @@ QString CSimpleCombo::Text(int row) const {
     return item != nullptr ? item->text() : QString();
 }
 
-int CSimpleCombo::Selected() const { return m_list->currentRow(); }
+int CSimpleCombo::Selected() const {
+    return m_list->currentRow();
+}
 
 void CSimpleCombo::Select(int row) {
     const QSignalBlocker quiet(m_list);
@@ -68,4 +74,6 @@ void CSimpleCombo::Select(int row) {
     ShowTextOf(row);
 }
 
-void CSimpleCombo::ShowTextOf(int row) { m_edit->setText(Text(row)); }
+void CSimpleCombo::ShowTextOf(int row) {
+    m_edit->setText(Text(row));
+}

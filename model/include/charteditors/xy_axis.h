@@ -53,27 +53,26 @@ public:
     std::int32_t m_minorOffset = 0; ///< The same for minor ticks. Default 0.
     std::int32_t m_majorLength = 5; ///< Pixels outwards, less than 0 inwards. Default 5.
     std::int32_t m_minorLength = 0; ///< Pixels outwards, less than 0 inwards. Default 0.
-    std::int32_t m_majorSpacing = 0; ///< Least pixels between major ticks; 0 the library decides. Default 0.
-    std::int32_t m_minorSpacing =
-        -1;                        ///< Least pixels between minor ticks; -1 the library decides. Default -1.
-    std::int32_t m_scaleType = 0;  ///< 0 none, 1 automatic, 2 linear, 3 date. Default 0.
-    double m_topExtension = 0;     ///< Automatic: part of the axis left free above, 0 to 1. Default 0.
-    double m_bottomExtension = 0;  ///< Automatic: part of the axis left free below, 0 to 1. Default 0.
-    double m_zeroAffinity = 0;     ///< Automatic: how readily 0 is taken in, 0 to 1. Default 0.
-    double m_lowerLimit = 0;       ///< Linear. Default 0.
-    double m_upperLimit = 0;       ///< Linear. Default 0.
-    double m_majorTickInc = 0;     ///< Linear; 0 the library decides. Default 0.
-    double m_minorTickInc = 0;     ///< Linear; 0 the library decides. Default 0.
-    double m_dateLowerLimit = 0;   ///< Date, chart time in seconds. Default today at 0:00.
-    double m_dateUpperLimit = 0;   ///< Date, chart time in seconds. Default a month later.
-    double m_dateMajorTickInc = 0; ///< Date, seconds; 0 the library decides. Default 0.
-    double m_dateMinorTickInc = 0; ///< Date, seconds; 0 the library decides. Default 0.
-    CXYChartAxisTitle m_title;     ///< Default the default title.
-    CChartString m_labelFormat;    ///< Default "{value}".
-    CChartFont m_labelFont;        ///< Default the default font.
-    CChartColor m_labelFontColor;  ///< Default General 0.
-    CChartColor m_labelBackColor;  ///< Default General 0xFFFFFFFF.
-    CChartColor m_labelEdgeColor;  ///< Default General 0xFFFFFFFF.
+    std::int32_t m_majorSpacing = 0;  ///< Least pixels between major ticks; 0 the library decides. Default 0.
+    std::int32_t m_minorSpacing = -1; ///< The same between minor ticks; -1 the library decides. Default -1.
+    std::int32_t m_scaleType = 0;     ///< 0 none, 1 automatic, 2 linear, 3 date. Default 0.
+    double m_topExtension = 0;        ///< Automatic: part of the axis left free above, 0 to 1. Default 0.
+    double m_bottomExtension = 0;     ///< Automatic: part of the axis left free below, 0 to 1. Default 0.
+    double m_zeroAffinity = 0;        ///< Automatic: how readily 0 is taken in, 0 to 1. Default 0.
+    double m_lowerLimit = 0;          ///< Linear. Default 0.
+    double m_upperLimit = 0;          ///< Linear. Default 0.
+    double m_majorTickInc = 0;        ///< Linear; 0 the library decides. Default 0.
+    double m_minorTickInc = 0;        ///< Linear; 0 the library decides. Default 0.
+    double m_dateLowerLimit = 0;      ///< Date, chart time in seconds. Default today at 0:00.
+    double m_dateUpperLimit = 0;      ///< Date, chart time in seconds. Default a month later.
+    double m_dateMajorTickInc = 0;    ///< Date, seconds; 0 the library decides. Default 0.
+    double m_dateMinorTickInc = 0;    ///< Date, seconds; 0 the library decides. Default 0.
+    CXYChartAxisTitle m_title;        ///< Default the default title.
+    CChartString m_labelFormat;       ///< Default "{value}".
+    CChartFont m_labelFont;           ///< Default the default font.
+    CChartColor m_labelFontColor;     ///< Default General 0.
+    CChartColor m_labelBackColor;     ///< Default General 0xFFFFFFFF.
+    CChartColor m_labelEdgeColor;     ///< Default General 0xFFFFFFFF.
     CChartRaisedEffect m_labelEffect; ///< Default flat.
     double m_labelAngle = 0;          ///< Degrees. Default 0.
     bool m_labelVertical = false;     ///< Letters stacked from top to bottom. Default false.

@@ -62,12 +62,12 @@ public:
     CXYLineLayer& operator=(const CXYLineLayer& other);
     ~CXYLineLayer() override;
 
-    std::int32_t m_lineType = 0;  ///< 0 straight, 1 spline, 2 steps. Default 0.
-    CChartColor m_color;          ///< Default General 0.
-    std::int32_t m_lineWidth = 1; ///< Pixels. Default 1.
-    std::int32_t m_symbolType =
-        0; ///< 0 none, 1 square, 2 diamond, 3 triangle, 4 triangle to the right, 5 to the
-           ///< left, 6 inverted triangle, 7 circle, 8 cross, 9 slanted cross. Default 0.
+    std::int32_t m_lineType = 0;   ///< 0 straight, 1 spline, 2 steps. Default 0.
+    CChartColor m_color;           ///< Default General 0.
+    std::int32_t m_lineWidth = 1;  ///< Pixels. Default 1.
+    std::int32_t m_symbolType = 0; ///< 0 none, 1 square, 2 diamond, 3 triangle, 4 triangle to the right,
+                                   ///< 5 to the left, 6 inverted triangle, 7 circle, 8 cross, 9 slanted
+                                   ///< cross. Default 0.
     std::int32_t m_symbolSize = 9; ///< Pixels. Default 9.
     CChartColor m_fillColor;       ///< Of a symbol. Default General 0xFF3333.
     CChartColor m_edgeColor;       ///< Of a symbol. Default General 0.
