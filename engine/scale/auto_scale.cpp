@@ -26,7 +26,7 @@ struct Extensions {
     double bottom;
 
     explicit Extensions(const AutoScale& options) {
-        constexpr double most = 0.9;
+        static constexpr double most = 0.9;
         const auto part = [](double value) { return value > 0 ? std::min(value, most) : 0.0; };
         top = part(options.topExtension);
         bottom = part(options.bottomExtension);

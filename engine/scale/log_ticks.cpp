@@ -1,6 +1,7 @@
 #include "engine/scale/ticks.h"
 
 #include "engine/scale/nice_numbers.h"
+#include "engine/scale/number_text.h"
 #include "engine/scale/tick_steps.h"
 
 #include <cmath>

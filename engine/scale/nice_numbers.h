@@ -28,10 +28,6 @@ double ceilToStep(double value, double step);
 /// hundreds...).
 int stepDecimals(double step, double origin = 0);
 
-/// How many decimals values need that lie `step` apart, counted from `origin` (below 0 for tens,
-/// hundreds...).
-int stepDecimals(double step, double origin = 0);
-
 /// Texts of values that lie `step` apart: all with the decimals of the step (and of `origin`, when the values
 /// are counted from there), with exponents where they are huge or tiny; no two of different values are alike.
 std::vector<std::string> stepLabels(const std::vector<double>& values, double step, double origin = 0);
