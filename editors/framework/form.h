@@ -1,0 +1,102 @@
+#pragma once
+// A page, written as a table: groups and rows in reading order, one line a property. The form makes the
+// controls and their labels, holds the mirrors, limits and rounds, commits changes to the model and tells of
+// them. A page is a CDialog that has a form and hands its data exchange, Enter and field messages to it.
+//
+//     m_form.Group("LineWidth");
+//     m_form.Integer("AxisWidth:", meter.m_axisWidth).Step(1).Floor(0);
+//     m_form.Group("Scale");
+//     m_form.Real("LowerLimit:", meter.m_lowerLimit).Step(10);
+//     m_form.Done();
+
+#include "editors/framework/form_rows.h"
+#include "editors/framework/list_editor.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class CDialog;
+class QBoxLayout;
+class QGridLayout;
+class QGroupBox;
+class QHBoxLayout;
+
+class CForm {
+public:
+    /// `notify` is what every committed change ends with: a message to the dialog, or a new preview.
+    CForm(CDialog& page, std::function<void()> notify);
+    ~CForm();
+
+    // What stands where. Rows go into the current group, groups into the current column.
+    void Column();
+    QGroupBox* Group(const char* caption);
+
+    CIntegerRow& Integer(const char* label, CBinding<std::int32_t> field);
+    CRealRow& Real(const char* label, CBinding<double> field);
+    CCheckRow& Check(const char* label, CBinding<bool> field);
+    /// A drop-down list; row n stores n unless mapped.
+    CComboRow& Combo(const char* label, CBinding<std::int32_t> field, std::vector<const char*> texts);
+    CComboRow& Alignment(const char* label, CBinding<std::int32_t> field);
+    CComboRow& Side(const char* label, CBinding<std::int32_t> field);
+    CRadioRow& Radio(CBinding<std::int32_t> field, std::vector<const char*> texts);
+    CTextRow& Text(const char* label, CBinding<CChartString> field);
+    CTextRow& Lines(const char* label, CBinding<CChartString> field); ///< takes Enter as a line break
+    /// A list of ready-made formats for a text row.
+    void Formats(CTextRow& row, const std::vector<const char*>& texts);
+    /// A field (a colour, font, image or effect) with its label; `label` may be null.
+    template <class T>
+    CFieldRow<T>& Field(const char* label, CBinding<typename T::Value> value) {
+        return Make<CFieldRow<T>>(label, std::move(value), static_cast<int>(m_rows.size()) + 1);
+    }
+    /// A list with "Add" and "Delete". `caption` is a format with the row's number and, if it has a %s, a
+    /// text.
+    template <class Container>
+    CListEditor<Container>& List(Container& items, const char* caption, const char* noneSelected) {
+        auto list = std::make_unique<CListEditor<Container>>(*this, items, caption, noneSelected);
+        CListEditor<Container>& result = *list;
+        AddList(std::move(list));
+        return result;
+    }
+    /// Any other control of the page, spanning the group.
+    void Place(QWidget* widget);
+
+    /// Ends the table: model into mirrors, mirrors into controls, letters for Alt, lists filled.
+    void Done();
+
+    // What the page hands on.
+    bool Exchange(bool read);
+    /// Enter: commits the text or number edit that has the focus; false when none has.
+    bool CommitFocused();
+    void FieldChanged(int key);
+
+    // For rows and lists.
+    CDialog& Page() { return m_page; }
+    /// Reads and validates; on failure puts the last good values back and selects the offending text.
+    bool UpdateDataSafe();
+    void Notify() { m_notify(); }
+    /// Model into mirrors and controls, for the rows that follow an item of a list, or for all.
+    void Show(bool itemsOnly);
+
+private:
+    template <class Row, class... Args>
+    Row& Make(const char* label, Args&&... args) {
+        auto made = std::make_unique<Row>(*this, std::forward<Args>(args)...);
+        Row& row = *made;
+        AddRow(std::move(made), label, row.Control());
+        return row;
+    }
+    void AddRow(std::unique_ptr<CFormRow> row, const char* label, QWidget* control);
+    void AddList(std::unique_ptr<CListBase> list);
+
+    CDialog& m_page;
+    std::function<void()> m_notify;
+    std::vector<std::unique_ptr<CFormRow>> m_rows;
+    std::vector<std::unique_ptr<CListBase>> m_lists;
+    QHBoxLayout* m_columns;
+    QBoxLayout* m_column = nullptr;
+    QGridLayout* m_group = nullptr;
+    std::vector<std::function<void()>> m_formats;
+    CFormRow* m_bad = nullptr; ///< the row that could not be read
+    bool m_complaining = false;
+};
