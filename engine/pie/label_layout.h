@@ -1,0 +1,50 @@
+#pragma once
+// Where the labels of a pie stand and how their join lines run, as pure numbers. Labels never cover one
+// another and stay inside the picture; where there is no room for all of them, the smallest sectors go
+// without.
+
+#include <QPointF>
+#include <QRectF>
+#include <QSizeF>
+#include <span>
+#include <vector>
+
+namespace chartdraw {
+
+/// What a label has to say about its place.
+struct LabelSpot {
+    double angle = 0; ///< of the sector's middle, radians clockwise from the top
+    QPointF centre;   ///< of the ellipse that the label must stay clear of
+    double rx = 0;    ///< half axes of that ellipse
+    double ry = 0;
+    QPointF rim;       ///< where the join line begins
+    QSizeF size;       ///< of the label's box, pixels
+    double weight = 0; ///< what decides who stays when there is no room
+};
+
+struct PlacedLabel {
+    bool shown = false;
+    QRectF box;
+    std::vector<QPointF> join; ///< the join line from the rim to the label; empty: none
+};
+
+struct LabelRoom {
+    QSizeF picture;
+    double top = 0; ///< rows between which labels stand
+    double bottom = 0;
+};
+
+/// Labels around the pie. `distance` is counted from the rim outwards; below 0 the labels are centred that
+/// far inside the rim and have no join lines.
+std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const LabelRoom& room,
+                                      double distance);
+
+/// Labels in two columns `distance` beside the pie, joined to their sectors by lines that bend once.
+std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const LabelRoom& room, double distance);
+
+/// Moves intervals of the given lengths apart, keeping their order and staying as near to the wished starts
+/// as possible (least squares), all of them between `low` and `high`. They must fit in there together.
+std::vector<double> stackApart(std::span<const double> wished, std::span<const double> lengths, double low,
+                               double high);
+
+} // namespace chartdraw

@@ -1,0 +1,144 @@
+#include "engine/pie/pie_painter.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace chartdraw {
+
+namespace {
+
+constexpr Colour kFaceEdge = 0x00ffffff;
+/// Neighbours overlap by this many pixels at the rim: two smoothed edges side by side would let the
+/// background shine through.
+constexpr double kOverlap = 0.75;
+
+class PiePainter {
+public:
+    PiePainter(Canvas& canvas, const PieLook& pie, std::span<const SectorLook> sectors)
+        : m_canvas(canvas), m_pie(pie), m_sectors(sectors), m_extent(pie.body.bounds(pie.body.centre)),
+          m_wallDrawn(sectors.size()) {}
+
+    void walls() {
+        std::vector<SectorSpan> spans;
+        for (const SectorLook& sector : m_sectors) {
+            spans.push_back(sector.span);
+        }
+        for (const WallStep& step : wallOrder(spans, viewerAngle(m_pie.body))) {
+            if (step.front) {
+                outerWall(step.sector);
+            } else {
+                backWalls(step.sector);
+            }
+        }
+    }
+
+    void faces() {
+        for (std::size_t i = 0; i < m_sectors.size(); ++i) {
+            const SectorLook& sector = m_sectors[i];
+            // Each face reaches under the next one, which is drawn later; the first also under the last.
+            const bool last = i + 1 == m_sectors.size();
+            const SectorSpan span = widened(i, i == 0, !last);
+            m_canvas.fillPath(m_pie.body.face(sector.centre, span), sector.fill, &m_extent);
+        }
+        for (const SectorLook& sector : m_sectors) {
+            m_canvas.strokePath(m_pie.body.face(sector.centre, sector.span),
+                                orDefault(sector.edge, kFaceEdge), 1);
+        }
+    }
+
+private:
+    bool opaque(std::size_t i) const { return m_canvas.colours().solid(m_sectors[i].fill).alpha() == 255; }
+
+    std::size_t next(std::size_t i) const { return (i + 1) % m_sectors.size(); }
+    std::size_t before(std::size_t i) const { return (i + m_sectors.size() - 1) % m_sectors.size(); }
+
+    bool joined(std::size_t a, std::size_t b) const {
+        return a != b && m_sectors[a].centre == m_sectors[b].centre && opaque(a) && opaque(b);
+    }
+
+    /// The span of a sector, reaching under its neighbours on the sides asked for.
+    SectorSpan widened(std::size_t i, bool atStart, bool atEnd) const {
+        SectorSpan span = m_sectors[i].span;
+        const double more = kOverlap / m_pie.body.radius;
+        if (atStart && joined(i, before(i))) {
+            span.start -= more;
+            span.span += more;
+        }
+        if (atEnd && joined(i, next(i))) {
+            span.span += more;
+        }
+        return span;
+    }
+
+    void outerWall(std::size_t i) {
+        // Reaching only under walls that are still to come.
+        const SectorSpan span = widened(i, !m_wallDrawn[before(i)], !m_wallDrawn[next(i)]);
+        m_wallDrawn[i] = true;
+        const QRectF rim = m_pie.body.bounds(m_sectors[i].centre);
+        QLinearGradient shade(rim.left(), 0, rim.right(), 0);
+        shade.setStops({{0, dark(i, 0.34)}, {0.3, dark(i, 0.14)}, {1, dark(i, 0.5)}});
+        wall(i, m_pie.body.roundWall(m_sectors[i].centre, span, true), shade);
+    }
+
+    void backWalls(std::size_t i) {
+        const SectorLook& sector = m_sectors[i];
+        const QRectF hole = m_pie.body.ellipse(sector.centre, m_pie.body.inner);
+        QLinearGradient shade(hole.left(), 0, hole.right(), 0);
+        shade.setStops({{0, dark(i, 0.5)}, {0.7, dark(i, 0.22)}, {1, dark(i, 0.34)}});
+        wall(i, m_pie.body.roundWall(sector.centre, sector.span, false), shade);
+        for (const bool atEnd : {false, true}) {
+            // Hidden where the next sector stands right beside.
+            if (m_sectors.size() > 1 && joined(i, atEnd ? next(i) : before(i))) {
+                continue;
+            }
+            const double outwards = (atEnd ? sector.span.end() : sector.span.start) +
+                                    (atEnd ? std::numbers::pi : -std::numbers::pi) / 2;
+            wall(i, m_pie.body.cutWall(sector.centre, sector.span, atEnd),
+                 dark(i, 0.3 + 0.14 * direction(outwards).x()));
+        }
+    }
+
+    /// Black that darkens the fill of a sector, no more visible than the fill itself.
+    QColor dark(std::size_t i, double amount) const {
+        const double alpha = m_pie.flatShade ? 0.4 : amount;
+        return QColor::fromRgbF(
+            0, 0, 0, static_cast<float>(alpha * m_canvas.colours().solid(m_sectors[i].fill).alphaF()));
+    }
+
+    void wall(std::size_t i, const QPainterPath& path, const QBrush& shade) {
+        if (path.isEmpty()) {
+            return;
+        }
+        const SectorLook& sector = m_sectors[i];
+        m_canvas.fillPath(path, sector.fill, &m_extent);
+        m_canvas.painter().fillPath(path, shade);
+        m_canvas.strokePath(path, orDefault(sector.edge, kTransparent), 1);
+    }
+
+    Canvas& m_canvas;
+    const PieLook& m_pie;
+    std::span<const SectorLook> m_sectors;
+    QRectF m_extent;
+    std::vector<bool> m_wallDrawn;
+};
+
+} // namespace
+
+void drawPie(Canvas& canvas, const PieLook& pie, std::span<const SectorLook> sectors) {
+    std::vector<SectorLook> visible;
+    for (const SectorLook& sector : sectors) {
+        if (sector.span.span > 0) {
+            visible.push_back(sector);
+        }
+    }
+    if (visible.empty()) {
+        return;
+    }
+    PiePainter painter(canvas, pie, visible);
+    if (pie.body.solid()) {
+        painter.walls();
+    }
+    painter.faces();
+}
+
+} // namespace chartdraw
