@@ -2,6 +2,8 @@
 
 #include "engine/chart/chart.h"
 
+#include <algorithm>
+
 namespace chartdraw {
 
 QPoint TitleStacks::place(QSize size, int alignment) {
@@ -24,6 +26,15 @@ QPoint TitleStacks::place(QSize size, int alignment) {
     return at;
 }
 
+QPoint TitleStacks::placeStrip(QSize size) {
+    int top = 0;
+    for (std::size_t column = 0; column < 3; ++column) {
+        top = std::max(top, m_used[column]);
+    }
+    std::fill_n(m_used.begin(), 3, top + size.height());
+    return {0, top};
+}
+
 Title::Title(Chart& chart, std::string text, const TextLook& look, int alignment, bool strip)
     : TextBox(chart, std::move(text), look), m_alignment(alignment), m_strip(strip) {}
 
@@ -41,7 +52,10 @@ int Title::measuredHeight() const {
 
 void Title::drawIn(Canvas& canvas, TitleStacks& stacks) {
     const TextBlock laid = laidOut();
-    laid.drawAt(canvas, pos() ? *pos() : stacks.place(laid.size(), m_alignment), TopLeft);
+    const auto automatic = [&] {
+        return m_strip ? stacks.placeStrip(laid.size()) : stacks.place(laid.size(), m_alignment);
+    };
+    laid.drawAt(canvas, pos() ? *pos() : automatic(), TopLeft);
 }
 
 } // namespace chartdraw

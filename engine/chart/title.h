@@ -14,6 +14,8 @@ public:
 
     /// The upper left corner for a title of `size` at an alignment code; the next one there stands behind it.
     QPoint place(QSize size, int alignment);
+    /// The same for a strip across the top, which the corners have to make room for as well.
+    QPoint placeStrip(QSize size);
 
 private:
     QSize m_picture;
