@@ -5,6 +5,7 @@ list(TRANSFORM exported STRIP)
 set(missing ${NAMES})
 list(REMOVE_ITEM missing ${exported})
 list(REMOVE_ITEM exported ${NAMES})
+list(FILTER exported EXCLUDE REGEX "^_") # the linker's and the standard library's own
 if(missing OR exported)
     message(FATAL_ERROR "declared and not exported: ${missing}\nexported and not declared: ${exported}")
 endif()
