@@ -1,0 +1,101 @@
+// The application object and the guard. An application object cannot be had twice in a process, so a case
+// that begins without one runs in a process of its own.
+
+#include "platform/application.h"
+#include "platform/module_guard.h"
+#include <QApplication>
+#include <QMetaType>
+#include <QTimer>
+#include <QWidget>
+#include <cstdlib>
+#include <gtest/gtest.h>
+
+using platform::ModuleGuard;
+
+namespace {
+
+/// Runs `act` in a process of its own and expects it to return true.
+template <class Act>
+void expectInOwnProcess(Act act) {
+    EXPECT_EXIT(std::_Exit(act() ? 0 : 1), testing::ExitedWithCode(0), "");
+}
+
+int s_count = 1;
+char s_name[] = "host";
+char* s_arguments[] = {s_name, nullptr};
+
+} // namespace
+
+TEST(ModuleGuard, MakesTheApplicationObjectOnce) {
+    expectInOwnProcess([] {
+        const QCoreApplication* made = nullptr;
+        {
+            const ModuleGuard guard;
+            made = QCoreApplication::instance();
+            if (!guard.CanShowDialogs() || !qobject_cast<const QApplication*>(made))
+                return false;
+        }
+        const ModuleGuard again;
+        return QCoreApplication::instance() == made && again.CanShowDialogs();
+    });
+}
+
+TEST(ModuleGuard, ManagesWithoutADisplay) {
+    expectInOwnProcess([] {
+        for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+            qunsetenv(name);
+        const ModuleGuard guard;
+        return QGuiApplication::platformName() == "offscreen";
+    });
+    expectInOwnProcess([] { // a display that is named but not there
+        qunsetenv("QT_QPA_PLATFORM");
+        qunsetenv("WAYLAND_DISPLAY");
+        qputenv("DISPLAY", ":973");
+        const ModuleGuard guard;
+        return QGuiApplication::platformName() == "offscreen";
+    });
+}
+
+TEST(ModuleGuard, UsesTheHostsObjectAsItIs) {
+    expectInOwnProcess([] {
+        const QApplication host(s_count, s_arguments);
+        const ModuleGuard guard;
+        return QCoreApplication::instance() == &host && guard.CanShowDialogs();
+    });
+    expectInOwnProcess([] {
+        const QGuiApplication host(s_count, s_arguments);
+        const ModuleGuard guard;
+        return QCoreApplication::instance() == &host && !guard.CanShowDialogs();
+    });
+}
+
+TEST(ModuleGuard, ClosingTheLastWindowDoesNotEndTheHost) {
+    expectInOwnProcess([] {
+        const QApplication host(s_count, s_arguments);
+        bool closedInPeace = false;
+        QTimer::singleShot(0, [] {
+            const ModuleGuard outer;
+            {
+                const ModuleGuard inner;
+                QWidget window;
+                window.show();
+                window.close();
+            }
+        });
+        QTimer::singleShot(50, [&] {
+            closedInPeace = true;
+            QCoreApplication::quit();
+        });
+        QTimer::singleShot(5000, [] { std::_Exit(2); });
+        QApplication::exec();
+        return closedInPeace && QGuiApplication::quitOnLastWindowClosed();
+    });
+}
+
+TEST(ApplicationFactory, GivesTheDrawingLibraryAnObjectForWidgets) {
+    expectInOwnProcess([] {
+        const QMetaType factory = QMetaType::fromName("charteditors::ApplicationFactory");
+        factory.destroy(factory.create());
+        return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr;
+    });
+}

@@ -1,0 +1,73 @@
+#include "platform/narrow_text.h"
+#include <gtest/gtest.h>
+
+using platform::NarrowToUtf8;
+using platform::Utf8ToNarrow;
+
+namespace {
+
+const char* const replacement = "\xEF\xBF\xBD";
+
+} // namespace
+
+TEST(NarrowText, BecomesUtf8) {
+    const struct {
+        const char* name;
+        const char* codeset;
+        std::string narrow;
+        std::string utf8;
+    } cases[] = {
+        // Byte values from the published code charts of each encoding.
+        {"ASCII as it stands", "EUC-KR", "plot.png", "plot.png"},
+        {"nothing", "UTF-8", "", ""},
+        {"Korean", "EUC-KR", "\xB1\xD7\xB8\xB2.png", "\xEA\xB7\xB8\xEB\xA6\xBC.png"},
+        {"Korean, extended set", "CP949", "\x8C\x63", "\xEB\x98\xA0"},
+        {"Japanese, second byte in ASCII", "SHIFT_JIS", "\x95\x5C", "\xE8\xA1\xA8"},
+        {"Western", "ISO-8859-1", "caf\xE9", "caf\xC3\xA9"},
+        {"Western, euro", "CP1252", "5 \x80", "5 \xE2\x82\xAC"},
+        {"UTF-8", "UTF-8", "\xE2\x82\xAC", "\xE2\x82\xAC"},
+        {"not UTF-8", "UTF-8", "a\xFFz", std::string("a") + replacement + "z"},
+        {"cut off in UTF-8", "UTF-8", "a\xE2\x82", std::string("a") + replacement},
+        {"surrogate in UTF-8", "UTF-8", "\xED\xA0\x80.", std::string(replacement) + "."},
+        {"not Korean", "EUC-KR", "\xFF.\xB1\xD7", std::string(replacement) + ".\xEA\xB7\xB8"},
+        {"cut off in Korean", "EUC-KR", "\xB1\xD7\xB1", std::string("\xEA\xB7\xB8") + replacement},
+        {"unknown encoding", "no-such-set", "\xC3\xA9\xE9", std::string("\xC3\xA9") + replacement},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(NarrowToUtf8(c.narrow, c.codeset), c.utf8) << c.name;
+}
+
+TEST(NarrowText, ComesBack) {
+    const struct {
+        const char* name;
+        const char* codeset;
+        std::string utf8;
+        std::string narrow;
+    } cases[] = {
+        {"Korean", "EUC-KR", "\xEA\xB7\xB8\xEB\xA6\xBC.png", "\xB1\xD7\xB8\xB2.png"},
+        {"Western", "ISO-8859-1", "caf\xC3\xA9", "caf\xE9"},
+        {"no such character", "ISO-8859-1", "\xEA\xB7\xB8!\xC3\xA9", "?!\xE9"},
+        {"not UTF-8", "ISO-8859-1", "\xFFq", "?q"},
+        {"shift states end where they began", "ISO-2022-JP", "\xE8\xA1\xA8", "\x1B$BI=\x1B(B"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(Utf8ToNarrow(c.utf8, c.codeset), c.narrow) << c.name;
+}
+
+TEST(NarrowText, SurvivesLongTextsAndManyFaults) {
+    // Longer than any buffer inside, with faults across every boundary.
+    std::string narrow;
+    std::string utf8;
+    for (int i = 0; i < 500; i++) {
+        narrow += i % 7 ? "\xB1\xD7" : "\xFF";
+        utf8 += i % 7 ? "\xEA\xB7\xB8" : replacement;
+    }
+    EXPECT_EQ(NarrowToUtf8(narrow, "EUC-KR"), utf8);
+}
+
+TEST(NarrowText, TakesTheEncodingFromTheEnvironment) {
+    // CTest runs this program with LC_ALL=C.UTF-8, while the process itself stands at "C".
+    EXPECT_EQ(platform::NarrowCodeset(), "UTF-8");
+    EXPECT_EQ(NarrowToUtf8("\xC3\xA9"), "\xC3\xA9");
+    EXPECT_EQ(Utf8ToNarrow("\xC3\xA9"), "\xC3\xA9");
+}
