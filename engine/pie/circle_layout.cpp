@@ -9,6 +9,8 @@ namespace chartdraw {
 namespace {
 
 constexpr double kGap = 1;       ///< pixels between two labels
+constexpr double kBendRoom = 20; ///< how much farther out a displaced label stands at most
+constexpr double kPassing = 9;   ///< room for a join line beside a label
 constexpr double kJoinFrom = 14; ///< a label farther than this from its sector gets a join line
 
 /// The box of a label that just touches the ellipse widened by `distance`, in the label's direction.
@@ -34,14 +36,16 @@ QRectF touching(const LabelSpot& spot, double distance) {
 /// One half of the circle, its labels from top to bottom.
 class Half {
 public:
-    Half(std::span<const LabelSpot> spots, const LabelRoom& room, double distance, bool right, bool keepApart)
-        : m_spots(spots), m_room(room), m_distance(distance), m_right(right), m_keepApart(keepApart) {}
+    Half(std::span<const LabelSpot> spots, const QRectF& room, double distance, bool right, bool crowded)
+        : m_spots(spots), m_room(room), m_distance(distance), m_right(right), m_crowded(crowded) {}
 
     void add(std::size_t spot) { m_items.push_back({spot, touching(m_spots[spot], m_distance), {}}); }
 
     void place(std::vector<PlacedLabel>& result) {
-        std::stable_sort(m_items.begin(), m_items.end(), [](const Item& a, const Item& b) {
-            return a.wish.center().y() < b.wish.center().y();
+        // By angle, not by the wished heights: join lines of labels in the order of their sectors do not
+        // cross.
+        std::stable_sort(m_items.begin(), m_items.end(), [this](const Item& a, const Item& b) {
+            return direction(m_spots[a.spot].angle).y() < direction(m_spots[b.spot].angle).y();
         });
         while (!tryPlace()) {
             dropLightestOf(m_tooLong);
@@ -90,10 +94,10 @@ private:
             lengths.push_back(m_items[i].wish.height() + kGap);
             sum += lengths.back();
         }
-        if (sum - kGap > m_room.bottom - m_room.top) {
+        if (sum - kGap > m_room.height()) {
             return false;
         }
-        const auto tops = stackApart(wished, lengths, m_room.top, m_room.bottom + kGap);
+        const auto tops = stackApart(wished, lengths, m_room.top(), m_room.bottom() + kGap);
         for (std::size_t i = range.begin; i < range.end; ++i) {
             const double top = tops[i - range.begin];
             m_items[i].box = QRectF(QPointF(leftAt(m_items[i], top), top), m_items[i].wish.size());
@@ -104,23 +108,27 @@ private:
     /// Where a box must begin to stay clear of the pie at a height.
     double leftAt(const Item& item, double top) const {
         const LabelSpot& spot = m_spots[item.spot];
-        const double rx = spot.rx + m_distance;
-        const double ry = spot.ry + m_distance;
-        const double width = item.wish.width();
-        const double height = item.wish.height();
-        const double away =
-            std::max({0.0, top - spot.centre.y(), spot.centre.y() - top - height}) / std::max(1e-6, ry);
+        const double moved = std::abs(top - item.wish.top());
+        const double side = m_right ? 1 : -1;
+        const auto edge = [&](double near) { return m_right ? near : near - item.wish.width(); };
+        const auto farther = [&](double a, double b) { return m_right ? std::max(a, b) : std::min(a, b); };
         double left = item.wish.left();
-        if (away < 1 && std::abs(top - item.wish.top()) > 0.01) {
-            const double clear = rx * std::sqrt(1 - away * away);
-            left = m_right ? std::max(left, spot.centre.x() + clear)
-                           : std::min(left, spot.centre.x() - clear - width);
+        if (moved > 0.01) {
+            // The farther from its sector, the more room for the bend of its join line.
+            const double distance = m_distance + std::min(kBendRoom, moved);
+            const double away =
+                std::max({0.0, top - spot.centre.y(), spot.centre.y() - top - item.wish.height()}) /
+                (spot.ry + distance);
+            if (away < 1) {
+                const double clear = (spot.rx + distance) * std::sqrt(1 - away * away);
+                left = farther(left, edge(spot.centre.x() + side * clear));
+            }
         }
-        if (m_keepApart) {
-            left = m_right ? std::max(left, spot.centre.x() + kGap)
-                           : std::min(left, spot.centre.x() - kGap - width);
+        if (m_crowded) {
+            // Join lines of labels above and below go past on the side of the middle line.
+            left = farther(left, edge(spot.rim.x() + side * kPassing));
         }
-        return std::clamp(left, 0.0, std::max(0.0, m_room.picture.width() - width));
+        return std::clamp(left, m_room.left(), std::max(m_room.left(), m_room.right() - item.wish.width()));
     }
 
     bool linkOverlaps() {
@@ -147,17 +155,45 @@ private:
     }
 
     std::span<const LabelSpot> m_spots;
-    const LabelRoom& m_room;
+    const QRectF& m_room;
     double m_distance;
-    bool m_right, m_keepApart;
+    bool m_right, m_crowded;
     std::vector<Item> m_items;
     Range m_tooLong = {0, 0};
 };
 
-bool anyOverlap(const std::vector<PlacedLabel>& labels) {
+/// Join lines for the labels that stand away from their sectors.
+void addJoins(std::span<const LabelSpot> spots, std::vector<PlacedLabel>& labels) {
+    for (std::size_t i = 0; i < spots.size(); ++i) {
+        const QRectF& box = labels[i].box;
+        const QPointF near(std::clamp(spots[i].rim.x(), box.left(), box.right()),
+                           std::clamp(spots[i].rim.y(), box.top(), box.bottom()));
+        const QPointF gap = near - spots[i].rim;
+        if (labels[i].shown && std::hypot(gap.x(), gap.y()) > kJoinFrom) {
+            labels[i].join = joinLine(spots[i], box);
+        }
+    }
+}
+
+/// Whether a part of the join line lies in the box. Lines are short, so looking at points of it will do.
+bool crosses(const std::vector<QPointF>& join, const QRectF& box) {
+    for (std::size_t k = 1; k < join.size(); ++k) {
+        const QPointF way = join[k] - join[k - 1];
+        const int steps = 1 + static_cast<int>(std::hypot(way.x(), way.y()) / 3);
+        for (int step = 0; step <= steps; ++step) {
+            if (box.contains(join[k - 1] + way * step / steps)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
+bool anyConflict(const std::vector<PlacedLabel>& labels) {
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        for (std::size_t k = 0; k < i && labels[i].shown; ++k) {
-            if (labels[k].shown && labels[i].box.intersects(labels[k].box)) {
+        for (std::size_t k = 0; k < labels.size() && labels[i].shown; ++k) {
+            if (k != i && labels[k].shown &&
+                (labels[i].box.intersects(labels[k].box) || crosses(labels[i].join, labels[k].box))) {
                 return true;
             }
         }
@@ -166,21 +202,20 @@ bool anyOverlap(const std::vector<PlacedLabel>& labels) {
 }
 
 /// A label inside its sector, centred at a distance from the rim, moved into the picture if need be.
-QRectF insideBox(const LabelSpot& spot, const LabelRoom& room, double distance) {
+QRectF insideBox(const LabelSpot& spot, const QRectF& room, double distance) {
     const double rx = std::max(0.0, spot.rx + distance);
     const double ry = rx * (spot.rx > 0 ? spot.ry / spot.rx : 1);
     const QPointF way(direction(spot.angle).x() * rx, direction(spot.angle).y() * ry);
     QRectF box(QPointF(), spot.size);
     box.moveCenter(spot.centre + way);
-    box.moveLeft(std::clamp(box.left(), 0.0, std::max(0.0, room.picture.width() - box.width())));
-    box.moveTop(std::clamp(box.top(), room.top, std::max(room.top, room.bottom - box.height())));
+    box.moveLeft(std::clamp(box.left(), room.left(), std::max(room.left(), room.right() - box.width())));
+    box.moveTop(std::clamp(box.top(), room.top(), std::max(room.top(), room.bottom() - box.height())));
     return box;
 }
 
 } // namespace
 
-std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const LabelRoom& room,
-                                      double distance) {
+std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const QRectF& room, double distance) {
     std::vector<PlacedLabel> result;
     const auto kept = heaviest(spots, kMostLabels);
     if (distance < 0) {
@@ -191,31 +226,22 @@ std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const La
         hideOverlaps(spots, result);
         return result;
     }
-    // Labels at the top and bottom may lie over the middle line; only if that brings those of the two halves
-    // together, each half keeps to its side.
-    for (const bool keepApart : {false, true}) {
+    // Labels at the top and bottom may lie over the middle line, as long as nothing else is in their way.
+    for (const bool crowded : {false, true}) {
         result.assign(spots.size(), {});
-        Half left(spots, room, distance, false, keepApart);
-        Half right(spots, room, distance, true, keepApart);
+        Half left(spots, room, distance, false, crowded);
+        Half right(spots, room, distance, true, crowded);
         for (std::size_t i : kept) {
             (direction(spots[i].angle).x() >= -1e-9 ? right : left).add(i);
         }
         left.place(result);
         right.place(result);
-        if (!anyOverlap(result)) {
+        addJoins(spots, result);
+        if (!anyConflict(result)) {
             break;
         }
     }
     hideOverlaps(spots, result);
-    for (std::size_t i = 0; i < spots.size(); ++i) {
-        const QRectF& box = result[i].box;
-        const QPointF near(std::clamp(spots[i].rim.x(), box.left(), box.right()),
-                           std::clamp(spots[i].rim.y(), box.top(), box.bottom()));
-        const QPointF gap = near - spots[i].rim;
-        if (result[i].shown && std::hypot(gap.x(), gap.y()) > kJoinFrom) {
-            result[i].join = joinLine(spots[i], box);
-        }
-    }
     return result;
 }
 

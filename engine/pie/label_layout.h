@@ -28,19 +28,13 @@ struct PlacedLabel {
     std::vector<QPointF> join; ///< the join line from the rim to the label; empty: none
 };
 
-struct LabelRoom {
-    QSizeF picture;
-    double top = 0; ///< rows between which labels stand
-    double bottom = 0;
-};
+/// Labels around the pie, inside `room`. `distance` is counted from the rim outwards; below 0 the labels are
+/// centred that far inside the rim and have no join lines.
+std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const QRectF& room, double distance);
 
-/// Labels around the pie. `distance` is counted from the rim outwards; below 0 the labels are centred that
-/// far inside the rim and have no join lines.
-std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const LabelRoom& room,
-                                      double distance);
-
-/// Labels in two columns `distance` beside the pie, joined to their sectors by lines that bend once.
-std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const LabelRoom& room, double distance);
+/// Labels in two columns inside `room`, `distance` beside the pie, joined to their sectors by lines that bend
+/// once.
+std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const QRectF& room, double distance);
 
 /// Moves intervals of the given lengths apart, keeping their order and staying as near to the wished starts
 /// as possible (least squares), all of them between `low` and `high`. They must fit in there together.

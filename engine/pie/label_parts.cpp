@@ -49,7 +49,7 @@ void hideOverlaps(std::span<const LabelSpot> spots, std::vector<PlacedLabel>& la
     for (std::size_t i = 0; i < labels.size(); ++i) {
         for (std::size_t k = 0; k < i && labels[i].shown; ++k) {
             if (labels[k].shown && labels[i].box.intersects(labels[k].box)) {
-                labels[spots[k].weight >= spots[i].weight ? i : k].shown = false;
+                labels[spots[k].weight >= spots[i].weight ? i : k] = {};
             }
         }
     }

@@ -78,6 +78,9 @@ private:
     Colour fillOf(std::size_t index) const;
     PieBody body() const;
     QPointF centreOf(const PieBody& body, std::size_t index, const SectorSpan& span) const;
+    double labelDistance(const PieBody& body) const;
+    /// Pixels that a line of a label may have beside the pie.
+    int widthBeside(const PieBody& body, QPointF about, double angle) const;
     void drawLabels(Canvas& canvas, const PieBody& body, std::span<const double> shares,
                     std::span<const SectorSpan> spans) const;
     std::vector<Label> makeLabels(const PieBody& body, std::span<const double> shares,

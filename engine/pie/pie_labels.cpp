@@ -11,6 +11,8 @@ namespace chartdraw {
 
 namespace {
 
+constexpr double kLeastWrap = 60;     ///< pixels that a line of a label has at least
+constexpr int kMargin = 2;            ///< pixels between labels and the border of the picture
 constexpr double kCircleDistance = 6; ///< pixels between rim and label when nothing else is told
 
 /// What the format of a label or key may name.
@@ -65,6 +67,24 @@ void PieChart::collectKeys(std::vector<LegendKey>& keys) const {
     }
 }
 
+double PieChart::labelDistance(const PieBody& body) const {
+    if (m_inColumns) {
+        return m_labelDistance >= 0 ? m_labelDistance : std::max(18.0, body.radius / 6);
+    }
+    return m_labelDistance == -1 ? kCircleDistance : m_labelDistance;
+}
+
+int PieChart::widthBeside(const PieBody& body, QPointF about, double angle) const {
+    const double side = direction(angle).x();
+    double room = width() * 0.4;
+    if (m_inColumns || std::abs(side) > 0.5) {
+        const double rim = about.x() + (side < 0 ? -body.radius : body.radius);
+        const double beside = side < 0 ? rim : width() - rim;
+        room = std::min(room, beside - std::max(0.0, labelDistance(body)) - kMargin);
+    }
+    return static_cast<int>(std::max(kLeastWrap, room));
+}
+
 std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span<const double> shares,
                                                   std::span<const SectorSpan> spans) const {
     std::vector<LabelSpot> weights(shares.size());
@@ -72,9 +92,7 @@ std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span
         weights[i].weight = shares[i];
     }
     TextLook look = m_labelStyle->look();
-    if (look.wrapWidth == 0 && look.angle == 0 && !look.vertical) {
-        look.wrapWidth = std::max(60, width() * 2 / 5); // a label must leave room for the pie
-    }
+    const bool wraps = look.wrapWidth == 0 && look.angle == 0 && !look.vertical;
     std::vector<Label> labels;
     for (std::size_t i : heaviest(weights, kMostLabels)) {
         if (!isValue(m_values[i]) || m_values[i] < 0) {
@@ -84,19 +102,22 @@ std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span
         if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
             continue;
         }
+        const double angle = spans[i].middle();
+        const QPointF about = centreOf(body, i, spans[i]);
+        if (wraps) {
+            look.wrapWidth = widthBeside(body, about, angle);
+        }
         TextBlock block(look, text, fonts());
         if (block.empty()) {
             continue;
         }
-        const double angle = spans[i].middle();
-        const QPointF about = centreOf(body, i, spans[i]);
         const QPointF lowered =
             body.depth * body.facing(angle); // in front, the label stays clear of the wall
         const LabelSpot spot{angle,
                              about + lowered,
                              body.radius,
                              body.radius * body.flatness,
-                             body.at(about, angle, body.radius) + lowered / 2,
+                             body.at(about, angle, body.radius) + lowered,
                              QSizeF(block.size()),
                              shares[i]};
         labels.push_back({i, spot, std::move(block)});
@@ -111,15 +132,14 @@ void PieChart::drawLabels(Canvas& canvas, const PieBody& body, std::span<const d
     for (const Label& label : labels) {
         spots.push_back(label.spot);
     }
-    LabelRoom room{QSizeF(width(), height()), 0, static_cast<double>(height())};
+    QRectF room = QRectF(0, 0, width(), height()).adjusted(kMargin, kMargin, -kMargin, -kMargin);
     std::vector<PlacedLabel> placed;
     if (m_inColumns) {
-        room.top = m_labelTop >= 0 ? m_labelTop : room.top;
-        room.bottom = m_labelBottom >= 0 ? m_labelBottom : room.bottom;
-        const double automatic = std::max(18.0, body.radius / 6);
-        placed = sideLayout(spots, room, m_labelDistance >= 0 ? m_labelDistance : automatic);
+        room.setTop(m_labelTop >= 0 ? m_labelTop : room.top());
+        room.setBottom(m_labelBottom >= 0 ? m_labelBottom : room.bottom());
+        placed = sideLayout(spots, room, labelDistance(body));
     } else {
-        placed = circleLayout(spots, room, m_labelDistance == -1 ? kCircleDistance : m_labelDistance);
+        placed = circleLayout(spots, room, labelDistance(body));
     }
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const Sector* style = styleOf(labels[i].sector);

@@ -49,11 +49,10 @@ void dropLightest(std::span<const LabelSpot> spots, Column& column, double heigh
 
 } // namespace
 
-std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const LabelRoom& room,
-                                    double distance) {
+std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const QRectF& room, double distance) {
     std::vector<PlacedLabel> result(spots.size());
     Column columns[2]; // left, right
-    double edges[2] = {room.picture.width(), 0};
+    double edges[2] = {room.right(), room.left()};
     for (const LabelSpot& spot : spots) {
         edges[0] = std::min(edges[0], spot.centre.x() - spot.rx);
         edges[1] = std::max(edges[1], spot.centre.x() + spot.rx);
@@ -61,7 +60,7 @@ std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const Labe
     for (std::size_t i : heaviest(spots, kMostLabels)) {
         columns[direction(spots[i].angle).x() >= -1e-9 ? 1 : 0].push_back(i);
     }
-    const double height = room.bottom - room.top;
+    const double height = room.height();
     for (Column& column : columns) {
         std::stable_sort(column.begin(), column.end(), [&](std::size_t a, std::size_t b) {
             return direction(spots[a].angle).y() < direction(spots[b].angle).y();
@@ -77,12 +76,12 @@ std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const Labe
             wished.push_back(wishedTop(spots[i], distance));
             lengths.push_back(spots[i].size.height() + kRowGap);
         }
-        const auto tops = stackApart(wished, lengths, room.top, room.bottom + kRowGap);
+        const auto tops = stackApart(wished, lengths, room.top(), room.bottom() + kRowGap);
         for (std::size_t k = 0; k < column.size(); ++k) {
             const LabelSpot& spot = spots[column[k]];
             const double width = spot.size.width();
-            const double x = side == 0 ? std::max(0.0, edges[0] - distance - width)
-                                       : std::min(room.picture.width() - width, edges[1] + distance);
+            const double x = side == 0 ? std::max(room.left(), edges[0] - distance - width)
+                                       : std::min(room.right() - width, edges[1] + distance);
             result[column[k]] = {true, QRectF(QPointF(x, tops[k]), spot.size), {}};
         }
     }
