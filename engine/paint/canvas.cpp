@@ -12,6 +12,7 @@ namespace chartdraw {
 namespace {
 
 constexpr double kSafeCoordinate = 30000; // the raster engine's own limit is 2 to the 15th
+constexpr int kFar = 1'000'000;           // pixels; boxes are cut to it, so that no sum of theirs overflows
 
 /// Whether the raster engine can take the coordinates as they are.
 bool isSafe(const QRectF& bounds) {
@@ -33,10 +34,6 @@ QRect wholePixels(const QRectF& rect, const QRectF& limits) {
     const QPoint behind(side(upright.right(), limits.left(), limits.right()),
                         side(upright.bottom(), limits.top(), limits.bottom()));
     return {topLeft, QSize(behind.x() - topLeft.x(), behind.y() - topLeft.y())};
-}
-
-bool isSquare(const Corners& corners) {
-    return std::all_of(corners.begin(), corners.end(), [](int radius) { return radius <= 0; });
 }
 
 /// The rectangle that a path of four upright sides is.
@@ -78,27 +75,28 @@ QRectF Canvas::visible(double margin) const {
 
 void Canvas::fillRect(const QRectF& rect, Colour colour) {
     const QRect pixels = wholePixels(rect, visible(1));
-    if (pixels.isEmpty() || m_colours.invisible(colour)) {
-        return;
-    }
-    if (colour < kTransparent) {
-        m_painter.fillRect(pixels, m_colours.solid(colour));
-    } else {
-        m_painter.fillRect(pixels, m_colours.brush(colour, rect));
+    if (!pixels.isEmpty()) {
+        fillPixels(pixels, colour, rect);
     }
 }
 
-void Canvas::fill(const QPainterPath& path, const QBrush& brush) {
-    if (isSafe(path.controlPointRect())) {
-        m_painter.fillPath(path, brush);
-    } else {
-        m_painter.fillPath(clipPath(path, visible(2)), brush);
+void Canvas::fillPixels(const QRect& pixels, Colour colour, const QRectF& extent) {
+    if (colour < kTransparent) {
+        m_painter.fillRect(pixels, m_colours.solid(colour));
+    } else if (!m_colours.invisible(colour)) {
+        m_painter.fillRect(pixels, m_colours.brush(colour, extent));
     }
 }
 
 void Canvas::fillPath(const QPainterPath& path, Colour colour, const QRectF* extent) {
-    if (!m_colours.invisible(colour)) {
-        fill(path, m_colours.brush(colour, extent != nullptr ? *extent : path.boundingRect()));
+    if (m_colours.invisible(colour)) {
+        return;
+    }
+    const QBrush brush = m_colours.brush(colour, extent != nullptr ? *extent : path.boundingRect());
+    if (isSafe(path.controlPointRect())) {
+        m_painter.fillPath(path, brush);
+    } else {
+        m_painter.fillPath(clipPath(path, visible(2)), brush);
     }
 }
 
@@ -132,43 +130,49 @@ void Canvas::frame(const QRect& rect, Colour colour, const Corners& corners, int
     if (inner <= 0 || m_colours.invisible(colour)) {
         return;
     }
-    const QRectF extent(rect);
-    const QBrush brush = m_colours.brush(colour, extent);
     if (!isSquare(corners)) {
         QPainterPath outline = roundedRect(rect, corners);
-        Corners inside = corners;
-        std::for_each(inside.begin(), inside.end(), [&](int& radius) { radius -= inner; });
-        outline.addPath(roundedRect(rect.adjusted(inner, inner, -inner, -inner), inside));
-        fill(outline, brush);
+        const QRect inside = rect.adjusted(inner, inner, -inner, -inner);
+        if (!inside.isEmpty()) {
+            outline.addPath(roundedRect(inside, insetCorners(corners, inner)));
+        }
+        fillPath(outline, colour);
         return;
     }
-    const int between = std::max(0, rect.height() - 2 * inner);
+    // The far sides take what the near ones leave, so that a thick edge never covers itself.
+    const int right = std::min(inner, rect.width() - inner);
+    const int bottom = std::min(inner, rect.height() - inner);
+    const int between = rect.height() - inner - bottom;
     const QRectF limits = visible(1);
     const QRect sides[] = {{rect.left(), rect.top(), rect.width(), inner},
                            {rect.left(), rect.top() + inner, inner, between},
-                           {rect.right() + 1 - inner, rect.top() + inner, inner, between},
-                           {rect.left(), rect.bottom() + 1 - inner, rect.width(), inner}};
+                           {rect.right() + 1 - right, rect.top() + inner, right, between},
+                           {rect.left(), rect.bottom() + 1 - bottom, rect.width(), bottom}};
     for (const QRect& side : sides) {
-        m_painter.fillRect(wholePixels(side, limits), brush);
+        const QRect pixels = wholePixels(side, limits);
+        if (!pixels.isEmpty()) {
+            fillPixels(pixels, colour, rect);
+        }
     }
 }
 
-void Canvas::box(const QRect& rect, Colour fillColour, Colour edge, int effect, const Corners& corners,
+void Canvas::box(const QRect& whole, Colour fillColour, Colour edge, int effect, const Corners& corners,
                  int edgeWidth) {
+    if (whole.isEmpty()) {
+        return;
+    }
+    const QRect rect = whole & QRect(QPoint(-kFar, -kFar), QPoint(kFar, kFar));
     if (rect.isEmpty()) {
         return;
     }
-    const Effect light = Effect::decode(effect);
     if (isSquare(corners)) {
         fillRect(rect, fillColour);
-        const QRect lit = wholePixels(rect, visible(kMaxEffectSize + 1));
-        lightRect(m_painter, lit, light);
     } else {
-        const QPainterPath outline = roundedRect(rect, corners);
-        fillPath(outline, fillColour);
-        if (isSafe(rect)) {
-            lightPath(m_painter, outline, light);
-        }
+        fillPath(roundedRect(rect, corners), fillColour);
+    }
+    const QRect lit = isSafe(rect) ? rect : wholePixels(rect, visible(kMaxEffectSize));
+    if (!lit.isEmpty()) {
+        lightBox(m_painter, lit, corners, Effect::decode(effect));
     }
     if (edge != kDefaultColour) {
         frame(rect, edge, corners, edgeWidth);
@@ -177,10 +181,12 @@ void Canvas::box(const QRect& rect, Colour fillColour, Colour edge, int effect, 
 
 void Canvas::shape(const QPainterPath& path, Colour fillColour, Colour edge, int effect, double edgeWidth) {
     if (const std::optional<QRectF> rect = asRect(path)) {
-        const double limit = 1e6;
-        const QRect pixels = wholePixels(*rect, QRectF(-limit, -limit, 2 * limit, 2 * limit));
-        box(pixels, fillColour, edge, effect, {},
-            static_cast<int>(std::lround(std::clamp(edgeWidth, 0.0, limit))));
+        const QRect pixels = wholePixels(*rect, QRectF(-kFar, -kFar, 2.0 * kFar, 2.0 * kFar));
+        // However thin, a bar is there.
+        const QSize size(rect->width() > 0 ? std::max(1, pixels.width()) : 0,
+                         rect->height() > 0 ? std::max(1, pixels.height()) : 0);
+        box(QRect(pixels.topLeft(), size), fillColour, edge, effect, {},
+            static_cast<int>(std::lround(std::clamp<double>(edgeWidth, 0, kFar))));
         return;
     }
     fillPath(path, fillColour);
@@ -190,28 +196,6 @@ void Canvas::shape(const QPainterPath& path, Colour fillColour, Colour edge, int
     if (edge != kDefaultColour) {
         strokePath(path, edge, edgeWidth);
     }
-}
-
-QPainterPath roundedRect(const QRectF& rect, const Corners& corners) {
-    const double limit = std::min(rect.width(), rect.height()) / 2;
-    const auto size = [&](int corner) {
-        return std::clamp<double>(corners[static_cast<std::size_t>(corner)], 0, std::max(limit, 0.0)) * 2;
-    };
-    QPainterPath path;
-    const auto arc = [&](double x, double y, double diameter, double startAngle) {
-        if (diameter > 0) {
-            path.arcTo(x, y, diameter, diameter, startAngle, -90);
-        } else {
-            path.lineTo(x, y);
-        }
-    };
-    path.moveTo(rect.left(), rect.top() + size(0) / 2);
-    arc(rect.left(), rect.top(), size(0), 180);
-    arc(rect.right() - size(1), rect.top(), size(1), 90);
-    arc(rect.right() - size(2), rect.bottom() - size(2), size(2), 0);
-    arc(rect.left(), rect.bottom() - size(3), size(3), 270);
-    path.closeSubpath();
-    return path;
 }
 
 void drawImage(Canvas& canvas, const QImage& image, const QRect& area, int alignment) {

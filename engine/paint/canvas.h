@@ -4,18 +4,15 @@
 // vertical lines are put onto whole pixels so that they are crisp.
 
 #include "engine/paint/colour.h"
+#include "engine/paint/corners.h"
 #include "engine/paint/effect.h"
 
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
-#include <array>
 #include <span>
 
 namespace chartdraw {
-
-/// Corner radii in pixels: top left, top right, bottom right, bottom left.
-using Corners = std::array<int, 4>;
 
 class Canvas {
 public:
@@ -44,7 +41,8 @@ public:
     /// stays linear in the number of points; a colour that shows through is laid on once all the same.
     void polyline(std::span<const QPointF> points, Colour colour, double width);
     /// A box: fill, then the effect, then the edge inside its outermost pixels. With a plain border effect
-    /// and a default (-1) edge the border alone is drawn; without one a default edge is none.
+    /// and a default (-1) edge the border alone is drawn; without one a default edge is none. `edgeWidth` in
+    /// pixels.
     void box(const QRect& rect, Colour fill, Colour edge, int effect, const Corners& corners = {},
              int edgeWidth = 1);
     /// Any closed shape (a bar, a sector, a ring) with fill, edge and effect. A path that is an upright
@@ -55,15 +53,12 @@ public:
 private:
     /// What can show, with `margin` pixels around it, in the painter's coordinates.
     QRectF visible(double margin) const;
-    void fill(const QPainterPath& path, const QBrush& brush);
+    void fillPixels(const QRect& pixels, Colour colour, const QRectF& extent);
     void frame(const QRect& rect, Colour colour, const Corners& corners, int width);
 
     QPainter m_painter;
     const ColourTable& m_colours;
 };
-
-/// The outline of a rectangle with rounded corners; radii are limited to half the sides.
-QPainterPath roundedRect(const QRectF& rect, const Corners& corners);
 
 /// Draws an image at its own size, placed in the area by an alignment code (the digits of a number pad, 5 and
 /// unknown codes the middle) and cut off at the area's sides.

@@ -29,39 +29,12 @@ constexpr std::array<QRgb, kPaletteSize> kDefaultPalette = {
     0xff68727d, // 5 secondary text and lines
     0xff2e9e62, // 6 gains
     0xffd64545, // 7 losses
-    // 8 to 39: the series.
-    0xff3f86d2,
-    0xfff08a24,
-    0xff2f9e6e,
-    0xffd9528c,
-    0xff7a6fd0,
-    0xffe3b92e,
-    0xff4fb9d6,
-    0xff9c6b4a,
-    0xff5f7fb5,
-    0xffe0715c,
-    0xff7fb24a,
-    0xffb06cc0,
-    0xff2fa8a0,
-    0xffc79a3d,
-    0xff8698ad,
-    0xffd48aa8,
-    0xff4a9be8,
-    0xffdd7f3a,
-    0xff58b587,
-    0xffc4608f,
-    0xff938ae0,
-    0xffc9b23c,
-    0xff6fc3d8,
-    0xffb3835f,
-    0xff6d93cf,
-    0xffe88b78,
-    0xff96bd5f,
-    0xffbd86cc,
-    0xff55b3ab,
-    0xffd2aa5a,
-    0xff96a5b8,
-    0xffdc9fb8,
+    // 8 to 39: the series. The first eight stay apart for the colour-blind, and so do all neighbours; each is
+    // dark enough for a thin line on white and light enough for black text on it.
+    0xff4479bb, 0xffd46a10, 0xff63b474, 0xffb95189, 0xff8c81f7, 0xffe4b92e, 0xff52cdec, 0xff9c6c3b, //
+    0xff009e81, 0xffe68bd8, 0xff787d4e, 0xff0b819f, 0xff9fb452, 0xffecac9c, 0xff9ab9e9, 0xffbe5a3d, //
+    0xff9263ac, 0xff4d8073, 0xffd5adca, 0xff837711, 0xffc64d61, 0xff6ba3ff, 0xffff94b2, 0xffccb377, //
+    0xff7f7192, 0xffa2c4a4, 0xff00b6fe, 0xff54822a, 0xffa06768, 0xffc7affc, 0xffea985d, 0xff09d0cd, //
 };
 
 struct Metal {
