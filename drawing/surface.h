@@ -370,8 +370,8 @@ CHARTDRAW_API int CChart_encodeFilter(int type, int labelStep, double initialMar
 CHARTDRAW_API int CChart_metalColor(int base, int angle);
 /**
  * Lighting that falls off softly. direction: the side the light comes from, CHART_LEFT, CHART_RIGHT,
- * CHART_TOP or CHART_BOTTOM; another is CHART_TOP. effect: pixels of the border, negative for a depressed
- * one.
+ * CHART_TOP or CHART_BOTTOM; another is CHART_TOP. effect:
+ * pixels of the lit rim, 0 automatic, its sign dropped.
  */
 CHARTDRAW_API int CChart_softLighting(int direction, int effect);
 /** As CChart_softLighting with a glare. glareSize: CHART_GLARE_REDUCED or CHART_GLARE_NORMAL (any other). */
@@ -671,8 +671,8 @@ CHARTDRAW_API void CTextBox_setMargin(TextBox* box, int margin);
 /** As CTextBox_setMargin, side by side. */
 CHARTDRAW_API void CTextBox_setMargin2(TextBox* box, int left, int right, int top, int bottom);
 /**
- * A key of its own, after those of the series. text: shown as it stands. color: of the mark; -1 draws the
- * mark in the next series colour. lineWidth: above 0 a line, else a box. symbol: picture instead; null none.
+ * A key of its own, after those of the series. text: shown as it stands. color: of the mark; -1 is
+ * CHART_LINE_COLOR. lineWidth: above 0 a line, else a box. symbol: picture instead; null none.
  */
 CHARTDRAW_API void CLegendBox_addKey(LegendBox* legend, const char* text, int color, int lineWidth,
                                      DrawArea* symbol);
