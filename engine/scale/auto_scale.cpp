@@ -10,8 +10,9 @@
 namespace chartdraw {
 namespace {
 
-constexpr double kLargest = 1e307;
+constexpr double kLargest = 1e306; // leaves room for extensions
 constexpr double kTinyRange = 1e-305;
+constexpr double kMostDecades = 300;
 
 struct Limits {
     double lower;
@@ -130,12 +131,14 @@ Scale autoLinearScale(const DataRange& data, const AutoScale& options, const Den
 Scale autoLogScale(const DataRange& data, const AutoScale& options, const Density& density) {
     if (data.empty || data.minPositive <= 0)
         return Scale::log(1, 10);
-    Limits decades{std::log10(data.minPositive), std::log10(data.max)};
+    Limits decades{std::clamp(std::log10(data.minPositive), -kMostDecades, kMostDecades),
+                   std::clamp(std::log10(data.max), -kMostDecades, kMostDecades)};
     constexpr double same = 1e-6;
     if (decades.span() < same)
         return Scale::log(std::pow(10.0, std::ceil(decades.lower - same) - 1),
                           std::pow(10.0, std::floor(decades.upper + same) + 1));
     decades = Extensions(options).extend(decades);
+    decades = {std::max(decades.lower, -kMostDecades), std::min(decades.upper, kMostDecades)};
     const double lower = std::pow(10.0, decades.lower);
     const double upper = std::pow(10.0, decades.upper);
     if (decades.span() >= 3)

@@ -38,7 +38,7 @@ struct AutoScale {
 };
 
 /// Limits on multiples of the major step that linearTicks finds with the same density. Constant data stand in
-/// the middle of a tenth of their size to either side; no data give 0 to 1. Sizes are limited to +-1e307.
+/// the middle of a tenth of their size to either side; no data give 0 to 1. Data are limited to +-1e306.
 Scale autoLinearScale(const DataRange& data, const AutoScale& options, const Density& density);
 
 /// Limits at whole decades where the data span three or more, at 1, 2 or 5 times a power of ten from one

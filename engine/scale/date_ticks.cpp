@@ -136,9 +136,7 @@ Ticks dateTicks(const Scale& scale, const Increments& increments, const Density&
     const double wanted = wantedPx(density, usualPx) * secondsPerPx;
     Ticks ticks;
     Step step{increments.major};
-    if (isGiven(increments.major)) {
-        if (step.seconds < kLeastTickPx * secondsPerPx)
-            step.seconds = readableStep(step.seconds, wanted);
+    if (isGiven(increments.major) && increments.major >= kLeastTickPx * secondsPerPx) {
         const auto values = stepValues(scale.lower(), scale.upper(), scale.lower(), step.seconds);
         ticks.major = labelled(values, labelForm(step, scale.lower()));
     } else {

@@ -43,20 +43,26 @@ void setMajor(Ticks& ticks, const std::vector<double>& values, std::vector<std::
         ticks.major.push_back({values[i], std::move(labels[i])});
 }
 
+std::vector<double> evenValues(const Scale& scale, double step) {
+    auto values = stepValues(scale.lower(), scale.upper(), 0, step);
+    std::erase_if(values, [&](double value) { return !scale.contains(value); }); // zero, if the step is vast
+    return values;
+}
+
 /// Even steps, wide enough at the upper end, where a log scale is densest.
 void setLinear(Ticks& ticks, const Scale& scale, double majorDecades, double minorDecades) {
     const auto stepFor = [&](double decades) {
         return niceStep(scale.upper() * (1 - std::pow(10.0, -decades)));
     };
     const double step = stepFor(majorDecades);
-    const auto values = stepValues(scale.lower(), scale.upper(), 0, step);
+    const auto values = evenValues(scale, step);
     if (values.size() <= ticks.major.size())
         return;
     setMajor(ticks, values, stepLabels(values, step));
     ticks.minor.clear();
     const double part = step / 5;
     if (minorDecades > 0 && stepFor(minorDecades) <= part)
-        ticks.minor = without(stepValues(scale.lower(), scale.upper(), 0, part), values, part);
+        ticks.minor = without(evenValues(scale, part), values, part);
 }
 
 /// The densest of the sets whose ticks stand at least `decades` apart; null if none does.

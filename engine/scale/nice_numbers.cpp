@@ -29,7 +29,7 @@ double scaled(double mantissa, int exponent) {
 double niceStep(double least) {
     if (!(least > 0) || !std::isfinite(least))
         return 1;
-    least = std::clamp(least, 1e-307, 1e306);
+    least = std::clamp(least, 1e-307, 2e307);
     const int exponent = static_cast<int>(std::floor(std::log10(least)));
     for (const double mantissa : {1.0, 2.0, 2.5, 5.0, 10.0}) {
         const double step = scaled(mantissa, exponent);

@@ -28,8 +28,8 @@ struct Ticks {
 /// no finite number) is found automatically; ticks then stand at multiples of a round step or at borders of
 /// the calendar. Given distances are counted from the lower limit. A minor or micro one that is not above 0
 /// means no such ticks, unless the density asks for minor ones. Ticks that would stand closer than two pixels
-/// are spaced by a multiple of what was given: major ones as far apart as automatic ones, others at two
-/// pixels or more. Log scales take no distances.
+/// are spaced by a multiple of what was given: major ones as far apart as automatic ones (for dates they are
+/// automatic), others at two pixels or more. Log scales take no distances.
 struct Increments {
     double major = 0;
     double minor = 0;

@@ -1,0 +1,133 @@
+// Round numbers and the map from values to fractions; expected values worked by hand.
+
+#include "engine/data/chart_time.h"
+#include "engine/data/no_value.h"
+#include "engine/scale/nice_numbers.h"
+#include "engine/scale/number_text.h"
+#include "engine/scale/scale.h"
+
+#include <cfloat>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <limits>
+
+using namespace chartdraw;
+
+namespace {
+
+constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInf = std::numeric_limits<double>::infinity();
+
+} // namespace
+
+TEST(NiceNumbers, Steps) {
+    const std::pair<double, double> cases[] = {
+        {1, 1},           {1.1, 2},         {2.1, 5},    {5.1, 10},   {10.1, 20}, {21, 25},
+        {26, 50},         {210, 250},       {0.21, 0.5}, {0.07, 0.1}, {0.3, 0.5}, {3e-7, 5e-7},
+        {1e-300, 1e-300}, {1.5e300, 2e300}, {0, 1},      {-3, 1},     {kNan, 1},  {kInf, 1},
+    };
+    for (const auto& [least, step] : cases)
+        EXPECT_DOUBLE_EQ(niceStep(least), step) << least;
+    // A quotient a hair above a step is that step, and decimal steps carry no noise.
+    EXPECT_EQ(niceStep(0.1 + 0.2 - 0.1), 0.2);
+    EXPECT_EQ(niceStep(0.0000002), 0.0000002);
+    EXPECT_EQ(nextNiceStep(20), 25);
+    EXPECT_EQ(nextNiceStep(0.2), 0.5);
+}
+
+TEST(NiceNumbers, RoundingLeavesNoNoise) {
+    EXPECT_EQ(roundToDecimals(3 * 0.1, 1), 0.3);
+    EXPECT_EQ(roundToDecimals(1e9 + 3 * 0.2, 1), 1000000000.6);
+    EXPECT_EQ(roundToDecimals(1249, -2), 1200);
+    EXPECT_EQ(roundToDecimals(-0.01, 1), 0);
+    EXPECT_FALSE(std::signbit(roundToDecimals(-0.01, 1)));
+    EXPECT_EQ(roundToDecimals(0.1, 400), 0.1);
+    EXPECT_EQ(floorToStep(0.3, 0.1), 3) << "0.3 / 0.1 is below 3 in binary";
+    EXPECT_EQ(ceilToStep(0.7, 0.1), 7);
+    EXPECT_EQ(floorToStep(-0.05, 0.1), -1);
+    EXPECT_EQ(ceilToStep(1e300, 1e-300), 1e15);
+}
+
+TEST(NiceNumbers, DecimalsAndLabels) {
+    EXPECT_EQ(decimalsOf(0.25), 2);
+    EXPECT_EQ(decimalsOf(0.1 + 0.2), 1);
+    EXPECT_EQ(decimalsOf(5000), -3);
+    EXPECT_EQ(exponentOf(0.25), -1);
+    EXPECT_EQ(exponentOf(9.9999999999999999), 1);
+    using Texts = std::vector<std::string>;
+    EXPECT_EQ(stepLabels({0, 0.25, 0.5}, 0.25), (Texts{"0.00", "0.25", "0.50"}));
+    EXPECT_EQ(stepLabels({0.5, 1.5}, 1, 0.5), (Texts{"0.5", "1.5"}));
+    EXPECT_EQ(stepLabels({0, 1.0 / 3, 2.0 / 3}, 1.0 / 3), (Texts{"0.0000", "0.3333", "0.6667"}));
+    EXPECT_EQ(stepLabels({1e15, 1e15 + 1}, 1), (Texts{"1e15", "1.000000000000001e15"}));
+    EXPECT_EQ(stepLabels({0, 5e-301, 1e-300}, 5e-301), (Texts{"0", "5e-301", "1e-300"}));
+}
+
+TEST(Scale, FractionsAndBack) {
+    const double day = chartTime(2003, 5, 1);
+    struct Case {
+        Scale scale;
+        double value, fraction;
+    };
+    const Case cases[] = {
+        {Scale::linear(-6, 6), 3, 0.75},
+        {Scale::linear(100, 0), 25, 0.25},
+        {Scale::linear(0, 10), 10, 1},
+        {Scale::linear(0, 10), 20, 2},
+        {Scale::log(1, 10000), 100, 0.5},
+        {Scale::log(0.01, 1), 0.1, 0.5},
+        {Scale::date(day, day + 86400), day + 21600, 0.25},
+        {Scale::items(4, true), 0, 0.125},
+        {Scale::items(5, false), 1, 0.25},
+        {Scale::items(1, false), 0, 0.5},
+    };
+    for (const Case& c : cases) {
+        EXPECT_DOUBLE_EQ(c.scale.fraction(c.value), c.fraction) << c.value;
+        EXPECT_NEAR(c.scale.value(c.fraction), c.value, 1e-12 * std::abs(c.value)) << c.value;
+    }
+    EXPECT_EQ(Scale::log(3, 7).value(1), 7);
+    EXPECT_TRUE(Scale::linear(0, 0.3).contains(0.1 * 3));
+    EXPECT_FALSE(Scale::linear(0, 0.3).contains(0.31));
+    EXPECT_EQ(Scale::linear(0, 5).clamp(9), 5);
+}
+
+TEST(Scale, LimitsAreMadeUsable) {
+    struct Case {
+        Scale scale;
+        double lower, upper;
+    };
+    const double end = kLastChartTime + 1;
+    const Case cases[] = {
+        {Scale(), 0, 1},
+        {Scale::linear(100, 0), 0, 100},
+        {Scale::linear(0, 0), 0, 1},
+        {Scale::linear(50, 50), 50, 55},
+        {Scale::linear(kNan, 8), 0, 8},
+        {Scale::linear(kNoValue, kInf), 0, 1},
+        {Scale::linear(-DBL_MAX, DBL_MAX), -1e307, 1e307},
+        {Scale::linear(1e9, 1e9 + 1), 1e9, 1e9 + 1},
+        {Scale::log(0, 1000), 10, 1000},
+        {Scale::log(-5, -1), 1, 10},
+        {Scale::log(7, 7), 7, 70},
+        {Scale::date(-1e9, 1e300), 0, end},
+        {Scale::date(86400, 86400), 86400, 172800},
+        {Scale::date(end, end), end - 86400, end},
+        {Scale::items(-3, false), -0.5, 0.5},
+    };
+    for (const Case& c : cases) {
+        EXPECT_DOUBLE_EQ(c.scale.lower(), c.lower);
+        EXPECT_DOUBLE_EQ(c.scale.upper(), c.upper);
+    }
+}
+
+TEST(Scale, HostileValues) {
+    for (const Scale& scale : {Scale::linear(0, 1e-300), Scale::linear(-1e308, 1e308), Scale::log(1, 2),
+                               Scale::date(0, 1), Scale::items(3, true)}) {
+        for (const double value : {-DBL_MAX, -1.0, 0.0, 1e300, DBL_MAX, DBL_MIN})
+            EXPECT_LE(std::abs(scale.fraction(value)), 1e6) << value;
+        for (const double gap : {kNan, kInf, -kInf, kNoValue})
+            EXPECT_TRUE(std::isnan(scale.fraction(gap))) << gap;
+        EXPECT_TRUE(std::isnan(scale.clamp(kNan)));
+        EXPECT_FALSE(scale.contains(kNan));
+    }
+    EXPECT_LT(Scale::log(1, 10).fraction(0), -1000) << "a bar from zero begins below the axis";
+}
