@@ -2,6 +2,8 @@
 
 #include "engine/chart/chart.h"
 
+#include <algorithm>
+
 namespace chartdraw {
 
 void DrawObj::changed() {
@@ -16,7 +18,9 @@ TextLook& Box::edit() {
 }
 
 void Box::setPos(int x, int y) {
-    m_pos = QPoint(x, y);
+    // Far enough outside any picture; what is added to a position later cannot overflow.
+    constexpr int kFar = 1000000;
+    m_pos = QPoint(std::clamp(x, -kFar, kFar), std::clamp(y, -kFar, kFar));
     changed();
 }
 
