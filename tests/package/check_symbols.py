@@ -1,0 +1,65 @@
+#!/usr/bin/env python3
+"""Compares what a shared library exports with what it should, and shows every difference.
+
+    check_symbols.py LIBRARY --list FILE       one demangled name a line; lines that begin with # are remarks
+    check_symbols.py LIBRARY --header FILE     the functions that a C header declares
+    --allow-missing                            names may be missing, but none may be too many
+    --print                                    prints what the library exports, to make a list from
+
+Exits with 1 if they differ.
+"""
+
+import argparse
+import re
+import subprocess
+import sys
+
+
+def exported(library):
+    output = subprocess.run(["nm", "-DC", "--defined-only", library], check=True, capture_output=True, text=True)
+    # A line is "address kind name". Sanitizers and the linker add names of their own, with an underscore.
+    names = (line.split(" ", 2)[2] for line in output.stdout.splitlines())
+    return {name for name in names if not name.startswith("_")}
+
+
+def listed(path):
+    with open(path, encoding="utf-8") as lines:
+        return {line.strip() for line in lines if line.strip() and not line.startswith("#")}
+
+
+def declared(path):
+    with open(path, encoding="utf-8") as header:
+        text = re.sub(r"/\*.*?\*/", "", header.read(), flags=re.DOTALL)
+    text = re.sub(r"^\s*#.*?(?<!\\)$", "", text, flags=re.DOTALL | re.MULTILINE)
+    return set(re.findall(r"^CHARTDRAW_API\s[^;(]*?(\w+)\s*\(", text, flags=re.MULTILINE))
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("library")
+    parser.add_argument("--list")
+    parser.add_argument("--header")
+    parser.add_argument("--allow-missing", action="store_true")
+    parser.add_argument("--print", action="store_true")
+    options = parser.parse_args()
+
+    actual = exported(options.library)
+    if options.print:
+        print("\n".join(sorted(actual)))
+        return 0
+    expected = listed(options.list) if options.list else declared(options.header)
+    if not expected:
+        print("Nothing is expected: the list or the header could not be understood.")
+        return 1
+    missing = sorted(expected - actual)
+    extra = sorted(actual - expected)
+    for name in extra:
+        print(f"+ {name}    is exported, but should not be")
+    for name in [] if options.allow_missing else missing:
+        print(f"- {name}    is not exported")
+    print(f"{len(expected)} expected, {len(actual)} exported, {len(extra)} too many, {len(missing)} missing")
+    return 1 if extra or (missing and not options.allow_missing) else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())

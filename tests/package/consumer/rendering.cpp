@@ -1,0 +1,6 @@
+// The public header of the rendering library stands on its own.
+#include <chartrender/chartrender.h>
+
+int main() {
+    return 0;
+}
