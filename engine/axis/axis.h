@@ -108,8 +108,8 @@ public:
     Colour tickColour() const { return orDefault(m_tickColour, m_colour); }
     const TextBox& labelBox() const { return *m_labelBox; }
     const TextBox& title() const { return *m_title; }
-    /// The title's look as it is drawn beside an axis that is upright or not: where nobody turned it, the
-    /// title of an upright axis runs upwards.
+    /// The title's look as it is drawn beside an axis that is upright or not. The title of a y axis begins at
+    /// 90 degrees; an angle that nobody changed follows the axis when x and y are exchanged.
     TextLook titleLook(bool upright) const;
     int titleAlignment() const { return m_titleAlignment; }
     int titleGap() const { return m_titleGap; }

@@ -6,6 +6,7 @@
 #include "engine/axis/axis_plan.h"
 
 #include <QRect>
+#include <optional>
 #include <vector>
 
 namespace chartdraw {
@@ -15,46 +16,56 @@ struct AxisPlace {
     int side = 2;   ///< where labels and outward ticks are: 4 left, 6 right, 8 top, 2 bottom of the line
     int from = 0;   ///< pixel of the line's left or upper end
     int to = 0;     ///< pixel of its right or lower end, included
-    int across = 0; ///< pixel row (column) of the line; a wider line grows outwards
-    bool reversed = false; ///< the upper limit is at the left or at the bottom
-    QRect picture;         ///< what labels should not leave
+    int across = 0; ///< pixel row or column of the line; a wider line grows outwards
+    int lower = 0;  ///< pixels of the limits of the scale
+    int upper = 0;
+    QRect picture;            ///< what labels should not leave
+    std::optional<int> avoid; ///< pixel along the axis where something crosses the labels' room
 
     bool upright() const { return side == 4 || side == 6; }
+    /// Puts the ends of a scale on the line: margins taken off, the one named top at the upper or right end,
+    /// and reversal done. Between the ends lies at least a pixel, where the line has two.
+    void setScaleEnds(const ScaleSettings& scale);
+    int scaleLength() const { return upper > lower ? upper - lower : lower - upper; }
 };
 
 struct AxisLayout {
     struct Tick {
+        double value = 0;
         int pixel = 0; ///< along the axis
         bool major = true;
     };
+    /// A text and where it stands: with a point of its bounds, or of the box about which it is turned, at the
+    /// anchor.
     struct Label {
-        QRectF box; ///< bounds on the picture
-        std::string text;
         double value = 0;
+        std::string text;
         TextBlock block;
         QPointF anchor;
-        int alignment; ///< of the block at the anchor
-        bool pivot;    ///< turned about the anchor
+        int alignment = 5;
+        bool pivot = false;
+
+        QRectF box() const;
+        void move(QPointF by) { anchor += by; }
+        void draw(Canvas& canvas) const;
     };
 
     AxisMap map;
     AxisPlace place;
-    QRect line; ///< the pixels of the line, empty with width 0
-    std::vector<Tick> ticks;
+    std::vector<Tick> ticks; ///< major ones first, each sort ascending by value
     std::vector<Label> labels;
+    std::vector<Label> marks; ///< of the axis's marks in sight
     std::optional<Label> title;
-    QRectF bounds; ///< of line, ticks and labels (not the title)
+    int reach = 0; ///< pixels from `place.across` outwards to the end of what is drawn, the title left out
 };
 
-/// `plan` should come from a request with the place's length and orientation.
+/// `plan` should come from a request with the length and orientation of the place.
 AxisLayout layoutAxis(const Axis& axis, AxisPlan plan, const AxisPlace& place);
 
-/// The map alone, as layoutAxis makes it: margins taken off, reversal done.
-AxisMap mapAxis(const Axis& axis, const AxisPlan& plan, const AxisPlace& place);
-/// Pixels from end to end of the scale at a place: its length without the margins, at least 1.
-double scaleLength(const Axis& axis, const AxisPlace& place);
+/// The pixels of a line of `width` along a side at `across`, which grows outwards.
+QRect axisLine(const AxisPlace& place, int width);
 
 void drawAxisLine(Canvas& canvas, const Axis& axis, const AxisLayout& layout); ///< line and ticks
-void drawAxisLabels(Canvas& canvas, const AxisLayout& layout);                 ///< labels and title
+void drawAxisLabels(Canvas& canvas, const AxisLayout& layout);                 ///< of ticks, and the title
 
 } // namespace chartdraw

@@ -23,28 +23,48 @@ struct AxisRequest {
     bool indent = false;  ///< half a row free at the ends, if the axis does not say
     double length = 100;  ///< pixels between the ends of the scale, its margins taken off
     bool upright = false; ///< labels stand above each other, not side by side
-    /// For a tied axis: the scale of the axis at the end of the chain, and how values turn into it.
-    const Scale* tiedTo = nullptr;
+    /// For a tied axis: the axis at the end of the chain, its scale, and the tie from end to end. An axis
+    /// tied one to one shows what that axis shows, with looks and formats of its own where it has any.
+    const Axis* root = nullptr;
+    Scale rootScale;
     double slope = 1, intercept = 0;
 };
 
 struct PlannedTick {
     double value = 0; ///< on this axis; the row number on an axis of rows
     bool major = true;
-    std::optional<TextBlock> label;
-    std::string text; ///< of the label, empty where there is none
+    std::string text;               ///< of the label, empty where there is none
+    std::optional<TextBlock> label; ///< laid out, where there is a text
 };
 
 struct AxisPlan {
     Scale scale; ///< of the axis, or of the one that it is tied to
-    bool tied = false;
     double slope = 1, intercept = 0;
-    std::vector<PlannedTick> ticks; ///< major ones first, each kind ascending by value
+    std::vector<PlannedTick> ticks; ///< major ones first, each sort ascending by value
 
     /// The map with the limits at these positions.
     AxisMap map(double lowerPixel, double upperPixel) const;
 };
 
+/// Whether the axis shows rows: it has labels, or neither it nor its data say anything else.
+bool showsRows(const Axis& axis, int rowCount);
+
+/// Labels never lie over each other: ticks stand wider apart until labels fit, and where that is not free (or
+/// not enough) labels are left out, those at the ends last.
 AxisPlan planAxis(const Axis& axis, const AxisRequest& request);
+
+/// The values behind the labels of rows and the texts that they have without a format: dates where all of
+/// them look like chart times, else numbers. Refers to the values.
+class RowTexts {
+public:
+    explicit RowTexts(std::span<const double> values);
+    /// The row's own number past the end of the values.
+    double value(std::size_t row) const;
+    std::string text(std::size_t row) const;
+
+private:
+    std::span<const double> m_values;
+    std::string_view m_dateSpec; ///< empty for numbers
+};
 
 } // namespace chartdraw

@@ -12,6 +12,8 @@ namespace chartdraw {
 
 class Chart;
 
+constexpr int kMaxSymbolSize = 4096; ///< pixels
+
 /// The symbol at each point.
 struct DataSymbol {
     int shape = 0;                ///< a symbol code, 0 none

@@ -15,6 +15,7 @@
 
 #include <QPointF>
 #include <QRect>
+#include <array>
 #include <span>
 #include <string>
 #include <string_view>
@@ -130,6 +131,8 @@ protected:
     void changed();
 
 private:
+    TextBox* labelStyle(TextBox*& box, const TextLook& look);
+
     XYChart& m_chart;
     Axis* m_yAxis;
     std::vector<DataSet*> m_dataSets;
@@ -142,7 +145,7 @@ private:
     TextBox* m_aggregateLabels = nullptr;
     std::string m_dataLabelFormat = "{value}";
     std::string m_aggregateLabelFormat = "{value}";
-    std::string m_imageMapUrl, m_imageMapQuery, m_imageMapAttributes;
+    std::array<std::string, 3> m_imageMap; ///< url, query, attributes: kept for hosts, no part of a picture
 };
 
 } // namespace chartdraw

@@ -35,24 +35,31 @@ public:
     void setBackground(Colour background, Colour alternate, Colour edge);
     void setImage(std::string path, int alignment);
     void setQuadrants(const std::array<Colour, 4>& colours, Colour edge);
+    /// Colours of the major grids of a new plot area: light grey and none by default.
+    void setFirstGrid(Colour horizontal, Colour vertical);
     void setGridColours(const std::array<Colour, 4>& colours);
     void setGridWidths(const std::array<int, 4>& widths);
 
-    /// Left, top, width and height as given; the frame's pixels are rect().adjusted(0, 0, 1, 1).
-    const QRect& rect() const { return m_rect; }
     const GridLook& grid(Grid sort) const { return m_grids[sort]; }
 
     /// What the background needs to know of the axes.
     struct Lines {
-        std::vector<int> bands;    ///< pixels along the bands' direction at which colours change, ascending
-        bool bandsUpright = false; ///< bands stand side by side instead of above each other
-        QPoint origin;             ///< where the axes' zeros cross, limited to the frame
+        std::vector<int> bands;    ///< pixels of the y axis's major ticks: colours change there
+        bool bandsUpright = false; ///< the bands stand side by side, not above each other
+        QPoint origin;             ///< pixel of the zeros of both axes, limited to the frame
     };
-    /// Background and image into the frame moved by `offset` (the back wall of a 3D chart).
+    /// Background colours and image over the pixels of the frame, moved by `offset` (to the back wall).
     void drawBackground(Canvas& canvas, QPoint offset, const Lines& lines) const;
     void drawEdge(Canvas& canvas, QPoint offset) const;
 
+    /// The pixels of the plot area, the lines of its frame included.
+    QRect frame() const { return m_rect.adjusted(0, 0, 1, 1); }
+    Colour background() const { return m_background; }
+    Colour edge() const { return m_edge; }
+
 private:
+    void drawBands(Canvas& canvas, const QRect& frame, QPoint offset, const Lines& lines) const;
+
     Chart& m_chart;
     QRect m_rect;
     Colour m_background = kTransparent;
@@ -60,7 +67,7 @@ private:
     Colour m_edge = kLineColour;
     std::string m_imagePath;
     int m_imageAlignment = 5;
-    std::array<Colour, 4> m_quadrants;
+    std::array<Colour, 4> m_quadrants{kTransparent, kTransparent, kTransparent, kTransparent};
     bool m_hasQuadrants = false;
     std::array<GridLook, 4> m_grids{GridLook{0xc0c0c0, 1}, GridLook{}, GridLook{}, GridLook{}};
 };

@@ -3,12 +3,11 @@
 // show, and draws the frame around what the layers draw.
 
 #include "engine/axis/axis.h"
-#include "engine/axis/axis_layout.h"
+#include "engine/axis/axis_plan.h"
 #include "engine/chart/chart.h"
 #include "engine/xy/layer.h"
 #include "engine/xy/plot_area.h"
 
-#include <string_view>
 #include <vector>
 
 namespace chartdraw {
@@ -19,14 +18,6 @@ struct ChartAxis {
     int side = 0;         ///< 4 left, 6 right, 8 top, 2 bottom, before swapping and moving to the right
     int offset = 0;       ///< pixels outwards from that side of the plot area
     bool further = false; ///< added by addAxis, which alone are not moved by setYAxisOnRight
-};
-
-/// Everything of a picture that is found before something is drawn.
-struct FrameLayout {
-    QRect plot;                    ///< pixels of the plot area's front, the lines of its frame included
-    int depth = 0;                 ///< pixels from the front to the back wall
-    std::vector<AxisLayout> axes;  ///< of XYChart::axes(), in their order
-    std::vector<PlotFrame> layers; ///< of XYChart::layers(), in their order
 };
 
 class XYChart : public Chart {
@@ -56,6 +47,14 @@ public:
     void setTrimData(int start, int length);
 
     bool swapped() const { return m_swapped; }
+    bool yAxisOnRight() const { return m_yOnRight; }
+    /// As setAxisAtOrigin has them, of each direction.
+    bool atOrigin(Direction direction) const {
+        return (m_originMode & (direction == Direction::X ? 1 : 2)) != 0;
+    }
+    bool symmetric(Direction direction) const {
+        return (m_symmetry & (direction == Direction::X ? 1 : 4)) != 0;
+    }
     /// The rows shown of `count` rows.
     RowRange rows(std::size_t count) const;
 
@@ -70,17 +69,18 @@ public:
     /// The colour of the next series that has none of its own.
     Colour nextSeriesColour() { return seriesColour(m_seriesColours++); }
 
-    /// What the x axis says at a row: the text behind {xLabel} of data labels.
-    std::string xLabel(std::size_t row) const;
+    /// What the x axis says at the rows, before trimming: {xLabel} of data labels. The rows' numbers where it
+    /// has no labels.
+    RowTexts rowTexts() const;
 
     void collectKeys(std::vector<LegendKey>& keys) const override;
-
-    FrameLayout layoutFrame() const;
 
 protected:
     void drawBody(Canvas& canvas) override;
 
 private:
+    Axis* makeAxis(int side, int offset, bool further);
+
     std::vector<ChartAxis> m_axes;
     Axis* m_xAxis2 = nullptr;
     Axis* m_yAxis2 = nullptr;

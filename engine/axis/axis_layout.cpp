@@ -1,0 +1,333 @@
+#include "engine/axis/axis_layout.h"
+
+#include "engine/chart/chart.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+#include <utility>
+
+namespace chartdraw {
+
+namespace {
+
+constexpr int kLabelGap = 3; // pixels between a tick and its label
+
+/// Away from the line, in pixels of the picture.
+QPointF outward(int side) {
+    switch (side) {
+    case Left:
+        return {-1, 0};
+    case Right:
+        return {1, 0};
+    case TopCenter:
+        return {0, -1};
+    default:
+        return {0, 1};
+    }
+}
+
+/// A side's code with the row of `along` (upright) or its column: the point of a box that touches the line.
+int facing(int side, int along) {
+    switch (side) {
+    case Left:
+        return Right - 3 * along;
+    case Right:
+        return Left - 3 * along;
+    case TopCenter:
+        return BottomCenter + along;
+    default:
+        return TopCenter + along;
+    }
+}
+
+/// The picture point at a pixel along the axis, `distance` pixels outwards from its line.
+QPointF pointAt(const AxisPlace& place, double along, double distance) {
+    const QPointF onLine = place.upright() ? QPointF(place.across, along) : QPointF(along, place.across);
+    return onLine + outward(place.side) * distance;
+}
+
+double alongOf(const AxisPlace& place, QPointF point) {
+    return place.upright() ? point.y() : point.x();
+}
+
+/// Puts labels beside the line, each in the way its angle asks for.
+class LabelPlacer {
+public:
+    LabelPlacer(const AxisPlace& place, double angle, double distance)
+        : m_place(place), m_distance(distance) {
+        const double radians = angle * std::numbers::pi / 180;
+        const QPointF reading(std::cos(radians), -std::sin(radians));
+        const QPointF out = outward(place.side);
+        m_outwards = QPointF::dotProduct(reading, out);
+        m_corner = std::abs(reading.x() * out.y() - reading.y() * out.x());
+    }
+
+    void put(AxisLayout::Label& label, int pixel) const {
+        // Boxes are told by their borders: the middle of pixel n lies at n + 0.5.
+        label.anchor = pointAt(m_place, pixel, m_distance) + QPointF(0.5, 0.5);
+        const bool slanted = std::abs(m_outwards) > 0.05 && m_corner > 0.05;
+        if (!slanted) {
+            label.alignment = facing(m_place.side, 0);
+            return;
+        }
+        // Turned about the end at the tick; the corner beside that end keeps the gap.
+        label.pivot = true;
+        label.alignment = m_outwards > 0 ? Left : Right;
+        label.anchor += outward(m_place.side) * (label.block.boxSize().height() / 2.0 * m_corner);
+    }
+
+private:
+    const AxisPlace& m_place;
+    double m_distance;
+    double m_outwards; ///< how far the text runs away from the line, -1 to 1
+    double m_corner;   ///< how much of its height lies across the line
+};
+
+/// Moves a box along and across the axis into the picture; nothing where it is larger than that.
+QPointF intoPicture(const QRectF& box, const QRect& picture) {
+    const auto shift = [](double low, double high, double from, double to) {
+        if (high - low > to - from) {
+            return 0.0;
+        }
+        return low < from ? from - low : high > to ? to - high : 0.0;
+    };
+    const QRectF room(picture);
+    return {shift(box.left(), box.right(), room.left(), room.right()),
+            shift(box.top(), box.bottom(), room.top(), room.bottom())};
+}
+
+QPointF alongOnly(const AxisPlace& place, QPointF by) {
+    return place.upright() ? QPointF(0, by.y()) : QPointF(by.x(), 0);
+}
+
+/// Keeps labels at the ends inside the picture, and takes away a neighbour that one then lies over.
+void keepInside(std::vector<AxisLayout::Label>& labels, const AxisPlace& place) {
+    for (AxisLayout::Label& label : labels) {
+        label.move(alongOnly(place, intoPicture(label.box(), place.picture)));
+    }
+    if (labels.size() > 2) {
+        if (labels.front().box().intersects(labels[1].box())) {
+            labels.erase(labels.begin() + 1);
+        }
+        if (labels.size() > 2 && labels.back().box().intersects(labels[labels.size() - 2].box())) {
+            labels.erase(labels.end() - 2);
+        }
+    }
+}
+
+void placeLabels(AxisLayout& layout, AxisPlan& plan, const Axis& axis, double distance) {
+    const AxisPlace& place = layout.place;
+    const LabelPlacer placer(place, axis.labelBox().look().angle, distance);
+    for (PlannedTick& tick : plan.ticks) {
+        if (!tick.label) {
+            continue;
+        }
+        AxisLayout::Label label{.value = tick.value,
+                                .text = std::move(tick.text),
+                                .block = std::move(*tick.label),
+                                .anchor = {},
+                                .alignment = Center,
+                                .pivot = false};
+        placer.put(label, layout.map.wholePixel(tick.value));
+        layout.labels.push_back(std::move(label));
+    }
+    keepInside(layout.labels, place);
+    if (place.avoid) {
+        std::erase_if(layout.labels, [&](const AxisLayout::Label& label) {
+            const QRectF box = label.box();
+            return alongOf(place, box.topLeft()) < *place.avoid + 1 &&
+                   alongOf(place, box.bottomRight()) > *place.avoid;
+        });
+    }
+}
+
+/// The labels of the marks stand among those of the ticks, which give way to them.
+void placeMarks(AxisLayout& layout, const Axis& axis, double distance) {
+    for (const Mark* mark : axis.marks()) {
+        if (!layout.map.contains(mark->value())) {
+            continue;
+        }
+        AxisLayout::Label label{.value = mark->value(),
+                                .text = mark->text(),
+                                .block = mark->block(),
+                                .anchor = {},
+                                .alignment = Center,
+                                .pivot = false};
+        if (label.block.empty()) {
+            continue;
+        }
+        LabelPlacer(layout.place, mark->look().angle, distance)
+            .put(label, layout.map.wholePixel(mark->value()));
+        label.move(alongOnly(layout.place, intoPicture(label.box(), layout.place.picture)));
+        for (const AxisLayout::Label& other : layout.marks) {
+            const QRectF box = label.box();
+            if (box.intersects(other.box())) {
+                const bool before =
+                    alongOf(layout.place, box.center()) < alongOf(layout.place, other.box().center());
+                const QPointF by = before ? other.box().topLeft() - box.bottomRight()
+                                          : other.box().bottomRight() - box.topLeft();
+                label.move(alongOnly(layout.place, by));
+            }
+        }
+        const QRectF box = label.box();
+        std::erase_if(layout.labels,
+                      [&](const AxisLayout::Label& tick) { return tick.box().intersects(box); });
+        layout.marks.push_back(std::move(label));
+    }
+}
+
+int reachOf(const AxisLayout& layout, double ticks) {
+    double reach = ticks;
+    for (const auto* labels : {&layout.labels, &layout.marks}) {
+        for (const AxisLayout::Label& label : *labels) {
+            const QRectF box = label.box();
+            const AxisPlace& place = layout.place;
+            const double edge = place.side == Left        ? place.across - box.left()
+                                : place.side == Right     ? box.right() - place.across - 1
+                                : place.side == TopCenter ? place.across - box.top()
+                                                          : box.bottom() - place.across - 1;
+            reach = std::max(reach, edge);
+        }
+    }
+    return static_cast<int>(std::ceil(reach));
+}
+
+/// A title on the line of the axis stands beyond its end; all others stand beside it, outside the labels.
+void placeTitle(AxisLayout& layout, const Axis& axis) {
+    const AxisPlace& place = layout.place;
+    const int code = axis.titleAlignment();
+    const bool upright = place.upright();
+    const bool beyond = upright ? code == TopCenter || code == BottomCenter : code == Left || code == Right;
+    TextBlock block(axis.titleLook(upright && !beyond), axis.title().text(), axis.chart().fonts());
+    if (block.empty()) {
+        return;
+    }
+    AxisLayout::Label title{.value = 0,
+                            .text = axis.title().text(),
+                            .block = std::move(block),
+                            .anchor = {},
+                            .alignment = Center,
+                            .pivot = false};
+    const int gap = axis.titleGap();
+    if (beyond) {
+        const bool atFrom = upright ? code == TopCenter : code == Left;
+        const double end = atFrom ? place.from - gap : place.to + 1 + gap;
+        title.anchor = upright ? QPointF(place.across + 0.5, end) : QPointF(end, place.across + 0.5);
+        title.alignment = upright ? (atFrom ? BottomCenter : TopCenter) : (atFrom ? Right : Left);
+    } else {
+        const int along = upright ? verticalOf(code) : horizontalOf(code);
+        const double at = along < 0   ? place.from
+                          : along > 0 ? place.to + 1
+                                      : (place.from + place.to + 1) / 2.0;
+        title.alignment = facing(place.side, along);
+        title.anchor = pointAt(place, at, layout.reach + gap);
+        const bool ownPixel = place.side == Right || place.side == BottomCenter;
+        title.anchor += outward(place.side) * (ownPixel ? 1 : 0);
+    }
+    const QPointF back = intoPicture(title.box(), place.picture);
+    // Pulled back into the picture, but not onto the labels.
+    const QPointF out = outward(place.side);
+    const double inward = std::max(0.0, -QPointF::dotProduct(back, out));
+    title.move(alongOnly(place, back) - out * (beyond ? inward : std::min<double>(inward, std::max(0, gap))));
+    if (axis.title().pos()) {
+        title.move(QPointF(*axis.title().pos()) - title.box().topLeft());
+    }
+    layout.title = std::move(title);
+}
+
+} // namespace
+
+void AxisPlace::setScaleEnds(const ScaleSettings& scale) {
+    const int length = std::max(0, to - from);
+    double top = scale.marginTop;
+    double bottom = scale.marginBottom;
+    if (top + bottom > length - 1) {
+        const double shrink = std::max(0, length - 1) / std::max(1.0, top + bottom);
+        top *= shrink;
+        bottom *= shrink;
+    }
+    const int topPixels = static_cast<int>(top), bottomPixels = static_cast<int>(bottom);
+    lower = upright() ? to - bottomPixels : from + bottomPixels;
+    upper = upright() ? from + topPixels : to - topPixels;
+    if (scale.reverse) {
+        std::swap(lower, upper);
+    }
+}
+
+QRectF AxisLayout::Label::box() const {
+    return pivot ? block.pivotBoundsAt(anchor, alignment) : block.boundsAt(anchor, alignment);
+}
+
+void AxisLayout::Label::draw(Canvas& canvas) const {
+    if (pivot) {
+        block.drawPivotAt(canvas, anchor, alignment);
+    } else {
+        block.drawAt(canvas, anchor, alignment);
+    }
+}
+
+AxisLayout layoutAxis(const Axis& axis, AxisPlan plan, const AxisPlace& place) {
+    AxisLayout layout;
+    layout.map = plan.map(place.lower, place.upper);
+    layout.place = place;
+    for (const PlannedTick& tick : plan.ticks) {
+        layout.ticks.push_back({tick.value, layout.map.wholePixel(tick.value), tick.major});
+    }
+    const double ticks = std::max({0, axis.ticks().majorLength, axis.ticks().minorLength});
+    const double line = std::max(0, axis.width() - 1);
+    const double distance = line + std::max(0, axis.ticks().majorLength) + kLabelGap + 0.5;
+    placeLabels(layout, plan, axis, distance);
+    placeMarks(layout, axis, distance);
+    if (axis.chart().colours().invisible(axis.labelBox().look().colour)) {
+        layout.labels.clear(); // they took part in the plan, so that axes that differ in this alone agree
+    }
+    layout.reach = reachOf(layout, line + ticks);
+    placeTitle(layout, axis);
+    return layout;
+}
+
+QRect axisLine(const AxisPlace& place, int width) {
+    const int out = width - 1; // pixels beyond the line's own
+    switch (place.side) {
+    case Left:
+        return {QPoint(place.across - out, place.from), QPoint(place.across, place.to)};
+    case Right:
+        return {QPoint(place.across, place.from), QPoint(place.across + out, place.to)};
+    case TopCenter:
+        return {QPoint(place.from, place.across - out), QPoint(place.to, place.across)};
+    default:
+        return {QPoint(place.from, place.across), QPoint(place.to, place.across + out)};
+    }
+}
+
+void drawAxisLine(Canvas& canvas, const Axis& axis, const AxisLayout& layout) {
+    const int width = axis.width();
+    if (width < 1) {
+        return;
+    }
+    const AxisPlace& place = layout.place;
+    const TickSettings& ticks = axis.ticks();
+    for (const AxisLayout::Tick& tick : layout.ticks) {
+        const int length = tick.major ? ticks.majorLength : ticks.minorLength;
+        if (length == 0) {
+            continue;
+        }
+        const double first = length > 0 ? width : -1;
+        const double last = length > 0 ? width - 1 + length : length;
+        canvas.line(pointAt(place, tick.pixel, first), pointAt(place, tick.pixel, last), axis.tickColour(),
+                    width);
+    }
+    canvas.fillRect(axisLine(place, width), axis.colour());
+}
+
+void drawAxisLabels(Canvas& canvas, const AxisLayout& layout) {
+    for (const AxisLayout::Label& label : layout.labels) {
+        label.draw(canvas);
+    }
+    if (layout.title) {
+        layout.title->draw(canvas);
+    }
+}
+
+} // namespace chartdraw

@@ -1,0 +1,195 @@
+#include "engine/axis/axis_plan.h"
+
+#include "engine/axis/label_fit.h"
+#include "engine/axis/row_ticks.h"
+#include "engine/chart/chart.h"
+#include "engine/scale/format.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace chartdraw {
+
+namespace {
+
+using Type = ScaleSettings::Type;
+
+constexpr int kAttempts = 6;
+constexpr double kLevelSpacing = 40;   // pixels between ticks of a level axis, where labels are short
+constexpr double kUprightSpacing = 30; // and of an upright one
+
+class Planner {
+public:
+    Planner(const Axis& axis, const AxisRequest& request)
+        : m_axis(axis), m_request(request), m_look(axis.labelBox().look()),
+          m_fit(m_look, axis.chart().fonts(), request.upright), m_copies(copiesRoot()),
+          m_content(content(axis, m_copies ? request.root : nullptr)) {}
+
+    AxisPlan plan() const {
+        const bool numbered = m_content.labels.empty() && m_axis.ticks().majorStep == 1 &&
+                              m_axis.ticks().majorOffset == 0 && m_axis.ticks().minorStep == 0;
+        return rows() && !numbered ? rowPlan() : numericPlan();
+    }
+
+private:
+    static RowContent content(const Axis& axis, const Axis* copied) {
+        const ScaleSettings& labels = copied != nullptr ? copied->scale() : axis.scale();
+        const TickSettings& own = axis.ticks();
+        RowContent result;
+        if (labels.type == Type::Labels) {
+            result.labels = labels.labels;
+        }
+        const bool useCopied = copied != nullptr;
+        result.format = useCopied && own.labelFormat.empty() ? copied->ticks().labelFormat : own.labelFormat;
+        result.rules = useCopied && own.rules.empty() ? copied->ticks().rules : own.rules;
+        return result;
+    }
+
+    bool copiesRoot() const {
+        return m_request.root != nullptr && m_request.slope == 1 && m_request.intercept == 0;
+    }
+
+    bool rows() const {
+        if (m_request.root != nullptr) {
+            return m_copies && m_request.rootScale.kind() == ScaleKind::Enumerated;
+        }
+        return showsRows(m_axis, m_request.rowCount);
+    }
+
+    const ScaleSettings& settings() const { return m_axis.scale(); }
+
+    /// The scale in this axis's own values.
+    Scale ownScale(const Density& density) const {
+        if (m_request.root != nullptr) {
+            return tiedScale();
+        }
+        if (rows()) {
+            const bool indent = settings().indent == ScaleSettings::Indent::AsLayersNeed
+                                    ? m_request.indent
+                                    : settings().indent == ScaleSettings::Indent::Yes;
+            return Scale::items(m_request.rowCount, indent);
+        }
+        AutoScale options = settings().automatic;
+        options.includeZero = m_request.includeZero;
+        options.symmetric = m_request.symmetric;
+        const bool given = settings().limitsGiven;
+        const double lower = settings().lower, upper = settings().upper;
+        switch (settings().type) {
+        case Type::Log:
+            return given ? Scale::log(lower, upper) : autoLogScale(m_request.data, options, density);
+        case Type::Date:
+            return given ? Scale::date(lower, upper) : autoDateScale(m_request.data, options);
+        default:
+            return given ? Scale::linear(lower, upper) : autoLinearScale(m_request.data, options, density);
+        }
+    }
+
+    Scale tiedScale() const {
+        const Scale& root = m_request.rootScale;
+        const double lower = root.lower() * m_request.slope + m_request.intercept;
+        const double upper = root.upper() * m_request.slope + m_request.intercept;
+        if (m_copies) {
+            return root;
+        }
+        return root.kind() == ScaleKind::Log && m_request.intercept == 0 && m_request.slope > 0
+                   ? Scale::log(lower, upper)
+                   : Scale::linear(lower, upper);
+    }
+
+    AxisPlan emptyPlan(const Scale& own) const {
+        AxisPlan plan;
+        plan.scale = m_request.root != nullptr ? m_request.rootScale : own;
+        plan.slope = m_request.slope;
+        plan.intercept = m_request.intercept;
+        return plan;
+    }
+
+    double firstSpacing() const {
+        if (settings().majorSpacing > 0) {
+            return settings().majorSpacing;
+        }
+        return m_request.upright ? std::max(kUprightSpacing, 2.2 * m_fit.lineHeight())
+                                 : std::max(kLevelSpacing, 3 * m_fit.lineHeight());
+    }
+
+    AxisPlan numericPlan() const {
+        Density density{.lengthPx = m_request.length,
+                        .majorPx = firstSpacing(),
+                        .minorPx = static_cast<double>(settings().minorSpacing)};
+        for (int attempt = 1;; ++attempt) {
+            const Scale own = ownScale(density);
+            AxisPlan plan = emptyPlan(own);
+            const Ticks ticks = makeTicks(own, settings().increments, density);
+            const std::vector<int> ranks = addMajor(plan, ticks, own);
+            const AxisMap map = plan.map(0, m_request.length);
+            const double wanted = m_fit.wantedDistance(plan.ticks, map);
+            const bool fixed = settings().increments.major > 0 || plan.ticks.size() < 3;
+            if (wanted == 0 || fixed || attempt == kAttempts) {
+                m_fit.thin(plan.ticks, map, ranks);
+                for (const double value : ticks.minor) {
+                    plan.ticks.push_back({.value = value, .major = false, .text = {}, .label = {}});
+                }
+                return plan;
+            }
+            density.majorPx = std::max(wanted, density.majorPx * 1.25);
+        }
+    }
+
+    /// Adds the major ticks with their labels; gives the ranks of the labels where rules chose them.
+    std::vector<int> addMajor(AxisPlan& plan, const Ticks& ticks, const Scale& own) const {
+        if (own.kind() == ScaleKind::Date && hasRules(m_content.rules)) {
+            std::vector<double> times;
+            std::vector<std::string> shown;
+            for (const Tick& tick : ticks.major) {
+                times.push_back(tick.value);
+                shown.push_back(tick.label);
+            }
+            const LabelMaker maker(m_axis, m_content);
+            std::vector<int> ranks;
+            for (const PickedLabel& picked : maker.pick(times, 0, static_cast<int>(times.size()))) {
+                const auto index = static_cast<std::size_t>(picked.index);
+                plan.ticks.push_back(maker.tick(times[index], times[index], shown[index], picked.rule));
+                ranks.push_back(picked.rule);
+            }
+            return ranks;
+        }
+        const LabelMaker maker(m_axis, m_content);
+        for (const Tick& tick : ticks.major) {
+            plan.ticks.push_back(maker.tick(tick.value, tick.value, tick.label, PickedLabel::kAxisFormat));
+        }
+        return {};
+    }
+
+    AxisPlan rowPlan() const {
+        AxisPlan plan = emptyPlan(ownScale({}));
+        const AxisMap map = plan.map(0, m_request.length);
+        const LabelMaker maker(m_axis, m_content);
+        addRowTicks(plan.ticks, maker, {m_request.firstRow, m_request.rowCount}, map, m_fit);
+        return plan;
+    }
+
+    const Axis& m_axis;
+    const AxisRequest& m_request;
+    const TextLook& m_look;
+    LabelFit m_fit;
+    bool m_copies; ///< shows just what the root shows
+    RowContent m_content;
+};
+
+} // namespace
+
+AxisMap AxisPlan::map(double lowerPixel, double upperPixel) const {
+    const AxisMap own(scale, lowerPixel, upperPixel);
+    return slope == 1 && intercept == 0 ? own : own.tied(slope, intercept);
+}
+
+bool showsRows(const Axis& axis, int rowCount) {
+    const ScaleSettings& scale = axis.scale();
+    return scale.type == Type::Labels || (scale.type == Type::Automatic && rowCount > 0);
+}
+
+AxisPlan planAxis(const Axis& axis, const AxisRequest& request) {
+    return Planner(axis, request).plan();
+}
+
+} // namespace chartdraw

@@ -1,0 +1,37 @@
+#pragma once
+// Whether labels have room beside each other along an axis, and which of them stay where they have not.
+
+#include "engine/axis/axis_plan.h"
+
+namespace chartdraw {
+
+class LabelFit {
+public:
+    /// `look` of the labels; `upright`: along an upright axis.
+    LabelFit(const TextLook& look, const FontSet& fonts, bool upright);
+
+    /// Least distance of the middles of two labels of one line, for a first guess.
+    double lineHeight() const { return m_lineHeight; }
+    /// Pixels along the axis that a label takes to either side of its tick. Slanted labels lie beside each
+    /// other and take the room of their line height, not of their bounds.
+    double halfExtent(const TextBlock& block) const;
+    /// Pixels that two labels keep between them.
+    double gap() const { return m_gap; }
+
+    /// The distance that the labels' ticks want for all to have room; 0 if they have it. `ticks` ascending,
+    /// `map` their positions.
+    double wantedDistance(const std::vector<PlannedTick>& ticks, const AxisMap& map) const;
+    /// Takes away labels (not ticks) until none touches another; the ends stay if they can. Labels with a
+    /// lower rank go first to the room, if ranks are given (one a tick).
+    void thin(std::vector<PlannedTick>& ticks, const AxisMap& map, std::span<const int> ranks = {}) const;
+
+private:
+    void thinByRank(std::vector<PlannedTick>& ticks, const AxisMap& map, std::span<const int> ranks) const;
+
+    bool m_upright;
+    double m_slant; ///< part of the line height that a label takes along the axis; 0: its bounds count
+    double m_lineHeight;
+    double m_gap;
+};
+
+} // namespace chartdraw
