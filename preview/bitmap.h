@@ -1,0 +1,9 @@
+#pragma once
+// The pixels of a bitmap file in memory.
+
+#include <QImage>
+#include <span>
+
+/// A part of the picture, which shares no memory with the file. `bytes`: a bitmap file of 24 bits a pixel,
+/// rows bottom up. `part` is limited to the picture; null if nothing of it is left.
+QImage BitmapPart(std::span<const char> bytes, const QRect& part);
