@@ -9,9 +9,18 @@ namespace chartdraw {
 
 namespace {
 
-// The object is never destroyed: the end of the process may come on any thread, and the object must outlive
-// every chart. The static pointer keeps it reachable for leak checkers.
+std::atomic<bool> s_ready = false;
+std::atomic<int> s_count = 0;
+
+// What makes or is the object is never destroyed: the end of the process may come on any thread, and the
+// object must outlive every chart. The static pointers keep both reachable for leak checkers.
+void* s_factory = nullptr;
 QCoreApplication* s_ownApplication = nullptr;
+
+void makeByFactory() {
+    if (const QMetaType type = QMetaType::fromName("charteditors::ApplicationFactory"); type.isValid())
+        s_factory = type.create();
+}
 
 void makeGuiApplication() {
     static char name[] = "chart";
@@ -31,21 +40,23 @@ void makeGuiApplication() {
 } // namespace
 
 void ensureApplication() {
-    static std::atomic<bool> ready = false;
-    if (ready.load(std::memory_order_acquire) && QCoreApplication::instance())
+    if (s_ready.load(std::memory_order_acquire))
         return;
     static std::mutex mutex;
     const std::lock_guard lock(mutex);
-    if (!QCoreApplication::instance()) {
-        if (const QMetaType factory = QMetaType::fromName("charteditors::ApplicationFactory");
-            factory.isValid()) {
-            static void* s_factory = factory.create();
-            (void)s_factory;
-        }
-        if (!QCoreApplication::instance())
-            makeGuiApplication();
-    }
-    ready.store(true, std::memory_order_release);
+    if (s_ready.load(std::memory_order_acquire))
+        return;
+    if (!QCoreApplication::instance())
+        makeByFactory();
+    if (!QCoreApplication::instance())
+        makeGuiApplication();
+    s_count.fetch_add(1);
+    qAddPostRoutine([] { s_ready.store(false); });
+    s_ready.store(true, std::memory_order_release);
+}
+
+int applicationCount() {
+    return s_count.load(std::memory_order_relaxed);
 }
 
 bool textAvailable() {

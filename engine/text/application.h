@@ -12,4 +12,8 @@ void ensureApplication();
 /// Ensures an application object and tells whether it can do text: a host's own object without a GUI cannot.
 bool textAvailable();
 
+/// Counts the application objects that this process has had. Fonts that were loaded under an earlier one are
+/// gone: a host may end its object and make another.
+int applicationCount();
+
 } // namespace chartdraw

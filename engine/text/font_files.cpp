@@ -58,10 +58,12 @@ FontName splitFontName(std::string_view name) {
     if (bar == name.npos)
         return {.file = name, .face = 0};
     const std::string_view digits = name.substr(bar + 1);
-    int face = -1;
-    const auto [stop, error] = std::from_chars(digits.data(), digits.data() + digits.size(), face);
-    const bool number = error == std::errc() && stop == digits.data() + digits.size();
-    return {.file = name.substr(0, bar), .face = number ? face : -1};
+    const char* end = digits.data() + digits.size();
+    int face = 0;
+    const auto [stop, error] = std::from_chars(digits.data(), end, face);
+    if (error != std::errc() || stop != end)
+        return {.file = name, .face = 0};
+    return {.file = name.substr(0, bar), .face = face};
 }
 
 QString findFontFile(std::string_view file) {

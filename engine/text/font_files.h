@@ -10,7 +10,7 @@ namespace chartdraw {
 /// A font name taken apart: "file.ttc|2" is face 2 of file.ttc.
 struct FontName {
     std::string_view file;
-    int face = 0; ///< -1 where the part after the bar is no face number
+    int face = 0;
 };
 FontName splitFontName(std::string_view name);
 

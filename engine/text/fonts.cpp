@@ -6,7 +6,6 @@
 
 #include <QFile>
 #include <QFontDatabase>
-#include <QImage>
 #include <QLocale>
 #include <algorithm>
 #include <cmath>
@@ -56,18 +55,21 @@ public:
     /// The face for a name that is a file, a path or a style word.
     Face find(std::string_view name) {
         const std::lock_guard lock(m_mutex);
+        if (const int now = applicationCount(); m_application != now) {
+            m_byName.clear();
+            m_byFile.clear();
+            m_application = now;
+        }
         if (const auto found = m_byName.find(name); found != m_byName.end())
             return found->second;
-        const Face face = load(name);
-        // A face is held for good, and so is the answer for a missing one; made-up names without end are not.
-        if (m_byName.size() < kMaxNames)
-            m_byName.emplace(name, face);
-        return face;
+        // What a name means is kept for good, a missing file too; made-up names without end are not.
+        if (m_byName.size() >= kMaxNames)
+            return ownFace(0);
+        return m_byName.emplace(name, load(name)).first->second;
     }
 
 private:
     static constexpr std::size_t kMaxNames = 512;
-    static constexpr int kMaxFaces = 256;
 
     Face load(std::string_view name) {
         if (const int style = styleOf(name); style >= 0)
@@ -87,33 +89,39 @@ private:
             {"DejaVuSans.ttf", "DejaVuSans-Bold.ttf", "DejaVuSans-Oblique.ttf", "DejaVuSans-BoldOblique.ttf"},
             {"NotoSans-Regular.ttf", "NotoSans-Bold.ttf", "NotoSans-Italic.ttf", "NotoSans-BoldItalic.ttf"},
         }};
-        std::optional<Face>& own = m_own[static_cast<std::size_t>(style)];
-        for (std::size_t i = 0; !own && i < files.size(); ++i)
-            own = loadFile(files[i][static_cast<std::size_t>(style)], 0);
-        if (!own)
-            own = Face{.family = {}, .bold = style % 2 == 1, .italic = style >= 2};
-        return *own;
+        for (const auto& family : files) {
+            if (const auto face = loadFile(family[static_cast<std::size_t>(style)], 0))
+                return *face;
+        }
+        return {.family = {}, .bold = style % 2 == 1, .italic = style >= 2};
     }
 
     std::optional<Face> loadFile(std::string_view name, int index) {
         const QString path = findFontFile(name);
-        if (path.isEmpty() || index < 0 || m_faceCount >= kMaxFaces)
+        if (path.isEmpty())
             return std::nullopt;
+        const auto [entry, isNew] = m_byFile.try_emplace({path, index});
+        if (isNew)
+            entry->second = registerFace(path, index);
+        return entry->second;
+    }
+
+    std::optional<Face> registerFace(const QString& path, int index) {
         QFile file(path);
         if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxFontFile)
             return std::nullopt;
-        const QString family = QStringLiteral("chartdraw-%1").arg(m_faceCount);
+        const QString family = QStringLiteral("chartdraw-%1").arg(++m_lastFamily);
         const auto face = extractFace(file.read(kMaxFontFile), index, family.toStdString());
         if (!face || QFontDatabase::addApplicationFontFromData(face->data) < 0)
             return std::nullopt;
-        ++m_faceCount;
         return Face{.family = family, .bold = face->bold, .italic = face->italic};
     }
 
     std::mutex m_mutex;
     std::map<std::string, Face, std::less<>> m_byName;
-    std::array<std::optional<Face>, 4> m_own;
-    int m_faceCount = 0;
+    std::map<std::pair<QString, int>, std::optional<Face>> m_byFile; ///< none: no usable face
+    int m_lastFamily = 0;
+    int m_application = 0; ///< Under which the faces were loaded.
 };
 
 /// The families that complete a face, in order. What none of them has, the system's own fallback finds.
@@ -125,22 +133,15 @@ const QStringList& fallbackFamilies() {
                                : locale.language() != QLocale::Chinese                ? QStringLiteral("JP")
                                : locale.script() == QLocale::TraditionalChineseScript ? QStringLiteral("TC")
                                                                                       : QStringLiteral("SC");
-        return QStringList{
-            "Liberation Sans",         "Arial",       "Noto Sans", "Noto Sans Hebrew", "Noto Sans Arabic",
-            "Noto Sans CJK " + region, "DejaVu Sans", "Symbola"};
+        QStringList list = {"Noto Sans",   "Noto Sans Hebrew", "Noto Sans Arabic", "Noto Sans CJK " + region,
+                            "DejaVu Sans", "Symbola"};
+        list.removeIf([](const QString& family) { return !QFontDatabase::hasFamily(family); });
+        return list;
     }();
     return families;
 }
 
 QFont makeFont(const Face& face, double points, double widthPoints) {
-    // A font takes the resolution of the device that it is made for; this one has the resolution of our
-    // pictures.
-    static const QImage device = [] {
-        QImage image(1, 1, QImage::Format_ARGB32_Premultiplied);
-        image.setDotsPerMeterX(qRound(kDotsPerInch / 0.0254));
-        image.setDotsPerMeterY(qRound(kDotsPerInch / 0.0254));
-        return image;
-    }();
     QFont result;
     if (face.family.isEmpty())
         result.setFamilies(QFontDatabase::systemFont(QFontDatabase::GeneralFont).families() +
@@ -149,18 +150,20 @@ QFont makeFont(const Face& face, double points, double widthPoints) {
         result.setFamilies(QStringList(face.family) + fallbackFamilies());
     result.setBold(face.bold);
     result.setItalic(face.italic);
-    result.setPointSizeF(points);
+    // Whole pixels: small text stays sharp, and no screen's resolution has a say.
+    result.setPixelSize(std::max(1, qRound(points * kDotsPerInch / 72)));
     if (widthPoints > 0)
         result.setStretch(std::clamp(static_cast<int>(std::lround(100 * widthPoints / points)), 1, 4000));
     result.setHintingPreference(QFont::PreferVerticalHinting);
     result.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
-    return QFont(result, &device);
+    return result;
 }
 
 /// The fonts that this thread used last: a chart asks for the same few again and again.
 struct RecentFont {
     std::string name;
     double points = 0, widthPoints = 0;
+    int application = 0;
     QFont font;
 };
 
@@ -187,8 +190,10 @@ QFont font(const FontSet& set, std::string_view name, double points, double widt
     std::string resolved = set.resolve(name);
     constexpr std::size_t kRecent = 16;
     thread_local std::vector<RecentFont> recent;
+    const int application = applicationCount();
     const auto found = std::ranges::find_if(recent, [&](const RecentFont& r) {
-        return r.points == points && r.widthPoints == widthPoints && r.name == resolved;
+        return r.points == points && r.widthPoints == widthPoints && r.application == application &&
+               r.name == resolved;
     });
     if (found != recent.end())
         return found->font;
@@ -196,7 +201,7 @@ QFont font(const FontSet& set, std::string_view name, double points, double widt
     const QFont made = makeFont(cache.find(resolved), points, widthPoints);
     if (recent.size() >= kRecent)
         recent.erase(recent.begin());
-    recent.push_back({std::move(resolved), points, widthPoints, made});
+    recent.push_back({std::move(resolved), points, widthPoints, application, made});
     return made;
 }
 

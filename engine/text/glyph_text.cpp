@@ -22,6 +22,7 @@ constexpr int kMaxStacked = 4096;
 constexpr double kScriptScale = 0.7;      ///< size of a superscript or subscript
 constexpr double kSuperscriptRise = 0.38; ///< of the size of the full font, upwards
 constexpr double kSubscriptDrop = 0.14;
+constexpr double kColumnGap = 0.3; ///< between columns of stacked letters, of the size of the font
 
 /// Text as a layout takes it: control characters and separators that would break lines or jump to tab stops
 /// become spaces.
@@ -213,7 +214,8 @@ private:
             }
         }
         m_lines.push_back({m_result.pieces.size(), column.height()});
-        QPoint corner(m_result.size.width(), 0);
+        const double gap = limitedFontSize(m_look.size) * kDotsPerInch / 72 * kColumnGap;
+        QPoint corner(m_lines.size() > 1 ? m_result.size.width() + static_cast<int>(gap) : 0, 0);
         for (GlyphText& cell : cells) {
             for (GlyphPiece& piece : cell.pieces) {
                 shift(piece, corner + QPoint((column.width() - cell.size.width()) / 2, 0));
@@ -221,7 +223,7 @@ private:
             }
             corner.ry() += cell.size.height();
         }
-        m_result.size.rwidth() += column.width();
+        m_result.size.setWidth(corner.x() + column.width());
     }
 
     static void shift(GlyphPiece& piece, QPointF by) {

@@ -20,7 +20,7 @@ struct GlyphPiece {
 
 struct GlyphText {
     std::vector<GlyphPiece> pieces;
-    QSize size; ///< whole pixels
+    QSize size = {0, 0}; ///< whole pixels
 };
 
 /// Lays out what a look says of the text itself. Empty where the application cannot do text.

@@ -1,0 +1,95 @@
+#include "engine/text/markup.h"
+
+#include <chrono>
+#include <gtest/gtest.h>
+#include <iomanip>
+#include <sstream>
+
+namespace chartdraw {
+
+namespace {
+
+/// Lines as "style:text" parts between bars, lines between slashes: "f=bold:a|:b" / ":c".
+std::string dump(const std::vector<MarkupLine>& lines) {
+    std::ostringstream out;
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        out << (i ? " / " : "");
+        for (std::size_t k = 0; k < lines[i].size(); ++k) {
+            const RunStyle& style = lines[i][k].style;
+            out << (k ? "|" : "");
+            if (!style.font.empty())
+                out << "f=" << style.font << ' ';
+            if (style.size != 0)
+                out << "s=" << style.size << ' ';
+            if (style.colour != kDefaultColour)
+                out << "c=" << std::hex << style.colour << std::dec << ' ';
+            out << (style.underline ? "u " : "") << (style.script > 0 ? "^ " : style.script < 0 ? "_ " : "");
+            out << ':' << lines[i][k].text;
+        }
+    }
+    return out.str();
+}
+
+} // namespace
+
+TEST(Markup, RunsAndLines) {
+    const struct {
+        const char* text;
+        const char* expected;
+    } cases[] = {
+        {"", ""},
+        {"plain", ":plain"},
+        {"<*font=bold*>12 Mar", "f=bold :12 Mar"},
+        {"<*font=gulim.ttc|1*>a<*/*>b", "f=gulim.ttc|1 :a|:b"},
+        {"a<*size=12.5*>b<*size=1e9*>c", ":a|s=12.5 :b|s=1000 :c"},
+        {"<*color=FF8000*>a<*color=80ff0000*>b<*color=0x12*>c", "c=ff8000 :a|c=80ff0000 :b|c=12 :c"},
+        {"<*font=x.ttf, size=9 ,underline*>a", "f=x.ttf s=9 u :a"},
+        {"H<*sub*>2<*/*>O m<*super*>2", ":H|_ :2|:O m|^ :2"},
+        {"<*underline*>a<*underline=0*>b<*/*>c<*/*>d", "u :a|:b|u :c|:d"},
+        {"a<*br*>b\nc\r\nd\re", ":a / :b / :c / :d / :e"},
+        {"<*underline*>a\nb<*br*>c", "u :a / u :b / u :c"},
+        {"a\n\nb\n", ":a /  / :b / "},
+        // "/" goes back one tag, also over an unknown one, and never below the box's own look.
+        {"<*size=9*>a<*blink*>b<*/*>c<*/*>d<*/*>e", "s=9 :abc|:de"},
+        {"<*size=9*>a<*br*>b<*/*>c", "s=9 :a / s=9 :b|:c"},
+        // Values that make no sense change nothing.
+        {"<*size=x,color=red,size=-3,size=nan*>a", ":a"},
+        {"<**>a<*=*>b<*,*>c", ":abc"},
+        // What is no closed tag is text.
+        {"a<*font=bold", ":a<*font=bold"},
+        {"a<b <* c <*size=9*>d", ":a<b <* c |s=9 :d"},
+        {"<*size=\n9*>", ":<*size= / :9*>"},
+        {"<*", ":<*"},
+        {"<", ":<"},
+        {"*>", ":*>"},
+        {"<*>", ":<*>"},
+    };
+    for (const auto& c : cases)
+        EXPECT_EQ(dump(parseMarkup(c.text)), c.expected) << c.text;
+}
+
+TEST(Markup, ZeroBytesAreText) {
+    const std::vector<MarkupLine> lines = parseMarkup(std::string_view("a\0b<*sub*>\0", 11));
+    ASSERT_EQ(lines.size(), 1U);
+    ASSERT_EQ(lines[0].size(), 2U);
+    EXPECT_EQ(lines[0][0].text, std::string("a\0b", 3));
+    EXPECT_EQ(lines[0][1].text, std::string(1, '\0'));
+}
+
+// A parser that looks through the rest of the text at each tag takes minutes here, one that copies a long
+// style at each tag takes gigabytes.
+TEST(Markup, LinearInHostileText) {
+    const std::string longName = "<*font=" + std::string(500'000, 'x') + "*>";
+    for (const std::string& unit : {std::string("<*"), std::string("<"), std::string("<*size=9*>a"),
+                                    std::string("<*/*>"), std::string("<*font=a,"), std::string("\r"),
+                                    longName + std::string(500'000, '<'), std::string("<*br*>")}) {
+        std::string text;
+        while (text.size() < 1'000'000)
+            text += unit;
+        const auto start = std::chrono::steady_clock::now();
+        EXPECT_GE(parseMarkup(text).size(), 1U);
+        EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(3)) << unit.substr(0, 10);
+    }
+}
+
+} // namespace chartdraw

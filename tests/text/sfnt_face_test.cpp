@@ -1,0 +1,132 @@
+#include "engine/text/sfnt_face.h"
+
+#include "engine/text/application.h"
+#include "engine/text/font_files.h"
+
+#include <QFile>
+#include <QFontDatabase>
+#include <QPainterPath>
+#include <QRawFont>
+#include <gtest/gtest.h>
+#include <random>
+
+namespace chartdraw {
+
+namespace {
+
+QByteArray bytesOf(const char* fileName) {
+    QFile file(findFontFile(fileName));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << fileName << " is not installed";
+    return file.readAll();
+}
+
+/// Widths of the letters in thousandths of the size.
+std::vector<int> widths(const QByteArray& font, const QString& text) {
+    const QRawFont raw(font, 1000, QFont::PreferNoHinting);
+    std::vector<int> result;
+    for (const QPointF advance : raw.advancesForGlyphIndexes(raw.glyphIndexesForString(text)))
+        result.push_back(qRound(advance.x()));
+    return result;
+}
+
+} // namespace
+
+TEST(SfntFace, TakesTheFaceMeant) {
+    ensureApplication();
+    const QByteArray collection = bytesOf("NotoSansCJK-Regular.ttc");
+    // Faces 0 to 4 are proportional, 5 to 9 have letters half an ideograph wide (the family's published
+    // design).
+    for (int index = 0; index < 10; ++index) {
+        const auto face = extractFace(collection, index, "face");
+        ASSERT_TRUE(face) << index;
+        EXPECT_FALSE(face->bold || face->italic);
+        const std::vector<int> w = widths(face->data, QStringLiteral("iW\u76f4"));
+        ASSERT_EQ(w.size(), 3U);
+        EXPECT_EQ(w[2], 1000) << index;
+        EXPECT_EQ(w[0] == 500 && w[1] == 500, index >= 5) << index;
+    }
+    // The same ideograph is another glyph in the Japanese and in the simplified Chinese face.
+    const auto glyph = [&](int index) {
+        const QRawFont raw(extractFace(collection, index, "face")->data, 20);
+        return raw.glyphIndexesForString(QStringLiteral("\u76f4")).value(0);
+    };
+    EXPECT_NE(glyph(0), glyph(2));
+
+    EXPECT_FALSE(extractFace(collection, 10, "face"));
+    EXPECT_FALSE(extractFace(collection, -1, "face"));
+    EXPECT_FALSE(extractFace(bytesOf("LiberationSans-Regular.ttf"), 1, "face"));
+}
+
+TEST(SfntFace, BearsTheGivenNameAndItsOwnStyle) {
+    ensureApplication();
+    const struct {
+        const char* file;
+        bool bold, italic;
+    } cases[] = {
+        {"LiberationSans-Regular.ttf", false, false}, {"LiberationSans-Bold.ttf", true, false},
+        {"LiberationSans-Italic.ttf", false, true},   {"DejaVuSans-BoldOblique.ttf", true, true},
+        {"NotoSansCJK-Bold.ttc", true, false},
+    };
+    for (const auto& c : cases) {
+        const auto face = extractFace(bytesOf(c.file), 0, "private-name");
+        ASSERT_TRUE(face) << c.file;
+        EXPECT_EQ(face->bold, c.bold) << c.file;
+        EXPECT_EQ(face->italic, c.italic) << c.file;
+        const int id = QFontDatabase::addApplicationFontFromData(face->data);
+        EXPECT_EQ(QFontDatabase::applicationFontFamilies(id), QStringList("private-name")) << c.file;
+        QFontDatabase::removeApplicationFont(id);
+    }
+}
+
+TEST(SfntFace, RefusesWhatIsNoFont) {
+    const QByteArray font = bytesOf("LiberationSans-Regular.ttf");
+    const auto refused = [](const QByteArray& bytes) { return !extractFace(bytes, 0, "x"); };
+    EXPECT_FALSE(refused(font));
+    EXPECT_TRUE(refused({}));
+    EXPECT_TRUE(refused("no font"));
+    EXPECT_TRUE(refused(QByteArray("ttcf\0\1\0\0\0\0\0\1\0\0\0\x0c", 16))); // A directory inside the header.
+    for (const qsizetype length : {4, 11, 12, 28, 300, 5000, 100'000})
+        EXPECT_TRUE(refused(font.first(length))) << length;
+    EXPECT_TRUE(refused(font + QByteArray(kMaxFontFile, '\0')));
+
+    // A hundred tables that all claim the same 10 MB.
+    QByteArray bomb = QByteArray("\0\1\0\0\0\x64\0\0\0\0\0\0", 12);
+    for (int i = 0; i < 100; ++i)
+        bomb += QByteArray(i < 1   ? "cmap"
+                           : i < 2 ? "head"
+                           : i < 3 ? "hhea"
+                           : i < 4 ? "hmtx"
+                                   : "maxp") +
+                QByteArray("\0\0\0\0\0\0\x10\0\0\xa0\0\0", 12);
+    EXPECT_TRUE(refused(bomb + QByteArray(11'000'000, '\1')));
+}
+
+// The bytes that come out of a damaged font still go to the toolkit: whatever they are, it must bear them.
+TEST(SfntFace, SurvivesDamage) {
+    ensureApplication();
+    const QByteArray font = bytesOf("NotoSansDeseret-Regular.ttf");
+    std::mt19937 random(20240229);
+    const auto below = [&](qsizetype n) {
+        return static_cast<qsizetype>(random() % static_cast<unsigned>(n));
+    };
+    int accepted = 0;
+    for (int round = 0; round < 500; ++round) {
+        QByteArray damaged = font;
+        const qsizetype reach = round % 2 ? 400 : damaged.size(); // Half of them in the directory.
+        for (qsizetype i = below(8); i >= 0; --i)
+            damaged[below(reach)] = static_cast<char>(below(256));
+        if (round % 5 == 0)
+            damaged.truncate(below(damaged.size()));
+        const auto face = extractFace(damaged, 0, "damaged");
+        if (!face)
+            continue;
+        ++accepted;
+        QRawFont raw(face->data, 12);
+        for (const quint32 glyph : raw.glyphIndexesForString(QStringLiteral("aW")))
+            raw.pathForGlyph(glyph);
+    }
+    EXPECT_GT(accepted, 100);
+    EXPECT_LT(accepted, 500);
+}
+
+} // namespace chartdraw
