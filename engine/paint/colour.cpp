@@ -125,7 +125,7 @@ QBrush metalBrush(const QColor& base, int angle, const QRectF& extent) {
     return gradient;
 }
 
-/// The mean of a tile, weighted by alpha; large tiles are sampled.
+/// The mean of a tile, weighted by alpha; large tiles are sampled. Only a clear tile has a clear mean.
 QColor meanColour(const QImage& tile) {
     const int stepX = std::max(1, tile.width() / 128);
     const int stepY = std::max(1, tile.height() / 128);
@@ -146,7 +146,7 @@ QColor meanColour(const QImage& tile) {
         return alpha == 0 ? 0
                           : static_cast<int>(std::min<std::int64_t>(255, (value * 255 + alpha / 2) / alpha));
     };
-    return {channel(sum[0]), channel(sum[1]), channel(sum[2]), static_cast<int>((alpha + count / 2) / count)};
+    return {channel(sum[0]), channel(sum[1]), channel(sum[2]), static_cast<int>((alpha + count - 1) / count)};
 }
 
 } // namespace

@@ -36,8 +36,10 @@ constexpr Colour orDefault(Colour colour, Colour fallback) {
     return colour == kDefaultColour ? fallback : colour;
 }
 
-/// A metal token for a base colour and an angle in degrees. Tokens live as long as the process and mean the
-/// same in every chart; the same pair gives the same token. Safe to call from any thread.
+/// A metal token for a base colour and the angle in degrees that the bands follow one another in: 0 from left
+/// to right, 90 from top to bottom. Tokens live as long as the process and mean the
+/// same in every chart; the same pair gives the same token. There are 65536; after that the base is returned.
+/// Safe to call from any thread.
 Colour metalColour(Colour base, int angle);
 
 /// The colours of one chart: the palette and the chart's own patterns. Not shared between threads.
@@ -46,7 +48,7 @@ public:
     ColourTable();
 
     /// Registers a tile and returns its token. (startX, startY) is the pixel of the picture where a tile
-    /// begins. A null image gives kTransparent.
+    /// begins. A null image gives kTransparent. In another chart the token is unknown, so invisible.
     Colour addPattern(const QImage& tile, int startX, int startY);
 
     /// The plain colour that stands for a value: palette entries looked up, a metal's base, a pattern's mean

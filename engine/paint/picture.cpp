@@ -35,6 +35,10 @@ QByteArray formatOf(const QByteArray& bytes) {
     return {};
 }
 
+bool isReadable(QSize size) {
+    return !size.isEmpty() && size.width() <= kMaxSide && size.height() <= kMaxSide;
+}
+
 struct CachedFile {
     QString path;
     qint64 size;
@@ -88,12 +92,12 @@ QImage decodePicture(const QByteArray& bytes) {
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    const QSize size = reader.size();
-    if (size.isEmpty() || size.width() > kMaxSide || size.height() > kMaxSide) {
+    QImage image;
+    if (!isReadable(reader.size()) || !reader.read(&image)) {
         return {};
     }
-    QImage image;
-    if (!reader.read(&image)) {
+    // A GIF's first frame may be announced smaller than the screen that it is given on.
+    if (!isReadable(image.size())) {
         return {};
     }
     return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
