@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace chartdraw {
 namespace {
@@ -101,8 +102,20 @@ void DataRange::add(double value) {
 }
 
 void DataRange::add(std::span<const double> values) {
-    for (const double value : values)
-        add(value);
+    // In locals and without branches on the data: a line may have millions of points.
+    constexpr double none = std::numeric_limits<double>::infinity();
+    double low = none;
+    double high = -none;
+    double positive = none;
+    for (const double value : values) {
+        const bool counts = isValue(value);
+        low = counts && value < low ? value : low;
+        high = counts && value > high ? value : high;
+        positive = counts && value > 0 && value < positive ? value : positive;
+    }
+    add(low);
+    add(high);
+    add(positive);
 }
 
 void DataRange::add(const DataRange& other) {

@@ -11,34 +11,34 @@
 namespace chartdraw {
 namespace {
 
-enum class Part { Year, ShortYear, Month, MonthName, Day, DayName, Hour, Minute, Second, Milli, HalfDay };
+enum class Element { Year, ShortYear, Month, MonthName, Day, DayName, Hour, Minute, Second, Milli, HalfDay };
 
 struct Form {
     std::string_view letters;
-    Part part;
+    Element element;
     int width = 0; // of numbers: least digits; of names: how many letters, 0 for all of them
     bool upperCase = false;
 };
 
 // Of forms that begin alike the longest stands first.
 constexpr Form kForms[] = {
-    {"yyyy", Part::Year, 4},
-    {"yy", Part::ShortYear, 2},
-    {"mmmm", Part::MonthName},
-    {"mmm", Part::MonthName, 3},
-    {"MMM", Part::MonthName, 3, true},
-    {"mm", Part::Month, 2},
-    {"m", Part::Month, 1},
-    {"dddd", Part::DayName},
-    {"ddd", Part::DayName, 3},
-    {"dd", Part::Day, 2},
-    {"d", Part::Day, 1},
-    {"hh", Part::Hour, 2},
-    {"h", Part::Hour, 1},
-    {"nn", Part::Minute, 2},
-    {"ss", Part::Second, 2},
-    {"fff", Part::Milli, 3},
-    {"a", Part::HalfDay},
+    {"yyyy", Element::Year, 4},
+    {"yy", Element::ShortYear, 2},
+    {"mmmm", Element::MonthName},
+    {"mmm", Element::MonthName, 3},
+    {"MMM", Element::MonthName, 3, true},
+    {"mm", Element::Month, 2},
+    {"m", Element::Month, 1},
+    {"dddd", Element::DayName},
+    {"ddd", Element::DayName, 3},
+    {"dd", Element::Day, 2},
+    {"d", Element::Day, 1},
+    {"hh", Element::Hour, 2},
+    {"h", Element::Hour, 1},
+    {"nn", Element::Minute, 2},
+    {"ss", Element::Second, 2},
+    {"fff", Element::Milli, 3},
+    {"a", Element::HalfDay},
 };
 
 constexpr std::array<std::string_view, 12> kMonths = {"January",   "February", "March",    "April",
@@ -99,10 +99,10 @@ void walk(std::string_view spec, OnForm onForm, OnText onText) {
     }
 }
 
-bool shows(std::string_view spec, Part part) {
+bool shows(std::string_view spec, Element element) {
     bool found = false;
     walk(
-        spec, [&](const Form& form) { found = found || form.part == part; }, [](std::string_view) {});
+        spec, [&](const Form& form) { found = found || form.element == element; }, [](std::string_view) {});
     return found;
 }
 
@@ -129,28 +129,28 @@ struct Moment {
 
 void appendForm(std::string& out, const Form& form, const Moment& moment) {
     const CivilTime& civil = moment.civil;
-    switch (form.part) {
-    case Part::Year:
+    switch (form.element) {
+    case Element::Year:
         return appendPadded(out, civil.year, form.width);
-    case Part::ShortYear:
+    case Element::ShortYear:
         return appendPadded(out, civil.year % 100, form.width);
-    case Part::Month:
+    case Element::Month:
         return appendPadded(out, civil.month, form.width);
-    case Part::MonthName:
+    case Element::MonthName:
         return appendName(out, kMonths[static_cast<std::size_t>(civil.month - 1)], form);
-    case Part::Day:
+    case Element::Day:
         return appendPadded(out, civil.day, form.width);
-    case Part::DayName:
+    case Element::DayName:
         return appendName(out, kDays[static_cast<std::size_t>(civil.weekday)], form);
-    case Part::Hour:
+    case Element::Hour:
         return appendPadded(out, moment.halfDays ? (civil.hour + 11) % 12 + 1 : civil.hour, form.width);
-    case Part::Minute:
+    case Element::Minute:
         return appendPadded(out, civil.minute, form.width);
-    case Part::Second:
+    case Element::Second:
         return appendPadded(out, civil.second, form.width);
-    case Part::Milli:
+    case Element::Milli:
         return appendPadded(out, moment.milli, form.width);
-    case Part::HalfDay:
+    case Element::HalfDay:
         out += civil.hour < 12 ? "am" : "pm";
     }
 }
@@ -166,13 +166,13 @@ void appendDate(std::string& out, double time, std::string_view spec) {
     if (!isValue(time))
         return;
     Moment moment;
-    if (shows(spec, Part::Milli)) {
+    if (shows(spec, Element::Milli)) {
         const double millis = std::round(std::clamp(time, kFirstChartTime, kLastChartTime) * 1000);
         time = std::floor(millis / 1000);
         moment.milli = static_cast<int>(millis - time * 1000);
     }
     moment.civil = toCivil(time);
-    moment.halfDays = shows(spec, Part::HalfDay);
+    moment.halfDays = shows(spec, Element::HalfDay);
     walk(
         spec, [&](const Form& form) { appendForm(out, form, moment); },
         [&](std::string_view text) { out += text; });

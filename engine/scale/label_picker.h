@@ -10,7 +10,7 @@
 namespace chartdraw {
 
 /// One rule: a filter and how its labels are spread. The rule's number, its place in the list, tells the
-/// caller the format.
+/// caller the format; an empty format means the axis's own.
 struct LabelRule {
     /// The start filters pass an item when a unit of the calendar (hour, day, week from Monday, month, year)
     /// begins between the item before and this one. With a step of n only every n-th unit counts, counted in

@@ -20,9 +20,9 @@ struct Digits {
 
 constexpr double kGapOf9To10 = 0.0457; // log10(10 / 9)
 constexpr double kGapOf1To2 = 0.301;   // log10(2)
-const Digits kAll = {{1, 2, 3, 4, 5, 6, 7, 8, 9}, kGapOf9To10};
-const Digits k125 = {{1, 2, 5}, kGapOf1To2};
-const Digits k1 = {{1}, 1};
+constexpr Digits kAll = {{1, 2, 3, 4, 5, 6, 7, 8, 9}, kGapOf9To10};
+constexpr Digits k125 = {{1, 2, 5}, kGapOf1To2};
+constexpr Digits k1 = {{1}, 1};
 
 std::vector<double> multiples(const Scale& scale, const Digits& set, int everyDecade = 1) {
     std::vector<double> values;

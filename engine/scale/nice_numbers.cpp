@@ -63,10 +63,13 @@ double ceilToStep(double value, double step) {
     return -floorToStep(-value, step);
 }
 
+int finestDecimals(double step, double origin) {
+    return origin == 0 ? decimalsOf(step) : std::max(decimalsOf(step), decimalsOf(origin));
+}
+
 int stepDecimals(double step, double origin) {
-    // An uneven step (a seventh of something) is shown with four digits of its own, not with all fifteen.
     const int enough = 3 - exponentOf(step);
-    const int all = std::max(decimalsOf(step), origin == 0 ? -400 : decimalsOf(origin));
+    const int all = finestDecimals(step, origin);
     return all > enough + 2 ? enough : all;
 }
 

@@ -7,9 +7,8 @@
 
 namespace chartdraw {
 
-/// Smallest step of 1, 2 or 5 times a power of ten, or of 25 times one that is whole, that is not below
-/// `least` (but for a relative 1e-9). `least` at or below 0, NaN or infinite gives 1. Between 1e-307 and
-/// 1e307.
+/// Smallest step not below `least` (but for a relative 1e-9) of 1, 2 or 5 times a power of ten or of 25, 250,
+/// 2500... `least` at or below 0, NaN or infinite gives 1; others are limited to 1e-307..2e307.
 double niceStep(double least);
 
 /// The step after `step` in that row: 1, 2, 5, 10, 20, 25, 50, 100...
@@ -24,8 +23,10 @@ double roundToDecimals(double value, int decimals);
 double floorToStep(double value, double step);
 double ceilToStep(double value, double step);
 
-/// How many decimals values need that lie `step` apart, counted from `origin` (below 0 for tens,
-/// hundreds...).
+/// How many decimals values have that lie `step` apart, counted from `origin` (below 0: tens, hundreds...).
+int finestDecimals(double step, double origin = 0);
+
+/// The same for reading: an uneven step, such as a third, is shown with four digits of its own.
 int stepDecimals(double step, double origin = 0);
 
 /// Texts of values that lie `step` apart: all with the decimals of the step (and of `origin`, when the values

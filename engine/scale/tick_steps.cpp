@@ -1,7 +1,6 @@
 #include "engine/scale/tick_steps.h"
 
 #include "engine/scale/nice_numbers.h"
-#include "engine/scale/number_text.h"
 
 #include <cmath>
 #include <cstdint>
@@ -29,7 +28,7 @@ double readableStep(double given, double least) {
 }
 
 std::vector<double> stepValues(double lower, double upper, double origin, double step) {
-    const int decimals = std::max(decimalsOf(step), origin == 0 ? -400 : decimalsOf(origin));
+    const int decimals = finestDecimals(step, origin);
     const auto first = static_cast<std::int64_t>(ceilToStep(lower - origin, step));
     const auto last = static_cast<std::int64_t>(floorToStep(upper - origin, step));
     std::vector<double> values;

@@ -103,9 +103,7 @@ TEST(LabelPicker, StartsAndTheirSteps) {
         {FilterType::NonePass, 1, 1, 0, ""},
     };
     for (const Case& c : cases) {
-        std::string plain;
-        for (const char ch : shown(days, c.first, {rule(c.type, c.step, c.margin, 1, false)}))
-            plain += ch;
+        std::string plain = shown(days, c.first, {rule(c.type, c.step, c.margin, 1, false)});
         for (std::size_t at; (at = plain.find(":0")) != std::string::npos;)
             plain.erase(at, 2);
         EXPECT_EQ(plain, c.items) << static_cast<int>(c.type) << " step " << c.step << " margin " << c.margin;

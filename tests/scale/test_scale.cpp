@@ -54,6 +54,8 @@ TEST(NiceNumbers, DecimalsAndLabels) {
     EXPECT_EQ(decimalsOf(5000), -3);
     EXPECT_EQ(exponentOf(0.25), -1);
     EXPECT_EQ(exponentOf(9.9999999999999999), 1);
+    EXPECT_EQ(numberText(12.5, NumberSpec::atMost(2)), "12.5");
+    EXPECT_EQ(numberText(0.126, NumberSpec::atMost(2)), "0.13");
     using Texts = std::vector<std::string>;
     EXPECT_EQ(stepLabels({0, 0.25, 0.5}, 0.25), (Texts{"0.00", "0.25", "0.50"}));
     EXPECT_EQ(stepLabels({0.5, 1.5}, 1, 0.5), (Texts{"0.5", "1.5"}));

@@ -112,6 +112,34 @@ TEST(AutoScale, LinearLimits) {
     }
 }
 
+TEST(AutoScale, RangesOfData) {
+    const std::vector<double> values = {4, kNan, -2, kNoValue, 0.5, -kInf, 0};
+    DataRange data;
+    data.add(values);
+    EXPECT_FALSE(data.empty);
+    EXPECT_EQ(data.min, -2);
+    EXPECT_EQ(data.max, 4);
+    EXPECT_EQ(data.minPositive, 0.5);
+    data.add(range({}));
+    data.add(range({9, 0.25}));
+    EXPECT_EQ(data.max, 9);
+    EXPECT_EQ(data.minPositive, 0.25);
+    DataRange gaps;
+    gaps.add(std::vector<double>{kNan, kNoValue});
+    EXPECT_TRUE(gaps.empty);
+}
+
+TEST(AutoScale, DatesKeepTheirLimits) {
+    const double day = chartTime(2003, 5, 1);
+    const Scale plain = autoDateScale(range({day, day + 80000}), {0, 0, 0});
+    EXPECT_EQ(plain.lower(), day);
+    EXPECT_EQ(plain.upper(), day + 80000);
+    EXPECT_EQ(autoDateScale(range({day, day + 80000}), {0.1, 0.1, 0}).upper(), day + 90000)
+        << "a tenth of 100000";
+    EXPECT_EQ(autoDateScale({}, {}).lower(), chartTime(2000, 1, 1));
+    EXPECT_EQ(autoDateScale(range({1e300}), {}).upper(), kLastChartTime + 1);
+}
+
 TEST(AutoScale, AnyDataGiveLimitsOnTicks) {
     const double values[] = {-DBL_MAX, -1e300, -123.4,  -1e-300, 0,     DBL_MIN, 1e-300,
                              0.7,      1e9,    1e9 + 1, 1e15,    1e300, DBL_MAX};
