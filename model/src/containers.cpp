@@ -5,7 +5,7 @@ namespace {
 
 template <class Element>
 void assignElements(void*& elements, const void* other) {
-    if (elements != other && (elements || other))
+    if (elements || other)
         model::editList<Element>(elements) = model::viewList<Element>(other);
 }
 

@@ -2,14 +2,10 @@
 
 // The parts of a value class that are the same for all: copying member by member, behind exported functions.
 
-/// The copying operations of a value class, member by member.
-#define DEFINE_COPYING(Class)                                                                                \
-    Class::Class(const Class& other) = default;                                                              \
-    Class& Class::operator=(const Class& other) = default;
-
 /// The copying operations and the destructor of a value class, member by member.
 #define DEFINE_VALUE_CLASS(Class)                                                                            \
-    DEFINE_COPYING(Class)                                                                                    \
+    Class::Class(const Class& other) = default;                                                              \
+    Class& Class::operator=(const Class& other) = default;                                                   \
     Class::~Class() = default;
 
 /// A plain record: its copy constructor is no function at all.
