@@ -9,7 +9,7 @@ template <class T>
 class CBinding {
 public:
     /// A field of the model. It must outlive the page.
-    CBinding(T& field) : m_shown([&field] { return &field; }), m_target(m_shown) {}
+    CBinding(T& field) : m_shown([&field] { return &field; }), m_target([&field] { return &field; }) {}
 
     /// A field of an item: the one to show, and the one to store into, null for nowhere.
     CBinding(std::function<const T*()> shown, std::function<T*()> target)

@@ -2,7 +2,7 @@
 
 #include "editors/framework/mnemonics.h"
 
-#include "platform/widgets/dialog.h"
+#include "platform/widgets/field_changed.h"
 
 #include <QAbstractButton>
 #include <QCheckBox>
@@ -42,7 +42,10 @@ std::vector<const char*> Listed(const char* const* texts) {
 CForm::CForm(CDialog& page, std::function<void()> notify)
     : m_page(page), m_notify(std::move(notify)), m_columns(new QHBoxLayout(&page)) {
     m_columns->setContentsMargins(6, 6, 6, 6);
+    page.SetControls(this);
 }
+
+CForm::CForm(CDialog& page, QWidget& owner) : CForm(page, [&owner] { SendFieldChanged(&owner, 0); }) {}
 
 CForm::~CForm() = default;
 

@@ -1,7 +1,7 @@
 #pragma once
 // A page, written as a table: groups and rows in reading order, one line a property. The form makes the
 // controls and their labels, holds the mirrors, limits and rounds, commits changes to the model and tells of
-// them. A page is a CDialog that has a form and hands its data exchange, Enter and field messages to it.
+// them. A page is a CDialog that has a form.
 //
 //     m_form.Group("LineWidth");
 //     m_form.Integer("AxisWidth:", meter.m_axisWidth).Step(1).Floor(0);
@@ -11,21 +11,25 @@
 
 #include "editors/framework/form_rows.h"
 #include "editors/framework/list_editor.h"
+#include "platform/widgets/dialog.h"
 
 #include <functional>
 #include <memory>
 #include <vector>
 
-class CDialog;
 class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
 
-class CForm {
+class CForm final : public CDialogControls {
 public:
-    /// `notify` is what every committed change ends with: a message to the dialog, or a new preview.
+    /// `notify` is what every committed change ends with.
     CForm(CDialog& page, std::function<void()> notify);
+    /// A hosted page: every committed change ends with a message to the dialog that hosts it.
+    CForm(CDialog& page, QWidget& owner);
+    CForm(const CForm&) = delete;
+    CForm& operator=(const CForm&) = delete;
     ~CForm();
 
     // What stands where. Rows go into the current group, groups into the current column.
@@ -64,11 +68,10 @@ public:
     /// Ends the table: model into mirrors, mirrors into controls, letters for Alt, lists filled.
     void Done();
 
-    // What the page hands on.
-    bool Exchange(bool read);
-    /// Enter: commits the text or number edit that has the focus; false when none has.
-    bool CommitFocused();
-    void FieldChanged(int key);
+    // What the page asks for.
+    bool Exchange(bool read) override;
+    bool CommitFocused() override;
+    void FieldChanged(int key) override;
 
     // For rows and lists.
     CDialog& Page() { return m_page; }

@@ -69,7 +69,9 @@ bool CFormRow::TakeField(int /*key*/) {
     return false;
 }
 
-QWidget* CFormRow::PageWidget() const { return &m_form.Page(); }
+QWidget* CFormRow::PageWidget() const {
+    return &m_form.Page();
+}
 
 void CFormRow::NotifyChange() {
     m_form.Notify();

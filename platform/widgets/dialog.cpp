@@ -36,6 +36,7 @@ int CDialog::DoModal() {
 }
 
 bool CDialog::Create(QWidget* parent) {
+    m_hosted = true;
     setParent(parent, Qt::Widget);
     return OnInitDialog();
 }

@@ -4,6 +4,20 @@
 
 #include <QDialog>
 
+/// The controls of a dialog as a whole, where something stands between them and the dialog's members.
+class CDialogControls {
+public:
+    /// Between controls and members; false when a control holds what cannot be read.
+    virtual bool Exchange(bool read) = 0;
+    /// Commits the text or number edit that has the focus; false when none has.
+    virtual bool CommitFocused() = 0;
+    /// The message of a field on the dialog.
+    virtual void FieldChanged(int key) = 0;
+
+protected:
+    ~CDialogControls() = default;
+};
+
 class CDialog : public QDialog {
 public:
     static constexpr int kOK = 1;
@@ -25,13 +39,17 @@ public:
     /// The message of a field or page below; the key is 0 for a plain change.
     virtual void OnFieldChanged(int key);
 
+    /// Says what the virtual operations below work on; it must live as long as the dialog is used.
+    void SetControls(CDialogControls* controls) { m_controls = controls; }
+
 protected:
     virtual bool DoDataExchange(bool read);
     /// Fills the controls; the base writes the members to them.
     virtual bool OnInitDialog();
-    /// Enter, and the OK button: the base ends the modal loop, after reading the controls.
+    /// Enter, and the OK button. Enter in an edit commits it and nothing more. Otherwise a modal dialog reads
+    /// its controls and ends; a part of another dialog does nothing.
     virtual void OnOK();
-    /// Esc, the close box, and the Cancel button.
+    /// Esc, the close box, and the Cancel button: ends a modal dialog, does nothing in a part of another one.
     virtual void OnCancel();
 
     /// The row of buttons at the foot of a modal dialog.
@@ -40,6 +58,10 @@ protected:
     bool event(QEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
+
+private:
+    CDialogControls* m_controls = nullptr;
+    bool m_hosted = false; ///< a part of another dialog
 };
 
 /// A message box with a warning icon and one button.
