@@ -1,6 +1,6 @@
 #include "engine/pie/pie_painter.h"
 
-#include <cmath>
+#include <algorithm>
 #include <numbers>
 
 namespace chartdraw {
@@ -8,9 +8,10 @@ namespace chartdraw {
 namespace {
 
 constexpr Colour kFaceEdge = 0x00ffffff;
-/// Neighbours overlap by this many pixels at the rim: two smoothed edges side by side would let the
-/// background shine through.
-constexpr double kOverlap = 0.75;
+// Two smoothed edges side by side let the background shine through, so what is drawn earlier reaches under
+// its neighbours: faces by an angle, which holds in the centre as well, walls by pixels.
+constexpr double kFaceOverlap = std::numbers::pi / 8;
+constexpr double kWallOverlap = 0.75;
 
 class PiePainter {
 public:
@@ -33,12 +34,18 @@ public:
     }
 
     void faces() {
+        PieBody under = m_pie.body;
+        under.radius -= 1; // what reaches under others must not colour their rims
+        under.inner += under.inner > 0 ? 1 : 0;
         for (std::size_t i = 0; i < m_sectors.size(); ++i) {
             const SectorLook& sector = m_sectors[i];
-            // Each face reaches under the next one, which is drawn later; the first also under the last.
-            const bool last = i + 1 == m_sectors.size();
-            const SectorSpan span = widened(i, i == 0, !last);
-            m_canvas.fillPath(m_pie.body.face(sector.centre, span), sector.fill, &m_extent);
+            const double ahead = joinedAhead(i);
+            const double behind = i == 0 ? joinedBehind() : 0;
+            if (ahead + behind > 0 && under.radius > under.inner) {
+                const SectorSpan reach{sector.span.start - behind, behind + sector.span.span + ahead};
+                m_canvas.fillPath(under.face(sector.centre, reach), sector.fill, &m_extent);
+            }
+            m_canvas.fillPath(m_pie.body.face(sector.centre, sector.span), sector.fill, &m_extent);
         }
         for (const SectorLook& sector : m_sectors) {
             m_canvas.strokePath(m_pie.body.face(sector.centre, sector.span),
@@ -56,23 +63,36 @@ private:
         return a != b && m_sectors[a].centre == m_sectors[b].centre && opaque(a) && opaque(b);
     }
 
-    /// The span of a sector, reaching under its neighbours on the sides asked for.
-    SectorSpan widened(std::size_t i, bool atStart, bool atEnd) const {
-        SectorSpan span = m_sectors[i].span;
-        const double more = kOverlap / m_pie.body.radius;
-        if (atStart && joined(i, before(i))) {
-            span.start -= more;
-            span.span += more;
+    /// The angle that sector `i` may reach under those after it.
+    double joinedAhead(std::size_t i) const {
+        double angle = 0;
+        for (; i + 1 < m_sectors.size() && angle < kFaceOverlap && joined(i, i + 1); ++i) {
+            angle += m_sectors[i + 1].span.span;
         }
-        if (atEnd && joined(i, next(i))) {
-            span.span += more;
+        return std::min(angle, kFaceOverlap);
+    }
+
+    /// The angle that the first sector may reach under the last ones: all around, so that the centre is
+    /// closed.
+    double joinedBehind() const {
+        double angle = 0;
+        for (std::size_t i = m_sectors.size() - 1; i > 0 && joined(i, next(i)); --i) {
+            angle += m_sectors[i].span.span;
         }
-        return span;
+        return angle;
     }
 
     void outerWall(std::size_t i) {
         // Reaching only under walls that are still to come.
-        const SectorSpan span = widened(i, !m_wallDrawn[before(i)], !m_wallDrawn[next(i)]);
+        const double more = kWallOverlap / m_pie.body.radius;
+        SectorSpan span = m_sectors[i].span;
+        if (joined(i, before(i)) && !m_wallDrawn[before(i)]) {
+            span.start -= more;
+            span.span += more;
+        }
+        if (joined(i, next(i)) && !m_wallDrawn[next(i)]) {
+            span.span += more;
+        }
         m_wallDrawn[i] = true;
         const QRectF rim = m_pie.body.bounds(m_sectors[i].centre);
         QLinearGradient shade(rim.left(), 0, rim.right(), 0);
