@@ -16,7 +16,7 @@ struct LabelRule {
     /// begins between the item before and this one. With a step of n only every n-th unit counts, counted in
     /// the next larger one: hours of the day, days and months from the first of the month and of the year,
     /// weeks and years throughout; so months in steps of 3 are January, April, July and October. The first
-    /// item shown also passes when no more than the initial margin, a part 0 to 1 of the unit, has gone by.
+    /// item shown also passes when no more than the initial margin, a fraction of the unit, has gone by.
     /// RegularSpacing and AllPass pass every n-th item from the first one shown, NonePass none.
     LabelFilter filter;
     /// Least number of items from a label to the next; 1 or less: no limit. Labels of an earlier rule stand,
