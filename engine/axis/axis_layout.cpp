@@ -101,18 +101,28 @@ QPointF alongOnly(const AxisPlace& place, QPointF by) {
     return place.upright() ? QPointF(0, by.y()) : QPointF(by.x(), 0);
 }
 
-/// Keeps labels at the ends inside the picture, and takes away a neighbour that one then lies over.
+/// Moves labels at the ends into the room, and takes away a neighbour that one then lies over. Slanted labels
+/// stay at their ticks.
 void keepInside(std::vector<AxisLayout::Label>& labels, const AxisPlace& place) {
-    for (AxisLayout::Label& label : labels) {
-        label.move(alongOnly(place, intoPicture(label.box(), place.picture)));
+    const auto close = [&](const AxisLayout::Label& a, const AxisLayout::Label& b) {
+        const double air = place.upright() ? 0 : kLabelGap;
+        return a.box().adjusted(-air, 0, air, 0).intersects(b.box());
+    };
+    const auto moved = [&](AxisLayout::Label& label) {
+        const QPointF by = label.pivot ? QPointF() : alongOnly(place, intoPicture(label.box(), place.room));
+        label.move(by);
+        return !by.isNull();
+    };
+    if (labels.empty()) {
+        return;
     }
-    if (labels.size() > 2) {
-        if (labels.front().box().intersects(labels[1].box())) {
-            labels.erase(labels.begin() + 1);
-        }
-        if (labels.size() > 2 && labels.back().box().intersects(labels[labels.size() - 2].box())) {
-            labels.erase(labels.end() - 2);
-        }
+    const bool frontMoved = moved(labels.front());
+    if (frontMoved && labels.size() > 2 && close(labels.front(), labels[1])) {
+        labels.erase(labels.begin() + 1);
+    }
+    const bool backMoved = moved(labels.back());
+    if (backMoved && labels.size() > 2 && close(labels.back(), labels[labels.size() - 2])) {
+        labels.erase(labels.end() - 2);
     }
 }
 

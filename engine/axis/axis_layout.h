@@ -19,7 +19,8 @@ struct AxisPlace {
     int across = 0; ///< pixel row or column of the line; a wider line grows outwards
     int lower = 0;  ///< pixels of the limits of the scale
     int upper = 0;
-    QRect picture;            ///< what labels should not leave
+    QRect picture;            ///< what title and marks should not leave
+    QRect room;               ///< what labels should not leave along the axis
     std::optional<int> avoid; ///< pixel along the axis where something crosses the labels' room
 
     bool upright() const { return side == 4 || side == 6; }

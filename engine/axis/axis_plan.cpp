@@ -15,7 +15,7 @@ namespace {
 using Type = ScaleSettings::Type;
 
 constexpr int kAttempts = 6;
-constexpr double kLevelSpacing = 40;   // pixels between ticks of a level axis, where labels are short
+constexpr double kLevelSpacing = 40;   // pixels between ticks of a level axis
 constexpr double kUprightSpacing = 30; // and of an upright one
 
 class Planner {
@@ -108,8 +108,11 @@ private:
         if (settings().majorSpacing > 0) {
             return settings().majorSpacing;
         }
-        return m_request.upright ? std::max(kUprightSpacing, 2.2 * m_fit.lineHeight())
-                                 : std::max(kLevelSpacing, 3 * m_fit.lineHeight());
+        // A level axis starts dense: what its labels want in breadth is found by looking at them. Rows are
+        // worth a label each where it fits.
+        const double spacing =
+            m_request.upright ? std::max(kUprightSpacing, 1.8 * m_fit.lineHeight()) : kLevelSpacing;
+        return rows() ? spacing / 2 : spacing;
     }
 
     AxisPlan numericPlan() const {

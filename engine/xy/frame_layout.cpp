@@ -156,7 +156,7 @@ private:
                        : place.side == Right     ? plot.right() + own.offset
                        : place.side == TopCenter ? plot.top() - own.offset
                                                  : plot.bottom() + own.offset;
-        place.picture = QRect(0, 0, m_chart.width(), m_chart.height());
+        place.picture = place.room = QRect(0, 0, m_chart.width(), m_chart.height());
         // Axes that are tied stand value by value beside each other, so they share margins and direction.
         const Axis* root = m_axes[m_ties[index].root].axis;
         place.setScaleEnds((root->direction() == own.axis->direction() ? root : own.axis)->scale());
@@ -217,6 +217,7 @@ private:
         if (zero != place.across) {
             place.across = zero;
             place.avoid = otherPlace.across;
+            place.room = m_frame.plot.adjusted(2, 2, -2, -2); // labels stand between the lines of the frame
         }
     }
 
@@ -232,6 +233,20 @@ private:
                 }
             }
             m_frame.axes.push_back(layoutAxis(*m_axes[i].axis, std::move(m_plans[i]), place));
+        }
+        clearCrossing();
+    }
+
+    /// Where the first axes cross inside the plot area, labels of the y axis give way to those of the x axis.
+    void clearCrossing() {
+        const AxisLayout& x = m_frame.axes[kFirstX];
+        AxisLayout& y = m_frame.axes[kFirstY];
+        if (x.place.avoid && y.place.avoid) {
+            std::erase_if(y.labels, [&](const AxisLayout::Label& label) {
+                return std::any_of(x.labels.begin(), x.labels.end(), [&](const AxisLayout::Label& other) {
+                    return label.box().intersects(other.box());
+                });
+            });
         }
     }
 
