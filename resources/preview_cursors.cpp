@@ -7,15 +7,15 @@ const char* const closedHand[] = {
     "                ", //
     "                ", //
     "                ", //
-    "                ", //
     "    ## ## ##    ", //
     "   #oo#oo#oo##  ", //
-    "   #oo#oo#oo#o# ", //
-    "    #oooooooo#o#", //
-    "   ##ooooooooo# ", //
+    "   #ooooooooo#o#", //
+    "    #oooooooooo#", //
+    "  ###oooooooooo#", //
+    " #oo#oooooooooo#", //
+    " #ooooooooooooo#", //
+    " #oooooooooooo# ", //
     "  #ooooooooooo# ", //
-    "  #ooooooooooo# ", //
-    "  #oooooooooo#  ", //
     "   #ooooooooo#  ", //
     "    #oooooooo#  ", //
     "     #oooooo#   ", //
