@@ -1,0 +1,41 @@
+#include "editors/framework/color_field.h"
+
+#include "colour/color_dlg.h"
+#include "editors/framework/field_layout.h"
+#include "preview/chart_preview_view.h"
+#include "resources/string_table.h"
+
+#include <QLabel>
+
+CChartColorField::CChartColorField()
+    : m_preview(new CChartPreviewView(this)), m_type(new QLabel(this)),
+      m_typeText(QString::fromUtf8(LoadChartString(1))) {
+    LaySwatchField(*this, *m_preview, *m_type, [this] { Choose(); });
+}
+
+void CChartColorField::SetValueAndShow(const CChartColor& color) {
+    m_color = color;
+    if (color.m_type >= 0 && color.m_type <= 2) {
+        constexpr int kTexts[] = {1, 3, 2}; // General, Pattern, Metal
+        m_typeText = QString::fromUtf8(LoadChartString(kTexts[color.m_type]));
+    }
+    UpdateData(false);
+}
+
+bool CChartColorField::DoDataExchange(bool read) {
+    if (!read) {
+        m_type->setText(m_typeText);
+        m_preview->SetSampleColor(m_color);
+        m_preview->RefreshPreview();
+    }
+    return true;
+}
+
+void CChartColorField::Choose() {
+    CColorDlg dialog;
+    dialog.m_color = m_color;
+    if (dialog.DoModal() == kOK) {
+        SetValueAndShow(dialog.m_color);
+        SendToPage(*this, m_key);
+    }
+}

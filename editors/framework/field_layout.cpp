@@ -1,0 +1,37 @@
+#include "editors/framework/field_layout.h"
+
+#include "platform/widgets/dialog.h"
+#include "platform/widgets/field_changed.h"
+
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPushButton>
+
+void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::function<void()>& choose) {
+    auto* button = new QPushButton(QStringLiteral("..."), &field);
+    const int height = button->sizeHint().height();
+    button->setFixedWidth(height * 3 / 2);
+    button->setAutoDefault(false);
+    swatch.setFixedHeight(height);
+    swatch.setMinimumWidth(height * 2);
+    swatch.setFocusPolicy(Qt::NoFocus);
+
+    auto* row = new QHBoxLayout(&field);
+    row->setContentsMargins(0, 0, 0, 0);
+    row->addWidget(&swatch, 1);
+    row->addWidget(button);
+    row->addWidget(&text);
+    field.setFocusProxy(button);
+    QObject::connect(button, &QPushButton::clicked, &field, choose);
+    // The name that the page gives to the field is the button's too: it is what takes the focus.
+    QObject::connect(&field, &QObject::objectNameChanged, button,
+                     [button](const QString& name) { button->setAccessibleName(name + QStringLiteral("...")); });
+}
+
+void SendToPage(CDialog& field, int key) {
+    QWidget* above = field.parentWidget();
+    while (above != nullptr && dynamic_cast<CDialog*>(above) == nullptr) {
+        above = above->parentWidget();
+    }
+    SendFieldChanged(above, key);
+}

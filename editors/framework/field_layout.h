@@ -1,0 +1,14 @@
+#pragma once
+// What the fields have in common: the row of a swatch, a "..." button and a text, and the way to their page.
+
+#include <functional>
+
+class CDialog;
+class QLabel;
+class QWidget;
+
+/// Lays out a field as swatch, button and text in one row. `choose` is called by the button.
+void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::function<void()>& choose);
+
+/// Sends the message of a changed field to the page that it stands on, the nearest dialog above it.
+void SendToPage(CDialog& field, int key);

@@ -1,0 +1,34 @@
+#include "editors/framework/image_field.h"
+
+#include "colour/image_file_dlg.h"
+#include "editors/framework/field_layout.h"
+#include "preview/chart_preview_view.h"
+
+#include <QLabel>
+
+CChartImageField::CChartImageField() : m_preview(new CChartPreviewView(this)) {
+    m_pattern.m_type = 1;
+    LaySwatchField(*this, *m_preview, *new QLabel(QStringLiteral("(Image)"), this), [this] { Choose(); });
+}
+
+void CChartImageField::SetValueAndShow(const CChartString& path) {
+    m_pattern.m_patternFile = path;
+    UpdateData(false);
+}
+
+bool CChartImageField::DoDataExchange(bool read) {
+    if (!read) {
+        m_preview->SetSampleColor(m_pattern);
+        m_preview->RefreshPreview();
+    }
+    return true;
+}
+
+void CChartImageField::Choose() {
+    CImageFileDlg dialog;
+    dialog.SetInitialFile(m_pattern.m_patternFile);
+    if (dialog.DoModal() == kOK) {
+        SetValueAndShow(dialog.GetPathName());
+        SendToPage(*this, m_key);
+    }
+}
