@@ -6,6 +6,7 @@
 #include "engine/chart/legend.h"
 #include "engine/paint/picture.h"
 
+#include <algorithm>
 #include <cmath>
 
 using chartdraw::object;
@@ -26,8 +27,8 @@ chartdraw::TextLook* lookOf(TextBox* box) {
     return target != nullptr ? &target->edit() : nullptr;
 }
 
-int limited(int pixels, int most) {
-    return pixels < -most ? -most : pixels > most ? most : pixels;
+int limitedSide(int pixels) {
+    return std::clamp(pixels, 0, chartdraw::kMaxSide);
 }
 
 } // namespace
@@ -50,8 +51,8 @@ void CBox_setPos(Box* box, int x, int y) {
 
 void CBox_setSize(Box* box, int width, int height) {
     if (auto* look = lookOf(box)) {
-        look->width = limited(width, chartdraw::kMaxSide);
-        look->height = limited(height, chartdraw::kMaxSide);
+        look->width = limitedSide(width);
+        look->height = limitedSide(height);
     }
 }
 
@@ -99,13 +100,13 @@ void CTextBox_setFontStyle(TextBox* box, const char* font, int fontIndex) {
 
 void CTextBox_setAlignment(TextBox* box, int alignment) {
     if (auto* look = lookOf(box)) {
-        look->alignment = alignment;
+        look->alignment = chartdraw::alignmentOr(alignment, look->alignment);
     }
 }
 
 void CTextBox_setHeight(TextBox* box, int height) {
     if (auto* look = lookOf(box)) {
-        look->height = limited(height, chartdraw::kMaxSide);
+        look->height = limitedSide(height);
     }
 }
 
@@ -115,8 +116,8 @@ void CTextBox_setMargin(TextBox* box, int margin) {
 
 void CTextBox_setMargin2(TextBox* box, int left, int right, int top, int bottom) {
     if (auto* look = lookOf(box)) {
-        look->setMargins(limited(left, kMaxMargin), limited(right, kMaxMargin), limited(top, kMaxMargin),
-                         limited(bottom, kMaxMargin));
+        const auto limit = [](int margin) { return std::clamp(margin, 0, kMaxMargin); };
+        look->setMargins(limit(left), limit(right), limit(top), limit(bottom));
     }
 }
 

@@ -17,6 +17,9 @@ namespace {
 /// A title as it looks until its box is edited: a little air around it, centred.
 chartdraw::TextLook titleLook(const char* font, double size, int fontColor, int background, int edge) {
     chartdraw::TextLook look = chartdraw::toLook(font, size > 0 ? size : 12, fontColor);
+    if (look.font.empty()) {
+        look.font = "bold";
+    }
     look.background = chartdraw::orDefault(toColour(background), chartdraw::kTransparent);
     look.edge = chartdraw::orDefault(toColour(edge), chartdraw::kTransparent);
     look.setMargins(6, 6, 4, 4);
@@ -85,7 +88,8 @@ TextBox* CBaseChart_addTitle(BaseChart* base, const char* title, const char* fon
 
 TextBox* CBaseChart_addTitle2(BaseChart* base, int alignment, const char* title, const char* font,
                               double size, int fontColor, int background, int edge) {
-    return addTitle(base, alignment, title, titleLook(font, size, fontColor, background, edge), false);
+    return addTitle(base, chartdraw::alignmentOr(alignment, chartdraw::TopCenter), title,
+                    titleLook(font, size, fontColor, background, edge), false);
 }
 
 TextBox* CBaseChart_addText(BaseChart* base, int x, int y, const char* text, const char* font, double size,
@@ -96,8 +100,8 @@ TextBox* CBaseChart_addText(BaseChart* base, int x, int y, const char* text, con
     }
     chartdraw::TextLook look = chartdraw::toLook(font, size, fontColor, angle);
     look.vertical = vertical;
-    look.alignment = alignment;
-    return handle<TextBox>(chart->addText(toText(text), look, {x, y}, alignment));
+    look.alignment = chartdraw::alignmentOr(alignment, chartdraw::TopLeft);
+    return handle<TextBox>(chart->addText(toText(text), look, {x, y}, look.alignment));
 }
 
 Line* CBaseChart_addLine(BaseChart* base, int x1, int y1, int x2, int y2, int color, int width) {

@@ -45,6 +45,11 @@ inline std::vector<Colour> toColours(const int* colours, int count) {
     return result;
 }
 
+/// An alignment code, or `fallback` where it is none.
+inline int alignmentOr(int code, int fallback) {
+    return code >= BottomLeft && code <= BottomRight2 ? code : fallback;
+}
+
 /// The look that the arguments of a label style say: font, size in points (0 or less: the default), colour.
 inline TextLook toLook(const char* font, double size, int colour, double angle = 0) {
     TextLook look;

@@ -95,7 +95,15 @@ Line* Chart::addLine(QPoint from, QPoint to, Colour colour, int width) {
 }
 
 LegendBox* Chart::addLegend(QPoint at, bool vertical, const TextLook& look) {
-    m_legend = own<LegendBox>(*this, at, vertical, look);
+    LegendBox* box = legend();
+    box->show(at, vertical, look);
+    return box;
+}
+
+LegendBox* Chart::legend() {
+    if (m_legend == nullptr) {
+        m_legend = own<LegendBox>(*this);
+    }
     return m_legend;
 }
 

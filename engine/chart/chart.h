@@ -58,7 +58,8 @@ public:
     TextBox* addText(std::string text, const TextLook& look, QPoint at, int alignment);
     Line* addLine(QPoint from, QPoint to, Colour colour, int width);
     LegendBox* addLegend(QPoint at, bool vertical, const TextLook& look);
-    virtual LegendBox* legend() { return m_legend; }
+    /// One legend a chart, not shown before addLegend.
+    LegendBox* legend();
     DrawArea* drawArea() { return &m_drawArea; }
     /// A text that lives as long as the chart; equal texts are kept once.
     const char* keepText(std::string text);

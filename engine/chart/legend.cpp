@@ -68,8 +68,14 @@ struct LegendBox::Plan {
     QSize box;
 };
 
-LegendBox::LegendBox(Chart& chart, QPoint at, bool vertical, const TextLook& look)
-    : TextBox(Kind::LegendBox, chart, "{dataSetName}", look), m_vertical(vertical) {
+LegendBox::LegendBox(Chart& chart) : TextBox(Kind::LegendBox, chart, "{dataSetName}", {}) {
+    setPos(0, 0);
+}
+
+void LegendBox::show(QPoint at, bool vertical, const TextLook& look) {
+    m_shown = true;
+    m_vertical = vertical;
+    edit() = look;
     setPos(at.x(), at.y());
 }
 
@@ -141,6 +147,9 @@ LegendBox::Plan LegendBox::plan() const {
 }
 
 void LegendBox::draw(Canvas& canvas) {
+    if (!m_shown) {
+        return;
+    }
     const Plan plan = this->plan();
     if (plan.placed.empty()) {
         return;

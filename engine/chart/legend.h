@@ -35,7 +35,10 @@ class LegendBox : public TextBox {
 public:
     static constexpr Kind kKind = Kind::LegendBox;
 
-    LegendBox(Chart& chart, QPoint at, bool vertical, const TextLook& look);
+    explicit LegendBox(Chart& chart);
+
+    /// Places and styles the legend; without this call it is not drawn.
+    void show(QPoint at, bool vertical, const TextLook& look);
 
     /// A key by hand, behind the automatic ones. Width 0 draws a filled box, more a line. The picture of
     /// `symbol` is copied; null: none.
@@ -49,7 +52,8 @@ private:
     struct Plan;
     Plan plan() const;
 
-    bool m_vertical;
+    bool m_shown = false;
+    bool m_vertical = false;
     std::vector<LegendKey> m_keys;
 };
 

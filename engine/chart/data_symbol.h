@@ -1,0 +1,56 @@
+#pragma once
+// The symbols at data points: their outlines, and a painter that draws one symbol at many points.
+
+#include "engine/paint/canvas.h"
+
+#include <array>
+
+namespace chartdraw {
+
+constexpr int kMaxSymbolSize = 4096; ///< pixels
+
+/// The symbol at each point.
+struct DataSymbol {
+    int shape = 0;                ///< a symbol code, 1 to 9; another is none
+    int size = 5;                 ///< pixels
+    Colour fill = kDefaultColour; ///< as the data
+    Colour edge = kDefaultColour; ///< as the fill
+    int lineWidth = 1;            ///< pixels of the edge, which lies within the size
+
+    bool operator==(const DataSymbol&) const = default;
+
+    /// Sizes limited and default colours replaced.
+    DataSymbol resolved(Colour dataColour) const;
+};
+
+/// The outline of a symbol within a rectangle; empty for a code that is none.
+QPainterPath symbolOutline(int shape, const QRectF& bounds);
+
+/// Draws a symbol at any number of points. The pixels of a size are made once, so that a cloud of points
+/// costs a small image copy a point.
+class SymbolPainter {
+public:
+    /// `symbol` is resolved; `canvas` must outlive the painter.
+    SymbolPainter(Canvas& canvas, const DataSymbol& symbol);
+
+    bool visible() const { return m_visible; }
+    /// Here as everywhere whole coordinates are the middle of pixels. A point that is no number draws none.
+    void draw(QPointF centre);
+    /// With a size of its own, for symbols that are scaled; a side that is not above 0 draws none.
+    void draw(QPointF centre, QSizeF size);
+
+private:
+    /// Places between whole pixels that a sprite is made for, in x and in y: symbols on a curve do not dance.
+    static constexpr int kPhases = 4;
+
+    void paint(Canvas& canvas, QPointF centre, QSizeF size) const;
+    const QImage& sprite(int phaseX, int phaseY);
+
+    Canvas& m_canvas;
+    DataSymbol m_symbol;
+    bool m_visible;
+    bool m_wholePixels; ///< straight sides are crisp on whole pixels only
+    std::array<QImage, kPhases * kPhases> m_sprites;
+};
+
+} // namespace chartdraw
