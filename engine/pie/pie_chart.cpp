@@ -143,7 +143,7 @@ QPointF PieChart::centreOf(const PieBody& body, std::size_t index, const SectorS
 
 void PieChart::drawBody(Canvas& canvas) {
     const PieBody body = this->body();
-    if (body.radius < 1) {
+    if (body.radius < 1 || m_values.empty()) {
         return;
     }
     const std::vector<double> parts = shares(m_values);
