@@ -1,8 +1,8 @@
 #pragma once
 // One series of a layer: its numbers, its name and its looks.
 
+#include "engine/chart/data_symbol.h"
 #include "engine/object/object.h"
-#include "engine/paint/colour.h"
 
 #include <span>
 #include <string>
@@ -11,19 +11,6 @@
 namespace chartdraw {
 
 class Chart;
-
-constexpr int kMaxSymbolSize = 4096; ///< pixels
-
-/// The symbol at each point.
-struct DataSymbol {
-    int shape = 0;                ///< a symbol code, 0 none
-    int size = 5;                 ///< pixels
-    Colour fill = kDefaultColour; ///< as the data
-    Colour edge = kDefaultColour; ///< as the fill
-    int lineWidth = 1;            ///< pixels of the edge, and of the strokes of a cross
-
-    bool operator==(const DataSymbol&) const = default;
-};
 
 /// Colours are resolved: the functions below never give kDefaultColour.
 class DataSet : public Object {
