@@ -6,7 +6,8 @@ namespace chartdraw {
 /// Makes an application object if the process has none. A host's own object is used as it is. Where a library
 /// of this family has registered a meta type "charteditors::ApplicationFactory", creating one of these makes
 /// the object, so that widgets will work too; otherwise it is one without a screen. Safe to call from any
-/// thread, any number of times; cheap after the first.
+/// thread, any number of times; cheap after the first. A painter looks at the application object, so this
+/// must be called before one is made: by whatever makes a chart.
 void ensureApplication();
 
 /// Ensures an application object and tells whether it can do text: a host's own object without a GUI cannot.

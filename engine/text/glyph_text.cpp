@@ -135,11 +135,12 @@ private:
         QTextOption option(Qt::AlignLeft | Qt::AlignAbsolute);
         const bool wraps = m_look.wrapWidth > 0 && !m_look.vertical;
         option.setWrapMode(wraps ? QTextOption::WordWrap : QTextOption::NoWrap);
-        option.setFlags(QTextOption::IncludeTrailingSpaces);
+        if (!wraps)
+            option.setFlags(QTextOption::IncludeTrailingSpaces);
         layout.setTextOption(option);
         layout.beginLayout();
-        for (QTextLine line = layout.createLine(); line.isValid() && m_lines.size() < kMaxLines;
-             line = layout.createLine()) {
+        for (QTextLine line = layout.createLine();
+             line.isValid() && m_lines.size() + m_pending.size() < kMaxLines; line = layout.createLine()) {
             line.setLineWidth(wraps ? m_look.wrapWidth : 1e6);
             placeLine(line, runs);
         }

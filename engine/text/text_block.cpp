@@ -201,6 +201,8 @@ void TextBlock::Layout::drawOutlines(Canvas& canvas, const QTransform& place) co
     painter.save();
     painter.setTransform(QTransform::fromTranslate(textCorner.x(), textCorner.y()) * place, true);
     painter.setRenderHint(QPainter::Antialiasing);
+    // Letters that begin far outside leave no mark; a long text is not filled for nothing.
+    const QRectF picture = place.inverted().mapRect(QRectF(0, 0, canvas.width(), canvas.height()));
     painter.setPen(Qt::NoPen);
     for (const GlyphPiece& piece : text.pieces) {
         if (canvas.colours().invisible(piece.colour))
@@ -211,8 +213,12 @@ void TextBlock::Layout::drawOutlines(Canvas& canvas, const QTransform& place) co
             const QList<quint32> indexes = run.glyphIndexes();
             const QList<QPointF> positions = run.positions();
             const QRawFont font = run.rawFont();
-            for (qsizetype i = 0; i < indexes.size(); ++i)
-                path.addPath(font.pathForGlyph(indexes[i]).translated(positions[i] + piece.offset));
+            const double reach = 4 * font.pixelSize();
+            const QRectF seen = picture.adjusted(-reach, -reach, reach, reach).translated(-textCorner);
+            for (qsizetype i = 0; i < indexes.size(); ++i) {
+                if (const QPointF at = positions[i] + piece.offset; seen.contains(at))
+                    path.addPath(font.pathForGlyph(indexes[i]).translated(at));
+            }
         }
         path.addRect(piece.underline);
         painter.fillPath(path, canvas.colours().solid(piece.colour));

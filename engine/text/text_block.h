@@ -24,16 +24,17 @@ struct TextLook {
     bool vertical = false;  ///< letters stacked from top to bottom
     int alignment = Center; ///< of the lines inside the box
     int marginLeft = 0, marginRight = 0, marginTop = 0, marginBottom = 0; ///< pixels
-    int width = 0, height = 0; ///< pixels of the box; 0 or less fits the text
+    int width = 0, height = 0; ///< pixels of the box; 0 or less fits the text. Too long a text is not cut.
     Colour background = kTransparent;
     Colour edge = kTransparent;
     int effect = 0;
     Corners corners = {};
-    int wrapWidth = 0; ///< pixels; longer lines are broken at words; 0 never
+    int wrapWidth = 0; ///< pixels; longer lines are broken at words; 0 never. Not for vertical text.
 
     void setMargins(int left, int right, int top, int bottom);
 };
 
+/// Use a block on the thread that made it: it holds fonts of that thread.
 class TextBlock {
 public:
     /// Lays out `text` (UTF-8 with markup; bytes that are no UTF-8 show as replacement characters).

@@ -1,6 +1,7 @@
 #pragma once
 // What a drawn text leaves on a white picture.
 
+#include "engine/text/application.h"
 #include "engine/text/text_block.h"
 
 namespace chartdraw {
@@ -15,6 +16,7 @@ inline QImage whitePicture(int width = 300, int height = 200) {
 inline QImage drawn(TextLook look, std::string_view text, int anchorAlignment = Center, bool pivot = false) {
     if (look.colour == kTextColour)
         look.colour = 0x000000;
+    ensureApplication(); // Before the first painter, as each chart does.
     QImage image = whitePicture();
     ColourTable colours;
     {
