@@ -21,7 +21,7 @@ struct TextLook {
     double widthSize = 0;           ///< points; glyph width when not 0 and unlike `size`
     Colour colour = kTextColour;
     double angle = 0;       ///< degrees, counter-clockwise
-    bool vertical = false;  ///< letters stacked from top to bottom
+    bool vertical = false;  ///< letters stacked from top to bottom; further lines to the right
     int alignment = Center; ///< of the lines inside the box
     int marginLeft = 0, marginRight = 0, marginTop = 0, marginBottom = 0; ///< pixels
     int width = 0, height = 0; ///< pixels of the box; 0 or less fits the text. Too long a text is not cut.
