@@ -116,13 +116,15 @@ void keepInside(std::vector<AxisLayout::Label>& labels, const AxisPlace& place) 
     if (labels.empty()) {
         return;
     }
-    const bool frontMoved = moved(labels.front());
-    if (frontMoved && labels.size() > 2 && close(labels.front(), labels[1])) {
-        labels.erase(labels.begin() + 1);
+    if (moved(labels.front())) {
+        while (labels.size() > 2 && close(labels.front(), labels[1])) {
+            labels.erase(labels.begin() + 1);
+        }
     }
-    const bool backMoved = moved(labels.back());
-    if (backMoved && labels.size() > 2 && close(labels.back(), labels[labels.size() - 2])) {
-        labels.erase(labels.end() - 2);
+    if (moved(labels.back())) {
+        while (labels.size() > 1 && close(labels.back(), labels[labels.size() - 2])) {
+            labels.erase(labels.size() > 2 ? labels.end() - 2 : labels.end() - 1);
+        }
     }
 }
 
