@@ -1,0 +1,41 @@
+#pragma once
+// The dialog that chooses a font: a face of the catalogue, and a size.
+
+#include "platform/widgets/dialog.h"
+
+#include <charteditors/chart_font.h>
+
+class CChartPreviewView;
+class QLineEdit;
+class QListWidget;
+
+/// The caller sets m_font, runs the dialog, and reads m_font if the result is kOK.
+class CFontDlg : public CDialog {
+public:
+    CFontDlg();
+
+    CChartFont m_font; ///< What the controls last showed.
+
+protected:
+    bool DoDataExchange(bool read) override;
+    bool OnInitDialog() override;
+    void OnOK() override;
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void LayOut();
+    void FillLists();
+    /// Reads and validates; on failure puts the last good values back.
+    bool UpdateDataSafe();
+    void CommitFace();
+    bool CommitSize();
+    void SelectFaceByPrefix();
+
+    CChartPreviewView* m_preview;
+    QLineEdit* m_faceEdit;
+    QListWidget* m_faces;
+    QLineEdit* m_sizeEdit;
+    QListWidget* m_sizes;
+    QString m_faceText;
+    double m_size = 0;
+};
