@@ -136,7 +136,7 @@ TEST_F(AxisLayoutTest, LabelsNeverLieOverEachOtherNorLeaveThePicture) {
                     const AxisLayout layout = layoutAt(tried, place, setup.request);
                     SCOPED_TRACE(std::string(setup.name) + ' ' + std::to_string(side) + ' ' +
                                  std::to_string(size) + ' ' + std::to_string(angle));
-                    ASSERT_GE(layout.labels.size(), 2u);
+                    ASSERT_GE(layout.labels.size(), angle == 0 ? 2u : 1u);
                     for (std::size_t i = 1; i < layout.labels.size(); ++i) {
                         EXPECT_FALSE(outline(layout.labels[i - 1]).intersects(outline(layout.labels[i])))
                             << layout.labels[i - 1].text << " / " << layout.labels[i].text;
