@@ -30,7 +30,7 @@ bool CChartPreviewView::event(QEvent* event) {
     if (event->type() == QEvent::Polish && m_kind == PreviewLayout && !m_fitMode && m_layout) {
         m_pictureWidth = m_layout->m_width;
         m_pictureHeight = m_layout->m_height;
-        UpdateScrollBars();
+        TakeScrollSizes();
     }
     return QAbstractScrollArea::event(event);
 }
@@ -101,14 +101,19 @@ void CChartPreviewView::SetScrollSizes() {
     QMetaObject::invokeMethod(
         this,
         [this] {
-            UpdateScrollBars();
+            TakeScrollSizes();
             viewport()->update();
         },
         Qt::QueuedConnection);
 }
 
+void CChartPreviewView::TakeScrollSizes() {
+    m_scrollSize = m_fitMode ? QSize(0, 0) : PictureSize();
+    UpdateScrollBars();
+}
+
 void CChartPreviewView::UpdateScrollBars() {
-    const QSize total = m_fitMode ? QSize(0, 0) : PictureSize();
+    const QSize total = m_scrollSize;
     // A bar that comes or goes changes the pane, and may bring the other one with it.
     for (int pass = 0; pass < 3; ++pass) {
         const QSize most = maximumViewportSize();
@@ -133,7 +138,7 @@ void CChartPreviewView::scrollContentsBy(int dx, int dy) {
 
 void CChartPreviewView::SetFitMode(bool fit) {
     m_fitMode = fit;
-    UpdateScrollBars();
+    TakeScrollSizes();
     UpdateCursor();
     viewport()->update();
 }

@@ -68,11 +68,13 @@ private:
     QRect PaintFitted(QPainter& painter) const;
     QRect PaintScrolled(QPainter& painter, const QRect& clip) const;
     void SetFitMode(bool fit);
+    void TakeScrollSizes();
     void UpdateScrollBars();
     void UpdateCursor();
     bool CanSwitchMode() const;
     void PopUpMenu(const QPoint& place);
 
+    QSize m_scrollSize{0, 0}; // what the bars scroll over
     bool m_dragging = false;
     QPoint m_dragStart;  // pointer at the start of the drag
     QPoint m_dragScroll; // scroll position at the start of the drag
