@@ -40,22 +40,30 @@ std::vector<const char*> Listed(const char* const* texts) {
 } // namespace
 
 CForm::CForm(CDialog& page, std::function<void()> notify)
-    : m_page(page), m_notify(std::move(notify)), m_columns(new QHBoxLayout(&page)) {
-    m_columns->setContentsMargins(6, 6, 6, 6);
+    : m_page(page), m_notify(std::move(notify)), m_bands(new QVBoxLayout) {
     page.SetControls(this);
 }
 
 CForm::CForm(CDialog& page, QWidget& owner) : CForm(page, [&owner] { SendFieldChanged(&owner, 0); }) {}
 
-CForm::~CForm() = default;
+CForm::~CForm() {
+    if (m_bands->parent() == nullptr) {
+        delete m_bands; // the table was never ended
+    }
+}
+
+void CForm::Band() {
+    m_columns = new QHBoxLayout;
+    m_bands->addLayout(m_columns);
+    m_column = nullptr;
+}
 
 void CForm::Column() {
-    if (m_column != nullptr) {
-        m_column->addStretch();
+    if (m_columns == nullptr) {
+        Band();
     }
     m_column = new QVBoxLayout;
     m_columns->addLayout(m_column);
-    m_group = nullptr;
 }
 
 QGroupBox* CForm::Group(const char* caption) {
@@ -64,10 +72,25 @@ QGroupBox* CForm::Group(const char* caption) {
     }
     auto* box = new QGroupBox(QString::fromUtf8(caption), &m_page);
     box->setObjectName(NameOf(box->title()));
-    m_group = new QGridLayout(box);
-    m_group->setColumnStretch(1, 1);
+    m_parts = new QHBoxLayout(box);
     m_column->addWidget(box);
+    Part();
     return box;
+}
+
+void CForm::Part() {
+    m_group = new QGridLayout;
+    m_group->setColumnStretch(1, 1);
+    m_parts->addLayout(m_group, 1);
+    m_parts->setAlignment(m_group, Qt::AlignTop);
+}
+
+void CForm::Grow() {
+    m_group->setRowStretch(m_group->rowCount() - 1, 1);
+    m_parts->setAlignment(m_group, {});
+    m_column->setStretchFactor(m_parts->parentWidget(), 1);
+    m_bands->setStretchFactor(m_columns, 1);
+    m_grows = true;
 }
 
 CIntegerRow& CForm::Integer(const char* label, CBinding<std::int32_t> field) {
@@ -104,7 +127,9 @@ CTextRow& CForm::Text(const char* label, CBinding<CChartString> field) {
 }
 
 CTextRow& CForm::Lines(const char* label, CBinding<CChartString> field) {
-    return Make<CTextRow>(label, std::move(field), true);
+    CTextRow& row = Make<CTextRow>(label, std::move(field), true);
+    m_group->itemAtPosition(m_group->rowCount() - 1, 0)->setAlignment(Qt::AlignTop);
+    return row;
 }
 
 void CForm::Formats(CTextRow& row, const std::vector<const char*>& texts) {
@@ -151,12 +176,17 @@ void CForm::AddRow(std::unique_ptr<CFormRow> row, const char* label, QWidget* co
 
 void CForm::AddList(std::unique_ptr<CListBase> list) {
     Place(list->Widget());
+    Grow();
     m_lists.push_back(std::move(list));
 }
 
 void CForm::Done() {
-    if (m_column != nullptr) {
-        m_column->addStretch();
+    if (!m_grows) {
+        m_bands->addStretch();
+    }
+    if (m_page.layout() == nullptr) {
+        m_bands->setContentsMargins(6, 6, 6, 6);
+        m_page.setLayout(m_bands);
     }
     AssignMnemonics(m_page);
     Show(false);
@@ -166,6 +196,10 @@ void CForm::Done() {
     for (const auto& select : m_formats) {
         select();
     }
+}
+
+QLayout* CForm::Layout() const {
+    return m_bands;
 }
 
 bool CForm::Exchange(bool read) {

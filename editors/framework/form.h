@@ -17,10 +17,11 @@
 #include <memory>
 #include <vector>
 
-class QBoxLayout;
 class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
+class QLayout;
+class QVBoxLayout;
 
 class CForm final : public CDialogControls {
 public:
@@ -32,9 +33,12 @@ public:
     CForm& operator=(const CForm&) = delete;
     ~CForm();
 
-    // What stands where. Rows go into the current group, groups into the current column.
-    void Column();
+    // What stands where. Rows go into the current part of the current group, groups into the current column,
+    // columns into the current band. The groups of a band end at one height.
+    void Band();   ///< A new row of columns below.
+    void Column(); ///< A new column at the right.
     QGroupBox* Group(const char* caption);
+    void Part(); ///< Further rows of the group stand beside those so far.
 
     CIntegerRow& Integer(const char* label, CBinding<std::int32_t> field);
     CRealRow& Real(const char* label, CBinding<double> field);
@@ -65,8 +69,11 @@ public:
     /// Any other control of the page, spanning the group.
     void Place(QWidget* widget);
 
-    /// Ends the table: model into mirrors, mirrors into controls, letters for Alt, lists filled.
+    /// Ends the table: model into mirrors, mirrors into controls, letters for Alt, lists filled. The form
+    /// takes all of the page, unless the page has a layout by then.
     void Done();
+    /// What the form stands in, for a page that has more than the form.
+    QLayout* Layout() const;
 
     // What the page asks for.
     bool Exchange(bool read) override;
@@ -91,14 +98,19 @@ private:
     }
     void AddRow(std::unique_ptr<CFormRow> row, const char* label, QWidget* control);
     void AddList(std::unique_ptr<CListBase> list);
+    /// What was added last takes the height that is left.
+    void Grow();
 
     CDialog& m_page;
     std::function<void()> m_notify;
     std::vector<std::unique_ptr<CFormRow>> m_rows;
     std::vector<std::unique_ptr<CListBase>> m_lists;
-    QHBoxLayout* m_columns;
-    QBoxLayout* m_column = nullptr;
-    QGridLayout* m_group = nullptr;
+    QVBoxLayout* m_bands;
+    QHBoxLayout* m_columns = nullptr; ///< of the current band
+    QVBoxLayout* m_column = nullptr;
+    QHBoxLayout* m_parts = nullptr; ///< of the current group
+    QGridLayout* m_group = nullptr; ///< the current part of it
+    bool m_grows = false;
     std::vector<std::function<void()>> m_formats;
     CFormRow* m_bad = nullptr; ///< the row that could not be read
     bool m_complaining = false;

@@ -1,0 +1,44 @@
+#include "editors/framework/editor_frame.h"
+
+#include "platform/widgets/dialog.h"
+#include "preview/chart_preview_view.h"
+
+#include <QHBoxLayout>
+#include <QVBoxLayout>
+#include <algorithm>
+
+namespace {
+
+constexpr QSize kSmallestScreen(1366, 768);
+constexpr int kSpace = 12;
+constexpr QSize kFrame(8, 64); // title bar, borders and a task bar
+
+/// `wanted`, but not below `least` and, beyond that, not above `most`.
+int Between(int least, int wanted, int most) {
+    return std::max(least, std::min(wanted, most));
+}
+
+} // namespace
+
+void LayEditor(CDialog& dialog, CChartPreviewView& preview, QLayout* body, QWidget* buttons) {
+    auto* sides = new QHBoxLayout;
+    sides->setSpacing(kSpace);
+    sides->addWidget(&preview);
+    sides->addLayout(body);
+    auto* all = new QVBoxLayout(&dialog);
+    all->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
+    all->setSpacing(kSpace);
+    all->addLayout(sides);
+    all->addWidget(buttons);
+
+    // A picture that just fills its pane is scaled down: one pixel more on each side shows it as it is.
+    const int border = 2 * preview.frameWidth() + 2;
+    const QSize natural =
+        QSize(preview.m_layout->m_width, preview.m_layout->m_height) + QSize(border, border);
+    const int besides = body->sizeHint().width() + 3 * kSpace;
+    const int below = buttons->sizeHint().height() + 3 * kSpace;
+    const QSize room = kSmallestScreen - kFrame - QSize(besides, below);
+    preview.setFixedWidth(Between((besides + 1) / 2, natural.width(), room.width()));
+    preview.setMinimumHeight(Between(body->sizeHint().height(), natural.height(), room.height()));
+    all->setSizeConstraint(QLayout::SetFixedSize);
+}
