@@ -17,6 +17,8 @@ CChartPreviewView::CChartPreviewView(QWidget* parent) : QAbstractScrollArea(pare
     setLayoutDirection(Qt::LeftToRight); // a picture does not run with the text
     setFocusPolicy(Qt::ClickFocus);
     setAccessibleName(previewMenuTitle);
+    horizontalScrollBar()->setSingleStep(kScrollStep);
+    verticalScrollBar()->setSingleStep(kScrollStep);
     viewport()->setAttribute(Qt::WA_OpaquePaintEvent); // not erased before a paint, so it does not flicker
 }
 
@@ -113,22 +115,17 @@ void CChartPreviewView::TakeScrollSizes() {
 }
 
 void CChartPreviewView::UpdateScrollBars() {
-    const QSize total = m_scrollSize;
-    // A bar that comes or goes changes the pane, and may bring the other one with it.
-    for (int pass = 0; pass < 3; ++pass) {
-        const QSize most = maximumViewportSize();
-        const bool whole = total.width() <= most.width() && total.height() <= most.height();
-        const QSize pane = whole ? most : viewport()->size();
-        horizontalScrollBar()->setRange(0, std::max(0, total.width() - pane.width()));
-        verticalScrollBar()->setRange(0, std::max(0, total.height() - pane.height()));
-        horizontalScrollBar()->setPageStep(pane.width());
-        verticalScrollBar()->setPageStep(pane.height());
-    }
-    horizontalScrollBar()->setSingleStep(kScrollStep);
-    verticalScrollBar()->setSingleStep(kScrollStep);
+    const QSize most = maximumViewportSize();
+    const bool whole = m_scrollSize.width() <= most.width() && m_scrollSize.height() <= most.height();
+    const QSize pane = whole ? most : viewport()->size();
+    // A bar that comes or goes resizes the pane, and this runs again before setRange returns.
+    horizontalScrollBar()->setRange(0, std::max(0, m_scrollSize.width() - pane.width()));
+    verticalScrollBar()->setRange(0, std::max(0, m_scrollSize.height() - pane.height()));
 }
 
 void CChartPreviewView::resizeEvent(QResizeEvent*) {
+    horizontalScrollBar()->setPageStep(ClientWidth());
+    verticalScrollBar()->setPageStep(ClientHeight());
     UpdateScrollBars();
 }
 

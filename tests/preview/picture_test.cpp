@@ -3,6 +3,8 @@
 #include "preview/fit_geometry.h"
 #include "resources/preview_menu.h"
 #include "tests/preview/test_view.h"
+#include <QCoreApplication>
+#include <QScreen>
 #include <QScrollBar>
 
 namespace {
@@ -75,10 +77,11 @@ TEST(ScrollMode, ShowsThePictureAtNaturalSize) {
         bool barAcross;
         bool barDown;
     };
-    for (const Case& scroll : {Case{{100, 80}, false, false}, Case{{200, 150}, false, false},
-                               Case{{201, 80}, true, false}, Case{{120, 151}, false, true},
-                               Case{{200, 151}, true, true}, // the bar down takes room from the width
-                               Case{{700, 600}, true, true}}) {
+    for (const Case& scroll :
+         {Case{{100, 80}, false, false}, Case{{200, 150}, false, false}, Case{{201, 80}, true, false},
+          Case{{120, 151}, false, true}, Case{{201, 150}, true, true},
+          Case{{200, 151}, true, true}, // one bar takes room that
+          Case{{700, 600}, true, true}}) {
         TestView view({200, 150}, scroll.picture);
         view.OnCommand(scrollModeCommand);
         QImage pane = view.Pane();
@@ -88,6 +91,8 @@ TEST(ScrollMode, ShowsThePictureAtNaturalSize) {
         const QPoint range(std::max(0, scroll.picture.width() - pane.width()),
                            std::max(0, scroll.picture.height() - pane.height()));
         EXPECT_EQ(view.ScrollRange(), range);
+        EXPECT_EQ(view.horizontalScrollBar()->pageStep(), pane.width());
+        EXPECT_EQ(view.verticalScrollBar()->pageStep(), pane.height());
         view.horizontalScrollBar()->setValue(17);
         view.verticalScrollBar()->setValue(1000);
         const QPoint scrolled(std::min(17, range.x()), range.y());
@@ -124,6 +129,24 @@ TEST(ScrollMode, KeepsItsPromisesWhenResized) {
         EXPECT_TRUE(showsNaturalSize(pane, step.scroll, picture));
         EXPECT_EQ(view.ScrollRange(),
                   QPoint(std::max(0, 400 - pane.width()), std::max(0, 300 - pane.height())));
+    }
+}
+
+TEST(ScrollMode, MovesOnTheScreenWhatIsThereAndPaintsTheRest) {
+    const QSize picture(400, 300);
+    TestView view({200, 150}, picture);
+    view.OnCommand(scrollModeCommand);
+    view.Pane();
+    const auto onScreen = [&] {
+        QCoreApplication::processEvents();
+        const QImage all = view.screen()->grabWindow(view.winId()).toImage();
+        return all.convertToFormat(QImage::Format_RGB32).copy(view.viewport()->geometry());
+    };
+    EXPECT_TRUE(showsNaturalSize(onScreen(), {0, 0}, picture));
+    for (const QPoint to : {QPoint(3, 0), QPoint(40, 25), QPoint(10, 140), QPoint(0, 0)}) {
+        view.horizontalScrollBar()->setValue(to.x());
+        view.verticalScrollBar()->setValue(to.y());
+        EXPECT_TRUE(showsNaturalSize(onScreen(), to, picture));
     }
 }
 
