@@ -4,6 +4,7 @@
 
 #include "engine/scale/scale.h"
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
 
@@ -29,8 +30,12 @@ public:
     /// fits an int after a check against the plot area; NaN for NaN and missing values. On a log scale what
     /// is not above 0 lies far below the lower end.
     double pixel(double value) const { return m_lower + (m_upper - m_lower) * m_scale.fraction(own(value)); }
-    /// The pixel that a tick, a grid line, a bar's end at this value covers: the nearest one. Not for NaN.
-    int wholePixel(double value) const { return static_cast<int>(std::floor(pixel(value) + 0.5)); }
+    /// The pixel that a tick, a grid line, a bar's end at this value covers: the nearest one, limited to
+    /// +-1e9. The lowest for NaN.
+    int wholePixel(double value) const {
+        const double at = std::floor(pixel(value) + 0.5);
+        return at > -kFarthest && at < kFarthest ? static_cast<int>(at) : at > 0 ? kFarthest : -kFarthest;
+    }
     double value(double pixel) const;
 
     /// Whether the value lies on the axis, its ends included.
@@ -49,10 +54,12 @@ public:
     const Scale& scale() const { return m_scale; }
 
 private:
+    static constexpr int kFarthest = 1'000'000'000;
+    static double finite(double value) { return std::clamp(value, -1e307, 1e307); }
     double own(double value) const {
-        return m_tied && isValue(value) ? (value - m_intercept) / m_slope : value;
+        return m_tied && isValue(value) ? finite((value - m_intercept) / m_slope) : value;
     }
-    double other(double value) const { return m_tied ? value * m_slope + m_intercept : value; }
+    double other(double value) const { return m_tied ? finite(value * m_slope + m_intercept) : value; }
 
     Scale m_scale;
     double m_lower = 0, m_upper = 0;
