@@ -125,7 +125,7 @@ bool Chart::makePicture(const char** data, int* length) {
             QImage image(m_width, m_height, QImage::Format_ARGB32_Premultiplied);
             if (!image.isNull()) {
                 image.fill(Qt::white);
-                Canvas canvas(image, m_colours, m_smoothShapes);
+                Canvas canvas(image, m_colours);
                 draw(canvas);
                 m_picture = bitmapFile(image);
             }
@@ -138,6 +138,7 @@ bool Chart::makePicture(const char** data, int* length) {
 }
 
 void Chart::draw(Canvas& canvas) {
+    canvas.painter().setRenderHint(QPainter::Antialiasing, m_smoothShapes);
     canvas.painter().setRenderHint(QPainter::TextAntialiasing, m_textMode != 0);
     drawBackground(canvas);
     if (!m_drawArea.image().isNull()) {

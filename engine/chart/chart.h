@@ -60,6 +60,7 @@ public:
     LegendBox* addLegend(QPoint at, bool vertical, const TextLook& look);
     /// One legend a chart, not shown before addLegend.
     LegendBox* legend();
+    bool showsLegend() const { return m_legend != nullptr && m_legend->isShown(); }
     DrawArea* drawArea() { return &m_drawArea; }
     /// A text that lives as long as the chart; equal texts are kept once.
     const char* keepText(std::string text);

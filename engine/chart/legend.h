@@ -39,6 +39,7 @@ public:
 
     /// Places and styles the legend; without this call it is not drawn.
     void show(QPoint at, bool vertical, const TextLook& look);
+    bool isShown() const { return m_shown; }
 
     /// A key by hand, behind the automatic ones. Width 0 draws a filled box, more a line. The picture of
     /// `symbol` is copied; null: none.

@@ -1,0 +1,33 @@
+// Operations of multi-charts.
+
+#include "drawing/surface.h"
+#include "engine/api/convert.h"
+#include "engine/multi/multi_chart.h"
+
+using chartdraw::handle;
+using chartdraw::object;
+using chartdraw::toColour;
+
+extern "C" {
+
+MultiChart* CMultiChart_create(int width, int height, int background, int edge, int effect) {
+    return handle<MultiChart>(new chartdraw::MultiChart(
+        width, height, chartdraw::orDefault(toColour(background), chartdraw::kBackgroundColour),
+        chartdraw::orDefault(toColour(edge), chartdraw::kTransparent), effect));
+}
+
+void CMultiChart_addChart(MultiChart* multi, int x, int y, BaseChart* chart) {
+    auto* target = object<chartdraw::MultiChart>(multi);
+    auto* added = object<chartdraw::Chart>(chart);
+    if (target != nullptr && added != nullptr) {
+        target->addChart({x, y}, *added);
+    }
+}
+
+void CMultiChart_setMainChart(MultiChart* multi, BaseChart* chart) {
+    if (auto* target = object<chartdraw::MultiChart>(multi)) {
+        target->setMainChart(object<chartdraw::Chart>(chart));
+    }
+}
+
+} // extern "C"

@@ -1,0 +1,99 @@
+#include "engine/multi/multi_chart.h"
+
+#include "engine/paint/picture.h"
+
+#include <algorithm>
+
+namespace chartdraw {
+
+MultiChart::MultiChart(int width, int height, Colour background, Colour edge, int effect)
+    : Chart(Kind::MultiChart, width, height, background, edge, effect) {}
+
+MultiChart::~MultiChart() {
+    for (const Shown& shown : m_shown) {
+        shown.chart->removeHost(this);
+    }
+}
+
+void MultiChart::addChart(QPoint at, Chart& chart) {
+    if (isShownIn(&chart)) {
+        return;
+    }
+    std::erase_if(m_shown, [&](const Shown& shown) { return shown.chart == &chart; });
+    m_shown.push_back({&chart, at});
+    chart.addHost(this);
+    changed();
+}
+
+void MultiChart::setMainChart(Chart* chart) {
+    if (shows(chart)) {
+        m_main = chart;
+        changed();
+    }
+}
+
+bool MultiChart::shows(const Chart* chart) const {
+    return std::any_of(m_shown.begin(), m_shown.end(),
+                       [&](const Shown& shown) { return shown.chart == chart; });
+}
+
+Chart* MultiChart::mainChart() const {
+    return m_main != nullptr || m_shown.empty() ? m_main : m_shown.front().chart;
+}
+
+void MultiChart::collectKeys(std::vector<LegendKey>& keys) const {
+    const Chart* main = mainChart();
+    if (main == nullptr || main->showsLegend()) {
+        return;
+    }
+    std::vector<LegendKey> own;
+    main->collectKeys(own);
+    for (LegendKey& key : own) {
+        // Its patterns are known to the colours of its chart only.
+        if (key.drawSymbol) {
+            key.drawSymbol = [draw = std::move(key.drawSymbol), main](Canvas& canvas, const QRectF& area) {
+                QImage image(area.toAlignedRect().size(), QImage::Format_ARGB32_Premultiplied);
+                image.fill(Qt::transparent);
+                {
+                    Canvas part(image, main->colours());
+                    draw(part, QRectF(QPointF(), area.size()));
+                }
+                canvas.painter().drawImage(area.toAlignedRect().topLeft(), image);
+            };
+        }
+        keys.push_back(std::move(key));
+    }
+}
+
+void MultiChart::drawBody(Canvas& canvas) {
+    for (const Shown& shown : m_shown) {
+        // What lies beyond the right and lower side need not be drawn; a chart still sees its upper left
+        // corner at (0, 0).
+        const QSize whole(shown.chart->width(), shown.chart->height());
+        const QRect area = QRect(shown.at, whole) & QRect(0, 0, width(), height());
+        if (area.isEmpty() || whole.width() > kMaxSide || whole.height() > kMaxSide) {
+            continue;
+        }
+        const QPoint seen = area.bottomRight() - shown.at;
+        QImage layer(seen.x() + 1, seen.y() + 1, QImage::Format_ARGB32_Premultiplied);
+        if (layer.isNull()) {
+            continue;
+        }
+        layer.fill(Qt::transparent);
+        {
+            Canvas part(layer, shown.chart->colours());
+            shown.chart->draw(part);
+        }
+        canvas.painter().drawImage(shown.at, layer);
+    }
+}
+
+void MultiChart::hostedEnds(Chart* chart) {
+    std::erase_if(m_shown, [&](const Shown& shown) { return shown.chart == chart; });
+    if (m_main == chart) {
+        m_main = nullptr;
+    }
+    changed();
+}
+
+} // namespace chartdraw
