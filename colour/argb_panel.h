@@ -44,12 +44,12 @@ private:
         std::int32_t ceiling;
     };
 
-    void AddNumber(QGridLayout& grid, int row, const char* label, std::int32_t& value, std::int32_t ceiling);
-    void Press(std::size_t index, int direction);
-    void Commit(const Number& number);
+    void LayOut(bool withAngle);
+    void AddNumber(QGridLayout& grid, const char* label, std::int32_t& value, std::int32_t ceiling);
+    void Press(Number& number, int direction);
+    void Commit(Number& number);
     void TakePaletteCell();
-    void TakeSpectrum(std::uint32_t color);
-    void AddToCustom();
+    /// Writes the controls and sends a ColorMessage.
     void Notify(int message);
 
     CDialog& m_page;

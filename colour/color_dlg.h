@@ -13,13 +13,6 @@ class QComboBox;
 class QLineEdit;
 class QStackedWidget;
 
-/// What the pages tell the dialog, as the key of the message of a changed field.
-enum ColorMessage {
-    ColorChanged = 0,  ///< compose the colour from the page shown
-    ColorToCustom = 1, ///< the same, and keep it as a custom colour
-    CustomChosen = 2   ///< take the custom colour
-};
-
 /// The page of plain colours.
 class CColorGeneralPage : public CDialog {
 public:

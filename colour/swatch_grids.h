@@ -1,6 +1,7 @@
 #pragma once
 // The grids of swatches of the colour dialog: the fixed palettes, and the custom colours.
 
+#include "colour/color_message.h"
 #include "colour/grid_geometry.h"
 
 #include <charteditors/chart_color.h>
@@ -42,9 +43,7 @@ private:
         QImage image;
     };
     const QImage& SwatchOf(int index, QSize size);
-    int CellAt(const QPoint& place) const;
     void SetCursorCell(int index);
-    void Pick(int index);
 
     GridShape m_shape;
     int m_hover = -1;

@@ -27,8 +27,10 @@ private:
     void FillLists();
     /// Reads and validates; on failure puts the last good values back.
     bool UpdateDataSafe();
+    void TakeFace();
+    void TakeSize();
     void CommitFace();
-    bool CommitSize();
+    void CommitSize();
     void SelectFaceByPrefix();
 
     CChartPreviewView* m_preview;
@@ -37,5 +39,6 @@ private:
     QLineEdit* m_sizeEdit;
     QListWidget* m_sizes;
     QString m_faceText;
-    double m_size = 0;
+    double m_size = 0; ///< points
+    bool m_complaining = false;
 };

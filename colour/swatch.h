@@ -1,0 +1,10 @@
+#pragma once
+// The colour sample as an image, for the cells of the grids.
+
+#include <charteditors/chart_color.h>
+
+#include <QImage>
+
+/// The sample of a colour, as the preview pane shows it: over a chequer board, in a frame. Null if there is
+/// no room for it. Draws a chart, so keep what comes back.
+QImage MakeSwatch(const CChartColor& color, QSize size);
