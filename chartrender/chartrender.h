@@ -51,8 +51,8 @@ public:
     const unsigned char* Data() const; ///< Good until the next rendering into this picture; null if empty.
     std::size_t Size() const;          ///< In bytes.
 
-    /// Writes the file, over an old one. False for an empty picture, or if the file cannot be written whole;
-    /// what was written then is removed.
+    /// Writes the file, in the place of an old one. False for an empty picture, or if the file cannot be
+    /// written whole; an old one then stays as it was.
     bool Save(const char* path) const;
 
 private:

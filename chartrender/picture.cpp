@@ -1,7 +1,7 @@
 #include "chartrender/picture_access.h"
 #include <QBuffer>
 #include <QImage>
-#include <cstdio>
+#include <QSaveFile>
 #include <utility>
 
 static QByteArray EncodePng(const QByteArray& bitmapFile) {
@@ -31,14 +31,11 @@ std::size_t CChartPicture::Size() const {
 }
 
 bool CChartPicture::Save(const char* path) const {
-    std::FILE* file = Empty() || !path ? nullptr : std::fopen(path, "wb");
-    if (!file)
+    if (Empty() || !path)
         return false;
-    const bool written = std::fwrite(Data(), 1, Size(), file) == Size();
-    if (std::fclose(file) == 0 && written)
-        return true;
-    std::remove(path);
-    return false;
+    QSaveFile file(QFile::decodeName(path));
+    return file.open(QIODevice::WriteOnly) && file.write(*static_cast<QByteArray*>(m_bytes)) >= 0 &&
+           file.commit();
 }
 
 void CChartPictureAccess::Clear(CChartPicture& picture) {

@@ -1,0 +1,178 @@
+// Rendering with the host's data: the calls, the picture, and clear answers where there is none.
+
+#include "chartrender/chartrender.h"
+#include "drawing/pie.h"
+#include "drawing/sample_data.h"
+#include "tests/recorder/recorder.h"
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+#include <gmock/gmock.h>
+#include <limits>
+#include <thread>
+
+namespace {
+
+using recorder::Recording;
+using testing::Contains;
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+/// The look of a pie with two named sectors.
+CPieChart twoSectors() {
+    CPieChart pie;
+    for (const char* name : {"first", "second"}) {
+        CPieChartSector sector;
+        sector.m_text = name;
+        sector.m_color.m_color = 0x336699;
+        pie.m_sectors.push_back(sector);
+    }
+    return pie;
+}
+
+QByteArray bytesOf(const CChartPicture& picture) {
+    return {reinterpret_cast<const char*>(picture.Data()), static_cast<qsizetype>(picture.Size())};
+}
+
+TEST(Render, ShowsTheHostsDataInTheModelsLooks) {
+    const double values[] = {25, 18.5, 15};
+    const char* labels[] = {"Labour", nullptr, "K\xc3\xb6ln"};
+    const Recording recording;
+    CChartPicture picture;
+    ASSERT_EQ(
+        RenderPieChart(twoSectors(), CChartLayout(), {values, labels, 3}, ChartPictureFormat::Bmp, picture),
+        ChartRenderResult::Ok);
+    EXPECT_THAT(
+        recording.Lines(),
+        Contains("CPieChart_setData(PieChart#1, [25, 18.5, 15], [\"Labour\", \"second\", \"K\xc3\xb6ln\"])"));
+    EXPECT_EQ(recording.Count("CSector_setColor"), 2);
+    EXPECT_EQ(recording.Count("CRanTable_create"), 0);
+    EXPECT_EQ(recording.Lines().back(), "CBaseChart_destroy(BaseChart#1)");
+}
+
+TEST(Render, WithoutLabelsTakesTheSectorsNames) {
+    const double values[] = {1, 2, 3};
+    const Recording recording;
+    CChartPicture picture;
+    RenderPieChart(twoSectors(), CChartLayout(), {values, nullptr, 3}, ChartPictureFormat::Bmp, picture);
+    EXPECT_THAT(recording.Lines(),
+                Contains(R"(CPieChart_setData(PieChart#1, [1, 2, 3], ["first", "second", ""]))"));
+}
+
+TEST(Render, OfTheSampleDataIsThePreview) {
+    class Preview : public CChartPreview {
+        int ClientWidth() const override { return 0; }
+        int ClientHeight() const override { return 0; }
+        void SetScrollSizes() override {}
+        void PaintSample(const char*, int) override {}
+    } preview;
+    preview.m_layout = &preview.m_ownLayout;
+    DrawPieChart(preview);
+
+    const CRandomTable table(0, 2, 5);
+    CRanTable_setCol(table.Get(), 0, 10, 100);
+    const CRoundedData rounded(table, 0);
+    const std::span<const double> values = rounded;
+    const char* labels[] = {"Sector 1", "Sector 2", "Sector 3", "Sector 4", "Sector 5"};
+    CChartPicture picture;
+    RenderPieChart(preview.m_ownPieChart, preview.m_ownLayout, {values.data(), labels, 5},
+                   ChartPictureFormat::Bmp, picture);
+    const auto& previewed = preview.m_picture.Bytes();
+    EXPECT_TRUE(bytesOf(picture) == QByteArray(previewed.data(), std::ssize(previewed)));
+}
+
+TEST(Render, MakesTheSamePictureInBothFormats) {
+    const double values[] = {3, 2, 1};
+    CChartPicture bitmap;
+    CChartPicture png;
+    const CPieChartData data = {values, nullptr, 3};
+    ASSERT_EQ(RenderPieChart(twoSectors(), CChartLayout(), data, ChartPictureFormat::Bmp, bitmap),
+              ChartRenderResult::Ok);
+    ASSERT_EQ(RenderPieChart(twoSectors(), CChartLayout(), data, ChartPictureFormat::Png, png),
+              ChartRenderResult::Ok);
+    EXPECT_TRUE(bytesOf(bitmap).startsWith("BM"));
+    EXPECT_TRUE(bytesOf(png).startsWith("\x89PNG"));
+    const QImage image = QImage::fromData(bytesOf(png)).convertToFormat(QImage::Format_RGB32);
+    EXPECT_EQ(image.size(), QSize(500, 550));
+    EXPECT_TRUE(image == QImage::fromData(bytesOf(bitmap)).convertToFormat(QImage::Format_RGB32));
+    EXPECT_EQ(image.pixel(260, 200), 0xff336699); // right of straight up stands the first sector
+}
+
+TEST(Render, AnswersBadInputWithoutAPicture) {
+    const double values[] = {1};
+    CChartLayout layout;
+    CChartLayout tooWide;
+    tooWide.m_width = 16385;
+    CChartLayout noArea;
+    noArea.m_height = 0;
+    struct Case {
+        const CChartLayout& layout;
+        CPieChartData data;
+        ChartRenderResult result;
+    };
+    const Case cases[] = {
+        {layout, {values, nullptr, -1}, ChartRenderResult::BadData},
+        {layout, {nullptr, nullptr, 1}, ChartRenderResult::BadData},
+        {tooWide, {values, nullptr, 1}, ChartRenderResult::NoPicture},
+        {noArea, {values, nullptr, 1}, ChartRenderResult::NoPicture},
+        {layout, {nullptr, nullptr, 0}, ChartRenderResult::Ok},
+    };
+    for (const Case& bad : cases)
+        for (const auto format : {ChartPictureFormat::Bmp, ChartPictureFormat::Png}) {
+            CChartPicture picture; // holds one already, which must go
+            RenderPieChart(CPieChart(), layout, {values, nullptr, 1}, format, picture);
+            EXPECT_EQ(RenderPieChart(CPieChart(), bad.layout, bad.data, format, picture), bad.result);
+            EXPECT_EQ(picture.Empty(), bad.result != ChartRenderResult::Ok);
+            EXPECT_EQ(picture.Data() == nullptr, picture.Empty());
+        }
+}
+
+TEST(Render, DrawsWhatItCanOfStrangeValues) {
+    const double values[] = {kNaN, -1, kInfinity, 0, 1.7e308, 5};
+    CChartPicture picture;
+    for (int count = 1; count <= std::ssize(values); ++count)
+        EXPECT_EQ(RenderPieChart(CPieChart(), CChartLayout(), {values, nullptr, count},
+                                 ChartPictureFormat::Bmp, picture),
+                  ChartRenderResult::Ok);
+}
+
+TEST(Render, TwoThreadsDoNotDisturbEachOther) {
+    const auto render = [](double second) {
+        const double values[] = {1, second};
+        CChartPicture picture;
+        RenderPieChart(twoSectors(), CChartLayout(), {values, nullptr, 2}, ChartPictureFormat::Bmp, picture);
+        return bytesOf(picture);
+    };
+    const QByteArray expected[] = {render(1), render(2)};
+    EXPECT_NE(expected[0], expected[1]);
+    std::vector<std::thread> threads;
+    int wrong[] = {0, 0};
+    for (const int i : {0, 1})
+        threads.emplace_back([&, i] {
+            for (int round = 0; round < 10; ++round)
+                wrong[i] += render(i + 1) != expected[i];
+        });
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(wrong[0] + wrong[1], 0);
+}
+
+TEST(Picture, SavesItsBytesOrNothing) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("pie.png");
+    const QByteArray narrow = path.toLocal8Bit();
+    CChartPicture picture;
+    EXPECT_FALSE(picture.Save(narrow.constData()));
+    EXPECT_FALSE(QFile::exists(path));
+    const double values[] = {1, 2};
+    RenderPieChart(CPieChart(), CChartLayout(), {values, nullptr, 2}, ChartPictureFormat::Png, picture);
+    EXPECT_FALSE(picture.Save(nullptr));
+    EXPECT_FALSE(picture.Save(folder.filePath("no/such/folder.png").toLocal8Bit().constData()));
+    ASSERT_TRUE(picture.Save(narrow.constData()));
+    QFile file(path);
+    ASSERT_TRUE(file.open(QFile::ReadOnly));
+    EXPECT_EQ(file.readAll(), bytesOf(picture));
+}
+
+} // namespace
