@@ -2,6 +2,7 @@
 
 #include "engine/paint/picture.h"
 #include "engine/text/alignment.h"
+#include "engine/xy/data_labels.h"
 #include "engine/xy/xy_chart.h"
 
 #include <algorithm>
@@ -106,7 +107,10 @@ private:
         // An axis that is still open waits for this one: the ring is cut here.
         if (direct.root != index && m_states[direct.root] != State::Open) {
             const Tie& on = findTie(direct.root);
-            tie = {on.root, direct.slope * on.slope, direct.slope * on.intercept + direct.intercept};
+            const Tie whole{on.root, direct.slope * on.slope, direct.slope * on.intercept + direct.intercept};
+            if (isValue(whole.slope) && whole.slope != 0 && isValue(whole.intercept)) {
+                tie = whole; // beyond that the chain is too long for numbers, and the axis stands alone
+            }
         }
         m_states[index] = State::Done;
         return tie;
@@ -253,12 +257,14 @@ private:
     void placeLayers() {
         const std::vector<Layer*>& layers = m_chart.layers();
         m_frame.layers.resize(layers.size());
+        const auto room = std::make_shared<LabelRoom>(QSize(m_chart.width(), m_chart.height()));
         int z = 0;
         for (std::size_t i = layers.size(); i-- > 0;) { // the last one stands in front
             PlotFrame& frame = m_frame.layers[i];
             frame.x = m_frame.axes[kFirstX].map;
             frame.y = m_frame.axes[indexOf(&layers[i]->yAxis())].map;
             frame.swapped = m_chart.swapped();
+            frame.labelRoom = room;
             frame.depth = layers[i]->depth();
             frame.depthOffset = QPoint(z, -z);
             frame.plot = m_frame.plot.translated(frame.depthOffset);

@@ -16,6 +16,7 @@
 #include <QPointF>
 #include <QRect>
 #include <array>
+#include <memory>
 #include <span>
 #include <string>
 #include <string_view>
@@ -24,6 +25,7 @@
 namespace chartdraw {
 
 class Axis;
+class LabelRoom;
 class XYChart;
 
 /// Rows [begin, end) of the data: what trimming leaves.
@@ -45,6 +47,8 @@ struct PlotFrame {
     /// The layer's front face from the front of the chart, in pixels: (z, -z).
     QPoint depthOffset;
     int depth = 0; ///< pixels of this layer's bodies, 0 flat; the back of a body is at (depth, -depth)
+    /// Where labels stand already, shared by all layers of a picture.
+    std::shared_ptr<LabelRoom> labelRoom;
 
     /// Position on the picture of a point given by its positions along the x and the y axis, and of one given
     /// by its values. Depth offset included.

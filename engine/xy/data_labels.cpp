@@ -1,0 +1,158 @@
+#include "engine/xy/data_labels.h"
+
+#include "engine/xy/xy_chart.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace chartdraw {
+
+namespace {
+
+constexpr int kCell = 2; // pixels
+
+class Fields final : public FieldSource {
+public:
+    Fields(const Layer& layer, const RowTexts& rows, const LabelContent& content)
+        : m_layer(layer), m_rows(rows), m_content(content) {}
+
+    FieldValue field(std::string_view name) const override {
+        if (name == "value") {
+            return FieldValue::number(m_content.value);
+        }
+        if (name == "xLabel") {
+            m_text = m_rows.text(m_content.row);
+            return FieldValue::number(m_rows.value(m_content.row), m_text);
+        }
+        if (name == "x") {
+            return FieldValue::number(m_layer.xValue(m_content.row));
+        }
+        if (name == "dataSetName") {
+            return FieldValue::text(m_content.set != nullptr ? std::string_view(m_content.set->name())
+                                                             : std::string_view());
+        }
+        if (name == "percent" && !std::isnan(m_content.percent)) {
+            m_text = numberText(m_content.percent, NumberSpec::atMost(2));
+            return FieldValue::number(m_content.percent, m_text);
+        }
+        for (const auto& [known, value] : m_content.more) {
+            if (name == known) {
+                return FieldValue::number(value);
+            }
+        }
+        return FieldValue::unknown();
+    }
+
+private:
+    const Layer& m_layer;
+    const RowTexts& m_rows;
+    const LabelContent& m_content;
+    mutable std::string m_text; // what a field refers to until the next one is asked for
+};
+
+QPointF wholeCorner(const QRectF& box) {
+    return {std::round(box.left()), std::round(box.top())};
+}
+
+/// Moved into `room`, its left and upper sides first.
+QRectF movedInto(QRectF box, const QRectF& room) {
+    box.moveLeft(std::max(room.left(), std::min(box.left(), room.right() - box.width())));
+    box.moveTop(std::max(room.top(), std::min(box.top(), room.bottom() - box.height())));
+    return box;
+}
+
+} // namespace
+
+LabelRoom::LabelRoom(QSize picture)
+    : m_size((std::max(0, picture.width()) + kCell - 1) / kCell,
+             (std::max(0, picture.height()) + kCell - 1) / kCell),
+      m_taken(static_cast<std::size_t>(m_size.width()) * static_cast<std::size_t>(m_size.height())) {}
+
+QRect LabelRoom::cells(const QRectF& box) const {
+    const QRect pixels =
+        (box & QRectF(0, 0, m_size.width() * kCell, m_size.height() * kCell)).toAlignedRect();
+    if (pixels.isEmpty()) {
+        return {};
+    }
+    return {QPoint(pixels.left() / kCell, pixels.top() / kCell),
+            QPoint(pixels.right() / kCell, pixels.bottom() / kCell)};
+}
+
+bool LabelRoom::isFree(const QRectF& box) const {
+    const QRect range = cells(box);
+    for (int y = range.top(); y <= range.bottom(); ++y) {
+        for (int x = range.left(); x <= range.right(); ++x) {
+            if (m_taken[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_size.width()) +
+                        static_cast<std::size_t>(x)]) {
+                return false;
+            }
+        }
+    }
+    return true;
+}
+
+void LabelRoom::take(const QRectF& box) {
+    const QRect range = cells(box);
+    for (int y = range.top(); y <= range.bottom(); ++y) {
+        for (int x = range.left(); x <= range.right(); ++x) {
+            m_taken[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_size.width()) +
+                    static_cast<std::size_t>(x)] = true;
+        }
+    }
+}
+
+DataLabels::DataLabels(Canvas& canvas, const Layer& layer, const PlotFrame& frame, const TextBox& style,
+                       const std::string& format)
+    : m_canvas(canvas), m_layer(layer), m_frame(frame), m_style(style), m_format(format),
+      m_rows(layer.chart().rowTexts()), m_plot(frame.inner()), m_least(style.block("1").size()),
+      m_room(frame.labelRoom != nullptr
+                 ? frame.labelRoom
+                 : std::make_shared<LabelRoom>(QSize(layer.chart().width(), layer.chart().height()))) {}
+
+QRectF DataLabels::boxAt(const LabelSpot& spot, LabelSide side, QSizeF size) const {
+    QRectF box(QPointF(), size);
+    const QPointF anchor = m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5);
+    box.moveCenter(anchor);
+    if (side != LabelSide::Inside) {
+        const bool growing = (m_frame.y.upperPixel() > m_frame.y.lowerPixel()) == (side == LabelSide::Above);
+        const double sign = growing ? 1 : -1;
+        const double reach = spot.gap + (m_frame.swapped ? size.width() : size.height()) / 2;
+        box.translate(m_frame.swapped ? QPointF(sign * reach, 0) : QPointF(0, sign * reach));
+    }
+    return box;
+}
+
+bool DataLabels::place(QRectF& box, const LabelSpot& spot, QSizeF size) const {
+    const LabelSide other = spot.side == LabelSide::Above ? LabelSide::Below : LabelSide::Above;
+    const LabelSide inside[] = {LabelSide::Inside};
+    const LabelSide outside[] = {spot.side, other};
+    for (const LabelSide side : spot.side == LabelSide::Inside ? std::span<const LabelSide>(inside)
+                                                               : std::span<const LabelSide>(outside)) {
+        const QRectF wished = boxAt(spot, side, size);
+        QRectF moved = movedInto(wished, m_plot);
+        moved.moveTopLeft(wholeCorner(moved));
+        // Across the values a label may move along the frame, but not onto its own point.
+        const double shift = m_frame.swapped ? moved.left() - wished.left() : moved.top() - wished.top();
+        if (std::abs(shift) <= spot.gap + 0.5 && m_room->isFree(moved)) {
+            box = moved;
+            return true;
+        }
+    }
+    return false;
+}
+
+void DataLabels::draw(const LabelContent& content, const LabelSpot& spot) {
+    const QRectF near = m_plot.adjusted(-2, -2, 2, 2);
+    QRectF box;
+    if (!near.contains(m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5)) ||
+        !place(box, spot, m_least)) { // where not even the least label has room none is laid out
+        return;
+    }
+    const TextBlock block = m_style.block(m_format.apply(Fields(m_layer, m_rows, content)));
+    if (!block.empty() && place(box, spot, block.size())) {
+        m_room->take(box);
+        block.drawAt(m_canvas, box.topLeft(), TopLeft);
+    }
+}
+
+} // namespace chartdraw

@@ -1,0 +1,214 @@
+#include "engine/xy/line_layer.h"
+
+#include "engine/data/no_value.h"
+#include "engine/xy/curves.h"
+#include "engine/xy/data_labels.h"
+#include "engine/xy/depth.h"
+#include "engine/xy/line_reduction.h"
+#include "engine/xy/row_room.h"
+#include "engine/xy/xy_chart.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace chartdraw {
+
+namespace {
+
+constexpr std::size_t kPiece = 1 << 14; // points in hand at a time
+
+Kind kindOf(LineLayer::Form form) {
+    switch (form) {
+    case LineLayer::Form::Smooth:
+        return Kind::SplineLayer;
+    case LineLayer::Form::Steps:
+        return Kind::StepLineLayer;
+    default:
+        return Kind::LineLayer;
+    }
+}
+
+void toPicture(std::vector<QPointF>& points, const PlotFrame& frame) {
+    for (QPointF& point : points) {
+        point = frame.at(point.x(), point.y());
+    }
+}
+
+/// A missing size is none; sizes are limited to what a data set's symbol may have.
+int wholeSize(std::span<const double> sizes, std::size_t row) {
+    const double size = row < sizes.size() && isValue(sizes[row]) ? sizes[row] : 0;
+    return static_cast<int>(std::lround(std::clamp<double>(size, 0, kMaxSymbolSize)));
+}
+
+} // namespace
+
+LineLayer::LineLayer(XYChart& chart, Form form, int depth)
+    : Layer(kindOf(form), chart, depth), m_form(form) {}
+
+Line* LineLayer::line(int index) {
+    DataSet* set = dataSet(index);
+    if (set == nullptr) {
+        return nullptr;
+    }
+    m_lines.resize(dataSets().size());
+    SeriesLine*& line = m_lines[static_cast<std::size_t>(index)];
+    if (line == nullptr) {
+        line = chart().own<SeriesLine>(chart(), *this, *set);
+    }
+    return line;
+}
+
+void LineLayer::setSymbolSizes(std::vector<double> widths, std::vector<double> heights) {
+    m_widths = std::move(widths);
+    m_heights = std::move(heights);
+    changed();
+}
+
+std::vector<QPointF> LineLayer::curve(const DataSet& set, const PlotFrame& frame) const {
+    std::vector<QPointF> points = reducedPoints(*this, set.data(), frame);
+    switch (m_form) {
+    case Form::Smooth:
+        return smoothCurve(points);
+    case Form::Steps:
+        return steps(points);
+    default:
+        snapLevels(points);
+        return points;
+    }
+}
+
+void LineLayer::drawLongLine(Canvas& canvas, const DataSet& set) const {
+    LineReduction reduction(*this, set.data(), m_frame);
+    std::vector<QPointF> points;
+    for (; reduction.more(points, kPiece); points.clear()) {
+        snapLevels(points);
+        toPicture(points, m_frame);
+        canvas.polyline(points, set.colour(), lineWidth());
+    }
+    if (lineWidth() == 1) {
+        for (const CoveredColumn& covered : reduction.covered()) {
+            canvas.fillRect(pixelRect(m_frame, covered.column, covered.column, covered.from, covered.to),
+                            set.colour());
+        }
+    }
+}
+
+void LineLayer::drawLine(Canvas& canvas, const DataSet& set) const {
+    if (lineWidth() < 1 || canvas.colours().invisible(set.colour())) {
+        return;
+    }
+    if (m_form == Form::Straight && m_frame.depth == 0 && set.colour() <= 0xffffff) {
+        drawLongLine(canvas, set); // the colour is opaque, so the line may be drawn in parts
+        return;
+    }
+    std::vector<QPointF> points = curve(set, m_frame);
+    toPicture(points, m_frame);
+    if (m_frame.depth > 0) {
+        drawRibbon(canvas, points, m_frame.depth, orDefault(set.shadow(), set.colour()));
+    }
+    canvas.polyline(points, set.colour(), lineWidth());
+}
+
+QSize LineLayer::symbolSize(const DataSet& set, std::size_t row) const {
+    if (m_widths.empty() && m_heights.empty()) {
+        return {set.symbol().size, set.symbol().size};
+    }
+    return {wholeSize(m_widths.empty() ? m_heights : m_widths, row),
+            wholeSize(m_heights.empty() ? m_widths : m_heights, row)};
+}
+
+void LineLayer::drawSymbols(Canvas& canvas, const DataSet& set) const {
+    SymbolPainter symbols(canvas, set.symbol().resolved(set.colour()));
+    if (!symbols.visible()) {
+        return;
+    }
+    const bool scaled = !m_widths.empty() || !m_heights.empty();
+    const QRectF plot = QRectF(m_frame.plot).adjusted(-0.5, -0.5, -0.5, -0.5);
+    const std::size_t end = std::min(rows().end, set.data().size());
+    for (std::size_t row = rows().begin; row < end; ++row) {
+        const double x = xValue(row);
+        if (!isValue(set.data()[row]) || !isValue(x)) {
+            continue;
+        }
+        const QPointF centre = m_frame.point(x, set.data()[row]);
+        if (plot.contains(centre)) {
+            if (scaled) {
+                symbols.draw(centre, symbolSize(set, row));
+            } else {
+                symbols.draw(centre);
+            }
+        }
+    }
+}
+
+void LineLayer::draw(Canvas& canvas, const PlotFrame& frame) {
+    m_frame = frame;
+    {
+        // Lines on the frame keep their whole width.
+        const int reach = std::max(0, lineWidth() / 2);
+        const QRect plot = frame.plot.adjusted(-reach, -reach - frame.depth, reach + frame.depth, reach);
+        const ClipScope clip(canvas, plot);
+        for (const DataSet* set : dataSets()) {
+            drawLine(canvas, *set);
+        }
+    }
+    for (const DataSet* set : dataSets()) {
+        drawSymbols(canvas, *set);
+    }
+}
+
+void LineLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
+    if (dataLabels() == nullptr) {
+        return;
+    }
+    DataLabels labels(canvas, *this, frame, *dataLabels(), dataLabelFormat());
+    for (const DataSet* set : dataSets()) {
+        const std::span<const double> data = set->data();
+        const auto lower = [&](std::size_t row, std::size_t other) {
+            return other >= data.size() || !isValue(data[other]) || data[row] < data[other];
+        };
+        const std::size_t end = std::min(rows().end, data.size());
+        for (std::size_t row = rows().begin; row < end; ++row) {
+            const double x = xValue(row);
+            if (!isValue(data[row]) || !isValue(x)) {
+                continue;
+            }
+            // In a valley the line leaves room below.
+            const bool valley =
+                lower(row, row - 1) && lower(row, row + 1) && data.size() > 1 && lineWidth() > 0;
+            const QSize size = symbolSize(*set, row);
+            const int symbol =
+                set->symbol().shape > 0 ? (frame.swapped ? size.width() : size.height()) : lineWidth();
+            labels.draw({row, set, data[row]},
+                        {frame.x.pixel(x), frame.y.pixel(data[row]),
+                         valley ? LabelSide::Below : LabelSide::Above, symbol / 2 + 2});
+        }
+    }
+}
+
+void LineLayer::collectKeys(std::vector<LegendKey>& keys) const {
+    for (const DataSet* set : dataSets()) {
+        if (set->name().empty()) {
+            continue;
+        }
+        const auto mark = [set](Canvas& canvas, QPointF centre, double room) {
+            DataSymbol symbol = set->symbol().resolved(set->colour());
+            symbol.size = std::min(symbol.size, static_cast<int>(room));
+            SymbolPainter(canvas, symbol).draw(centre);
+        };
+        if (lineWidth() > 0) {
+            keys.push_back(lineKey(set->name(), set->colour(), lineWidth(),
+                                   [mark](Canvas& canvas, QPointF centre) { mark(canvas, centre, 11); }));
+        } else {
+            LegendKey key;
+            key.fields = nameOnly(set->name());
+            key.drawSymbol = [mark](Canvas& canvas, const QRectF& area) {
+                mark(canvas, {std::floor(area.center().x()), std::floor(area.center().y())}, area.height());
+            };
+            keys.push_back(std::move(key));
+        }
+    }
+}
+
+} // namespace chartdraw

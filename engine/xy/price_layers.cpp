@@ -1,0 +1,141 @@
+// Price bars and candles.
+
+#include "engine/data/no_value.h"
+#include "engine/xy/bar_shapes.h"
+#include "engine/xy/box_layer.h"
+#include "engine/xy/row_room.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace chartdraw {
+
+namespace {
+
+/// A line over the pixels between two places along the axes.
+void drawAlong(Canvas& canvas, const QRect& pixels, Colour colour, int width) {
+    canvas.line(pixels.topLeft(), pixels.bottomRight(), colour, width);
+}
+
+} // namespace
+
+bool PriceLayer::shows(std::size_t row) const {
+    return isValue(at(High, row)) && isValue(at(Low, row));
+}
+
+bool PriceLayer::labelOf(std::size_t row, double& value,
+                         std::vector<std::pair<std::string_view, double>>& fields) const {
+    fields = {
+        {"high", at(High, row)}, {"low", at(Low, row)}, {"open", at(Open, row)}, {"close", at(Close, row)}};
+    value = isValue(at(Close, row)) ? at(Close, row) : at(High, row);
+    return shows(row);
+}
+
+HLOCLayer::HLOCLayer(XYChart& chart, std::vector<std::vector<double>> series, Colour colour)
+    : PriceLayer(Kind::HLOCLayer, chart, std::move(series), colour, {}), m_leadValue(kNoValue) {}
+
+void HLOCLayer::setColourMethod(bool byClose, Colour rise, Colour fall, double leadValue) {
+    m_byClose = byClose;
+    m_rise = rise;
+    m_fall = fall;
+    m_leadValue = leadValue;
+    changed();
+}
+
+std::vector<bool> HLOCLayer::falls() const {
+    std::vector<bool> result(rowCount());
+    double before = isValue(m_leadValue) && m_leadValue != -kNoValue ? m_leadValue : kNoValue;
+    for (std::size_t row = 0; row < result.size(); ++row) {
+        const double close = at(Close, row);
+        if (isValue(close)) {
+            result[row] = isValue(before) && close < before;
+            before = close;
+        }
+    }
+    return result;
+}
+
+Colour HLOCLayer::colourOf(std::size_t row) const {
+    return m_byClose ? orDefault(m_falls[row] ? m_fall : m_rise, set().colour()) : set().colour();
+}
+
+void HLOCLayer::draw(Canvas& canvas, const PlotFrame& frame) {
+    if (m_byClose) {
+        m_falls = falls();
+    }
+    PriceLayer::draw(canvas, frame);
+}
+
+void HLOCLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Place& place) const {
+    if (!shows(place.row) || lineWidth() < 1) {
+        return;
+    }
+    const Colour colour = colourOf(place.row);
+    const auto line = [&](int x0, int x1, int y0, int y1) {
+        drawAlong(canvas, pixelRect(frame, x0, x1, y0, y1), colour, lineWidth());
+    };
+    line(place.middle, place.middle, pixel(frame, at(High, place.row)), pixel(frame, at(Low, place.row)));
+    const bool mirrored = (frame.x.lowerPixel() > frame.x.upperPixel()) != frame.swapped;
+    const auto tick = [&](double value, bool left) {
+        if (isValue(value)) {
+            const int y = pixel(frame, value);
+            line(place.middle, left != mirrored ? place.first : place.last, y, y);
+        }
+    };
+    tick(at(Open, place.row), !frame.swapped);
+    tick(at(Close, place.row), frame.swapped);
+}
+
+void HLOCLayer::drawKey(Canvas& canvas, const QRect& area) const {
+    canvas.box(area, m_byClose ? orDefault(m_rise, set().colour()) : set().colour(), kTransparent, 0);
+}
+
+CandleStickLayer::CandleStickLayer(XYChart& chart, std::vector<std::vector<double>> series, Colour rise,
+                                   Colour fall, Colour edge)
+    : PriceLayer(Kind::CandleStickLayer, chart, std::move(series), orDefault(rise, 0xffffff), {}),
+      m_fall(orDefault(fall, 0x000000)) {
+    setBorder(orDefault(edge, kLineColour), 0);
+}
+
+void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Place& place) const {
+    if (!shows(place.row)) {
+        return;
+    }
+    const double open = at(Open, place.row), close = at(Close, place.row);
+    const Colour edge = set().edge(borderColour());
+    const int high = pixel(frame, at(High, place.row)), low = pixel(frame, at(Low, place.row));
+    const QPoint middle(frame.depth / 2, -frame.depth / 2);
+    const auto wick = [&](int from, int to) {
+        drawAlong(canvas, pixelRect(frame, place.middle, place.middle, from, to).translated(middle), edge,
+                  lineWidth());
+    };
+    if (!isValue(open) || !isValue(close)) {
+        wick(high, low);
+        return;
+    }
+    const double top = std::max(open, close), bottom = std::min(open, close);
+    wick(high, pixel(frame, top));
+    wick(low, pixel(frame, bottom));
+    BarLook look;
+    look.fill = close >= open ? set().colour() : m_fall;
+    look.edge = edge;
+    look.side = orDefault(set().shadow(), look.fill);
+    look.sideEdge = orDefault(set().shadowEdge(), edge);
+    look.effect = borderEffect();
+    // Narrow bodies would be nothing but edge.
+    look.edgeWidth = place.last - place.first < 2 ? 0 : lineWidth();
+    look.depth = frame.depth;
+    drawBar(canvas, pixelRect(frame, place.first, place.last, pixel(frame, top), pixel(frame, bottom)),
+            SquareShape, 8, look);
+}
+
+void CandleStickLayer::drawKey(Canvas& canvas, const QRect& area) const {
+    const Colour edge = set().edge(borderColour());
+    const int middle = area.center().x();
+    const int wing = std::max(1, area.height() / 4);
+    canvas.line(QPoint(middle, area.top()), QPoint(middle, area.bottom()), edge, 1);
+    canvas.box(QRect(QPoint(middle - wing, area.top() + 2), QPoint(middle + wing, area.bottom() - 2)),
+               set().colour(), edge, 0);
+}
+
+} // namespace chartdraw

@@ -1,0 +1,44 @@
+#pragma once
+// How much room along x each row of a layer has, which is what the widths of bars and boxes come from, and
+// helpers to go from positions along the axes to pixels.
+
+#include "engine/xy/layer.h"
+
+#include <span>
+
+namespace chartdraw {
+
+/// The smallest distance above 0 between two of the values, gaps left out; 0 where there is none. Any order.
+double smallestStep(std::span<const double> values);
+
+/// Pixels from one row of the layer to the next: between the nearest two where they stand unevenly.
+double rowRoom(const Layer& layer, const PlotFrame& frame);
+
+/// The x range of a layer whose rows take up room: half a row more at both ends.
+DataRange widenedXRange(const Layer& layer, const DataRange& range);
+
+/// The pixels between whole positions along x and along y, ends included and in either order.
+QRect pixelRect(const PlotFrame& frame, int x0, int x1, int y0, int y1);
+
+/// The position along y of a value, 0 standing on the base line, limited to a little beyond the plot area.
+double alongY(const PlotFrame& frame, double value);
+
+/// Whether a position along x is within the plot area, give or take `reach` pixels. False for NaN.
+bool showsX(const PlotFrame& frame, double alongX, double reach = 0.5);
+
+/// Limits drawing to a rectangle for the life of the object.
+class ClipScope {
+public:
+    ClipScope(Canvas& canvas, const QRect& rect) : m_painter(canvas.painter()) {
+        m_painter.save();
+        m_painter.setClipRect(rect, Qt::IntersectClip);
+    }
+    ~ClipScope() { m_painter.restore(); }
+    ClipScope(const ClipScope&) = delete;
+    ClipScope& operator=(const ClipScope&) = delete;
+
+private:
+    QPainter& m_painter;
+};
+
+} // namespace chartdraw
