@@ -80,29 +80,34 @@ void LegendBox::show(QPoint at, bool vertical, const TextLook& look) {
 }
 
 void LegendBox::addKey(std::string text, Colour colour, int lineWidth, const DrawArea* symbol) {
+    m_keys.push_back({std::move(text), colour, lineWidth, symbol != nullptr ? symbol->image() : QImage()});
+    changed();
+}
+
+LegendKey LegendBox::keyOf(const OwnKey& own, Colour next) {
     LegendKey key;
-    if (symbol != nullptr && !symbol->image().isNull()) {
-        key.drawSymbol = [image = symbol->image()](Canvas& canvas, const QRectF& area) {
+    if (!own.symbol.isNull()) {
+        key.drawSymbol = [image = own.symbol](Canvas& canvas, const QRectF& area) {
             const QSize fit = image.size().scaled(area.size().toSize(), Qt::KeepAspectRatio);
             const QPointF corner = area.center() - QPointF(fit.width() / 2.0, fit.height() / 2.0);
             canvas.painter().drawImage(QRectF(corner, fit), image);
         };
-    } else if (lineWidth > 0) {
-        key = lineKey({}, orDefault(colour, kLineColour), lineWidth);
+    } else if (own.lineWidth > 0) {
+        key = lineKey({}, orDefault(own.colour, next), own.lineWidth);
     } else {
-        key = boxKey({}, orDefault(colour, kLineColour), kLineColour);
+        key = boxKey({}, orDefault(own.colour, next), kTransparent);
     }
-    key.fields = nullptr;
-    key.text = std::move(text);
-    m_keys.push_back(std::move(key));
-    changed();
+    key.text = own.text;
+    return key;
 }
 
 LegendBox::Plan LegendBox::plan() const {
     Plan plan;
     chart().collectKeys(plan.keys);
     std::erase_if(plan.keys, [](const LegendKey& key) { return key.fields == nullptr && key.text.empty(); });
-    plan.keys.insert(plan.keys.end(), m_keys.begin(), m_keys.end());
+    for (const OwnKey& own : m_keys) {
+        plan.keys.push_back(keyOf(own, seriesColour(static_cast<int>(plan.keys.size()))));
+    }
 
     TextLook bare = look();
     bare.setMargins(0, 0, 0, 0);

@@ -49,13 +49,20 @@ public:
     int measuredHeight() const override;
 
 private:
+    struct OwnKey {
+        std::string text;
+        Colour colour; ///< kDefaultColour: the series colour that comes next
+        int lineWidth;
+        QImage symbol;
+    };
     struct Placed;
     struct Plan;
+    static LegendKey keyOf(const OwnKey& own, Colour next);
     Plan plan() const;
 
     bool m_shown = false;
     bool m_vertical = false;
-    std::vector<LegendKey> m_keys;
+    std::vector<OwnKey> m_keys;
 };
 
 } // namespace chartdraw

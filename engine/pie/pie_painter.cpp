@@ -8,6 +8,8 @@ namespace chartdraw {
 namespace {
 
 constexpr Colour kFaceEdge = 0x00ffffff;
+constexpr double kNarrow = 3; ///< pixels of the rim
+constexpr double kSliver = 0.1;
 // Two smoothed edges side by side let the background shine through, so what is drawn earlier reaches under
 // its neighbours: faces by an angle, which holds in the centre as well, walls by pixels.
 constexpr double kFaceOverlap = std::numbers::pi / 8;
@@ -48,8 +50,10 @@ public:
             m_canvas.fillPath(m_pie.body.face(sector.centre, sector.span), sector.fill, &m_extent);
         }
         for (const SectorLook& sector : m_sectors) {
+            // Light lines around narrow sectors would leave little of their colours.
+            const bool narrow = sector.span.span * m_pie.body.radius < kNarrow;
             m_canvas.strokePath(m_pie.body.face(sector.centre, sector.span),
-                                orDefault(sector.edge, kFaceEdge), 1);
+                                orDefault(sector.edge, narrow ? kTransparent : kFaceEdge), 1);
         }
     }
 
@@ -147,7 +151,14 @@ private:
 void drawPie(Canvas& canvas, const PieLook& pie, std::span<const SectorLook> sectors) {
     std::vector<SectorLook> visible;
     for (const SectorLook& sector : sectors) {
-        if (sector.span.span > 0) {
+        if (sector.span.span <= 0) {
+            continue;
+        }
+        // Slivers that no pixel can show go together, so that thousands of them cost no more than hundreds.
+        SectorLook* last = visible.empty() ? nullptr : &visible.back();
+        if (last != nullptr && last->span.span * pie.body.radius < kSliver && last->centre == sector.centre) {
+            last->span.span += sector.span.span;
+        } else {
             visible.push_back(sector);
         }
     }

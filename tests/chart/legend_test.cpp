@@ -93,6 +93,20 @@ TEST(Legend, DrawsLineKeysAsLinesAndNothingWithoutKeys) {
     EXPECT_GT(line.width(), 12);
 }
 
+TEST(Legend, GivesKeysWithoutAColourTheNextOfTheSeries) {
+    Chart chart(true);
+    chart.addKeys(1, "first");
+    CLegendBox_addKey(chart.legend, "second", -1, 0, nullptr);
+    const QImage image = chart.picture();
+    const QRect first = pictures::boundsOf(image, kKeys[0]);
+    // What entry 9 of the palette, the second series colour, looks like in a box of its own.
+    TextBox* sample = CBaseChart_addText(chart.chart, 200, 150, "", nullptr, 8, 0, CHART_TOP_LEFT, 0, false);
+    CBox_setSize(TextBox2Box(sample), 10, 10);
+    CBox_setBackground(TextBox2Box(sample), CHART_DATA_COLOR + 1, CHART_TRANSPARENT, 0);
+    const unsigned expected = pictures::at(chart.picture(), 205, 155);
+    EXPECT_EQ(pictures::boundsOf(image, expected).size(), first.size());
+}
+
 TEST(Legend, MovesWhenAddedAgain) {
     Chart chart(false);
     chart.addKeys(1, "Key");
