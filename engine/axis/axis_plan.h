@@ -35,6 +35,11 @@ struct PlannedTick {
     bool major = true;
     std::string text;               ///< of the label, empty where there is none
     std::optional<TextBlock> label; ///< laid out, where there is a text
+
+    void dropLabel() {
+        label.reset();
+        text.clear();
+    }
 };
 
 struct AxisPlan {

@@ -18,26 +18,39 @@ LabelFit::LabelFit(const TextLook& look, const FontSet& fonts, bool upright) : m
     m_gap = sideBySide ? std::max(4.0, m_lineHeight * 0.4) : 1.0;
 }
 
-double LabelFit::halfExtent(const TextBlock& block) const {
-    const QSize bounds = block.size();
-    const double full = m_upright ? bounds.height() : bounds.width();
-    return std::min(full, m_slant > 0.05 ? block.boxSize().height() / m_slant : full) / 2;
+std::vector<double> LabelFit::halfExtents(const std::vector<PlannedTick>& ticks) const {
+    std::vector<double> result(ticks.size(), 0);
+    double longest = 0, strip = 0;
+    for (std::size_t i = 0; i < ticks.size(); ++i) {
+        if (ticks[i].label) {
+            const QSize bounds = ticks[i].label->size();
+            result[i] = (m_upright ? bounds.height() : bounds.width()) / 2.0;
+            longest = std::max(longest, 2 * result[i]);
+            strip = std::max(strip, ticks[i].label->boxSize().height() / std::max(m_slant, 0.01));
+        }
+    }
+    const bool slanted = m_slant > 0.05 && m_slant < 0.999;
+    if (slanted) {
+        std::fill(result.begin(), result.end(), std::min(longest, strip) / 2);
+    }
+    return result;
 }
 
 double LabelFit::wantedDistance(const std::vector<PlannedTick>& ticks, const AxisMap& map) const {
+    const std::vector<double> halves = halfExtents(ticks);
     double wanted = 0;
-    const PlannedTick* before = nullptr;
-    for (const PlannedTick& tick : ticks) {
-        if (!tick.label) {
+    std::size_t before = ticks.size();
+    for (std::size_t i = 0; i < ticks.size(); ++i) {
+        if (!ticks[i].label) {
             continue;
         }
-        if (before != nullptr) {
-            const double room = halfExtent(*before->label) + halfExtent(*tick.label) + m_gap;
-            if (std::abs(map.pixel(tick.value) - map.pixel(before->value)) < room) {
+        if (before < i) {
+            const double room = halves[before] + halves[i] + m_gap;
+            if (std::abs(map.pixel(ticks[i].value) - map.pixel(ticks[before].value)) < room) {
                 wanted = std::max(wanted, room);
             }
         }
-        before = &tick;
+        before = i;
     }
     return wanted;
 }
@@ -50,14 +63,14 @@ void LabelFit::thin(std::vector<PlannedTick>& ticks, const AxisMap& map, std::sp
         thinByRank(ticks, map, ranks);
         return;
     }
+    const std::vector<double> halves = halfExtents(ticks);
     std::vector<LabelExtent> extents;
     std::vector<PlannedTick*> labelled;
-    for (PlannedTick& tick : ticks) {
-        if (tick.label) {
-            const double at = map.pixel(tick.value);
-            const double half = halfExtent(*tick.label);
-            extents.push_back({at - half, at + half});
-            labelled.push_back(&tick);
+    for (std::size_t i = 0; i < ticks.size(); ++i) {
+        if (ticks[i].label) {
+            const double at = map.pixel(ticks[i].value);
+            extents.push_back({at - halves[i], at + halves[i]});
+            labelled.push_back(&ticks[i]);
         }
     }
     std::vector<bool> kept(labelled.size(), false);
@@ -66,8 +79,7 @@ void LabelFit::thin(std::vector<PlannedTick>& ticks, const AxisMap& map, std::sp
     }
     for (std::size_t i = 0; i < labelled.size(); ++i) {
         if (!kept[i]) {
-            labelled[i]->label.reset();
-            labelled[i]->text.clear();
+            labelled[i]->dropLabel();
         }
     }
 }
@@ -78,6 +90,7 @@ void LabelFit::thinByRank(std::vector<PlannedTick>& ticks, const AxisMap& map,
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::stable_sort(order.begin(), order.end(),
                      [&](std::size_t a, std::size_t b) { return ranks[a] < ranks[b]; });
+    const std::vector<double> halves = halfExtents(ticks);
     std::map<double, double> taken; // from start to end of the room of each label kept
     for (const std::size_t i : order) {
         PlannedTick& tick = ticks[i];
@@ -85,15 +98,14 @@ void LabelFit::thinByRank(std::vector<PlannedTick>& ticks, const AxisMap& map,
             continue;
         }
         const double at = map.pixel(tick.value);
-        const double half = halfExtent(*tick.label) + m_gap / 2;
+        const double half = halves[i] + m_gap / 2;
         const auto after = taken.lower_bound(at - half);
         const bool free = (after == taken.end() || after->first >= at + half) &&
                           (after == taken.begin() || std::prev(after)->second <= at - half);
         if (free) {
             taken.emplace(at - half, at + half);
         } else {
-            tick.label.reset();
-            tick.text.clear();
+            tick.dropLabel();
         }
     }
 }

@@ -10,14 +10,8 @@ public:
     /// `look` of the labels; `upright`: along an upright axis.
     LabelFit(const TextLook& look, const FontSet& fonts, bool upright);
 
-    /// Least distance of the middles of two labels of one line, for a first guess.
+    /// Pixels of a label of one line.
     double lineHeight() const { return m_lineHeight; }
-    /// Pixels along the axis that a label takes to either side of its tick. Slanted labels lie beside each
-    /// other and take the room of their line height, not of their bounds.
-    double halfExtent(const TextBlock& block) const;
-    /// Pixels that two labels keep between them.
-    double gap() const { return m_gap; }
-
     /// The distance that the labels' ticks want for all to have room; 0 if they have it. `ticks` ascending,
     /// `map` their positions.
     double wantedDistance(const std::vector<PlannedTick>& ticks, const AxisMap& map) const;
@@ -26,12 +20,15 @@ public:
     void thin(std::vector<PlannedTick>& ticks, const AxisMap& map, std::span<const int> ranks = {}) const;
 
 private:
+    /// Half the pixels along the axis that each tick's label takes, 0 without one. Slanted labels hang from
+    /// their ticks side by side: each takes the same room, that of its line height or of the longest label.
+    std::vector<double> halfExtents(const std::vector<PlannedTick>& ticks) const;
     void thinByRank(std::vector<PlannedTick>& ticks, const AxisMap& map, std::span<const int> ranks) const;
 
     bool m_upright;
     double m_slant; ///< part of the line height that a label takes along the axis; 0: its bounds count
     double m_lineHeight;
-    double m_gap;
+    double m_gap; ///< pixels that two labels keep between them
 };
 
 } // namespace chartdraw

@@ -1,5 +1,6 @@
 // Where lines, ticks, labels, marks and titles stand.
 
+#include "engine/data/label_filter.h"
 #include "tests/axis/axis_fixture.h"
 
 #include <algorithm>
@@ -119,8 +120,9 @@ TEST_F(AxisLayoutTest, LabelsNeverLieOverEachOtherNorLeaveThePicture) {
                  days.push_back(63e9 + i * 86400.0);
              }
              a.setLabels(days, "");
-             a.setRules({{5, "<*font=bold*>{value|mmmm yyyy}", 1, true}, {4, "{value|mmm}", 1, false}});
-             a.addRule({7, "{value|d}", 1, false});
+             a.setRules({{encodeFilter(5, 1, 0), "<*font=bold*>{value|mmmm yyyy}", 1, true},
+                         {encodeFilter(4, 1, 0), "{value|mmm}", 1, false}});
+             a.addRule({encodeFilter(7, 1, 0), "{value|d}", 1, false});
          },
          ofRows(700)},
     };

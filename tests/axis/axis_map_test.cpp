@@ -36,7 +36,7 @@ TEST(AxisMap, TiedAxisMeasuresTheSamePlaceInItsOwnUnits) {
     const AxisMap falling = celsius.tied(-1, 0);
     EXPECT_DOUBLE_EQ(falling.lower(), -100);
     EXPECT_DOUBLE_EQ(falling.pixel(-100), 50);
-    EXPECT_EQ(celsius.tied(1e-300, 1e300).wholePixel(-1e300), 250 + 200 * 1000000 ); // far, not undefined
+    EXPECT_EQ(celsius.tied(1e-300, 1e300).wholePixel(-1e300), 250 + 200 * 1000000); // far, not undefined
 }
 
 TEST(AxisMap, AffineFormAgreesWithTheMap) {

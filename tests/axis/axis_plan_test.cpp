@@ -123,7 +123,8 @@ TEST_F(AxisPlanTest, RulesChooseDateLabels) {
     EXPECT_EQ(textsOf(marked), (Texts{"2003"}));
     EXPECT_EQ(marked.ticks.size(), 5u); // the other months have ticks alone
 
-    x.setRules({{8, "", 1, true}, {8, "", 1, false}}); // rules that pass nothing change nothing
+    x.setRules({{encodeFilter(8, 1, 0), "", 1, true},
+                {encodeFilter(8, 1, 0), "", 1, false}}); // rules that pass nothing change nothing
     EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, shown)).front(), "2002-10-15");
 
     Axis dates(chart, Direction::X);

@@ -1,6 +1,7 @@
 // What the frame finds before it draws: axes by their layers, ties, sides, rows, depth.
 
 #include "engine/data/chart_time.h"
+#include "engine/data/label_filter.h"
 #include "engine/text/alignment.h"
 #include "engine/xy/frame_layout.h"
 #include "tests/xy/probe.h"
@@ -264,7 +265,8 @@ TEST_F(FrameLayoutTest, PanesThatCopyAnAxisAgreeToThePixel) {
     add(values, Form::Blocks);
     chart.setTrimData(30, 0x7fffffff);
     chart.xAxis()->setLabels(days, "");
-    chart.xAxis()->setRules({{5, "{value|yyyy}", 1, true}, {4, "{value|mmm}", 1, false}});
+    chart.xAxis()->setRules({{encodeFilter(5, 1, 0.05), "{value|yyyy}", 1, true},
+                             {encodeFilter(4, 1, 0.05), "{value|mmm}", 1, false}});
     chart.xAxis()->setIndent(true);
     chart.xAxis()->setColours(kLineColour, kTransparent, kDefaultColour, kDefaultColour);
     XYChart lower(400, 300, 0, 0, 0);
