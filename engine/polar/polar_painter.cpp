@@ -1,0 +1,186 @@
+// The parts of a polar chart other than its layers: plot area, zones, grid, and the labels of both axes.
+
+#include "engine/axis/round_labels.h"
+#include "engine/data/no_value.h"
+#include "engine/polar/polar_chart.h"
+
+#include <algorithm>
+#include <cmath>
+#include <numbers>
+
+namespace chartdraw {
+
+namespace {
+
+constexpr double kLabelGap = 3;     ///< pixels between a line and its labels
+constexpr double kLabelAir = 2;     ///< and between two labels
+constexpr double kMinorLength = 5;  ///< of the marks of minor ticks at the rim
+constexpr int kLeastWrap = 50;      ///< pixels that a line of a label has at least
+const QPointF kToBorders(0.5, 0.5); ///< from centres of pixels to the pixel borders that paths count
+
+} // namespace
+
+void PolarChart::drawArea(Canvas& canvas, const Plot& plot) const {
+    if (m_first == kDefaultColour && m_second == kDefaultColour) {
+        canvas.fillPath(plot.frame.ring(m_radius), m_background);
+    } else {
+        drawAlternating(canvas, plot);
+    }
+}
+
+void PolarChart::drawAlternating(Canvas& canvas, const Plot& plot) const {
+    const Colour colours[] = {orDefault(m_first, m_background), orDefault(m_second, m_background)};
+    // All parts of a colour are one outline and are filled at once, so that no seams show between them.
+    QPainterPath parts[2];
+    std::size_t index = 0;
+    if (m_alternateRings) {
+        double from = 0;
+        for (const double ring : plot.rings) {
+            parts[index++ % 2].addPath(plot.frame.band(from, ring));
+            from = ring;
+        }
+        parts[index % 2].addPath(plot.frame.band(from, m_radius));
+    } else if (plot.frame.spokes.size() < 2) {
+        parts[0] = plot.frame.ring(m_radius);
+    } else {
+        const std::vector<double>& spokes = plot.frame.spokes;
+        for (std::size_t i = 0; i < spokes.size(); ++i) {
+            const double end = i + 1 < spokes.size() ? spokes[i + 1] : spokes.front() + 1;
+            parts[i % 2].addPath(plot.frame.sector(spokes[i], end - spokes[i]));
+        }
+    }
+    const QRectF extent = plot.frame.ring(m_radius).boundingRect();
+    canvas.fillPath(parts[0], colours[0], &extent);
+    canvas.fillPath(parts[1], colours[1], &extent);
+}
+
+void PolarChart::drawZones(Canvas& canvas, const PolarFrame& frame) const {
+    for (const Zone& zone : m_radial->zones()) {
+        const double from = frame.pixels(zone.start), to = frame.pixels(zone.end);
+        if (!std::isnan(from) && !std::isnan(to)) {
+            canvas.fillPath(frame.band(from, to), zone.colour);
+        }
+    }
+    for (const AngularAxis::Zone& zone : m_angular->zones()) {
+        const auto [from, turns] = m_angular->zoneTurns(zone);
+        if (turns > 0) {
+            const QPainterPath sector = frame.sector(from, turns);
+            canvas.fillPath(sector, zone.fill);
+            canvas.strokePath(sector, zone.edge, 1);
+        }
+    }
+}
+
+void PolarChart::drawGrid(Canvas& canvas, const Plot& plot) const {
+    const PolarFrame& frame = plot.frame;
+    // One path each, so that a colour that shows through is not darker where lines meet.
+    QPainterPath rings, spokes;
+    for (const double ring : plot.rings) {
+        rings.addPath(frame.ring(ring));
+    }
+    const auto add = [&](double turn, double from) {
+        spokes.moveTo(frame.at(turn, from) + kToBorders);
+        spokes.lineTo(frame.at(turn, m_radius) + kToBorders);
+    };
+    for (const double turn : frame.spokes) {
+        add(turn, 0);
+    }
+    for (const double turn : plot.angular.minor) {
+        add(turn, std::max(0.0, m_radius - kMinorLength));
+    }
+    canvas.strokePath(rings, m_ringColour, m_ringWidth);
+    canvas.strokePath(spokes, m_spokeColour, m_spokeWidth);
+}
+
+/// From the centre upwards, ticks and labels on its left.
+void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const {
+    const PolarFrame& frame = plot.frame;
+    const auto point = [&](double pixels, double left) { return frame.at(0, pixels) - QPointF(left, 0); };
+    canvas.line(point(0, 0), point(m_radius, 0), m_radial->colour(), m_radial->width());
+    const TickSettings& settings = m_radial->ticks();
+    const double reach = std::max({0, settings.majorLength, settings.minorLength}) + kLabelGap;
+    for (const PlannedTick& tick : plot.radial.ticks) {
+        const double pixels = std::round(frame.pixels(tick.value));
+        const int length = tick.major ? settings.majorLength : settings.minorLength;
+        if (!(pixels <= m_radius + 0.5)) {
+            continue;
+        }
+        if (length != 0 && m_radial->width() > 0) {
+            canvas.line(point(pixels, length), point(pixels, 0), m_radial->tickColour(), 1);
+        }
+        if (!tick.label) {
+            continue;
+        }
+        // The outermost label stays below the rim, where the labels of the angles are.
+        QRectF box = tick.label->boundsAt(point(pixels, reach) + kToBorders, Right);
+        box.moveTop(std::max(box.top(), frame.centre.y() - m_radius + 1));
+        box = movedInto(box, room());
+        const bool free = std::none_of(taken.begin(), taken.end(),
+                                       [&](const QRectF& other) { return other.intersects(box); });
+        if (free) {
+            tick.label->drawAt(canvas, box.topLeft(), TopLeft);
+            taken.push_back(box);
+        }
+    }
+    const TextBlock title = m_radial->title().block();
+    if (!title.empty()) {
+        const QPointF beside = point(m_radius / 2.0, -m_radial->titleGap());
+        const QRectF box = movedInto(title.boundsAt(beside, Left), room());
+        title.drawAt(canvas, box.topLeft(), TopLeft);
+        taken.push_back(box);
+    }
+}
+
+/// A ring at the value of each mark of the radial axis, its label right of the axis.
+void PolarChart::drawMarks(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const {
+    for (const Mark* mark : m_radial->marks()) {
+        if (!isValue(mark->value()) || !frame.radial.contains(mark->value())) {
+            continue;
+        }
+        const double pixels = frame.pixels(mark->value());
+        canvas.strokePath(frame.ring(pixels), mark->colour(), 1);
+        const TextBlock label = mark->block();
+        if (!label.empty()) {
+            const QPointF beside = frame.at(0, pixels) + QPointF(kLabelGap, -1);
+            const QRectF box = movedInto(label.boundsAt(beside, BottomLeft), room());
+            label.drawAt(canvas, box.topLeft(), TopLeft);
+            taken.push_back(box);
+        }
+    }
+}
+
+void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const {
+    const bool edged = !canvas.colours().invisible(m_edge);
+    const double radius = m_radius + (edged ? m_edgeWidth / 2.0 : 0) + kLabelGap;
+    const QPointF centre = plot.frame.centre + kToBorders;
+    TextLook look = m_angular->labelBox().look();
+    const bool wraps = look.wrapWidth == 0 && look.angle == 0 && !look.vertical;
+    std::vector<TextBlock> labels;
+    std::vector<QRectF> boxes;
+    for (const AngularTick& spoke : plot.angular.spokes) {
+        const double angle = spoke.turn * 2 * std::numbers::pi;
+        if (wraps) {
+            const double side = roundDirection(angle).x();
+            const double rim = centre.x() + side * radius;
+            const double beside = side < 0 ? rim - room().left() : room().right() - rim;
+            look.wrapWidth = std::max(kLeastWrap, static_cast<int>(beside));
+        }
+        TextBlock label(look, spoke.label, fonts());
+        if (label.empty()) {
+            continue;
+        }
+        QRectF box = movedInto(boxOutside(centre, radius, angle, QSizeF(label.size())), room());
+        box.moveTopLeft(QPointF(std::round(box.left()), std::round(box.top())));
+        labels.push_back(std::move(label));
+        boxes.push_back(box);
+    }
+    const std::vector<bool> kept = thinAround(boxes, kLabelAir);
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        if (kept[i]) {
+            labels[i].drawAt(canvas, boxes[i].topLeft(), TopLeft);
+            taken.push_back(boxes[i]);
+        }
+    }
+}
+
+} // namespace chartdraw
