@@ -15,8 +15,9 @@ namespace {
 using Type = ScaleSettings::Type;
 
 constexpr int kAttempts = 6;
-constexpr double kLevelSpacing = 40;   // pixels between ticks of a level axis
-constexpr double kUprightSpacing = 30; // and of an upright one
+constexpr double kLevelSpacing = 40; // pixels between ticks of a level axis
+constexpr double kDateSpacing = 28;  // the same for dates, whose labels are short and whose steps are coarse
+constexpr double kUprightSpacing = 26; // and of an upright one
 
 class Planner {
 public:
@@ -110,8 +111,9 @@ private:
         }
         // A level axis starts dense: what its labels want in breadth is found by looking at them. Rows are
         // worth a label each where it fits.
+        const double level = settings().type == Type::Date ? kDateSpacing : kLevelSpacing;
         const double spacing =
-            m_request.upright ? std::max(kUprightSpacing, 1.8 * m_fit.lineHeight()) : kLevelSpacing;
+            m_request.upright ? std::max(kUprightSpacing, 1.6 * m_fit.lineHeight()) : level;
         return rows() ? spacing / 2 : spacing;
     }
 

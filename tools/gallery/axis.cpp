@@ -91,7 +91,7 @@ BaseChart* dates(double days, const char* format = nullptr, double majorDays = 0
 BaseChart* turned(double angle, bool vertical) {
     Frame f(60, 15, 45, 90);
     f.bars({1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12});
-    f.labels(times(12, 1, 0), vertical ? "{value|mmmm}" : "{value|mmmm yyyy}");
+    f.labels(times(12, 1, 0), vertical ? "{value|mmm}" : "{value|mmm yyyy}");
     TextBox* style = CAxis_setLabelStyle(f.x, nullptr, points(8), -1, 0);
     CTextBox_setFontAngle(style, angle, vertical);
     return f.base;
