@@ -254,12 +254,16 @@ CHARTDRAW_API LinearMeter* CLinearMeter_create(int width, int height, int backgr
 CHARTDRAW_API MultiChart* CMultiChart_create(int width, int height, int background, int edge, int effect);
 
 /**
- * Puts a chart on the picture, its top left corner at (x, y), over those added before. The chart stays the
- * caller's: it must live as long as the multi chart makes pictures, and is drawn as it is at that time. A
- * chart that is null, destroyed, or holds this multi chart itself is not drawn.
+ * Puts a chart on the picture, its top left corner at (x, y), over those added before; one that is there
+ * already moves. The chart stays the caller's and is drawn as it is when the picture is made, its background
+ * included; where that shows through, so do the charts below. A chart that is destroyed is no longer shown.
+ * Null, this chart itself and one that shows it are ignored.
  */
 CHARTDRAW_API void CMultiChart_addChart(MultiChart* multi, int x, int y, BaseChart* chart);
-/** Names the added chart whose plot area stands for that of the whole. Default: the first one added. */
+/**
+ * Names the added chart that speaks for the whole: a legend of the multi chart lists its keys, unless that
+ * chart shows a legend itself. Default: the first one added. A chart that was not added is ignored.
+ */
 CHARTDRAW_API void CMultiChart_setMainChart(MultiChart* multi, BaseChart* chart);
 
 /** Ends a chart and every handle obtained from it. Null is ignored. */
@@ -716,63 +720,88 @@ CHARTDRAW_API void CSector_setExplode(Sector* sector, int distance);
 
 /**
  * Scale and increments of its ticks. major: not above 0 is automatic, and only it has labels. minor, micro:
- * not above 0 is none. Limits that are equal or no numbers are 0 to 100; lower above upper runs the scale the
- * other way.
+ * not above 0 is none. Increments too small to be read are taken wider. Limits that are equal or no numbers
+ * are 0 to 100, which is the default; lower above upper runs the scale the other way.
  */
 CHARTDRAW_API void CBaseMeter_setScale(BaseMeter* meter, double lower, double upper, double major,
                                        double minor, double micro);
-/** Looks of the labels; the box stands for each of them. color: -1 is CHART_TEXT_COLOR. */
+/**
+ * Looks of the labels; the box stands for each of them. color: -1 is CHART_TEXT_COLOR; axis line and ticks
+ * follow it. Labels without room beside each other are left out.
+ */
 CHARTDRAW_API TextBox* CBaseMeter_setLabelStyle(BaseMeter* meter, const char* font, double size, int color,
                                                 double angle);
-/** Widths in pixels of the axis line (0: none) and of the ticks (below 1: 1). */
+/** Widths in pixels of the axis line and of the ticks; below 1 is none. Default: 0, 1, 1, 1. */
 CHARTDRAW_API void CBaseMeter_setLineWidth(BaseMeter* meter, int axis, int majorTick, int minorTick,
                                            int microTick);
-/** A pointer at a value, limited to the scale. color: -1 is CHART_LINE_COLOR. edge: -1 as color. */
+/**
+ * A pointer at a value, limited to the scale; a value that is no number shows none. Pointers lie over
+ * everything else, in the order in which they are added. color: -1 is CHART_LINE_COLOR. edge: -1 as color.
+ */
 CHARTDRAW_API MeterPointer* CBaseMeter_addPointer(BaseMeter* meter, double value, int color, int edge);
 /**
- * shape: a pointer code, another is CHART_DIAMOND_POINTER. Ratios: to the length up to the scale, and to the
- * usual width; not above 0 keeps.
+ * shape: a pointer code, another is CHART_DIAMOND_POINTER. Ratios: to the usual length and width; not above 0
+ * keeps, above 100 is 100. The usual length goes from the centre of a round scale to its circle, and across
+ * the bar of a straight one, where the tip stays at the scale.
  */
 CHARTDRAW_API void CMeterPointer_setShape(MeterPointer* pointer, int shape, double lengthRatio,
                                           double widthRatio);
-/** Centre, radius, and the angles of the scale's ends in degrees clockwise from the top. */
+/**
+ * Centre and radius in pixels, and the angles of the scale's ends in degrees clockwise from the top; an end
+ * below the start runs anticlockwise. Equal angles or more than a turn are a full turn. Default: -90 to 90 in
+ * the middle of the picture. Ticks stand inside the circle, labels outside it, beyond rings whose border they
+ * would lie on; a circle that leaves them no room in the picture has them inside the ticks.
+ */
 CHARTDRAW_API void CAngularMeter_setMeter(AngularMeter* meter, int x, int y, int radius, double startAngle,
                                           double endAngle);
 /** A full ring between two radii in pixels, in either order. -1 is CHART_TRANSPARENT for the edge. */
 CHARTDRAW_API void CAngularMeter_addRing(AngularMeter* meter, int startRadius, int endRadius, int fill,
                                          int edge);
-/** Colours the sector between two values of the scale. edge: -1 as the fill. */
+/** Colours the sector between two values of the scale, over the rings. edge: -1 as the fill. */
 CHARTDRAW_API void CAngularMeter_addZone2(AngularMeter* meter, double start, double end, int fill, int edge);
 /**
- * The rectangle of the scale. axisPosition: the side on which labels and ticks stand: CHART_LEFT or
- * CHART_RIGHT makes it upright, CHART_TOP or CHART_BOTTOM lying; another is CHART_LEFT. reverse: the lower
- * limit is at the top or right.
+ * The bar of the meter in pixels. axisPosition: its side at which ticks and labels stand: CHART_LEFT or
+ * CHART_RIGHT makes it upright, CHART_TOP or CHART_BOTTOM lying; another is CHART_LEFT. The lower limit is
+ * below or at the left; reverse: above or at the right.
  */
 CHARTDRAW_API void CLinearMeter_setMeter(LinearMeter* meter, int left, int top, int width, int height,
                                          int axisPosition, bool reverse);
-/** Colours the scale between two values, with a label in the zone. */
+/**
+ * Colours the bar between two values. label: in the zone, off the pointers if it can; beside the bar where it
+ * has no room in the zone. Null or empty is none. The box gives its looks.
+ */
 CHARTDRAW_API TextBox* CLinearMeter_addZone(LinearMeter* meter, double start, double end, int color,
                                             const char* label);
 
 /* ---- Polar ---------------------------------------------------------------------------------------- */
 
-/** Centre and radius in pixels. Colours: -1 is CHART_TRANSPARENT. edgeWidth: pixels. */
+/**
+ * Centre and radius in pixels. Colours: -1 is CHART_TRANSPARENT. edgeWidth: pixels. Default: in the middle of
+ * the picture, no background and no edge.
+ */
 CHARTDRAW_API void CPolarChart_setPlotArea(PolarChart* chart, int x, int y, int radius, int background,
                                            int edge, int edgeWidth);
 /** Two colours that alternate from ring to ring, or from sector to sector for false. -1: as background. */
 CHARTDRAW_API void CPolarChart_setPlotAreaBg(PolarChart* chart, int first, int second, bool alternateRings);
-/** Colours and widths (pixels, below 1: none) of the circles and of the spokes. -1 keeps a light grey. */
+/** Colours and widths (pixels, below 1: none) of the rings and of the spokes. -1 keeps; light grey, 1. */
 CHARTDRAW_API void CPolarChart_setGridColor(PolarChart* chart, int radial, int radialWidth, int angular,
                                             int angularWidth);
-/** polygon: straight grid lines from spoke to spoke. onTop: grid over the layers. Default: false, true. */
+/**
+ * polygon: rings, plot area and zones are polygons with corners at the spokes. onTop: grid over the layers.
+ * Default: false, true.
+ */
 CHARTDRAW_API void CPolarChart_setGridStyle(PolarChart* chart, bool polygon, bool onTop);
 /** The round axis; the same on each call. It belongs to the chart. */
 CHARTDRAW_API AngularAxis* CPolarChart_angularAxis(PolarChart* chart);
-/** The axis from the centre upwards; the same on each call. It belongs to the chart. */
+/**
+ * The axis from the centre upwards; the same on each call. It belongs to the chart. Values below its scale
+ * are at the centre, values above it are cut off at the rim.
+ */
 CHARTDRAW_API Axis* CPolarChart_radialAxis(PolarChart* chart);
 /**
  * A line through radius values. color: -1 is the next series colour. name: in the legend; null or empty is no
- * key. The angles are even steps of the axis, or those of CPolarLayer_setAngles.
+ * key. The angles are even steps of the axis (with labels, as many as those), or those of
+ * CPolarLayer_setAngles.
  */
 CHARTDRAW_API PolarLineLayer* CPolarChart_addLineLayer(PolarChart* chart, const double* data, int count,
                                                        int color, const char* name);
@@ -785,24 +814,31 @@ CHARTDRAW_API PolarAreaLayer* CPolarChart_addAreaLayer(PolarChart* chart, const 
 /** A filled area with a smooth border; see CPolarChart_addLineLayer. */
 CHARTDRAW_API PolarSplineAreaLayer* CPolarChart_addSplineAreaLayer(PolarChart* chart, const double* data,
                                                                    int count, int color, const char* name);
-/** The angle of each row in units of the angular axis; rows past the end are left out. */
+/** The angle of each row in units of the angular axis, beyond whose ends it goes on round; rows past the end
+ * of the array are left out. No angles: even steps. */
 CHARTDRAW_API void CPolarLayer_setAngles(PolarLayer* layer, const double* angles, int count);
 /** Shows a label at each value and gives its looks. color: -1 is CHART_TEXT_COLOR. */
 CHARTDRAW_API TextBox* CPolarLayer_setDataLabelStyle(PolarLayer* layer, const char* font, double size,
                                                      int color, double angle);
-/** Format of the data labels, "{value}" by default. Shown only with CPolarLayer_setDataLabelStyle. */
+/**
+ * Format of the data labels: {value}, {angle}, {xLabel}, {dataSetName}, {dataItem}; "{value}" by default.
+ * Shown only with CPolarLayer_setDataLabelStyle.
+ */
 CHARTDRAW_API void CPolarLayer_setDataLabelFormat(PolarLayer* layer, const char* format);
 /** Symbol at each point; see CDataSet_setDataSymbol. */
 CHARTDRAW_API void CPolarLayer_setDataSymbol(PolarLayer* layer, int symbol, int size, int fill, int edge,
                                              int lineWidth);
 /** Width of the line or border in pixels, 1 by default; below 1 draws none. */
 CHARTDRAW_API void CPolarLayer_setLineWidth(PolarLayer* layer, int width);
-/** Symbol sizes by row. scaleType: CHART_SCALE_PIXELS; another is taken as that. */
+/** Symbol sizes by row; rows past the end have the usual one. scaleType: CHART_SCALE_PIXELS, as any other. */
 CHARTDRAW_API void CPolarLayer_setSymbolScale(PolarLayer* layer, const double* scale, int count,
                                               int scaleType);
 /** Joins the last point to the first. Default: true. */
 CHARTDRAW_API void CPolarLineLayer_setCloseLoop(PolarLineLayer* layer, bool close);
-/** Scale of the whole turn; see CAxis_setLinearScale. Default: 0 to 360. */
+/**
+ * Scale of the whole turn, clockwise from the top; lower above upper runs it the other way. Increments not
+ * above 0: major automatic, minor none. Limits that are equal or no numbers are the default, 0 to 360.
+ */
 CHARTDRAW_API void CAngularAxis_setLinearScale(AngularAxis* axis, double lower, double upper,
                                                double majorIncrement, double minorIncrement);
 /** Texts at even steps around, from the top; one spoke each. No labels: the scale's numbers come back. */
@@ -810,7 +846,7 @@ CHARTDRAW_API void CAngularAxis_setLabels(AngularAxis* axis, const char* const* 
 /** Looks of the labels; the box stands for each of them. color: -1 is CHART_TEXT_COLOR. */
 CHARTDRAW_API TextBox* CAngularAxis_setLabelStyle(AngularAxis* axis, const char* font, double size, int color,
                                                   double angle);
-/** Colours the sector between two values of the axis. edge: -1 is CHART_TRANSPARENT. */
+/** Colours the sector clockwise from one value of the axis to another. edge: -1 is CHART_TRANSPARENT. */
 CHARTDRAW_API void CAngularAxis_addZone2(AngularAxis* axis, double start, double end, int fill, int edge);
 
 /* ---- Random tables -------------------------------------------------------------------------------- */

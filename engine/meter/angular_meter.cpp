@@ -109,7 +109,7 @@ void AngularMeter::drawScale(Canvas& canvas, const Dial& dial) const {
         QPainterPath path;
         path.arcMoveTo(line, 90 - m_start);
         path.arcTo(line, 90 - m_start, m_start - m_end);
-        canvas.strokePath(path, kLineColour, axisWidth());
+        canvas.strokePath(path, scaleColour(), axisWidth());
     }
     for (const TickSort& sort : tickSorts(dial)) {
         QPainterPath path;
@@ -118,7 +118,7 @@ void AngularMeter::drawScale(Canvas& canvas, const Dial& dial) const {
             path.moveTo(m_centre + out * m_radius);
             path.lineTo(m_centre + out * (m_radius - majorLength() * sort.length));
         }
-        canvas.strokePath(path, kLineColour, sort.width);
+        canvas.strokePath(path, scaleColour(), sort.width);
     }
 }
 
@@ -166,7 +166,7 @@ std::vector<QRectF> AngularMeter::labelBoxes(const Dial& dial) const {
         bool fits = true;
         for (QRectF& box : boxes) {
             box = movedInto(box, room);
-            fits = fits && !reachesInto(box, m_centre, beside);
+            fits = fits && !reachesInto(box, m_centre, radius);
         }
         if (fits) {
             return boxes;

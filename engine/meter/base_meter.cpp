@@ -113,6 +113,21 @@ std::optional<std::pair<double, double>> BaseMeter::span(double start, double en
     return std::minmax(*from, *to);
 }
 
+Colour BaseMeter::scaleColour() const {
+    const Colour labels = m_labelStyle->look().colour;
+    return colours().invisible(labels) ? kLineColour : labels;
+}
+
+std::vector<QRectF> BaseMeter::pointerBounds() const {
+    std::vector<QRectF> bounds;
+    for (const MeterPointer* pointer : m_pointers) {
+        if (const std::optional<double> at = fraction(pointer->value())) {
+            bounds.push_back(outlineOf(*pointer, *at).boundingRect());
+        }
+    }
+    return bounds;
+}
+
 void BaseMeter::drawTop(Canvas& canvas) {
     for (const MeterPointer* pointer : m_pointers) {
         if (const std::optional<double> at = fraction(pointer->value())) {

@@ -7,6 +7,7 @@
 #include "engine/scale/scale.h"
 #include "engine/scale/ticks.h"
 
+#include <QRectF>
 #include <array>
 #include <optional>
 #include <vector>
@@ -56,6 +57,10 @@ protected:
     std::optional<std::pair<double, double>> span(double start, double end) const;
 
     int axisWidth() const { return m_axisWidth; }
+    /// Of axis line and ticks: that of the labels, so that a scale reads on a dark ground as well.
+    Colour scaleColour() const;
+    /// What the pointers cover.
+    std::vector<QRectF> pointerBounds() const;
     /// Far enough outside any picture, so that sums cannot overflow.
     static int limited(int pixels);
 

@@ -119,9 +119,29 @@ void LinearMeter::drawZones(Canvas& canvas) const {
     }
 }
 
+/// As near to the middle of the zone as no pointer covers the label.
+QRectF LinearMeter::placeInside(const QRectF& zone, QSizeF size, const std::vector<QRectF>& pointers) const {
+    const QSizeF spare = zone.size() - size;
+    const auto placed = [&](double part) {
+        const QPointF corner = upright() ? QPointF(spare.width() / 2, spare.height() * part)
+                                         : QPointF(spare.width() * part, spare.height() / 2);
+        return QRectF(zone.topLeft() + corner, size);
+    };
+    for (const double part : {0.5, 0.4, 0.6, 0.3, 0.7, 0.2, 0.8, 0.1, 0.9}) {
+        const QRectF box = placed(part);
+        const bool free = std::none_of(pointers.begin(), pointers.end(),
+                                       [&](const QRectF& pointer) { return pointer.intersects(box); });
+        if (free) {
+            return box;
+        }
+    }
+    return placed(0.5);
+}
+
 /// In the middle of the zone where the label has room there; else beside the bar, away from the scale, moved
 /// along the bar so that none covers another.
 void LinearMeter::drawZoneLabels(Canvas& canvas) const {
+    const std::vector<QRectF> pointers = pointerBounds();
     std::vector<ZoneLabel> beside;
     for (const Zone& zone : m_zones) {
         const auto covered = span(zone.start, zone.end);
@@ -132,7 +152,7 @@ void LinearMeter::drawZoneLabels(Canvas& canvas) const {
         const QRectF rect = zoneRect(covered->first, covered->second);
         const QSizeF size(text.size());
         if (size.width() <= rect.width() && size.height() <= rect.height()) {
-            text.drawAt(canvas, rect.center(), Center);
+            text.drawAt(canvas, placeInside(rect, size, pointers).topLeft(), TopLeft);
             continue;
         }
         const double away = barBreadth() + kLabelGap;
@@ -168,7 +188,7 @@ void LinearMeter::drawScale(Canvas& canvas, const Dial& dial) const {
     const auto strip = [&](double from, double to, double near, double far) {
         // Across: distances from the bar outwards; along: pixel borders.
         const QPointF a = onScale(from) + outward() * near, b = onScale(to) + outward() * far;
-        canvas.fillRect(QRectF(a, b).normalized(), kLineColour);
+        canvas.fillRect(QRectF(a, b).normalized(), scaleColour());
     };
     for (const TickSort& sort : tickSorts(dial)) {
         for (const double value : sort.values) {

@@ -53,6 +53,7 @@ private:
     void drawZoneLabels(Canvas& canvas) const;
     void drawScale(Canvas& canvas, const Dial& dial) const;
     void drawLabels(Canvas& canvas, const Dial& dial) const;
+    QRectF placeInside(const QRectF& zone, QSizeF size, const std::vector<QRectF>& pointers) const;
     QRectF zoneRect(double from, double to) const;
 
     QRect m_bar;

@@ -22,7 +22,10 @@ PolarChart::PolarChart(int width, int height, Colour background, Colour edge, in
     : Chart(Kind::PolarChart, width, height, background, edge, effect),
       m_centre(limited(width) / 2, limited(height) / 2),
       m_radius(std::max(0, std::min(limited(width), limited(height))) * 2 / 5),
-      m_angular(own<AngularAxis>(*this)), m_radial(own<Axis>(*this, Direction::Y)) {}
+      m_angular(own<AngularAxis>(*this)), m_radial(own<Axis>(*this, Direction::Y)) {
+    // The rim is no border that data should keep away from: the radius is used to the full.
+    m_radial->setAutoScale(0, 0, AutoScale().zeroAffinity);
+}
 
 void PolarChart::setPlotArea(QPoint centre, int radius, Colour background, Colour edge, int edgeWidth) {
     m_centre = {limited(centre.x()), limited(centre.y())};
@@ -130,6 +133,7 @@ void PolarChart::drawBody(Canvas& canvas) {
     std::vector<QRectF> taken;
     drawRadialAxis(canvas, plot, taken);
     drawMarks(canvas, plot.frame, taken);
+    drawRadialTitle(canvas, plot.frame, taken);
     drawAngularLabels(canvas, plot, taken);
     for (const PolarLayer* layer : m_layers) {
         layer->drawLabels(canvas, plot.frame, *m_angular, room(), taken);

@@ -47,6 +47,7 @@ private:
     void drawZones(Canvas& canvas, const PolarFrame& frame) const;
     void drawGrid(Canvas& canvas, const Plot& plot) const;
     void drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const;
+    void drawRadialTitle(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const;
     void drawMarks(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const;
     void drawAngularLabels(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const;
 

@@ -122,13 +122,25 @@ void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QR
             taken.push_back(box);
         }
     }
+}
+
+/// Right of the axis, as near to its middle as there is room beside the labels of marks.
+void PolarChart::drawRadialTitle(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const {
     const TextBlock title = m_radial->title().block();
-    if (!title.empty()) {
-        const QPointF beside = point(m_radius / 2.0, -m_radial->titleGap());
-        const QRectF box = movedInto(title.boundsAt(beside, Left), room());
-        title.drawAt(canvas, box.topLeft(), TopLeft);
-        taken.push_back(box);
+    if (title.empty()) {
+        return;
     }
+    QRectF box;
+    for (const double part : {0.5, 0.6, 0.4, 0.7, 0.3, 0.8}) {
+        const QPointF beside = frame.at(0, m_radius * part) + QPointF(m_radial->titleGap(), 0);
+        box = movedInto(title.boundsAt(beside, Left), room());
+        if (std::none_of(taken.begin(), taken.end(),
+                         [&](const QRectF& other) { return other.intersects(box); })) {
+            break;
+        }
+    }
+    title.drawAt(canvas, box.topLeft(), TopLeft);
+    taken.push_back(box);
 }
 
 /// A ring at the value of each mark of the radial axis, its label right of the axis.

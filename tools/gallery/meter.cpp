@@ -85,14 +85,13 @@ BaseChart* metalDial() {
 }
 
 BaseChart* cockpit() {
-    Angular m(320, 320, 118, -140, 140, 160, 160);
+    Angular m(320, 320, 112, -140, 140, 160, 160);
     CBaseChart_setBackground(m.chart, 0x30343a, CHART_TRANSPARENT, 0);
     CAngularMeter_addRing(m.meter, 0, 156, CChart_metalColor(0x9aa0a8, 45), 0x15171a);
     CAngularMeter_addRing(m.meter, 0, 148, 0x101317, 0x000000);
-    CAngularMeter_addZone2(m.meter, 0, 60, 0x1f6b3a, CHART_TRANSPARENT);
-    CAngularMeter_addZone2(m.meter, 60, 85, 0x9a7b12, CHART_TRANSPARENT);
-    CAngularMeter_addZone2(m.meter, 85, 100, 0xa5281f, CHART_TRANSPARENT);
-    CAngularMeter_addRing(m.meter, 0, 100, 0x101317, CHART_TRANSPARENT);
+    CAngularMeter_addZone2(m.meter, 0, 60, 0x14301f, -1);
+    CAngularMeter_addZone2(m.meter, 60, 85, 0x6b5a14, -1);
+    CAngularMeter_addZone2(m.meter, 85, 100, 0x8f1d16, -1);
     CBaseMeter_setLineWidth(m.base, 1, 2, 1, 1);
     CBaseMeter_setLabelStyle(m.base, "bold", points(10), 0xf2f2f2, 0);
     CBaseChart_addText(m.chart, 160, 215, "RPM x 100", "bold", points(9), 0xc8ccd2, CHART_CENTER, 0, false);
