@@ -1,5 +1,6 @@
 #include "chartrender/picture_access.h"
 #include <QBuffer>
+#include <QFile>
 #include <QImage>
 #include <QSaveFile>
 #include <utility>
