@@ -156,6 +156,18 @@ TEST_F(AxisPlanTest, FormatsMakeLabels) {
     }
 }
 
+TEST_F(AxisPlanTest, TicksStandWiderApartBeforeLabelsAreLeftOut) {
+    x.setLabelFormat("a value of {value}");
+    for (const AxisRequest& request : {ofData({0, 100}), ofRows(200)}) {
+        const AxisLayout layout = layoutAt(x, BottomCenter, request);
+        EXPECT_GE(layout.labels.size(), 3u);
+        EXPECT_EQ(layout.labels.size(), layout.ticks.size());
+    }
+    x.setLimits(Type::Linear, 0, 100, {10, 0, 0}); // given: the ticks stay, labels go
+    EXPECT_EQ(layoutAt(x, BottomCenter).ticks.size(), 11u);
+    EXPECT_LT(layoutAt(x, BottomCenter).labels.size(), 6u);
+}
+
 TEST_F(AxisPlanTest, RowTextsTellDatesFromNumbers) {
     const std::vector<double> numbers{1.5, 2, kNoValue};
     EXPECT_EQ(RowTexts(numbers).text(0), "1.5");
