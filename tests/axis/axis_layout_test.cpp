@@ -87,68 +87,72 @@ QPolygonF outline(const AxisLayout::Label& label) {
     return smaller;
 }
 
+struct Crowd {
+    const char* name;
+    void (*apply)(Axis&);
+    AxisRequest request;
+};
+
+const Crowd kCrowds[] = {
+    {"data", [](Axis&) {}, ofData({-3, 1234567})},
+    {"tiny", [](Axis&) {}, ofData({1e-7, 2.5e-6})},
+    {"dense increments",
+     [](Axis& a) {
+         a.setLimits(Type::Linear, 0, 1000, {1, 0, 0});
+     },
+     {}},
+    {"log", [](Axis& a) { a.setScaleFromData(Type::Log, "{value|2,} units"); }, ofData({0.02, 9e7})},
+    {"dates", [](Axis& a) { a.setLimits(Type::Date, 6.3e10, 6.31e10, {}); }, {}},
+    {"rows", [](Axis& a) { a.setScaleFromData(Type::Automatic, "number {value}"); }, ofRows(97)},
+    {"labels",
+     [](Axis& a) {
+         std::vector<double> values;
+         for (int i = 0; i < 500; ++i) {
+             values.push_back(std::pow(-1.7, i % 40));
+         }
+         a.setLabels(values, "");
+     },
+     ofRows(500)},
+    {"rules",
+     [](Axis& a) {
+         std::vector<double> days;
+         for (int i = 0; i < 700; ++i) {
+             days.push_back(63e9 + i * 86400.0);
+         }
+         a.setLabels(days, "");
+         a.setRules({{encodeFilter(5, 1, 0), "<*font=bold*>{value|mmmm yyyy}", 1, true},
+                     {encodeFilter(4, 1, 0), "{value|mmm}", 1, false}});
+         a.addRule({encodeFilter(7, 1, 0), "{value|d}", 1, false});
+     },
+     ofRows(700)},
+};
+
+void expectReadable(const AxisLayout& layout, bool level) {
+    for (std::size_t i = 1; i < layout.labels.size(); ++i) {
+        EXPECT_FALSE(outline(layout.labels[i - 1]).intersects(outline(layout.labels[i])))
+            << layout.labels[i - 1].text << " / " << layout.labels[i].text;
+    }
+    for (const AxisLayout::Label& label : layout.labels) {
+        EXPECT_TRUE(!level || QRectF(layout.place.picture).contains(label.box()))
+            << label.text << ' ' << label.box();
+    }
+}
+
 TEST_F(AxisLayoutTest, LabelsNeverLieOverEachOtherNorLeaveThePicture) {
-    struct Setup {
-        const char* name;
-        void (*apply)(Axis&);
-        AxisRequest request;
-    };
-    const Setup setups[] = {
-        {"data", [](Axis&) {}, ofData({-3, 1234567})},
-        {"tiny", [](Axis&) {}, ofData({1e-7, 2.5e-6})},
-        {"dense increments",
-         [](Axis& a) {
-             a.setLimits(Type::Linear, 0, 1000, {1, 0, 0});
-         },
-         {}},
-        {"log", [](Axis& a) { a.setScaleFromData(Type::Log, "{value|2,} units"); }, ofData({0.02, 9e7})},
-        {"dates", [](Axis& a) { a.setLimits(Type::Date, 6.3e10, 6.31e10, {}); }, {}},
-        {"rows", [](Axis& a) { a.setScaleFromData(Type::Automatic, "number {value}"); }, ofRows(97)},
-        {"labels",
-         [](Axis& a) {
-             std::vector<double> values;
-             for (int i = 0; i < 500; ++i) {
-                 values.push_back(std::pow(-1.7, i % 40));
-             }
-             a.setLabels(values, "");
-         },
-         ofRows(500)},
-        {"rules",
-         [](Axis& a) {
-             std::vector<double> days;
-             for (int i = 0; i < 700; ++i) {
-                 days.push_back(63e9 + i * 86400.0);
-             }
-             a.setLabels(days, "");
-             a.setRules({{encodeFilter(5, 1, 0), "<*font=bold*>{value|mmmm yyyy}", 1, true},
-                         {encodeFilter(4, 1, 0), "{value|mmm}", 1, false}});
-             a.addRule({encodeFilter(7, 1, 0), "{value|d}", 1, false});
-         },
-         ofRows(700)},
-    };
-    for (const Setup& setup : setups) {
+    for (const Crowd& crowd : kCrowds) {
         for (const int side : {BottomCenter, Left}) {
             for (const double size : {8.0, 12.0}) {
                 for (const double angle : {0.0, 20.0, 45.0, 90.0, -60.0}) {
+                    SCOPED_TRACE(testing::Message()
+                                 << crowd.name << ' ' << side << ' ' << size << ' ' << angle);
                     Axis tried(chart, Direction::X);
-                    setup.apply(tried);
+                    crowd.apply(tried);
                     tried.setLabelStyle("", size, kTextColour, angle);
                     AxisPlace place = placeAt(side);
                     place.across = place.upright() ? 250 : 100; // room for the longest label
-                    const AxisLayout layout = layoutAt(tried, place, setup.request);
-                    SCOPED_TRACE(std::string(setup.name) + ' ' + std::to_string(side) + ' ' +
-                                 std::to_string(size) + ' ' + std::to_string(angle));
-                    ASSERT_GE(layout.labels.size(), angle == 0 ? 2u : 1u);
-                    for (std::size_t i = 1; i < layout.labels.size(); ++i) {
-                        EXPECT_FALSE(outline(layout.labels[i - 1]).intersects(outline(layout.labels[i])))
-                            << layout.labels[i - 1].text << " / " << layout.labels[i].text;
-                    }
-                    if (angle == 0 || angle == 90) {
-                        for (const AxisLayout::Label& label : layout.labels) {
-                            EXPECT_TRUE(QRectF(place.picture).contains(label.box()))
-                                << label.text << ' ' << label.box();
-                        }
-                    }
+                    const AxisLayout layout = layoutAt(tried, place, crowd.request);
+                    EXPECT_GE(layout.labels.size(), angle == 0 ? 2u : 1u);
+                    expectReadable(layout, angle == 0 || angle == 90);
                 }
             }
         }
