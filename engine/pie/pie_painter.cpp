@@ -8,8 +8,8 @@ namespace chartdraw {
 namespace {
 
 constexpr Colour kFaceEdge = 0x00ffffff;
-constexpr double kNarrow = 3; ///< pixels of the rim
-constexpr double kSliver = 0.1;
+constexpr double kNarrow = 0.08; ///< radians
+constexpr double kSliver = 0.1;  ///< pixels of the rim
 // Two smoothed edges side by side let the background shine through, so what is drawn earlier reaches under
 // its neighbours: faces by an angle, which holds in the centre as well, walls by pixels.
 constexpr double kFaceOverlap = std::numbers::pi / 8;
@@ -51,7 +51,7 @@ public:
         }
         for (const SectorLook& sector : m_sectors) {
             // Light lines around narrow sectors would leave little of their colours.
-            const bool narrow = sector.span.span * m_pie.body.radius < kNarrow;
+            const bool narrow = sector.span.span < kNarrow;
             m_canvas.strokePath(m_pie.body.face(sector.centre, sector.span),
                                 orDefault(sector.edge, narrow ? kTransparent : kFaceEdge), 1);
         }

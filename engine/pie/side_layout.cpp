@@ -8,7 +8,8 @@ namespace chartdraw {
 
 namespace {
 
-constexpr double kRowGap = 2; ///< pixels between two labels of a column
+constexpr double kRowGap = 2;      ///< pixels between two labels of a column
+constexpr double kNearAxis = 0.25; ///< sine of the angle up to which a label may change its column
 
 using Column = std::vector<std::size_t>;
 
@@ -31,7 +32,8 @@ void balance(std::span<const LabelSpot> spots, Column& from, Column& to, double 
     while (heightOf(spots, from) > height && from.size() > 1) {
         const auto next = leaning(from.front()) < leaning(from.back()) ? from.begin() : from.end() - 1;
         const bool atTop = direction(spots[*next].angle).y() < 0;
-        if (leaning(*next) > 0.6 || heightOf(spots, to) + spots[*next].size.height() + kRowGap > height) {
+        if (leaning(*next) > kNearAxis ||
+            heightOf(spots, to) + spots[*next].size.height() + kRowGap > height) {
             return;
         }
         to.insert(atTop ? to.begin() : to.end(), *next);

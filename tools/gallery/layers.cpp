@@ -24,10 +24,10 @@ struct Chart {
     XYChart* xy;
     BaseChart* base;
 
-    explicit Chart(int width = 360, int height = 260)
+    explicit Chart(int width = 360, int height = 260, int depth = 0)
         : xy(CXYChart_create(width, height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0)),
           base(XYChart2BaseChart(xy)) {
-        CXYChart_setPlotArea(xy, 50, 35, width - 75, height - 70, -1, -1, -1, -1, -1);
+        CXYChart_setPlotArea(xy, 50, 35 + depth, width - 75 - depth, height - 70 - depth, -1, -1, -1, -1, -1);
         LegendBox* legend = CBaseChart_addLegend(base, 50, 8, false, nullptr, points(8));
         CBox_setBackground(TextBox2Box(LegendBox2TextBox(legend)), kClear, kClear, 0);
         for (Axis* axis : {CXYChart_xAxis(xy), CXYChart_yAxis(xy)}) {
@@ -57,7 +57,7 @@ TextBox* label(Layer* layer, const char* format = nullptr) {
 
 template <int combine, int depth = 0>
 BaseChart* bars() {
-    Chart chart;
+    Chart chart(360, 260, depth);
     Layer* layer = threeSets(BarLayer2Layer(CXYChart_addBarLayer2(chart.xy, combine, depth)));
     label(layer, combine == CHART_COMBINE_PERCENTAGE ? "{percent|0}%" : nullptr);
     return chart.base;
@@ -65,7 +65,7 @@ BaseChart* bars() {
 
 template <int combine, int depth = 0>
 BaseChart* mixedBars() {
-    Chart chart;
+    Chart chart(360, 260, depth);
     label(twoMixedSets(BarLayer2Layer(CXYChart_addBarLayer2(chart.xy, combine, depth))));
     return chart.base;
 }
@@ -89,14 +89,14 @@ BaseChart* sideSums() {
 
 template <int depth = 0>
 BaseChart* lyingBars() {
-    Chart chart;
+    Chart chart(360, 260, depth);
     CXYChart_swapXY(chart.xy, true);
     label(twoMixedSets(BarLayer2Layer(CXYChart_addBarLayer2(chart.xy, CHART_COMBINE_SIDE, depth))));
     return chart.base;
 }
 
 BaseChart* lyingStack() {
-    Chart chart;
+    Chart chart(360, 260, 12);
     CXYChart_swapXY(chart.xy, true);
     Layer* layer = threeSets(BarLayer2Layer(CXYChart_addBarLayer2(chart.xy, CHART_COMBINE_STACK, 12)));
     label(layer);
@@ -132,7 +132,7 @@ BaseChart* histogram() {
 
 template <int depth, bool lying = false>
 BaseChart* shapes() {
-    Chart chart(520);
+    Chart chart(520, 260, depth);
     const double data[] = {30, 34, 38, 30, 34, -20, -24, 30, 34};
     const int codes[] = {0, 2, 3, 4, 5, 6, 3, 7, 10};
     CXYChart_swapXY(chart.xy, lying);
@@ -167,7 +167,8 @@ BaseChart* barsByDate() {
     }
     BarLayer* bar = CXYChart_addBarLayer(chart.xy, kMixed, kRows, -1, "Uneven dates, backwards", 0);
     CLayer_setXData(BarLayer2Layer(bar), dates, kRows);
-    CAxis_setLinearScale3(CXYChart_yAxis(chart.xy), nullptr);
+    CAxis_setDateScale(CXYChart_xAxis(chart.xy), CChart_chartTime(2024, 3, 1, 0, 0, 0) - 43200,
+                       CChart_chartTime(2024, 3, 17, 0, 0, 0) - 43200, 0, 0);
     label(BarLayer2Layer(bar), "{x|d mmm}: {value}");
     return chart.base;
 }
@@ -192,7 +193,7 @@ BaseChart* symbolLines() {
         LineLayer* line = CXYChart_addLineLayer(chart.xy, data, kRows, -1, name, 0);
         CLayer_setLineWidth(LineLayer2Layer(line), symbol % 3 + 1);
         CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(line), 0), symbol, 9,
-                               symbol % 2 ? -1 : 0xffffff, symbol % 2 ? 0x000000 : -1, 1);
+                               symbol % 2 ? -1 : 0xffffff, symbol % 2 ? 0x000000 : 0x802020, 1);
     }
     return chart.base;
 }
@@ -239,8 +240,8 @@ BaseChart* edges() {
     const double data[] = {0, 100, 0, 50, 130, -30, 100, 100};
     LineLayer* line = CXYChart_addLineLayer(chart.xy, data, 8, -1, "Width 5 at and past the limits", 0);
     CLayer_setLineWidth(LineLayer2Layer(line), 5);
-    CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(line), 0), CHART_CIRCLE_SYMBOL, 13, 0xffffff, -1,
-                           2);
+    CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(line), 0), CHART_CIRCLE_SYMBOL, 13, 0xffffff,
+                           0x204060, 2);
     CAxis_setLinearScale(CXYChart_yAxis(chart.xy), 0, 100, 0, 0);
     return chart.base;
 }
@@ -289,7 +290,7 @@ BaseChart* bubbles() {
 
 template <int combine, int depth = 0>
 BaseChart* areas() {
-    Chart chart;
+    Chart chart(360, 260, depth);
     label(threeSets(AreaLayer2Layer(CXYChart_addAreaLayer2(chart.xy, combine, depth))),
           combine == CHART_COMBINE_PERCENTAGE ? "{percent|0}%" : nullptr);
     return chart.base;
@@ -351,7 +352,7 @@ struct Prices {
 
 template <int rows, int depth = 0>
 BaseChart* candles() {
-    Chart chart(460);
+    Chart chart(460, 260, depth);
     const Prices prices(rows);
     CandleStickLayer* layer = CXYChart_addCandleStickLayer(chart.xy, prices.column[0], rows, prices.column[1],
                                                            rows, prices.column[2], rows, prices.column[3],
@@ -387,7 +388,7 @@ BaseChart* priceLabels() {
 
 template <int depth = 0>
 BaseChart* whiskers() {
-    Chart chart;
+    Chart chart(360, 260, depth);
     const double top[] = {40, 45, 55, CHART_NO_VALUE, 61, 50}, bottom[] = {25, 30, 38, 33, 40, 28};
     const double most[] = {52, 60, 66, 58, 72, CHART_NO_VALUE}, least[] = {12, 20, 22, 21, 30, 15};
     const double middle[] = {33, 36, 49, 44, 52, 41};
@@ -446,7 +447,7 @@ BaseChart* finance() {
 }
 
 BaseChart* deepLines() {
-    Chart chart(460);
+    Chart chart(460, 260, 48);
     for (const double* data : {kC, kB, kA}) {
         LineLayer* line = CXYChart_addLineLayer(chart.xy, data, kRows, -1,
                                                 data == kA   ? "A"
@@ -459,7 +460,7 @@ BaseChart* deepLines() {
 }
 
 BaseChart* deepMix() {
-    Chart chart(460);
+    Chart chart(460, 260, 32);
     CLayer_set3D(BarLayer2Layer(CXYChart_addBarLayer(chart.xy, kA, kRows, -1, "Bars behind", 0)), 12, 8);
     Layer* areas = AreaLayer2Layer(CXYChart_addAreaLayer2(chart.xy, CHART_COMBINE_STACK, 12));
     CLayer_addDataSet(areas, kC, kRows, -1, "Area in front");
@@ -474,7 +475,7 @@ BaseChart* onePoint() {
     CDataSet_setDataSymbol(
         CLayer_getDataSet(LineLayer2Layer(CXYChart_addLineLayer(chart.xy, one, 1, 0x000000, "One point", 0)),
                           0),
-        CHART_DIAMOND_SYMBOL, 11, 0xffffff, -1, 1);
+        CHART_DIAMOND_SYMBOL, 11, 0xffffff, 0x000000, 1);
     return chart.base;
 }
 
