@@ -2,25 +2,62 @@
 // Where the value of a row lives: a field of the model, or of the item that is selected in a list. With no
 // item selected a value is still shown, a default item's, but there is nowhere to store a change.
 
+#include "editors/framework/conventions.h"
+
 #include <functional>
+#include <type_traits>
 #include <utility>
+
+/// The value as the type that a control shows: numbers, flags and codes by a cast, texts by their encoding.
+template <class To, class From>
+To ValueAs(const From& value) {
+    if constexpr (std::is_same_v<To, QString> && std::is_same_v<From, CChartString>) {
+        return FromModelText(value);
+    } else if constexpr (std::is_same_v<To, CChartString> && std::is_same_v<From, QString>) {
+        return ToModelText(value);
+    } else {
+        return static_cast<To>(value);
+    }
+}
 
 template <class T>
 class CBinding {
 public:
+    using Get = std::function<T()>;
+    using Set = std::function<bool(const T&)>; ///< false when there is nowhere to store
+
     /// A field of the model. It must outlive the page.
-    CBinding(T& field) : m_shown([&field] { return &field; }), m_target([&field] { return &field; }) {}
+    template <class Field>
+    requires(!std::is_const_v<Field> && !requires { typename Field::Get; }) CBinding(Field& field)
+        : m_get([&field] { return ValueAs<T>(field); }), m_set([&field](const T& value) {
+              field = ValueAs<Field>(value);
+              return true;
+          }) {}
 
-    /// A field of an item: the one to show, and the one to store into, null for nowhere.
-    CBinding(std::function<const T*()> shown, std::function<T*()> target)
-        : m_shown(std::move(shown)), m_target(std::move(target)), m_ofItem(true) {}
+    /// A value that is not simply a field. `owner` is the list whose item it belongs to, null for none;
+    /// `afterwards` is called when a change has been stored and told.
+    CBinding(Get get, Set set, const void* owner = nullptr, std::function<void()> afterwards = {})
+        : m_get(std::move(get)), m_set(std::move(set)), m_owner(owner), m_afterwards(std::move(afterwards)) {}
 
-    const T& Shown() const { return *m_shown(); }
-    T* Target() const { return m_target(); }
-    bool OfItem() const { return m_ofItem; }
+    /// The same place, in another type.
+    template <class Other>
+    CBinding(CBinding<Other> other)
+        : CBinding([other] { return ValueAs<T>(other.Value()); },
+                   [other](const T& value) { return other.Store(ValueAs<Other>(value)); }, other.Owner(),
+                   [other] { other.Afterwards(); }) {}
+
+    T Value() const { return m_get(); }
+    bool Store(const T& value) const { return m_set(value); }
+    const void* Owner() const { return m_owner; }
+    void Afterwards() const {
+        if (m_afterwards) {
+            m_afterwards();
+        }
+    }
 
 private:
-    std::function<const T*()> m_shown;
-    std::function<T*()> m_target;
-    bool m_ofItem = false;
+    Get m_get;
+    Set m_set;
+    const void* m_owner = nullptr;
+    std::function<void()> m_afterwards;
 };

@@ -2,6 +2,8 @@
 // The small rules that all editors share: rounding, the orders of the alignment and side lists, texts of
 // several lines, and the colour of a new item.
 
+#include "editors/framework/choices.h"
+
 #include <charteditors/chart_color.h>
 
 #include <QString>
@@ -19,11 +21,10 @@ int IndexToAlignment(int row);
 /// Rows "Left", "Right", "Top", "Bottom" and the codes 4, 6, 8, 2. Anything else is Left.
 int SideToIndex(int code);
 int IndexToSide(int row);
-const char* const* AlignmentTexts(); ///< thirteen texts, then null
-const char* const* SideTexts();      ///< four texts, then null
+const CChoices& Alignments();
+const CChoices& Sides();
 
-/// The model separates lines by LF, an edit may hand out CR LF.
-QString ToEditText(const QString& text);
+/// The model and the edits separate lines by LF; a host may have written CR LF.
 QString FromEditText(const QString& text);
 /// What stands for a text in a list: its first line, with three dots where more follow.
 QString FirstLineOf(const QString& text);

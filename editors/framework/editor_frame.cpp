@@ -20,16 +20,19 @@ int Between(int least, int wanted, int most) {
 
 } // namespace
 
-void LayEditor(CDialog& dialog, CChartPreviewView& preview, QLayout* body, QWidget* buttons) {
-    auto* sides = new QHBoxLayout;
-    sides->setSpacing(kSpace);
-    sides->addWidget(&preview);
-    sides->addLayout(body);
+void LayEditor(CDialog& dialog, QLayout* body, QWidget* buttons) {
     auto* all = new QVBoxLayout(&dialog);
     all->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
     all->setSpacing(kSpace);
-    all->addLayout(sides);
+    all->addLayout(body);
     all->addWidget(buttons);
+    all->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+void LayEditor(CDialog& dialog, CChartPreviewView& preview, QLayout* body, QWidget* buttons) {
+    preview.setObjectName(QStringLiteral("Preview"));
+    preview.setAccessibleName(QStringLiteral("Preview"));
+    preview.setFocusPolicy(Qt::ClickFocus);
 
     // A picture that just fills its pane is scaled down: one pixel more on each side shows it as it is.
     const int border = 2 * preview.frameWidth() + 2;
@@ -40,5 +43,10 @@ void LayEditor(CDialog& dialog, CChartPreviewView& preview, QLayout* body, QWidg
     const QSize room = kSmallestScreen - kFrame - QSize(besides, below);
     preview.setFixedWidth(Between((besides + 1) / 2, natural.width(), room.width()));
     preview.setMinimumHeight(Between(body->sizeHint().height(), natural.height(), room.height()));
-    all->setSizeConstraint(QLayout::SetFixedSize);
+
+    auto* sides = new QHBoxLayout;
+    sides->setSpacing(kSpace);
+    sides->addWidget(&preview);
+    sides->addLayout(body);
+    LayEditor(dialog, sides, buttons);
 }

@@ -1,40 +1,25 @@
 #include "editors/framework/form.h"
 
 #include "editors/framework/mnemonics.h"
-
 #include "platform/widgets/field_changed.h"
+#include "platform/widgets/numeric_edit.h"
+#include "platform/widgets/simple_combo.h"
+#include "resources/string_table.h"
 
-#include <QAbstractButton>
-#include <QCheckBox>
-#include <QComboBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QLineEdit>
+#include <QListWidget>
 #include <QMessageBox>
-#include <QPlainTextEdit>
-#include <QSignalBlocker>
+#include <QPushButton>
+#include <algorithm>
 
 namespace {
 
-const char* const kNoFormat = "---------------------------------";
-
 /// What a screen reader says and a script finds: the label without its colon.
-QString NameOf(const QString& label) {
-    QString name = label.trimmed();
-    if (name.endsWith(u':')) {
-        name.chop(1);
-    }
-    return name;
-}
-
-std::vector<const char*> Listed(const char* const* texts) {
-    std::vector<const char*> result;
-    for (; *texts != nullptr; ++texts) {
-        result.push_back(*texts);
-    }
-    return result;
+QString WithoutColon(const QString& label) {
+    return label.endsWith(u':') ? label.chopped(1) : label;
 }
 
 } // namespace
@@ -48,7 +33,7 @@ CForm::CForm(CDialog& page, QWidget& owner) : CForm(page, [&owner] { SendFieldCh
 
 CForm::~CForm() {
     if (m_bands->parent() == nullptr) {
-        delete m_bands; // the table was never ended
+        delete m_bands; // the page was never started
     }
 }
 
@@ -56,6 +41,7 @@ void CForm::Band() {
     m_columns = new QHBoxLayout;
     m_bands->addLayout(m_columns);
     m_column = nullptr;
+    EndGroup();
 }
 
 void CForm::Column() {
@@ -64,31 +50,41 @@ void CForm::Column() {
     }
     m_column = new QVBoxLayout;
     m_columns->addLayout(m_column);
+    EndGroup();
 }
 
 QGroupBox* CForm::Group(const char* caption) {
-    if (m_column == nullptr) {
-        Column();
-    }
     auto* box = new QGroupBox(QString::fromUtf8(caption), &m_page);
-    box->setObjectName(NameOf(box->title()));
-    m_parts = new QHBoxLayout(box);
-    m_column->addWidget(box);
-    Part();
+    box->setObjectName(WithoutColon(box->title()));
+    BeginGroup(box);
     return box;
 }
 
+void CForm::BeginGroup(QWidget* box) {
+    if (m_column == nullptr) {
+        Column();
+    }
+    m_group = box;
+    m_parts = new QHBoxLayout(box);
+    m_column->addWidget(box);
+    Part();
+}
+
 void CForm::Part() {
-    m_group = new QGridLayout;
-    m_group->setColumnStretch(1, 1);
-    m_parts->addLayout(m_group, 1);
-    m_parts->setAlignment(m_group, Qt::AlignTop);
+    m_part = new QGridLayout;
+    m_part->setColumnStretch(2, 1);
+    m_parts->addLayout(m_part, 1);
+    m_parts->setAlignment(m_part, Qt::AlignTop);
+}
+
+void CForm::EndGroup() {
+    m_group = nullptr;
 }
 
 void CForm::Grow() {
-    m_group->setRowStretch(m_group->rowCount() - 1, 1);
-    m_parts->setAlignment(m_group, {});
-    m_column->setStretchFactor(m_parts->parentWidget(), 1);
+    m_part->setRowStretch(m_part->rowCount() - 1, 1);
+    m_parts->setAlignment(m_part, {});
+    m_column->setStretchFactor(m_group, 1);
     m_bands->setStretchFactor(m_columns, 1);
     m_grows = true;
 }
@@ -102,104 +98,161 @@ CRealRow& CForm::Real(const char* label, CBinding<double> field) {
 }
 
 CCheckRow& CForm::Check(const char* label, CBinding<bool> field) {
-    return Make<CCheckRow>(nullptr, std::move(field), label);
+    return Make<CCheckRow>(nullptr, std::move(field), label).Named(label);
 }
 
-CComboRow& CForm::Combo(const char* label, CBinding<std::int32_t> field, std::vector<const char*> texts) {
-    return Make<CComboRow>(label, std::move(field), texts);
+CComboRow& CForm::Combo(const char* label, CBinding<std::int32_t> field, std::vector<CChoice> choices) {
+    return Make<CComboRow>(label, std::move(field), std::move(choices));
 }
 
 CComboRow& CForm::Alignment(const char* label, CBinding<std::int32_t> field) {
-    return Combo(label, std::move(field), Listed(AlignmentTexts()))
-        .Mapped(AlignmentToIndex, IndexToAlignment);
+    return Combo(label, std::move(field), Alignments().Rows()).Otherwise(0);
 }
 
 CComboRow& CForm::Side(const char* label, CBinding<std::int32_t> field) {
-    return Combo(label, std::move(field), Listed(SideTexts())).Mapped(SideToIndex, IndexToSide);
+    return Combo(label, std::move(field), Sides().Rows()).Otherwise(0);
 }
 
-CRadioRow& CForm::Radio(CBinding<std::int32_t> field, std::vector<const char*> texts) {
-    return Make<CRadioRow>(nullptr, std::move(field), texts);
+CRadioRow& CForm::Radio(CBinding<std::int32_t> field, std::vector<CChoice> choices) {
+    return Make<CRadioRow>(nullptr, std::move(field), std::move(choices));
 }
 
-CTextRow& CForm::Text(const char* label, CBinding<CChartString> field) {
+CTextRow& CForm::Text(const char* label, CBinding<QString> field) {
     return Make<CTextRow>(label, std::move(field), false);
 }
 
-CTextRow& CForm::Lines(const char* label, CBinding<CChartString> field) {
-    CTextRow& row = Make<CTextRow>(label, std::move(field), true);
-    m_group->itemAtPosition(m_group->rowCount() - 1, 0)->setAlignment(Qt::AlignTop);
-    return row;
+CTextRow& CForm::Lines(const char* label, CBinding<QString> field) {
+    return Make<CTextRow>(label, std::move(field), true);
 }
 
-void CForm::Formats(CTextRow& row, const std::vector<const char*>& texts) {
-    auto* combo = new QComboBox(&m_page);
-    combo->addItem(QString::fromUtf8(kNoFormat));
-    for (const char* text : texts) {
-        combo->addItem(QString::fromUtf8(text));
-    }
-    combo->setAccessibleName(QStringLiteral("Formats"));
-    Place(combo);
-    m_formats.push_back([combo, &row] {
-        // The first row that begins with the text that stands in the edit.
-        const int found = row.Mirror().isEmpty() ? 0 : combo->findText(row.Mirror(), Qt::MatchStartsWith);
-        combo->setCurrentIndex(std::max(found, 0));
-    });
-    QObject::connect(combo, &QComboBox::activated, combo, [combo, &row](int index) {
-        if (index > 0) {
-            row.Take(FromEditText(combo->itemText(index)));
-            combo->setCurrentIndex(index);
-        }
-    });
-    row.WhenTyped([combo] { combo->setCurrentIndex(0); });
+CFormatRow& CForm::Formats(const char* label, const std::vector<const char*>& texts) {
+    return Make<CFormatRow>(label, texts);
 }
 
-void CForm::Place(QWidget* widget) {
-    m_group->addWidget(widget, m_group->rowCount(), 0, 1, 2);
-}
-
-void CForm::AddRow(std::unique_ptr<CFormRow> row, const char* label, QWidget* control) {
-    const int line = m_group->rowCount();
-    if (label == nullptr) {
-        m_group->addWidget(control, line, 0, 1, 2);
-    } else {
-        auto* text = new QLabel(QString::fromUtf8(label), &m_page);
-        text->setBuddy(control);
-        m_group->addWidget(text, line, 0);
-        m_group->addWidget(control, line, 1);
-        row->SetLabel(NameOf(text->text()));
-        control->setAccessibleName(row->Label());
-        control->setObjectName(row->Label());
-    }
-    m_rows.push_back(std::move(row));
-}
-
-void CForm::AddList(std::unique_ptr<CListBase> list) {
-    Place(list->Widget());
+CSimpleCombo& CForm::List(const char* caption) {
+    auto* list = new CSimpleCombo(&m_page);
+    AddRow(nullptr, *list);
     Grow();
-    m_lists.push_back(std::move(list));
+    if (list->objectName().isEmpty()) {
+        list->setObjectName(QString::fromUtf8(caption).section(u' ', 0, 0));
+        list->setAccessibleName(list->objectName());
+    }
+    return *list;
 }
 
-void CForm::Done() {
-    if (!m_grows) {
-        m_bands->addStretch();
+std::vector<QPushButton*> CForm::Buttons(const std::vector<std::pair<const char*, Click>>& buttons) {
+    std::vector<QPushButton*> made;
+    auto* row = new QWidget(&m_page);
+    auto* layout = new QHBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    for (const auto& [text, click] : buttons) {
+        auto* button = new QPushButton(QString::fromUtf8(text), row);
+        button->setObjectName(button->text());
+        button->setAccessibleName(button->text());
+        button->setFocusPolicy(Qt::StrongFocus);
+        QObject::connect(button, &QPushButton::clicked, button, click);
+        layout->addWidget(button);
+        made.push_back(button);
     }
-    if (m_page.layout() == nullptr) {
-        m_bands->setContentsMargins(6, 6, 6, 6);
-        m_page.setLayout(m_bands);
-    }
-    AssignMnemonics(m_page);
-    Show(false);
-    for (const auto& list : m_lists) {
-        list->Fill();
-    }
-    for (const auto& select : m_formats) {
-        select();
-    }
+    AddRow(nullptr, *row);
+    row->setObjectName({});
+    return made;
+}
+
+void CForm::Place(const char* label, QWidget& control) {
+    AddRow(label, control);
 }
 
 QLayout* CForm::Layout() const {
     return m_bands;
+}
+
+QString CForm::NameFor(const char* label) const {
+    if (label != nullptr) {
+        return WithoutColon(QString::fromUtf8(label));
+    }
+    const QString group = m_group->objectName();
+    QString name = group;
+    for (int n = 2; !group.isEmpty() && m_group->findChild<QWidget*>(name) != nullptr; ++n) {
+        name = group + QString::asprintf(" %d", n);
+    }
+    return name;
+}
+
+QWidget* CForm::AddRow(const char* label, QWidget& control) {
+    if (m_group == nullptr) {
+        BeginGroup(new QWidget(&m_page));
+        m_parts->setContentsMargins(0, 0, 0, 0);
+    }
+    const QString name = NameFor(label);
+    control.setObjectName(name);
+    control.setAccessibleName(name);
+
+    const bool number = qobject_cast<CNumericEdit*>(&control) != nullptr;
+    const Qt::Alignment place = number ? Qt::AlignLeft | Qt::AlignVCenter : Qt::Alignment();
+    const int line = m_part->rowCount();
+    if (label == nullptr) {
+        const QLayoutItem* before = m_part->itemAtPosition(line - 1, 1);
+        const bool beside = dynamic_cast<CDialog*>(&control) != nullptr && before != nullptr &&
+                            qobject_cast<CNumericEdit*>(before->widget()) != nullptr;
+        if (beside) {
+            m_part->addWidget(&control, line - 1, 2);
+        } else {
+            m_part->addWidget(&control, line, 0, 1, 3, place);
+        }
+        return nullptr;
+    }
+    auto* text = new QLabel(QString::fromUtf8(label), &m_page);
+    text->setBuddy(control.focusProxy() != nullptr ? control.focusProxy() : &control);
+    const bool tall = control.sizeHint().height() > 2 * text->sizeHint().height();
+    m_part->addWidget(text, line, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
+    m_part->addWidget(&control, line, 1, 1, number ? 1 : 2, place);
+    return text;
+}
+
+/// Controls below each other begin at one place, also in different groups.
+void CForm::AlignLabels() const {
+    for (const auto* column : m_bands->findChildren<QVBoxLayout*>()) {
+        struct Labelled {
+            QGridLayout* part;
+            int inset; ///< of the group's first part, from the column's left
+        };
+        std::vector<Labelled> parts;
+        int width = 0;
+        for (int i = 0; i < column->count(); ++i) {
+            const QWidget* group = column->itemAt(i)->widget();
+            auto* part = static_cast<QGridLayout*>(group->layout()->itemAt(0)->layout());
+            const int inset = group->contentsMargins().left() + group->layout()->contentsMargins().left();
+            parts.push_back({part, inset});
+            for (int line = 0; line < part->rowCount(); ++line) {
+                const QLayoutItem* item = part->itemAtPosition(line, 0);
+                if (item != nullptr && qobject_cast<QLabel*>(item->widget()) != nullptr) {
+                    width = std::max(width, inset + item->sizeHint().width());
+                }
+            }
+        }
+        for (const Labelled& labelled : parts) {
+            labelled.part->setColumnMinimumWidth(0, width - labelled.inset);
+        }
+    }
+}
+
+void CForm::Start() {
+    if (m_page.layout() == nullptr) {
+        m_page.setLayout(m_bands);
+    }
+    if (!m_grows) {
+        m_bands->addStretch();
+    }
+    m_grows = true;
+    AlignLabels();
+    LoadRows(nullptr);
+    for (const auto& list : m_lists) {
+        list->Fill();
+    }
+    if (m_page.isWindow()) {
+        AssignMnemonics(m_page);
+    }
 }
 
 bool CForm::Exchange(bool read) {
@@ -221,7 +274,7 @@ bool CForm::UpdateDataSafe() {
     }
     m_complaining = true;
     QMessageBox(QMessageBox::Warning, m_page.window()->windowTitle(),
-                QStringLiteral("\"%1\" must be %2.").arg(m_bad->Label(), m_bad->Wants()), QMessageBox::Ok,
+                QStringLiteral("\"%1\" must be %2.").arg(m_bad->Name(), m_bad->Wants()), QMessageBox::Ok,
                 &m_page)
         .exec();
     m_page.UpdateData(false);
@@ -232,29 +285,38 @@ bool CForm::UpdateDataSafe() {
 
 bool CForm::CommitFocused() {
     const QWidget* focus = m_page.window()->focusWidget();
-    for (const auto& row : m_rows) {
-        if (focus != nullptr && row->Owns(focus)) {
-            row->Commit();
-            return true;
-        }
-    }
-    return false;
+    return std::any_of(m_rows.begin(), m_rows.end(),
+                       [focus](const auto& row) { return row->CommitIfIn(focus); });
 }
 
 void CForm::FieldChanged(int key) {
     for (const auto& row : m_rows) {
-        if (row->TakeField(key)) {
-            break;
+        if (key != 0 && row->Key() == key && !row->Store() && !row->TellsAlways()) {
+            return;
         }
     }
     Notify();
 }
 
-void CForm::Show(bool itemsOnly) {
+void CForm::LoadRows(const void* owner) {
     for (const auto& row : m_rows) {
-        if (!itemsOnly || row->OfItem()) {
+        if (owner == nullptr || row->Owner() == owner) {
             row->Load();
         }
     }
     m_page.UpdateData(false);
+    for (const auto& row : m_rows) {
+        if (owner == nullptr || row->Owner() == owner) {
+            row->Loaded();
+        }
+    }
+}
+
+int CForm::SelectedOrWarn(CSimpleCombo& list, const char* message) {
+    const int row = list.Selected();
+    if (row < 0) {
+        WarnBox(&m_page, QString::fromUtf8(message), QString::fromUtf8(LoadChartString(29)));
+        list.Select(list.Count() > 0 ? 0 : -1);
+    }
+    return row;
 }

@@ -1,30 +1,43 @@
 #pragma once
 // A page, written as a table: groups and rows in reading order, one line a property. The form makes the
 // controls and their labels, holds the mirrors, limits and rounds, commits changes to the model and tells of
-// them. A page is a CDialog that has a form.
+// them. A page is a CDialog that has a form; the model is loaded when the page starts.
 //
 //     m_form.Group("LineWidth");
 //     m_form.Integer("AxisWidth:", meter.m_axisWidth).Step(1).Floor(0);
 //     m_form.Group("Scale");
 //     m_form.Real("LowerLimit:", meter.m_lowerLimit).Step(10);
-//     m_form.Done();
+//
+// A list and the values of its selected item:
+//
+//     auto& texts = m_form.List(meter.m_texts, "Text %d ( %s )", LoadChartString(27));
+//     m_form.Lines("Text:", texts.Caption(&CChartTextBox::m_text));
+//     m_form.Integer("X:", texts[&CChartTextBox::m_x]).Step(10);
 
-#include "editors/framework/form_rows.h"
+#include "editors/framework/choice_rows.h"
+#include "editors/framework/field_row.h"
 #include "editors/framework/list_editor.h"
+#include "editors/framework/number_rows.h"
+#include "editors/framework/text_rows.h"
 #include "platform/widgets/dialog.h"
 
 #include <functional>
 #include <memory>
+#include <utility>
 #include <vector>
 
+class CSimpleCombo;
 class QGridLayout;
 class QGroupBox;
 class QHBoxLayout;
 class QLayout;
+class QPushButton;
 class QVBoxLayout;
 
 class CForm final : public CDialogControls {
 public:
+    using Click = std::function<void()>;
+
     /// `notify` is what every committed change ends with.
     CForm(CDialog& page, std::function<void()> notify);
     /// A hosted page: every committed change ends with a message to the dialog that hosts it.
@@ -34,72 +47,82 @@ public:
     ~CForm();
 
     // What stands where. Rows go into the current part of the current group, groups into the current column,
-    // columns into the current band. The groups of a band end at one height.
+    // columns into the current band. The columns of a band end at one height. A row without a label, null, is
+    // known by the name of its group; a field without one stands beside the number before it.
     void Band();   ///< A new row of columns below.
     void Column(); ///< A new column at the right.
     QGroupBox* Group(const char* caption);
-    void Part(); ///< Further rows of the group stand beside those so far.
+    void Part();     ///< Further rows of the group stand beside those so far.
+    void EndGroup(); ///< Further rows stand in no group.
 
     CIntegerRow& Integer(const char* label, CBinding<std::int32_t> field);
     CRealRow& Real(const char* label, CBinding<double> field);
     CCheckRow& Check(const char* label, CBinding<bool> field);
-    /// A drop-down list; row n stores n unless mapped.
-    CComboRow& Combo(const char* label, CBinding<std::int32_t> field, std::vector<const char*> texts);
+    /// A drop-down list; row n stores n unless it names a code.
+    CComboRow& Combo(const char* label, CBinding<std::int32_t> field, std::vector<CChoice> choices);
     CComboRow& Alignment(const char* label, CBinding<std::int32_t> field);
     CComboRow& Side(const char* label, CBinding<std::int32_t> field);
-    CRadioRow& Radio(CBinding<std::int32_t> field, std::vector<const char*> texts);
-    CTextRow& Text(const char* label, CBinding<CChartString> field);
-    CTextRow& Lines(const char* label, CBinding<CChartString> field); ///< takes Enter as a line break
-    /// A list of ready-made formats for a text row.
-    void Formats(CTextRow& row, const std::vector<const char*>& texts);
-    /// A field (a colour, font, image or effect) with its label; `label` may be null.
+    CRadioRow& Radio(CBinding<std::int32_t> field, std::vector<CChoice> choices);
+    CTextRow& Text(const char* label, CBinding<QString> field);
+    CTextRow& Lines(const char* label, CBinding<QString> field); ///< takes Enter as a line break
+    /// A list of ready-made formats; it stands before or after the text it is for.
+    CFormatRow& Formats(const char* label, const std::vector<const char*>& texts);
+    /// A field: a colour, font, image or effect.
     template <class T>
     CFieldRow<T>& Field(const char* label, CBinding<typename T::Value> value) {
         return Make<CFieldRow<T>>(label, std::move(value), static_cast<int>(m_rows.size()) + 1);
     }
     /// A list with "Add" and "Delete". `caption` is a format with the row's number and, if it has a %s, a
-    /// text.
+    /// text; `noneSelected` what "Delete" says while no row is selected.
     template <class Container>
     CListEditor<Container>& List(Container& items, const char* caption, const char* noneSelected) {
-        auto list = std::make_unique<CListEditor<Container>>(*this, items, caption, noneSelected);
+        auto list =
+            std::make_unique<CListEditor<Container>>(*this, List(caption), items, caption, noneSelected);
         CListEditor<Container>& result = *list;
-        AddList(std::move(list));
+        m_lists.push_back(std::move(list));
         return result;
     }
-    /// Any other control of the page, spanning the group.
-    void Place(QWidget* widget);
-
-    /// Ends the table: model into mirrors, mirrors into controls, letters for Alt, lists filled. The form
-    /// takes all of the page, unless the page has a layout by then.
-    void Done();
-    /// What the form stands in, for a page that has more than the form.
+    /// A list that the page keeps itself. Named by its group, else by the first word of `caption`.
+    CSimpleCombo& List(const char* caption);
+    /// A row of buttons.
+    std::vector<QPushButton*> Buttons(const std::vector<std::pair<const char*, Click>>& buttons);
+    /// Any other control of the page; without a label it takes the whole width.
+    void Place(const char* label, QWidget& control);
+    /// What the form stands in, for a page that has more than the form: the form takes all of a page that has
+    /// no layout when it starts.
     QLayout* Layout() const;
 
     // What the page asks for.
+    void Start() override;
     bool Exchange(bool read) override;
     bool CommitFocused() override;
     void FieldChanged(int key) override;
 
-    // For rows and lists.
+    // For rows, lists and the page's own handlers.
     CDialog& Page() { return m_page; }
     /// Reads and validates; on failure puts the last good values back and selects the offending text.
     bool UpdateDataSafe();
     void Notify() { m_notify(); }
-    /// Model into mirrors and controls, for the rows that follow an item of a list, or for all.
-    void Show(bool itemsOnly);
+    /// Model into mirrors and controls, for the rows that follow a list, or for all (null).
+    void LoadRows(const void* owner);
+    /// The selected row of a list. With none: a warning, the first row is selected, and -1.
+    int SelectedOrWarn(CSimpleCombo& list, const char* message);
 
 private:
     template <class Row, class... Args>
     Row& Make(const char* label, Args&&... args) {
         auto made = std::make_unique<Row>(*this, std::forward<Args>(args)...);
         Row& row = *made;
-        AddRow(std::move(made), label, row.Control());
+        row.SetLabel(AddRow(label, *row.Control()));
+        m_rows.push_back(std::move(made));
         return row;
     }
-    void AddRow(std::unique_ptr<CFormRow> row, const char* label, QWidget* control);
-    void AddList(std::unique_ptr<CListBase> list);
+    QWidget* AddRow(const char* label, QWidget& control);
+    QString NameFor(const char* label) const;
+    void BeginGroup(QWidget* box);
     /// What was added last takes the height that is left.
     void Grow();
+    void AlignLabels() const;
 
     CDialog& m_page;
     std::function<void()> m_notify;
@@ -108,10 +131,10 @@ private:
     QVBoxLayout* m_bands;
     QHBoxLayout* m_columns = nullptr; ///< of the current band
     QVBoxLayout* m_column = nullptr;
+    QWidget* m_group = nullptr;     ///< a box with a caption, or one without
     QHBoxLayout* m_parts = nullptr; ///< of the current group
-    QGridLayout* m_group = nullptr; ///< the current part of it
+    QGridLayout* m_part = nullptr;  ///< label, control, and what stands beside it
     bool m_grows = false;
-    std::vector<std::function<void()>> m_formats;
     CFormRow* m_bad = nullptr; ///< the row that could not be read
     bool m_complaining = false;
 };

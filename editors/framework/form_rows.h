@@ -1,24 +1,14 @@
 #pragma once
-// The kinds of row that a form is made of. Each holds one mirror, the page's memory of what its control
+// What the rows of a form have in common. A row holds one mirror, the page's memory of what its control
 // shows, and knows how to load it from the model, exchange it with the control and store it into the model.
 
 #include "editors/framework/binding.h"
-#include "editors/framework/conventions.h"
 
 #include <QString>
-#include <cstdint>
-#include <limits>
-#include <optional>
-#include <vector>
+#include <functional>
+#include <utility>
 
 class CForm;
-class CNumericEdit;
-class QButtonGroup;
-class QCheckBox;
-class QComboBox;
-class QLabel;
-class QLineEdit;
-class QPlainTextEdit;
 class QWidget;
 
 class CFormRow {
@@ -29,244 +19,119 @@ public:
     virtual ~CFormRow() = default;
 
     virtual QWidget* Control() const = 0;
-    virtual bool OfItem() const = 0;
+    /// The list whose item the row shows, null for none.
+    virtual const void* Owner() const { return nullptr; }
     /// Model into mirror.
-    virtual void Load() = 0;
+    virtual void Load() {}
+    /// After all rows have been loaded and their controls written.
+    virtual void Loaded() {}
     /// Between mirror and control; false when the control holds what cannot be read.
-    virtual bool Exchange(bool read) = 0;
+    virtual bool Exchange(bool /*read*/) { return true; }
     /// Mirror into model; false when there is nowhere to store it.
-    virtual bool Store() = 0;
-    /// Whether `focus` is the row's text or number edit: what Enter commits.
-    virtual bool Owns(const QWidget* focus) const;
-    /// Text of a control that could not be read: what it wants, and its selection for a new try.
+    virtual bool Store() { return false; }
+    /// After a change has been stored and told.
+    virtual void Afterwards() {}
+    /// Commits, if `focus` is the row's text or number edit.
+    virtual bool CommitIfIn(const QWidget* /*focus*/) { return false; }
+    /// The key that the row's field sends, 0 for a row without a field.
+    virtual int Key() const { return 0; }
+    /// Whether a change is told even if there was nowhere to store it.
+    bool TellsAlways() const { return m_tellsAlways; }
+    /// For a control that could not be read: what it wants, and its text selected for a new try.
     virtual QString Wants() const { return {}; }
     virtual void SelectText() {}
-    /// The field of the row has sent its message with this key.
-    virtual bool TakeField(int key);
 
-    /// The text edit, loss of focus or Enter: reads, normalises, stores, notifies.
-    void Commit();
-    void SetLabel(const QString& label) { m_label = label; }
-    const QString& Label() const { return m_label; }
-    CForm& Form() const { return m_form; }
+    /// Greys the row and its label, or brings them back.
+    void SetEnabled(bool enabled);
+    /// The name for screen readers and scripts.
+    void SetName(const QString& name);
+    QString Name() const;
+    void SetLabel(QWidget* label) { m_label = label; }
 
 protected:
-    QWidget* PageWidget() const;
-    /// Called after a commit, the model written.
-    virtual void Committed() { NotifyChange(); }
-    void NotifyChange();
-    /// A click or a choice: `checked` reads the page with validation, otherwise the click counts anyway.
-    void Chosen(bool checked);
+    CForm& Form() const { return m_form; }
+    QWidget* Page() const;
+    /// A click or a choice: reads the page and stores.
+    void Chosen();
+    /// The end of every change.
+    void StoreAndTell(bool tell = true);
+
+    bool m_tellsAlways = true;
+    bool m_validated = true; ///< a click counts only if all of the page can be read
 
 private:
     CForm& m_form;
-    QString m_label;
+    QWidget* m_label = nullptr;
 };
 
-/// A number with arrows: what integers and reals have in common.
-class CNumberRow : public CFormRow {
+/// A row with a text that is committed when it is left: what numbers and texts have in common.
+class CEditRow : public CFormRow {
 public:
-    QWidget* Control() const override;
-    bool Owns(const QWidget* focus) const override;
-    void SelectText() override;
+    using CFormRow::CFormRow;
+
+    bool CommitIfIn(const QWidget* focus) override;
 
 protected:
-    explicit CNumberRow(CForm& form);
-    virtual void Press(int direction) = 0;
-    void Committed() override;
+    virtual QString ControlText() const = 0;
+    /// Calls Leave when `control` loses the focus.
+    void Watch(QWidget* control);
+    /// The mirror now holds what the model holds: the text that shows it next needs no commit.
+    void Settle() { m_settling = true; }
+    /// To be called when the control has been written.
+    void Written();
+    /// Reads, normalises, stores and tells.
+    void Commit(bool tell);
 
-    CNumericEdit* m_edit;
     bool m_quietOnLeave = false;
+    bool m_regardless = false;
 
 private:
-    void Leave();
-    bool m_leaving = false;
+    void Leave(bool forAnotherWindow);
+
+    QString m_settled; ///< the text that needs no commit
+    bool m_settling = false;
 };
 
-class CIntegerRow : public CNumberRow {
+/// A row over a binding. `Self` is the row itself, for what reads on from one setting to the next; `Base` one
+/// of the rows above.
+template <class Self, class T, class Base = CFormRow>
+class CValueRow : public Base {
 public:
-    CIntegerRow(CForm& form, CBinding<std::int32_t> field);
+    CValueRow(CForm& form, CBinding<T> field) : Base(form), m_field(std::move(field)) {}
 
-    CIntegerRow& Step(int step);
-    CIntegerRow& Floor(std::int32_t floor);
-    CIntegerRow& Range(std::int32_t floor, std::int32_t ceiling);
-    CIntegerRow& DigitsOnly();
-
-    bool OfItem() const override { return m_field.OfItem(); }
-    void Load() override { m_mirror = m_field.Shown(); }
-    bool Exchange(bool read) override;
-    bool Store() override;
-    QString Wants() const override { return QStringLiteral("a whole number"); }
-
-protected:
-    void Press(int direction) override;
-
-private:
-    CBinding<std::int32_t> m_field;
-    std::int32_t m_mirror = 0;
-    std::int32_t m_step = 1;
-    std::int32_t m_floor = std::numeric_limits<std::int32_t>::min();
-    std::int32_t m_ceiling = std::numeric_limits<std::int32_t>::max();
-};
-
-class CRealRow : public CNumberRow {
-public:
-    CRealRow(CForm& form, CBinding<double> field);
-
-    CRealRow& Step(double step);
-    CRealRow& Floor(double floor);
-    CRealRow& Range(double floor, double ceiling);
-    /// Limits that hold only while `when` is true.
-    CRealRow& RangeWhen(double floor, double ceiling, std::function<bool()> when);
-    CRealRow& Unrounded();
-    /// A typed value is stored without telling anybody.
-    CRealRow& QuietOnLeave();
-
-    bool OfItem() const override { return m_field.OfItem(); }
-    void Load() override { m_mirror = m_field.Shown(); }
-    bool Exchange(bool read) override;
-    bool Store() override;
-    QString Wants() const override { return QStringLiteral("a number"); }
-
-protected:
-    void Press(int direction) override;
-
-private:
-    void Limit();
-
-    CBinding<double> m_field;
-    double m_mirror = 0;
-    double m_step = 1;
-    double m_floor = -std::numeric_limits<double>::infinity();
-    double m_ceiling = std::numeric_limits<double>::infinity();
-    std::function<bool()> m_limited;
-    bool m_rounded = true;
-};
-
-class CCheckRow : public CFormRow {
-public:
-    CCheckRow(CForm& form, CBinding<bool> field, const char* text);
-
+    /// More to do when the model has been written and before anybody is told.
+    Self& Then(std::function<void()> then) {
+        m_then = std::move(then);
+        return Me();
+    }
     /// A click counts even while another control holds what cannot be read.
-    CCheckRow& Unvalidated();
-    /// The page shows it unchecked at first, whatever the model holds.
-    CCheckRow& NotLoaded();
-    /// More to do after the model has been written and before anybody is told.
-    CCheckRow& Then(std::function<void()> then);
+    Self& Unvalidated() {
+        this->m_validated = false;
+        return Me();
+    }
+    /// Another name for screen readers and scripts than the label.
+    Self& Named(const char* name) {
+        this->SetName(QString::fromUtf8(name));
+        return Me();
+    }
 
-    QWidget* Control() const override;
-    bool OfItem() const override { return m_field.OfItem(); }
-    void Load() override;
-    bool Exchange(bool read) override;
-    bool Store() override;
-
-private:
-    CBinding<bool> m_field;
-    QCheckBox* m_box;
-    bool m_mirror = false;
-    bool m_loaded = true;
-    bool m_validated = true;
-    std::function<void()> m_then;
-};
-
-/// A drop-down list.
-class CComboRow : public CFormRow {
-public:
-    CComboRow(CForm& form, CBinding<std::int32_t> field, const std::vector<const char*>& texts);
-
-    /// The stored code of a row and the row of a code; row n is code n otherwise.
-    CComboRow& Mapped(int (*rowOf)(int code), int (*codeOf)(int row));
-    CComboRow& Then(std::function<void()> then);
-
-    QWidget* Control() const override;
-    bool OfItem() const override { return m_field.OfItem(); }
-    void Load() override;
-    bool Exchange(bool read) override;
-    bool Store() override;
-
-private:
-    CBinding<std::int32_t> m_field;
-    QComboBox* m_box;
-    int m_mirror = 0;
-    int (*m_rowOf)(int) = nullptr;
-    int (*m_codeOf)(int) = nullptr;
-    std::function<void()> m_then;
-};
-
-class CRadioRow : public CFormRow {
-public:
-    CRadioRow(CForm& form, CBinding<std::int32_t> field, const std::vector<const char*>& texts);
-
-    QWidget* Control() const override { return m_box; }
-    bool OfItem() const override { return m_field.OfItem(); }
-    void Load() override { m_mirror = m_field.Shown(); }
-    bool Exchange(bool read) override;
-    bool Store() override;
-
-private:
-    CBinding<std::int32_t> m_field;
-    QWidget* m_box;
-    QButtonGroup* m_buttons;
-    int m_mirror = 0;
-};
-
-class CTextRow : public CFormRow {
-public:
-    CTextRow(CForm& form, CBinding<CChartString> field, bool multiLine);
-
-    /// More to do after a commit that has reached the model: the caption in a list, a combo of formats.
-    CTextRow& Then(std::function<void()> then);
-
-    QWidget* Control() const override;
-    /// Called while a person types.
-    void WhenTyped(const std::function<void()>& typed);
-    bool OfItem() const override { return m_field.OfItem(); }
-    void Load() override;
-    bool Exchange(bool read) override;
-    bool Store() override;
-    bool Owns(const QWidget* focus) const override;
-    /// Takes a ready-made text, stores it and notifies.
-    void Take(const QString& text);
-    const QString& Mirror() const { return m_mirror; }
+    const void* Owner() const override { return m_field.Owner(); }
+    void Load() override { m_mirror = m_field.Value(); }
+    bool Store() override {
+        const bool stored = m_field.Store(m_mirror);
+        if (stored && m_then) {
+            m_then();
+        }
+        return stored;
+    }
+    void Afterwards() override { m_field.Afterwards(); }
 
 protected:
-    void Committed() override;
+    Self& Me() { return static_cast<Self&>(*this); }
+
+    CBinding<T> m_field;
+    T m_mirror{};
 
 private:
-    CBinding<CChartString> m_field;
-    QLineEdit* m_line = nullptr;
-    QPlainTextEdit* m_lines = nullptr; ///< instead of m_line
-    QString m_mirror;
     std::function<void()> m_then;
-};
-
-/// A field: a child dialog of the page that shows one compound value and has its own way of changing it.
-/// `Field` has a type `Value`, SetKey, SetValueAndShow and GetValue, and is a CDialog.
-template <class Field>
-class CFieldRow : public CFormRow {
-public:
-    CFieldRow(CForm& form, CBinding<typename Field::Value> value, int key)
-        : CFormRow(form), m_value(std::move(value)), m_key(key) {
-        m_widget.SetKey(key);
-        m_widget.Create(PageWidget());
-    }
-
-    Field& Widget() { return m_widget; }
-    QWidget* Control() const override { return const_cast<Field*>(&m_widget); }
-    bool OfItem() const override { return m_value.OfItem(); }
-    void Load() override { m_widget.SetValueAndShow(m_value.Shown()); }
-    bool Exchange(bool /*read*/) override { return true; }
-    bool Store() override {
-        typename Field::Value* target = m_value.Target();
-        if (target != nullptr) {
-            *target = m_widget.GetValue();
-        }
-        return target != nullptr;
-    }
-    bool TakeField(int key) override { return key == m_key && (Store(), true); }
-
-private:
-    CBinding<typename Field::Value> m_value;
-    int m_key;
-    Field m_widget;
 };

@@ -3,7 +3,6 @@
 // type of the items stands in CListBase; CListEditor adds the container.
 
 #include "editors/framework/binding.h"
-#include "editors/framework/conventions.h"
 
 #include <QString>
 #include <functional>
@@ -11,27 +10,22 @@
 
 class CForm;
 class CSimpleCombo;
-class QPushButton;
-class QWidget;
 
 class CListBase {
 public:
-    CListBase(CForm& form, const char* caption, const char* noneSelected);
+    CListBase(CForm& form, CSimpleCombo& combo, const char* caption, const char* noneSelected);
     CListBase(const CListBase&) = delete;
     CListBase& operator=(const CListBase&) = delete;
     virtual ~CListBase() = default;
 
-    /// The selected row, -1 for none or a row that is gone.
+    /// The selected row, -1 for none.
     int Selected() const;
     /// Fills the list anew and selects the first item.
     void Fill();
     /// Shows an item's values, or a default item's for -1. Writes nothing into the model.
     void SyncFromItem(int index);
-    /// Builds the caption of the selected row anew.
+    /// Replaces the selected row by its new caption.
     void RefreshCaption();
-
-    QWidget* Widget() const { return m_widget; }
-    CSimpleCombo& Combo() const { return *m_combo; }
 
 protected:
     virtual int Count() const = 0;
@@ -48,10 +42,9 @@ private:
     QString CaptionOf(int index) const;
 
     CForm& m_form;
+    CSimpleCombo& m_combo;
     const char* m_caption;
     const char* m_noneSelected;
-    QWidget* m_widget;
-    CSimpleCombo* m_combo;
 };
 
 template <class Container>
@@ -59,43 +52,34 @@ class CListEditor : public CListBase {
 public:
     using Item = std::remove_reference_t<decltype(std::declval<Container&>()[0])>;
 
-    CListEditor(CForm& form, Container& items, const char* caption, const char* noneSelected)
-        : CListBase(form, caption, noneSelected), m_items(items) {}
+    CListEditor(CForm& form, CSimpleCombo& combo, Container& items, const char* caption,
+                const char* noneSelected)
+        : CListBase(form, combo, caption, noneSelected), m_items(items) {}
 
     /// What "Add" appends, and what shows while nothing is selected. A default-constructed item if not said.
     CListEditor& New(std::function<Item()> make) {
         m_make = std::move(make);
         return *this;
     }
-    /// The text in the caption.
-    template <class Text>
-    CListEditor& Named(Text Item::*text) {
-        m_name = [text](const Item& item) { return FromModelText(item.*text); };
-        return *this;
-    }
 
     /// A field of the selected item, for a row of the form.
     template <class T>
     CBinding<T> operator[](T Item::*field) {
-        return {[this, field]() -> const T* {
-                    const int row = Selected();
-                    return row < 0 ? &(m_default.*field) : &(m_items[row].*field);
-                },
-                [this, field]() -> T* {
-                    const int row = Selected();
-                    return row < 0 ? nullptr : &(m_items[row].*field);
-                }};
+        return Bind<T>([field](Item& item) -> T& { return item.*field; });
     }
-    /// The selected item itself, for containers of plain values.
+    /// The text of the selected item that stands in the captions, for a row of the form.
+    template <class T>
+    CBinding<T> Caption(T Item::*text) {
+        m_name = [text](const Item& item) { return FromModelText(item.*text); };
+        return Bind<T>([text](Item& item) -> T& { return item.*text; }, [this] { RefreshCaption(); });
+    }
+    /// The same two, for containers of plain values.
     CBinding<Item> Whole() {
-        return {[this]() -> const Item* {
-                    const int row = Selected();
-                    return row < 0 ? &m_default : &m_items[row];
-                },
-                [this]() -> Item* {
-                    const int row = Selected();
-                    return row < 0 ? nullptr : &m_items[row];
-                }};
+        return Bind<Item>([](Item& item) -> Item& { return item; });
+    }
+    CBinding<Item> WholeCaption() {
+        m_name = [](const Item& item) { return ValueAs<QString>(item); };
+        return Bind<Item>([](Item& item) -> Item& { return item; }, [this] { RefreshCaption(); });
     }
 
 protected:
@@ -106,6 +90,19 @@ protected:
     void RenewDefault() override { m_default = m_make ? m_make() : Item(); }
 
 private:
+    template <class T, class Part>
+    CBinding<T> Bind(Part part, std::function<void()> afterwards = {}) {
+        return {[this, part]() -> T { return part(Selected() < 0 ? m_default : m_items[Selected()]); },
+                [this, part](const T& value) {
+                    const int row = Selected();
+                    if (row >= 0) {
+                        part(m_items[row]) = value;
+                    }
+                    return row >= 0;
+                },
+                this, std::move(afterwards)};
+    }
+
     Container& m_items;
     std::function<Item()> m_make;
     std::function<QString(const Item&)> m_name;

@@ -3,7 +3,10 @@
 #include <QAbstractButton>
 #include <QLabel>
 #include <QSet>
-#include <QWidget>
+#include <QStackedWidget>
+#include <QStringList>
+#include <QTabBar>
+#include <vector>
 
 namespace {
 
@@ -20,32 +23,60 @@ qsizetype Choose(const QString& text, const QSet<QChar>& taken) {
     return -1;
 }
 
-template <class Control>
-void Mark(Control* control, QSet<QChar>& taken) {
-    QString text = control->text();
-    const qsizetype marked = text.indexOf(u'&');
-    if (marked >= 0 && marked + 1 < text.size()) {
-        taken.insert(text[marked + 1].toLower());
-        return;
+/// The text with its letter marked, if there is one for it.
+QString Marked(QString text, QSet<QChar>& taken) {
+    qsizetype at = text.indexOf(u'&');
+    if (at < 0) {
+        at = Choose(text, taken);
+        if (at >= 0) {
+            text.insert(at, u'&');
+        }
     }
-    const qsizetype at = Choose(text, taken);
-    if (at >= 0) {
-        taken.insert(text[at].toLower());
-        control->setText(text.insert(at, u'&'));
+    if (at >= 0 && at + 1 < text.size()) {
+        taken.insert(text[at + 1].toLower());
+    }
+    return text;
+}
+
+void Mark(QWidget& widget, QSet<QChar>& taken) {
+    static const QStringList plain{QString(), QStringLiteral("..."), QStringLiteral("OK"),
+                                   QStringLiteral("Cancel")};
+    if (auto* label = qobject_cast<QLabel*>(&widget); label != nullptr && label->buddy() != nullptr) {
+        label->setText(Marked(label->text(), taken));
+    } else if (auto* button = qobject_cast<QAbstractButton*>(&widget);
+               button != nullptr && !plain.contains(button->text())) {
+        button->setText(Marked(button->text(), taken));
+    } else if (auto* tabs = qobject_cast<QTabBar*>(&widget)) {
+        for (int i = 0; i < tabs->count(); ++i) {
+            tabs->setTabText(i, Marked(tabs->tabText(i), taken));
+        }
+    }
+}
+
+/// Marks what shows at all times first, and then each of the pages with what is left.
+void MarkBelow(QWidget& parent, QSet<QChar>& taken, std::vector<QStackedWidget*>& stacks) {
+    for (QWidget* child : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        if (auto* stack = qobject_cast<QStackedWidget*>(child)) {
+            stacks.push_back(stack);
+        } else {
+            Mark(*child, taken);
+            MarkBelow(*child, taken, stacks);
+        }
+    }
+}
+
+void MarkPage(QWidget& page, QSet<QChar> taken) {
+    std::vector<QStackedWidget*> stacks;
+    MarkBelow(page, taken, stacks);
+    for (const QStackedWidget* stack : stacks) {
+        for (int i = 0; i < stack->count(); ++i) {
+            MarkPage(*stack->widget(i), taken);
+        }
     }
 }
 
 } // namespace
 
-void AssignMnemonics(QWidget& page) {
-    QSet<QChar> taken;
-    for (QWidget* widget : page.findChildren<QWidget*>()) {
-        if (auto* label = qobject_cast<QLabel*>(widget); label != nullptr && label->buddy() != nullptr) {
-            Mark(label, taken);
-        } else if (auto* button = qobject_cast<QAbstractButton*>(widget)) {
-            if (!button->text().isEmpty() && button->text() != QStringLiteral("...")) {
-                Mark(button, taken);
-            }
-        }
-    }
+void AssignMnemonics(QWidget& dialog) {
+    MarkPage(dialog, {});
 }

@@ -24,12 +24,10 @@ void RectangleRows(CForm& form, const char* group, Area& area) {
 
 CPieSizePage::CPieSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
     CircleRows(m_form, "PieChart:", layout.m_piePlotArea);
-    m_form.Done();
 }
 
 CPolarSizePage::CPolarSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
     CircleRows(m_form, "PolarChart:", layout.m_polarPlotArea);
-    m_form.Done();
 }
 
 CAngularSizePage::CAngularSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
@@ -40,18 +38,15 @@ CAngularSizePage::CAngularSizePage(CChartLayout& layout, QWidget& owner) : m_for
     m_form.Integer("Radius:", area.m_radius).Step(kStep).Floor(0);
     m_form.Real("StartAngle:", area.m_startAngle).Step(kStep);
     m_form.Real("EndAngle:", area.m_endAngle).Step(kStep).QuietOnLeave();
-    m_form.Done();
 }
 
 CXYSizePage::CXYSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
     RectangleRows(m_form, "XYChart:", layout.m_xyPlotArea);
-    m_form.Done();
 }
 
 CFinanceSizePage::CFinanceSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
     m_form.Group("FinanceChart:");
     m_form.Integer("Width:", layout.m_financeWidth).Step(kStep).Floor(0);
-    m_form.Done();
 }
 
 CLinearSizePage::CLinearSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
@@ -59,5 +54,4 @@ CLinearSizePage::CLinearSizePage(CChartLayout& layout, QWidget& owner) : m_form(
     RectangleRows(m_form, "Linear Meter:", area);
     m_form.Side("AxisPos:", area.m_axisPos);
     m_form.Check("Reverse", area.m_reverse).NotLoaded();
-    m_form.Done();
 }

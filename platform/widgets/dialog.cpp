@@ -6,6 +6,7 @@
 #include <QCloseEvent>
 #include <QDialogButtonBox>
 #include <QKeyEvent>
+#include <QLayout>
 #include <QMessageBox>
 #include <QPushButton>
 
@@ -30,6 +31,9 @@ int CDialog::DoModal() {
     if (!OnInitDialog()) {
         return kCancel;
     }
+    if (layout() != nullptr) {
+        layout()->setSizeConstraint(QLayout::SetFixedSize);
+    }
     const int result = exec();
     setParent(nullptr);
     return result == Accepted ? kOK : kCancel;
@@ -45,24 +49,34 @@ bool CDialog::UpdateData(bool read) {
     return DoDataExchange(read);
 }
 
-void CDialog::OnFieldChanged(int /*key*/) {}
+void CDialog::OnFieldChanged(int key) {
+    if (m_controls != nullptr) {
+        m_controls->FieldChanged(key);
+    }
+}
 
-bool CDialog::DoDataExchange(bool /*read*/) {
-    return true;
+bool CDialog::DoDataExchange(bool read) {
+    return m_controls == nullptr || m_controls->Exchange(read);
 }
 
 bool CDialog::OnInitDialog() {
+    if (m_controls != nullptr) {
+        m_controls->Start();
+    }
     return UpdateData(false);
 }
 
 void CDialog::OnOK() {
-    if (UpdateData(true)) {
+    const bool inEdit = m_controls != nullptr && m_controls->CommitFocused();
+    if (!inEdit && !m_hosted && UpdateData(true)) {
         done(Accepted);
     }
 }
 
 void CDialog::OnCancel() {
-    done(Rejected);
+    if (!m_hosted) {
+        done(Rejected);
+    }
 }
 
 QWidget* CDialog::MakeOkCancel() {
@@ -73,11 +87,19 @@ QWidget* CDialog::MakeOkCancel() {
     cancel->setText(QStringLiteral("Cancel"));
     ok->setObjectName(QStringLiteral("OK"));
     cancel->setObjectName(QStringLiteral("Cancel"));
-    // A press takes the focus on every platform, so that the edit that had it commits before the dialog ends.
-    ok->setFocusPolicy(Qt::StrongFocus);
-    cancel->setFocusPolicy(Qt::StrongFocus);
     ok->setDefault(true);
-    connect(ok, &QPushButton::clicked, this, [this] { OnOK(); });
+    // A press takes the focus on every platform, so that the edit that had it commits before the dialog ends.
+    // Where the edit has refused to let go, the press is over.
+    ok->setFocusPolicy(Qt::StrongFocus);
+    connect(ok, &QPushButton::pressed, ok, [ok] { ok->setDown(ok->window()->focusWidget() == ok); });
+    connect(ok, &QPushButton::clicked, this, [this, ok] {
+        ok->setFocus();
+        if (focusWidget() == ok) {
+            OnOK();
+        }
+    });
+    // Cancel does not care what stands in an edit.
+    cancel->setFocusPolicy(Qt::TabFocus);
     connect(cancel, &QPushButton::clicked, this, [this] { OnCancel(); });
     return buttons;
 }
@@ -88,6 +110,14 @@ bool CDialog::event(QEvent* event) {
         return true;
     }
     return QDialog::event(event);
+}
+
+void CDialog::showEvent(QShowEvent* event) {
+    if (m_hosted) {
+        QWidget::showEvent(event); // its host has placed it
+    } else {
+        QDialog::showEvent(event);
+    }
 }
 
 void CDialog::keyPressEvent(QKeyEvent* event) {

@@ -7,6 +7,8 @@
 /// The controls of a dialog as a whole, where something stands between them and the dialog's members.
 class CDialogControls {
 public:
+    /// Loads what the controls show, when the dialog starts.
+    virtual void Start() {}
     /// Between controls and members; false when a control holds what cannot be read.
     virtual bool Exchange(bool read) = 0;
     /// Commits the text or number edit that has the focus; false when none has.
@@ -42,6 +44,9 @@ public:
     /// Says what the virtual operations below work on; it must live as long as the dialog is used.
     void SetControls(CDialogControls* controls) { m_controls = controls; }
 
+    /// The row of buttons at the foot of a modal dialog.
+    QWidget* MakeOkCancel();
+
 protected:
     virtual bool DoDataExchange(bool read);
     /// Fills the controls; the base writes the members to them.
@@ -52,10 +57,8 @@ protected:
     /// Esc, the close box, and the Cancel button: ends a modal dialog, does nothing in a part of another one.
     virtual void OnCancel();
 
-    /// The row of buttons at the foot of a modal dialog.
-    QWidget* MakeOkCancel();
-
     bool event(QEvent* event) override;
+    void showEvent(QShowEvent* event) override;
     void keyPressEvent(QKeyEvent* event) override;
     void closeEvent(QCloseEvent* event) override;
 

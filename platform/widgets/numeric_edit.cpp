@@ -25,11 +25,11 @@ void CNumericEdit::SetText(const QString& text) {
     if (text != lineEdit()->text()) {
         lineEdit()->setText(text);
     }
-    lineEdit()->setModified(false);
+    m_set = text;
 }
 
 bool CNumericEdit::Touched() const {
-    return lineEdit()->isModified();
+    return lineEdit()->text() != m_set;
 }
 
 void CNumericEdit::SelectAll() {
@@ -78,12 +78,6 @@ void CNumericEdit::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Enter:
     case Qt::Key_Escape:
         event->ignore();
-        return;
-    case Qt::Key_PageUp:
-        stepBy(10);
-        return;
-    case Qt::Key_PageDown:
-        stepBy(-10);
         return;
     default:
         QAbstractSpinBox::keyPressEvent(event);

@@ -14,7 +14,7 @@ public:
     QString Text() const;
     /// Sets the text; the edit then counts as untouched.
     void SetText(const QString& text);
-    /// Whether a person has changed the text since SetText.
+    /// Whether another text stands in the edit than SetText has put there.
     bool Touched() const;
     /// Selects all of the text and scrolls the caret into view.
     void SelectAll();
@@ -35,5 +35,6 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
 
 private:
+    QString m_set; ///< by SetText
     int m_digits = 8;
 };

@@ -5,16 +5,39 @@
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
+namespace {
+
+/// A list of a few rows that grows with its place, not with its texts.
+class CRows : public QListWidget {
+public:
+    explicit CRows(QWidget* parent) : QListWidget(parent) {
+        setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+        setTextElideMode(Qt::ElideRight);
+    }
+    QSize sizeHint() const override {
+        constexpr int kRows = 6;
+        return {fontMetrics().averageCharWidth() * 24,
+                fontMetrics().lineSpacing() * kRows + 2 * frameWidth()};
+    }
+    QSize minimumSizeHint() const override { return sizeHint(); }
+};
+
+} // namespace
+
 CSimpleCombo::CSimpleCombo(QWidget* parent)
-    : QWidget(parent), m_edit(new QLineEdit(this)), m_list(new QListWidget(this)) {
+    : QWidget(parent), m_edit(new QLineEdit(this)), m_list(new CRows(this)) {
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
     layout->addWidget(m_edit);
     layout->addWidget(m_list);
-    m_list->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    m_list->setTextElideMode(Qt::ElideRight);
     setFocusProxy(m_list);
+    connect(this, &QObject::objectNameChanged, this, [this](const QString& name) {
+        m_list->setObjectName(name + QStringLiteral(" list"));
+        m_list->setAccessibleName(m_list->objectName());
+        m_edit->setObjectName(name + QStringLiteral(" selection"));
+        m_edit->setAccessibleName(m_edit->objectName());
+    });
 
     connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
         ShowTextOf(row);

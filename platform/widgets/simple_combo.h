@@ -1,6 +1,6 @@
 #pragma once
 // A combo box whose list is always open: an edit above a list. Text typed into the edit selects the first row
-// that begins with it, or none.
+// that begins with it, or none. The parts go by the name of the whole.
 
 #include <QWidget>
 

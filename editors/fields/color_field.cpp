@@ -1,7 +1,7 @@
-#include "editors/framework/color_field.h"
+#include "editors/fields/color_field.h"
 
 #include "colour/color_dlg.h"
-#include "editors/framework/field_layout.h"
+#include "editors/fields/field_layout.h"
 #include "preview/chart_preview_view.h"
 #include "resources/string_table.h"
 

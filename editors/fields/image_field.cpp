@@ -1,7 +1,7 @@
-#include "editors/framework/image_field.h"
+#include "editors/fields/image_field.h"
 
 #include "colour/image_file_dlg.h"
-#include "editors/framework/field_layout.h"
+#include "editors/fields/field_layout.h"
 #include "preview/chart_preview_view.h"
 
 #include <QLabel>

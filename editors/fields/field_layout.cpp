@@ -1,4 +1,4 @@
-#include "editors/framework/field_layout.h"
+#include "editors/fields/field_layout.h"
 
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/field_changed.h"
@@ -12,6 +12,7 @@ void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::fu
     const int height = button->sizeHint().height();
     button->setFixedWidth(height * 3 / 2);
     button->setAutoDefault(false);
+    swatch.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     swatch.setFixedHeight(height);
     swatch.setMinimumWidth(height * 2);
     swatch.setFocusPolicy(Qt::NoFocus);
@@ -24,8 +25,9 @@ void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::fu
     field.setFocusProxy(button);
     QObject::connect(button, &QPushButton::clicked, &field, choose);
     // The name that the page gives to the field is the button's too: it is what takes the focus.
-    QObject::connect(&field, &QObject::objectNameChanged, button,
-                     [button](const QString& name) { button->setAccessibleName(name + QStringLiteral("...")); });
+    QObject::connect(&field, &QObject::objectNameChanged, button, [button](const QString& name) {
+        button->setAccessibleName(name + QStringLiteral("..."));
+    });
 }
 
 void SendToPage(CDialog& field, int key) {

@@ -12,23 +12,21 @@ public:
     CRaisedEffectField();
 
     void SetKey(int key) { m_key = key; }
+    /// Sets the value and writes the controls; sends nothing.
     void SetValueAndShow(const CChartRaisedEffect& effect);
     const CChartRaisedEffect& GetValue() const { return m_effect; }
-
-protected:
-    bool DoDataExchange(bool read) override;
 
 private:
     void ApplyControls();
     void EnableControls();
 
-    // What the controls show; the effect is made from it by ApplyControls.
-    std::int32_t m_typeRow = 0;
-    std::int32_t m_side = 4;
+    // What the controls show; ApplyControls makes the effect from it.
+    std::int32_t m_type = 0; ///< row of the list
+    std::int32_t m_side = 8;
     std::int32_t m_size = 0;
     CChartRaisedEffect m_effect;
     int m_key = 0;
-    QWidget* m_directionControl = nullptr;
-    QWidget* m_sizeControl = nullptr;
     CForm m_form;
+    CComboRow* m_directionRow;
+    CIntegerRow* m_sizeRow;
 };

@@ -1,7 +1,7 @@
-#include "editors/framework/font_field.h"
+#include "editors/fields/font_field.h"
 
+#include "editors/fields/field_layout.h"
 #include "editors/framework/conventions.h"
-#include "editors/framework/field_layout.h"
 #include "font/font_dlg.h"
 
 #include <QGridLayout>

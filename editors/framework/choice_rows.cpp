@@ -1,0 +1,92 @@
+#include "editors/framework/choice_rows.h"
+
+#include "editors/framework/form.h"
+#include "platform/widgets/quiet_combo.h"
+
+#include <QButtonGroup>
+#include <QCheckBox>
+#include <QHBoxLayout>
+#include <QRadioButton>
+
+CCheckRow::CCheckRow(CForm& form, CBinding<bool> field, const char* text)
+    : CValueRow(form, std::move(field)), m_box(new QCheckBox(QString::fromUtf8(text), &form.Page())) {
+    QObject::connect(m_box, &QCheckBox::clicked, m_box, [this] { Chosen(); });
+}
+
+QWidget* CCheckRow::Control() const {
+    return m_box;
+}
+
+CCheckRow& CCheckRow::NotLoaded() {
+    m_loaded = false;
+    return *this;
+}
+
+void CCheckRow::Load() {
+    m_mirror = m_loaded && m_field.Value();
+}
+
+bool CCheckRow::Exchange(bool read) {
+    if (read) {
+        m_mirror = m_box->isChecked();
+    } else {
+        m_box->setChecked(m_mirror);
+    }
+    return true;
+}
+
+CComboRow::CComboRow(CForm& form, CBinding<std::int32_t> field, std::vector<CChoice> choices)
+    : CValueRow(form, std::move(field)), m_choices(std::move(choices)), m_box(new CQuietCombo(&form.Page())) {
+    for (const CChoice& choice : m_choices.Rows()) {
+        m_box->addItem(QString::fromUtf8(choice.text));
+    }
+    QObject::connect(m_box, &QComboBox::activated, m_box, [this] { Chosen(); });
+}
+
+QWidget* CComboRow::Control() const {
+    return m_box;
+}
+
+CComboRow& CComboRow::Otherwise(int row) {
+    m_otherwise = row;
+    return *this;
+}
+
+bool CComboRow::Exchange(bool read) {
+    if (!read) {
+        m_box->setCurrentIndex(m_choices.RowOf(m_mirror, m_otherwise));
+    } else {
+        m_mirror = m_choices.CodeOf(m_box->currentIndex(), m_mirror);
+    }
+    return true;
+}
+
+CRadioRow::CRadioRow(CForm& form, CBinding<std::int32_t> field, std::vector<CChoice> choices)
+    : CValueRow(form, std::move(field)), m_choices(std::move(choices)), m_box(new QWidget(&form.Page())),
+      m_buttons(new QButtonGroup(m_box)) {
+    auto* row = new QHBoxLayout(m_box);
+    row->setContentsMargins(0, 0, 0, 0);
+    for (const CChoice& choice : m_choices.Rows()) {
+        auto* button = new QRadioButton(QString::fromUtf8(choice.text), m_box);
+        button->setObjectName(button->text());
+        button->setAccessibleName(button->text());
+        m_buttons->addButton(button, choice.code);
+        row->addWidget(button);
+    }
+    row->addStretch();
+    QObject::connect(m_buttons, &QButtonGroup::idClicked, m_box, [this] { Chosen(); });
+}
+
+bool CRadioRow::Exchange(bool read) {
+    if (!read) {
+        // With a code of no button, none is on.
+        m_buttons->setExclusive(false);
+        for (QAbstractButton* button : m_buttons->buttons()) {
+            button->setChecked(m_buttons->id(button) == m_mirror);
+        }
+        m_buttons->setExclusive(true);
+    } else if (m_buttons->checkedId() >= 0) {
+        m_mirror = m_buttons->checkedId();
+    }
+    return true;
+}

@@ -1,0 +1,58 @@
+#pragma once
+// Rows to choose by a click: check boxes, drop-down lists and radio buttons.
+
+#include "editors/framework/choices.h"
+#include "editors/framework/form_rows.h"
+
+#include <cstdint>
+
+class QButtonGroup;
+class QCheckBox;
+class QComboBox;
+
+class CCheckRow : public CValueRow<CCheckRow, bool> {
+public:
+    CCheckRow(CForm& form, CBinding<bool> field, const char* text);
+
+    /// The page shows it unchecked at first, whatever the model holds.
+    CCheckRow& NotLoaded();
+
+    QWidget* Control() const override;
+    void Load() override;
+    bool Exchange(bool read) override;
+
+private:
+    QCheckBox* m_box;
+    bool m_loaded = true;
+};
+
+/// A drop-down list. The mirror is the code.
+class CComboRow : public CValueRow<CComboRow, std::int32_t> {
+public:
+    CComboRow(CForm& form, CBinding<std::int32_t> field, std::vector<CChoice> choices);
+
+    /// The row that shows for a code that is not in the list. None if not said.
+    CComboRow& Otherwise(int row);
+
+    QWidget* Control() const override;
+    bool Exchange(bool read) override;
+
+private:
+    CChoices m_choices;
+    QComboBox* m_box;
+    int m_otherwise = -1;
+};
+
+/// Radio buttons in a row, one of them on.
+class CRadioRow : public CValueRow<CRadioRow, std::int32_t> {
+public:
+    CRadioRow(CForm& form, CBinding<std::int32_t> field, std::vector<CChoice> choices);
+
+    QWidget* Control() const override { return m_box; }
+    bool Exchange(bool read) override;
+
+private:
+    CChoices m_choices;
+    QWidget* m_box;
+    QButtonGroup* m_buttons;
+};
