@@ -18,35 +18,35 @@ int Between(int least, int wanted, int most) {
     return std::max(least, std::min(wanted, most));
 }
 
-} // namespace
-
-void LayEditor(CDialog& dialog, QLayout* body, QWidget* buttons) {
-    auto* all = new QVBoxLayout(&dialog);
-    all->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
-    all->setSpacing(kSpace);
-    all->addLayout(body);
-    all->addWidget(buttons);
-    all->setSizeConstraint(QLayout::SetFixedSize);
-}
-
-void LayEditor(CDialog& dialog, CChartPreviewView& preview, QLayout* body, QWidget* buttons) {
-    preview.setObjectName(QStringLiteral("Preview"));
-    preview.setAccessibleName(QStringLiteral("Preview"));
-    preview.setFocusPolicy(Qt::ClickFocus);
-
+void SizePreview(CChartPreviewView& preview, const QSize& body, const QSize& buttons) {
     // A picture that just fills its pane is scaled down: one pixel more on each side shows it as it is.
     const int border = 2 * preview.frameWidth() + 2;
     const QSize natural =
         QSize(preview.m_layout->m_width, preview.m_layout->m_height) + QSize(border, border);
-    const int besides = body->sizeHint().width() + 3 * kSpace;
-    const int below = buttons->sizeHint().height() + 3 * kSpace;
+    const int besides = body.width() + 3 * kSpace;
+    const int below = buttons.height() + 3 * kSpace;
     const QSize room = kSmallestScreen - kFrame - QSize(besides, below);
     preview.setFixedWidth(Between((besides + 1) / 2, natural.width(), room.width()));
-    preview.setMinimumHeight(Between(body->sizeHint().height(), natural.height(), room.height()));
+    preview.setMinimumHeight(Between(body.height(), natural.height(), room.height()));
+}
 
+} // namespace
+
+void LayEditor(CDialog& dialog, CChartPreviewView* preview, QLayout* body, QWidget* buttons) {
     auto* sides = new QHBoxLayout;
     sides->setSpacing(kSpace);
-    sides->addWidget(&preview);
+    if (preview != nullptr) {
+        preview->setObjectName(QStringLiteral("Preview"));
+        preview->setAccessibleName(QStringLiteral("Preview"));
+        preview->setFocusPolicy(Qt::ClickFocus);
+        SizePreview(*preview, body->sizeHint(), buttons->sizeHint());
+        sides->addWidget(preview);
+    }
     sides->addLayout(body);
-    LayEditor(dialog, sides, buttons);
+    auto* all = new QVBoxLayout(&dialog);
+    all->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
+    all->setSpacing(kSpace);
+    all->addLayout(sides);
+    all->addWidget(buttons);
+    all->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -45,11 +45,7 @@ void CPageTabs::ShowPage(int index) {
 void CPageTabs::Open(CChartPreviewView* preview) {
     auto* body = new QHBoxLayout;
     body->addWidget(this);
-    if (preview != nullptr) {
-        LayEditor(m_dialog, *preview, body, m_dialog.MakeOkCancel());
-    } else {
-        LayEditor(m_dialog, body, m_dialog.MakeOkCancel());
-    }
+    LayEditor(m_dialog, preview, body, m_dialog.MakeOkCancel());
     AssignMnemonics(m_dialog);
     ShowPage(0);
 }
