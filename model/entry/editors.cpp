@@ -1,6 +1,8 @@
 // The entry functions, one line each. A kind whose dialog is not built yet reads as cancelled at once: the
 // answer of a dialog that cannot be made. It becomes `return entry::RunEditor<CXYChartDlg>(chart, layout);`.
 
+#include "editors/pie/pie_chart_dlg.h"
+#include "model/entry/run_editor.h"
 #include <charteditors/editors.h>
 
 bool ShowChartLayoutWnd(CChartLayout&) {
@@ -11,8 +13,8 @@ bool ShowXYChartWnd(CXYChart&, const CChartLayout&) {
     return false;
 }
 
-bool ShowPieChartWnd(CPieChart&, const CChartLayout&) {
-    return false;
+bool ShowPieChartWnd(CPieChart& chart, const CChartLayout& layout) {
+    return entry::RunEditor<CPieChartDlg>(chart, layout);
 }
 
 bool ShowFinanceChartWnd(CFinanceChart&, const CChartLayout&) {

@@ -1,0 +1,69 @@
+#include "editors/pie/pie_chart_dlg.h"
+
+#include "editors/fields/color_field.h"
+#include "editors/framework/editor_frame.h"
+#include "resources/string_table.h"
+
+namespace {
+
+CPieChartSector NewSector() {
+    CPieChartSector sector;
+    sector.m_color = RandomChartColor();
+    return sector;
+}
+
+} // namespace
+
+CPieChartDlg::CPieChartDlg()
+    : CDialog(QStringLiteral("PieChart")), m_preview(this),
+      m_form(*this, [this] { m_preview.RefreshPreview(); }) {}
+
+bool CPieChartDlg::OnInitDialog() {
+    CPieChart& chart = m_preview.m_ownPieChart;
+    TableOfChart(chart);
+    TableOfSectors(chart);
+    LayEditor(*this, &m_preview, m_form.Layout(), MakeOkCancel());
+    return CDialog::OnInitDialog();
+}
+
+void CPieChartDlg::TableOfChart(CPieChart& chart) {
+    m_form.Group("3D:");
+    m_form.Check("Show 3D", chart.m_show3D);
+    CCheckRow& shadow = m_form.Check("Shadow3D", chart.m_shadow3D);
+    m_form.Integer("Depth:", chart.m_depth3D).Step(1).Floor(0).DigitsOnly();
+    CRealRow& angle = m_form.Real("Angle:", chart.m_angle3D).Step(10).RangeWhen(0, 90, [&chart] {
+        return !chart.m_shadow3D;
+    });
+    // A shadow may fall at any angle. Without it, a wider angle comes back into the limits at once.
+    shadow.Then([this, &angle] {
+        UpdateData(false);
+        angle.Store();
+    });
+
+    m_form.Column();
+    m_form.Group("StartAngle:");
+    m_form.Check("ClockWise", chart.m_clockWise);
+    m_form.Real("StartAngle:", chart.m_startAngle).Step(10);
+    m_form.Group("Donut:");
+    m_form.Check("Use DonutType", chart.m_useDonut);
+    m_form.Integer("Inner R(%):", chart.m_donutInnerRadius).Step(10).Range(0, 100).DigitsOnly();
+
+    m_form.Column();
+    m_form.Group("Label:");
+    m_form.Combo("Layout:", chart.m_labelLayout, {"SideLayout", "CircleLayout"});
+    m_form.Integer("Position:", chart.m_labelPosition).Step(1);
+    m_form.Field<CChartColorField>("EdgeColor:", chart.m_edgeColor);
+    m_form.Field<CChartColorField>("JoinLineColor:", chart.m_joinLineColor);
+}
+
+void CPieChartDlg::TableOfSectors(CPieChart& chart) {
+    m_form.Band();
+    m_form.Group("Sector:");
+    auto& sectors = m_form.List(chart.m_sectors, LoadChartString(122), LoadChartString(89)).New(NewSector);
+    m_form.Part();
+    m_form.Lines("Text:", sectors.Caption(&CPieChartSector::m_text));
+    m_form.Check("Show Explode", sectors[&CPieChartSector::m_showExplode]);
+    m_form.Check("Use Distance", sectors[&CPieChartSector::m_useDistance]);
+    m_form.Integer("Distance:", sectors[&CPieChartSector::m_distance]).Step(10).Floor(0).DigitsOnly();
+    m_form.Field<CChartColorField>("Color:", sectors[&CPieChartSector::m_color]);
+}

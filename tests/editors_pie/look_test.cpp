@@ -1,0 +1,117 @@
+// What the editor looks like: it fits a small screen, shows everything whole, and runs in reading order.
+
+#include "tests/editors_pie/person.h"
+
+#include <QLabel>
+
+using namespace pie_test;
+
+namespace {
+
+/// Texts of controls that are wider or higher than their control shows.
+QStringList CutOff(QWidget& window) {
+    QStringList result;
+    for (QWidget* widget : window.findChildren<QWidget*>()) {
+        const bool texts = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
+                           qobject_cast<QComboBox*>(widget) || qobject_cast<QAbstractSpinBox*>(widget);
+        const QSize wanted = widget->minimumSizeHint();
+        if (texts && widget->isVisible() &&
+            (widget->width() < wanted.width() || widget->height() < wanted.height())) {
+            result.append(widget->objectName() + ' ' + widget->metaObject()->className());
+        }
+    }
+    return result;
+}
+
+} // namespace
+
+TEST(PieLook, FitsASmallScreenAtEveryFontAndPictureSize) {
+    CPieChart empty;
+    EXPECT_FALSE(Edit(empty, [](PieEditor& editor) { editor.Cancel(); })); // so that there is a font
+    const QFont font = QApplication::font();
+    for (const double scale : {1.0, 1.5}) {
+        QFont larger(font);
+        larger.setPointSizeF(font.pointSizeF() * scale);
+        QApplication::setFont(larger);
+        for (const QSize picture :
+             {QSize(500, 550), QSize(10, 10), QSize(2000, 100), QSize(3000, 3000), QSize(0, -5)}) {
+            SCOPED_TRACE(testing::Message() << scale << ' ' << picture.width() << 'x' << picture.height());
+            CChartLayout layout;
+            layout.SetChartSize(picture.width(), picture.height());
+            CPieChart pie = UnusualPie();
+            EXPECT_FALSE(Edit(pie, layout, [&](PieEditor& editor) {
+                QWidget& window = editor.Window();
+                EXPECT_LE(window.width(), 1366);
+                EXPECT_LE(window.height(), 768 - 30);
+                EXPECT_GE(editor.Preview().width() * 3, window.width());
+                EXPECT_EQ(window.minimumSize(), window.maximumSize());
+                EXPECT_EQ(CutOff(window), QStringList());
+                editor.Cancel();
+            }));
+        }
+    }
+    QApplication::setFont(font);
+}
+
+TEST(PieLook, TabGoesThroughTheControlsInReadingOrder) {
+    CPieChart pie = PieOf({"a"});
+    EXPECT_FALSE(Edit(pie, [](PieEditor& editor) {
+        QStringList order;
+        editor.Find<QCheckBox>("Show 3D")->setFocus();
+        for (int i = 0; i < 22; ++i) {
+            QWidget* focus = QApplication::focusWidget();
+            EXPECT_FALSE(focus->accessibleName().isEmpty()) << focus->metaObject()->className();
+            order.append(focus->accessibleName());
+            editor.Leave();
+        }
+        EXPECT_EQ(order, QStringList({"Show 3D",
+                                      "Shadow3D",
+                                      "Depth",
+                                      "Angle",
+                                      "ClockWise",
+                                      "StartAngle",
+                                      "Use DonutType",
+                                      "Inner R(%)",
+                                      "Layout",
+                                      "Position",
+                                      "EdgeColor...",
+                                      "JoinLineColor...",
+                                      "Sector selection",
+                                      "Sector list",
+                                      "Add",
+                                      "Delete",
+                                      "Text",
+                                      "Show Explode",
+                                      "Use Distance",
+                                      "Distance",
+                                      "Color...",
+                                      "OK"}));
+        editor.Cancel();
+    }));
+}
+
+TEST(PieLook, LettersForAltAreEachUsedOnce) {
+    CPieChart pie;
+    EXPECT_FALSE(Edit(pie, [](PieEditor& editor) {
+        QStringList letters;
+        const auto take = [&](const QString& text) {
+            const qsizetype mark = text.indexOf('&');
+            letters.append(mark < 0 ? QString() : text.mid(mark + 1, 1).toLower());
+        };
+        for (const QLabel* label : editor.Window().findChildren<QLabel*>()) {
+            if (label->buddy()) {
+                take(label->text());
+            }
+        }
+        for (const QAbstractButton* button : editor.Window().findChildren<QAbstractButton*>()) {
+            if (!button->text().isEmpty() && button->text() != "..." && button->text() != "OK" &&
+                button->text() != "Cancel") {
+                take(button->text());
+            }
+        }
+        EXPECT_EQ(letters.size(), 19);
+        letters.removeDuplicates();
+        EXPECT_EQ(letters.size(), 19) << qPrintable(letters.join(' '));
+        editor.Cancel();
+    }));
+}
