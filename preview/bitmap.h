@@ -4,6 +4,6 @@
 #include <QImage>
 #include <span>
 
-/// A part of the picture, which shares no memory with the file. `bytes`: a bitmap file of 24 bits a pixel,
-/// rows bottom up. `part` is limited to the picture; null if nothing of it is left.
+/// A part of the picture, good as long as the bytes. `bytes`: a bitmap file of 24 bits a pixel, rows bottom
+/// up. `part` is limited to the picture; null if nothing of it is left.
 QImage BitmapPart(std::span<const char> bytes, const QRect& part);

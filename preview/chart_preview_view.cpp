@@ -8,6 +8,7 @@
 #include <QMenu>
 #include <QPainter>
 #include <QScrollBar>
+#include <qdrawutil.h>
 
 static constexpr QRgb kSurround = 0xffeeeeee;
 static constexpr int kScrollStep = 20; // pixels
@@ -41,7 +42,10 @@ bool CChartPreviewView::event(QEvent* event) {
 
 void CChartPreviewView::RunDrawRoutine() {
     const DrawRoutine routine = FindDrawRoutine(m_kind);
-    if (!routine || (m_kind >= PreviewLayout && !m_layout))
+    const bool lacksModel = (m_kind >= PreviewLayout && !m_layout) ||
+                            (m_kind == PreviewXYChart && !m_chart) ||
+                            (m_kind == PreviewPolarChart && !m_polarChart);
+    if (!routine || lacksModel)
         return;
     const bool fitMode = m_fitMode;
     routine(*this);
@@ -93,7 +97,7 @@ void CChartPreviewView::PaintSample(const char* bytes, int length) {
     QPainter painter(viewport());
     if (length > 0)
         painter.drawImage(pane, BitmapPart({bytes, static_cast<std::size_t>(length)}, pane));
-    painter.drawRect(pane.adjusted(0, 0, -1, -1));
+    qDrawPlainRect(&painter, pane, Qt::black);
 }
 
 // ---- Scrolling and modes

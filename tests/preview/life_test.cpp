@@ -100,6 +100,11 @@ TEST(Views, WithNothingToDrawPaintNothing) {
     view.grab();
     view.AttachChart(static_cast<CPolarChart*>(nullptr), nullptr);
     view.grab();
+    const CChartLayout layout;
+    view.AttachChart(static_cast<CXYChart*>(nullptr), &layout);
+    view.grab();
+    view.AttachChart(static_cast<CPolarChart*>(nullptr), &layout);
+    view.grab();
     for (const int kind : {-1, 10, std::numeric_limits<int>::max()}) {
         view.m_kind = kind;
         view.grab();
