@@ -58,7 +58,7 @@ void hideOverlaps(std::span<const LabelSpot> spots, std::vector<PlacedLabel>& la
 std::vector<QPointF> joinLine(const LabelSpot& spot, const QRectF& box) {
     const double side = box.center().x() >= spot.centre.x() ? 1 : -1; // of the pie on which the label stands
     const double nearX = side > 0 ? box.left() - kLineGap : box.right() + kLineGap;
-    const double middle = box.center().y();
+    const double middle = std::floor(box.center().y()); // the level part covers one row of pixels
     if ((nearX - spot.rim.x()) * side < kLastPart) {
         const bool above = middle < spot.rim.y();
         const double x = std::clamp(spot.rim.x(), box.left(), box.right());
