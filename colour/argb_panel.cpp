@@ -150,7 +150,7 @@ bool CArgbPanel::Exchange(bool read) {
 
 bool CArgbPanel::CommitFocused() {
     for (Number& number : m_numbers) {
-        if (number.edit->hasFocus()) {
+        if (number.edit == window()->focusWidget()) {
             Commit(number);
             return true;
         }
@@ -217,13 +217,15 @@ bool CArgbPanel::event(QEvent* event) {
 }
 
 bool CArgbPanel::eventFilter(QObject* watched, QEvent* event) {
-    const bool leaves = event->type() == QEvent::FocusOut &&
-                        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason;
-    if (leaves) {
-        for (Number& number : m_numbers) {
-            if (number.edit == watched && number.edit->Touched()) {
-                Commit(number);
-            }
+    if (event->type() != QEvent::FocusOut) {
+        return false;
+    }
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    for (Number& number : m_numbers) {
+        // A text that cannot be read yet waits for the return from a menu or another window.
+        if (number.edit == watched && number.edit->Touched() && reason != Qt::PopupFocusReason &&
+            (reason != Qt::ActiveWindowFocusReason || m_page.UpdateData(true))) {
+            Commit(number);
         }
     }
     return false;

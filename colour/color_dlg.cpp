@@ -22,7 +22,6 @@ CColorDlg::CColorDlg()
       m_general(this), m_pattern(this), m_metal(this) {
     m_color.m_color = 0xFFFFFF;
     m_color.m_direction = 90;
-    LayOut();
     connect(m_type, &QComboBox::activated, this, [this](int type) {
         m_typeIndex = type;
         ShowPage();
@@ -37,7 +36,8 @@ void CColorDlg::LayOut() {
     m_preview->setObjectName(QStringLiteral("Sample"));
     m_preview->setAccessibleName(QStringLiteral("Sample"));
     m_preview->setFocusPolicy(Qt::NoFocus);
-    m_preview->setFixedHeight(m_type->sizeHint().height() * 2);
+    const int line = fontMetrics().height();
+    m_preview->setFixedSize(line * 10, line * 3);
 
     auto* type = new QLabel(QStringLiteral("&Type:"), this);
     type->setBuddy(m_type);
@@ -56,9 +56,6 @@ void CColorDlg::LayOut() {
     grid->addWidget(m_pages, 0, 1);
     grid->addWidget(MakeOkCancel(), 1, 0, 1, 2);
     grid->setColumnStretch(1, 1);
-    grid->setSizeConstraint(QLayout::SetFixedSize);
-    setTabOrder(m_type, m_custom);
-    setTabOrder(m_custom, m_pages);
 }
 
 bool CColorDlg::OnInitDialog() {
@@ -73,6 +70,7 @@ bool CColorDlg::OnInitDialog() {
         m_pages->addWidget(page);
     }
     m_pages->addWidget(new QWidget); // for a type that has no page
+    LayOut();
     m_type->setCurrentIndex(m_typeIndex < kTypes ? m_typeIndex : -1);
     ShowPage();
     ShowSample();

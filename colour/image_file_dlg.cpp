@@ -10,6 +10,7 @@
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QScreen>
 #include <QVBoxLayout>
 
 namespace {
@@ -37,6 +38,7 @@ QStringList NameFilters() {
 CImageFileDlg::CImageFileDlg() : m_preview(new CChartPreviewView(this)) {
     setOptions(DontUseNativeDialog | HideNameFilterDetails);
     setFileMode(ExistingFile);
+    setViewMode(List);
     setWindowTitle(QString::fromUtf8(LoadChartString(kTitleText)));
     setObjectName(windowTitle());
     setNameFilters(NameFilters());
@@ -53,19 +55,23 @@ void CImageFileDlg::PlacePreview() {
     m_preview->setObjectName(QStringLiteral("Preview"));
     m_preview->setAccessibleName(QStringLiteral("Preview"));
     m_preview->setFocusPolicy(Qt::NoFocus);
-    const int side = fontMetrics().height() * 12;
-    m_preview->setMinimumSize(side, side);
+    const int line = fontMetrics().height();
+    m_preview->setMinimumSize(line * 12, line * 12);
     auto* pane = new QWidget(this);
-    auto* column = new QVBoxLayout(pane);
-    column->setContentsMargins(0, 0, 0, 0);
-    column->addWidget(new QLabel(QStringLiteral("Preview:"), pane));
-    column->addWidget(m_preview, 1);
+    auto* labelled = new QVBoxLayout(pane);
+    labelled->setContentsMargins(0, 0, 0, 0);
+    labelled->addWidget(new QLabel(QStringLiteral("Preview:"), pane));
+    labelled->addWidget(m_preview, 1);
     // Beside the list of files and the rows below it, where the toolkit's own dialog keeps them in a grid.
     if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
-        grid->addWidget(pane, 0, grid->columnCount(), grid->rowCount(), 1);
+        const int column = grid->columnCount();
+        grid->addWidget(pane, 0, column, grid->rowCount(), 1);
+        grid->setColumnStretch(1, 2); // the files
+        grid->setColumnStretch(column, 1);
     } else {
         layout()->addWidget(pane);
     }
+    resize(QSize(line * 48, line * 26).boundedTo(screen()->availableSize() * 9 / 10));
 }
 
 void CImageFileDlg::SetInitialFile(const CChartString& path) {

@@ -30,6 +30,7 @@ QColor ToQColor(std::uint32_t color) {
 
 XColorSpectrumCtrl::XColorSpectrumCtrl() {
     setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true); // a button that was let go elsewhere ends a drag
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
     setAccessibleName(QStringLiteral("Hue, saturation and lightness"));
     setLayoutDirection(Qt::LeftToRight);

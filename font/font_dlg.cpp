@@ -92,7 +92,7 @@ void CFontDlg::LayOut() {
     m_faces->setMinimumSize(letter * 36, line * 9);
     m_sizes->setFixedWidth(letter * 12);
     m_sizeEdit->setFixedWidth(letter * 12);
-    m_preview->setMinimumHeight(line * 5);
+    m_preview->setFixedHeight(line * 6);
 
     auto* grid = new QGridLayout(this);
     grid->addLayout(Column(new QLabel(QStringLiteral("&Font:"), this), m_faceEdit, m_faces), 0, 0);
@@ -100,7 +100,6 @@ void CFontDlg::LayOut() {
     grid->addWidget(new QLabel(QStringLiteral("Sample:"), this), 1, 0, 1, 2);
     grid->addWidget(m_preview, 2, 0, 1, 2);
     grid->addWidget(MakeOkCancel(), 3, 0, 1, 2);
-    grid->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 bool CFontDlg::OnInitDialog() {
@@ -210,9 +209,9 @@ void CFontDlg::CommitSize() {
 }
 
 void CFontDlg::OnOK() {
-    if (m_faceEdit->hasFocus()) {
+    if (focusWidget() == m_faceEdit) {
         CommitFace();
-    } else if (m_sizeEdit->hasFocus()) {
+    } else if (focusWidget() == m_sizeEdit) {
         CommitSize();
         m_sizeEdit->selectAll();
     } else if (UpdateDataSafe()) {
@@ -221,12 +220,14 @@ void CFontDlg::OnOK() {
 }
 
 bool CFontDlg::eventFilter(QObject* watched, QEvent* event) {
-    if (event->type() == QEvent::FocusOut &&
-        static_cast<QFocusEvent*>(event)->reason() != Qt::PopupFocusReason) {
-        if (watched == m_faceEdit && m_faceEdit->isModified()) {
-            CommitFace();
-        } else if (watched == m_sizeEdit && m_sizeEdit->isModified()) {
-            CommitSize();
+    const auto* edit = static_cast<QLineEdit*>(watched);
+    if (event->type() == QEvent::FocusOut && edit->isModified()) {
+        // A text that cannot be read yet waits for the return from a menu or another window.
+        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+        const bool waits =
+            reason == Qt::PopupFocusReason || (reason == Qt::ActiveWindowFocusReason && !UpdateData(true));
+        if (!waits) {
+            edit == m_faceEdit ? CommitFace() : CommitSize();
         }
     }
     return false;
