@@ -12,7 +12,7 @@ void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::fu
     const int height = button->sizeHint().height();
     button->setFixedWidth(height * 3 / 2);
     button->setAutoDefault(false);
-    swatch.setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
+    swatch.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // as wide as the page leaves it
     swatch.setFixedHeight(height);
     swatch.setMinimumWidth(height * 2);
     swatch.setFocusPolicy(Qt::NoFocus);

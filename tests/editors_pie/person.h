@@ -16,6 +16,7 @@
 #include <charteditors/charteditors.h>
 #include <functional>
 #include <gtest/gtest.h>
+#include <memory>
 #include <sstream>
 #include <stdexcept>
 #include <string>
@@ -88,27 +89,40 @@ inline CPieChart UnusualPie() {
 
 // ---- Windows
 
+/// The host's own application object. Not made before it is needed: some hosts have none.
+inline void NeedApplication() {
+    static int count = 1;
+    static char name[] = "host";
+    static char* arguments[] = {name, nullptr};
+    if (QCoreApplication::instance() == nullptr) {
+        new QApplication(count, arguments); // to the end of the process
+    }
+}
+
 /// Calls `act` once, as soon as a modal window other than the present one is up. Fails if none comes.
 class WhenModal {
 public:
-    explicit WhenModal(std::function<void(QWidget&)> act) : m_present(QApplication::activeModalWidget()) {
-        QObject::connect(&m_timer, &QTimer::timeout, [this, act = std::move(act)] {
+    explicit WhenModal(std::function<void(QWidget&)> act) {
+        NeedApplication();
+        m_present = QApplication::activeModalWidget();
+        m_timer = std::make_unique<QTimer>();
+        QObject::connect(m_timer.get(), &QTimer::timeout, [this, act = std::move(act)] {
             QWidget* window = QApplication::activeModalWidget();
             if (window != nullptr && window != m_present) {
-                m_timer.stop();
+                m_timer->stop();
                 m_came = true;
                 window->activateWindow();
                 EXPECT_TRUE(QTest::qWaitForWindowActive(window));
                 act(*window);
             }
         });
-        m_timer.start(1);
+        m_timer->start(1);
     }
     ~WhenModal() { EXPECT_TRUE(m_came) << "no modal window came"; }
 
 private:
-    QWidget* m_present;
-    QTimer m_timer;
+    QWidget* m_present = nullptr;
+    std::unique_ptr<QTimer> m_timer;
     bool m_came = false;
 };
 
