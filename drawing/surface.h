@@ -696,15 +696,18 @@ CHARTDRAW_API void CPieChart_setLabelFormat(PieChart* chart, const char* format)
 CHARTDRAW_API TextBox* CPieChart_setLabelStyle(PieChart* chart, const char* font, double size, int color);
 /**
  * Places the labels. layout: CHART_CIRCLE_LAYOUT (default, any other) or CHART_SIDE_LAYOUT. position: pixels
- * from the rim, inside for negative ones, which only the circle layout takes. top, bottom: the rows between
- * which side labels stand; -1 is automatic.
+ * from the rim; -1 is automatic, other negative ones are inside, which only the circle layout takes. top,
+ * bottom: the rows between which side labels stand; -1 is automatic.
  */
 CHARTDRAW_API void CPieChart_setLabelLayout(PieChart* chart, int layout, int position, int top, int bottom);
-/** Edge of the sectors, CHART_TRANSPARENT by default, and lines to the labels, CHART_LINE_COLOR. -1 keeps. */
+/** Edge of the sectors, fine white lines by default, and lines to the labels, CHART_LINE_COLOR. -1 keeps. */
 CHARTDRAW_API void CPieChart_setLineColor(PieChart* chart, int edge, int joinLine);
 /** Where the first sector begins, degrees clockwise from the top, and the way round. Default: 0, true. */
 CHARTDRAW_API void CPieChart_setStartAngle(PieChart* chart, double angle, bool clockwise);
-/** 3D. depth: pixels, -1 automatic. angle: of the view, 0 to 90 degrees, -1 is 45. shadowMode: oblique view.
+/**
+ * 3D. depth: pixels, below 0 automatic. angle: degrees, -1 is 45. Without shadowMode the pie is tilted by it,
+ * from 0, seen from above, to 90, seen from the side. With it the face stays round and the body lies aside,
+ * to the right for 0 and below for 90; any angle is taken.
  */
 CHARTDRAW_API void CPieChart_set3D(PieChart* chart, int depth, double angle, bool shadowMode);
 /** Centre and the two radii of a ring, in either order: the larger is the outer. Pixels. */
@@ -749,8 +752,8 @@ CHARTDRAW_API void CMeterPointer_setShape(MeterPointer* pointer, int shape, doub
 /**
  * Centre and radius in pixels, and the angles of the scale's ends in degrees clockwise from the top; an end
  * below the start runs anticlockwise. Equal angles or more than a turn are a full turn. Default: -90 to 90 in
- * the middle of the picture. Ticks stand inside the circle, labels outside it, beyond rings whose border they
- * would lie on; a circle that leaves them no room in the picture has them inside the ticks.
+ * the middle of the picture. Ticks stand inside the circle, labels outside it and beyond rings whose border
+ * they would lie on; where the picture has no room for them there, inside the ticks.
  */
 CHARTDRAW_API void CAngularMeter_setMeter(AngularMeter* meter, int x, int y, int radius, double startAngle,
                                           double endAngle);

@@ -119,8 +119,11 @@ PieBody PieChart::body() const {
     if (!m_view) {
         return body;
     }
-    const bool given = std::isfinite(m_view->degrees) && m_view->degrees > 0;
-    const double angle = (given ? std::min(m_view->degrees, 90.0) : 45) * std::numbers::pi / 180;
+    // A body that lies aside may lie anywhere; a tilt goes from above to the side.
+    const bool automatic = !std::isfinite(m_view->degrees) || m_view->degrees == -1;
+    const double given =
+        m_view->oblique ? std::fmod(m_view->degrees, 360.0) : std::clamp(m_view->degrees, 0.0, 90.0);
+    const double angle = (automatic ? 45 : given) * std::numbers::pi / 180;
     const double depth = m_view->depth >= 0 ? m_view->depth : std::max(4.0, std::round(body.radius * 0.15));
     if (m_view->oblique) {
         body.depth = {std::cos(angle) * depth, std::sin(angle) * depth};
