@@ -172,7 +172,7 @@ TEST(PiePicture, StandsOnItsWallsInThreeDimensions) {
     EXPECT_EQ(polar(image, 315, 83), kWhite);
 
     Pie plain({1});
-    CPieChart_set3D(plain.pie, -1, 0, false); // both automatic: tilted and deep enough to be seen
+    CPieChart_set3D(plain.pie, -1, -1, false); // both automatic: tilted and deep enough to be seen
     image = plain.picture();
     EXPECT_EQ(pictures::at(image, 100, 25), kWhite);
     EXPECT_NE(pictures::at(image, 100, 100 + 57 + 6), kWhite);
