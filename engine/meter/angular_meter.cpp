@@ -43,7 +43,8 @@ void AngularMeter::setMeter(QPoint centre, int radius, double startAngle, double
 
 void AngularMeter::addRing(int startRadius, int endRadius, Colour fill, Colour edge) {
     const int a = std::max(0, limited(startRadius)), b = std::max(0, limited(endRadius));
-    m_rings.push_back({std::min(a, b), std::max(a, b), orDefault(fill, kTransparent), edge});
+    m_rings.push_back(
+        {std::min(a, b), std::max(a, b), orDefault(fill, kTransparent), orDefault(edge, kTransparent)});
     changed();
 }
 
@@ -80,7 +81,7 @@ void AngularMeter::drawRings(Canvas& canvas) const {
             path.addEllipse(circle(ring.inner));
         }
         canvas.fillPath(path, ring.fill);
-        canvas.strokePath(path, orDefault(ring.edge, kTransparent), 1);
+        canvas.strokePath(path, ring.edge, 1);
     }
 }
 
@@ -144,7 +145,9 @@ double AngularMeter::clearOfRings(const Dial& dial, double radius) const {
     const double breadth = reach - radius;
     std::vector<int> borders;
     for (const Ring& ring : m_rings) {
-        borders.insert(borders.end(), {ring.inner, ring.outer});
+        if (!colours().invisible(ring.fill) || !colours().invisible(ring.edge)) {
+            borders.insert(borders.end(), {ring.inner, ring.outer});
+        }
     }
     std::sort(borders.begin(), borders.end());
     for (const int border : borders) {
@@ -155,26 +158,22 @@ double AngularMeter::clearOfRings(const Dial& dial, double radius) const {
     return radius;
 }
 
-/// Outside the scale: beyond the rings that end there if there is room, else right beside it. A scale that
-/// fills the picture has its labels inside the ticks.
+/// Outside the scale, and beyond rings whose border would run through a label. Where the picture has no room
+/// for that, inside the ticks.
 std::vector<QRectF> AngularMeter::labelBoxes(const Dial& dial) const {
     const QRectF room = QRectF(0, 0, width(), height())
                             .adjusted(kPictureMargin, kPictureMargin, -kPictureMargin, -kPictureMargin);
-    const double beside = m_radius + axisWidth() + kLabelGap;
-    for (const double radius : {clearOfRings(dial, beside), beside}) {
-        std::vector<QRectF> boxes = boxesAround(dial, radius, true);
-        bool fits = true;
-        for (QRectF& box : boxes) {
-            box = movedInto(box, room);
-            fits = fits && !reachesInto(box, m_centre, radius);
-        }
-        if (fits) {
-            return boxes;
-        }
-    }
-    std::vector<QRectF> boxes = boxesAround(dial, m_radius - majorLength() - kLabelGap, false);
+    const double outside = clearOfRings(dial, m_radius + axisWidth() + kLabelGap);
+    std::vector<QRectF> boxes = boxesAround(dial, outside, true);
+    bool fits = true;
     for (QRectF& box : boxes) {
         box = movedInto(box, room);
+        fits = fits && !reachesInto(box, m_centre, outside);
+    }
+    if (!fits) {
+        boxes = boxesAround(dial, m_radius - majorLength() - kLabelGap, false);
+        std::transform(boxes.begin(), boxes.end(), boxes.begin(),
+                       [&](const QRectF& box) { return movedInto(box, room); });
     }
     return boxes;
 }

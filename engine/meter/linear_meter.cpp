@@ -12,7 +12,7 @@ namespace chartdraw {
 namespace {
 
 constexpr double kLabelGap = 3;   ///< pixels between ticks and labels
-constexpr double kLabelAir = 2;   ///< and between two labels
+constexpr double kLabelAir = 1;   ///< and between two labels, one above the other
 constexpr int kPictureMargin = 2; ///< and between labels and the border of the picture
 constexpr int kZoneMargin = 3;    ///< and around the text of a zone
 
@@ -215,7 +215,7 @@ void LinearMeter::drawLabels(Canvas& canvas, const Dial& dial) const {
         const double from = startAlong(boxes.back(), upright());
         extents.push_back({from, from + lengthAlong(boxes.back(), upright())});
     }
-    for (const int index : thinLabels(extents, upright() ? 0 : 2 * kLabelAir, true)) {
+    for (const int index : thinLabels(extents, upright() ? kLabelAir : 4 * kLabelAir, true)) {
         const auto i = static_cast<std::size_t>(index);
         dial.labels[i].text.drawAt(canvas, boxes[i].topLeft(), TopLeft);
     }

@@ -15,8 +15,21 @@ namespace {
 constexpr double kLabelGap = 3;     ///< pixels between a line and its labels
 constexpr double kLabelAir = 2;     ///< and between two labels
 constexpr double kMinorLength = 5;  ///< of the marks of minor ticks at the rim
-constexpr int kLeastWrap = 50;      ///< pixels that a line of a label has at least
+constexpr int kLeastWrap = 24;      ///< pixels that a line of a label has at least
 const QPointF kToBorders(0.5, 0.5); ///< from centres of pixels to the pixel borders that paths count
+
+/// What a pen of this width covers.
+QPainterPath outlineOf(const QPainterPath& lines, double width) {
+    QPainterPath outline;
+    if (width > 0) {
+        QPainterPathStroker stroker;
+        stroker.setWidth(width);
+        stroker.setCapStyle(Qt::FlatCap);
+        outline = stroker.createStroke(lines);
+    }
+    outline.setFillRule(Qt::WindingFill);
+    return outline;
+}
 
 } // namespace
 
@@ -73,7 +86,6 @@ void PolarChart::drawZones(Canvas& canvas, const PolarFrame& frame) const {
 
 void PolarChart::drawGrid(Canvas& canvas, const Plot& plot) const {
     const PolarFrame& frame = plot.frame;
-    // One path each, so that a colour that shows through is not darker where lines meet.
     QPainterPath rings, spokes;
     for (const double ring : plot.rings) {
         rings.addPath(frame.ring(ring));
@@ -88,15 +100,29 @@ void PolarChart::drawGrid(Canvas& canvas, const Plot& plot) const {
     for (const double turn : plot.angular.minor) {
         add(turn, std::max(0.0, m_radius - kMinorLength));
     }
-    canvas.strokePath(rings, m_ringColour, m_ringWidth);
-    canvas.strokePath(spokes, m_spokeColour, m_spokeWidth);
+    if (canvas.colours().solid(m_ringColour).alpha() == 255 &&
+        canvas.colours().solid(m_spokeColour).alpha() == 255) {
+        canvas.strokePath(rings, m_ringColour, m_ringWidth);
+        canvas.strokePath(spokes, m_spokeColour, m_spokeWidth);
+        return;
+    }
+    // A colour that shows through is laid on once, not again wherever lines meet.
+    const QPainterPath ringLines = outlineOf(rings, m_ringWidth);
+    const QPainterPath spokeLines = outlineOf(spokes, m_spokeWidth);
+    if (m_ringColour == m_spokeColour) {
+        QPainterPath all = ringLines;
+        all.addPath(spokeLines);
+        canvas.fillPath(all, m_ringColour);
+    } else {
+        canvas.fillPath(ringLines, m_ringColour);
+        canvas.fillPath(spokeLines, m_spokeColour);
+    }
 }
 
 /// From the centre upwards, ticks and labels on its left.
 void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const {
     const PolarFrame& frame = plot.frame;
     const auto point = [&](double pixels, double left) { return frame.at(0, pixels) - QPointF(left, 0); };
-    canvas.line(point(0, 0), point(m_radius, 0), m_radial->colour(), m_radial->width());
     const TickSettings& settings = m_radial->ticks();
     const double reach = std::max({0, settings.majorLength, settings.minorLength}) + kLabelGap;
     for (const PlannedTick& tick : plot.radial.ticks) {
@@ -122,6 +148,7 @@ void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QR
             taken.push_back(box);
         }
     }
+    canvas.line(point(0, 0), point(m_radius, 0), m_radial->colour(), m_radial->width());
 }
 
 /// Right of the axis, as near to its middle as there is room beside the labels of marks.
@@ -175,7 +202,8 @@ void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot, std::vector
             const double side = roundDirection(angle).x();
             const double rim = centre.x() + side * radius;
             const double beside = side < 0 ? rim - room().left() : room().right() - rim;
-            look.wrapWidth = std::max(kLeastWrap, static_cast<int>(beside));
+            const int margins = look.marginLeft + look.marginRight;
+            look.wrapWidth = std::max(kLeastWrap, static_cast<int>(beside) - margins);
         }
         TextBlock label(look, spoke.label, fonts());
         if (label.empty()) {
