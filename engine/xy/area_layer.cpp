@@ -21,8 +21,9 @@ struct Stretch {
     /// The outline on the picture, in pixel borders. The ends and the base line stand on whole pixels.
     QPolygonF outline(const PlotFrame& frame, double sink) const {
         QPolygonF polygon;
-        const double first = std::floor(upper.front().x() + 0.5);
-        const double last = std::floor(upper.back().x() + 0.5) + (upper.size() == 1 ? 1 : 0);
+        const double sign = upper.back().x() < upper.front().x() ? -0.5 : 0.5;
+        const double first = std::floor(upper.front().x() + 0.5) - sign;
+        const double last = std::floor(upper.back().x() + 0.5) + sign;
         const auto add = [&](double x, double y) { polygon << frame.at(x, y) + QPointF(0.5, 0.5); };
         add(first, upper.front().y());
         for (std::size_t i = 1; i + 1 < upper.size(); ++i) {

@@ -265,7 +265,8 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
         piecesOf(row, pieces);
         for (const Piece& piece : pieces) {
             int x0 = 0, x1 = 0;
-            if (!places.find(row, piece.set, x0, x1)) {
+            const bool nothing = inside && piece.to == piece.from; // there is no body to write into
+            if (nothing || !places.find(row, piece.set, x0, x1)) {
                 continue;
             }
             const DataSet* set = dataSets()[piece.set];

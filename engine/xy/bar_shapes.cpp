@@ -21,7 +21,8 @@ QPolygonF outline(const QRectF& box, int shape, int tip) {
     const QSizeF size = lying ? box.size().transposed() : box.size();
     QTransform turn;
     turn.translate(box.center().x(), box.center().y());
-    turn.rotate(tip == 2 ? 180 : tip == 4 ? -90 : tip == 6 ? 90 : 0);
+    turn.scale(tip == 4 ? -1 : 1, tip == 2 ? -1 : 1);
+    turn.rotate(lying ? 90 : 0);
     turn.translate(-size.width() / 2, -size.height() / 2);
     const QPainterPath path = symbolOutline(shape, QRectF(QPointF(), size));
     QPolygonF polygon = turn.map(path).toFillPolygon();
@@ -68,8 +69,10 @@ public:
 
     /// Light from the upper left along the curved side.
     QBrush shading() const {
-        const QPointF from = point(m_near, m_widest + std::numbers::pi);
-        QLinearGradient gradient(from, from + (m_near - from) * 2);
+        // Straight across, or the light would change along the bar.
+        const QPointF rim = point(m_near, m_widest + std::numbers::pi) - m_near;
+        const QPointF reach = m_across.x() != 0 ? QPointF(rim.x(), 0) : QPointF(0, rim.y());
+        QLinearGradient gradient(m_near + reach, m_near - reach);
         gradient.setColorAt(0, QColor(0, 0, 0, 70));
         gradient.setColorAt(0.12, QColor(0, 0, 0, 0));
         gradient.setColorAt(0.35, QColor(255, 255, 255, 120));

@@ -59,8 +59,13 @@ DataRange BaseBoxLayer::xRange() const {
 template <class Visit>
 void BaseBoxLayer::forEachPlace(const PlotFrame& frame, const Visit& visit) const {
     const double room = rowRoom(*this, frame);
-    int width = m_width > 0 ? m_width : static_cast<int>(std::lround(room * (1 - m_gap)));
-    width = std::max(1, width - (m_width > 0 || width % 2 == 1 ? 0 : 1));
+    int width = m_width;
+    if (width == 0) {
+        // A pixel between neighbours, where that is not all they have.
+        const double most = room < 4 ? room : room - 1;
+        width = static_cast<int>(std::floor(std::min(most, std::round(room * (1 - m_gap)))));
+        width = std::max(1, width - (width % 2 == 1 ? 0 : 1));
+    }
     for (std::size_t row = rows().begin; row < rows().end; ++row) {
         const double x = xValue(row);
         if (!isValue(x)) {

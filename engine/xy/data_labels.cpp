@@ -104,18 +104,22 @@ void LabelRoom::take(const QRectF& box) {
 DataLabels::DataLabels(Canvas& canvas, const Layer& layer, const PlotFrame& frame, const TextBox& style,
                        const std::string& format)
     : m_canvas(canvas), m_layer(layer), m_frame(frame), m_style(style), m_format(format),
-      m_rows(layer.chart().rowTexts()), m_plot(frame.inner()), m_least(style.block("1").size()),
+      m_rows(layer.chart().rowTexts()), m_plot(QRectF(frame.inner()).adjusted(1, 1, -1, -1)),
+      m_least(style.block("1").size()),
       m_room(frame.labelRoom != nullptr
                  ? frame.labelRoom
                  : std::make_shared<LabelRoom>(QSize(layer.chart().width(), layer.chart().height()))) {}
 
 QRectF DataLabels::boxAt(const LabelSpot& spot, LabelSide side, QSizeF size) const {
     QRectF box(QPointF(), size);
-    const QPointF anchor = m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5);
-    box.moveCenter(anchor);
+    box.moveCenter(m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5));
     if (side != LabelSide::Inside) {
         const bool growing = (m_frame.y.upperPixel() > m_frame.y.lowerPixel()) == (side == LabelSide::Above);
         const double sign = growing ? 1 : -1;
+        if (growing == m_frame.swapped) { // beyond the side of the body that is seen
+            const double depth = m_frame.depth;
+            box.translate(m_frame.swapped ? QPointF(depth, -depth / 2) : QPointF(depth / 2, -depth));
+        }
         const double reach = spot.gap + (m_frame.swapped ? size.width() : size.height()) / 2;
         box.translate(m_frame.swapped ? QPointF(sign * reach, 0) : QPointF(0, sign * reach));
     }
@@ -142,7 +146,7 @@ bool DataLabels::place(QRectF& box, const LabelSpot& spot, QSizeF size) const {
 }
 
 void DataLabels::draw(const LabelContent& content, const LabelSpot& spot) {
-    const QRectF near = m_plot.adjusted(-2, -2, 2, 2);
+    const QRectF near = m_plot.adjusted(-3, -3, 3, 3);
     QRectF box;
     if (!near.contains(m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5)) ||
         !place(box, spot, m_least)) { // where not even the least label has room none is laid out

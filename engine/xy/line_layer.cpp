@@ -35,6 +35,16 @@ void toPicture(std::vector<QPointF>& points, const PlotFrame& frame) {
     }
 }
 
+/// A thin line of level and upright pieces, without the smoothing that blurs its corners.
+void drawUpright(Canvas& canvas, std::span<const QPointF> points, Colour colour) {
+    forEachRun(points, [&](std::span<const QPointF> run) {
+        canvas.line(run.front(), run.front(), colour, 1);
+        for (std::size_t i = 1; i < run.size(); ++i) {
+            canvas.line(run[i - 1], run[i], colour, 1);
+        }
+    });
+}
+
 /// A missing size is none; sizes are limited to what a data set's symbol may have.
 int wholeSize(std::span<const double> sizes, std::size_t row) {
     const double size = row < sizes.size() && isValue(sizes[row]) ? sizes[row] : 0;
@@ -107,7 +117,11 @@ void LineLayer::drawLine(Canvas& canvas, const DataSet& set) const {
     if (m_frame.depth > 0) {
         drawRibbon(canvas, points, m_frame.depth, orDefault(set.shadow(), set.colour()));
     }
-    canvas.polyline(points, set.colour(), lineWidth());
+    if (m_form == Form::Steps && lineWidth() == 1 && set.colour() <= 0xffffff) {
+        drawUpright(canvas, points, set.colour());
+    } else {
+        canvas.polyline(points, set.colour(), lineWidth());
+    }
 }
 
 QSize LineLayer::symbolSize(const DataSet& set, std::size_t row) const {

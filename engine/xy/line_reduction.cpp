@@ -121,7 +121,7 @@ void LineReduction::appendColumn(std::vector<QPointF>& points) {
         const double top = std::min(m_y[first.highest], m_y[second.highest]);
         if (bottom < top) {
             const auto [from, to] =
-                std::minmax(toWhole(m_frame.y.pixel(bottom)), toWhole(m_frame.y.pixel(top)));
+                std::minmax({toWhole(m_frame.y.pixel(bottom)), toWhole(m_frame.y.pixel(top))});
             m_covered.push_back({toWhole(column), from, to});
         }
     }
