@@ -3,12 +3,12 @@
 #include "colour/color_message.h"
 #include "colour/hsl.h"
 #include "colour/palettes.h"
-#include "colour/quiet_combo.h"
 #include "colour/spectrum_ctrl.h"
 #include "colour/spectrum_event.h"
 #include "colour/swatch_grids.h"
 #include "platform/widgets/field_changed.h"
 #include "platform/widgets/numeric_edit.h"
+#include "platform/widgets/quiet_combo.h"
 
 #include <QFocusEvent>
 #include <QGroupBox>
@@ -220,6 +220,7 @@ bool CArgbPanel::eventFilter(QObject* watched, QEvent* event) {
     if (event->type() != QEvent::FocusOut) {
         return false;
     }
+    watched->event(event); // first, since what follows can bring the focus back
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
     for (Number& number : m_numbers) {
         // A text that cannot be read yet waits for the return from a menu or another window.
@@ -228,5 +229,5 @@ bool CArgbPanel::eventFilter(QObject* watched, QEvent* event) {
             Commit(number);
         }
     }
-    return false;
+    return true;
 }

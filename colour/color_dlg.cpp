@@ -1,7 +1,7 @@
 #include "colour/color_dlg.h"
 
 #include "colour/color_message.h"
-#include "colour/quiet_combo.h"
+#include "platform/widgets/quiet_combo.h"
 #include "preview/chart_preview_view.h"
 
 #include <QGridLayout>

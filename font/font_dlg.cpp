@@ -30,6 +30,12 @@ int RowWithPrefix(const QListWidget& list, const QString& text) {
     return -1;
 }
 
+/// The selected row's item, or null. The current row is another thing: a list that gets the focus makes its
+/// first row the current one.
+const QListWidgetItem* SelectedIn(const QListWidget& list) {
+    return list.selectedItems().value(0);
+}
+
 /// Selects a row without the list telling of it.
 void SelectQuietly(QListWidget& list, int row) {
     const QSignalBlocker quiet(list);
@@ -65,8 +71,8 @@ CFontDlg::CFontDlg()
     LayOut();
     const auto takeFace = [this] { TakeFace(); };
     const auto takeSize = [this] { TakeSize(); };
-    connect(m_faces, &QListWidget::currentRowChanged, this, takeFace);
-    connect(m_sizes, &QListWidget::currentRowChanged, this, takeSize);
+    connect(m_faces, &QListWidget::itemSelectionChanged, this, takeFace);
+    connect(m_sizes, &QListWidget::itemSelectionChanged, this, takeSize);
     // A click on the selected row counts too: the edit may hold something else that begins like it.
     connect(m_faces, &QListWidget::itemClicked, this, takeFace);
     connect(m_sizes, &QListWidget::itemClicked, this, takeSize);
@@ -178,14 +184,14 @@ void CFontDlg::SelectFaceByPrefix() {
 }
 
 void CFontDlg::TakeFace() {
-    if (const QListWidgetItem* item = m_faces->currentItem()) {
+    if (const QListWidgetItem* item = SelectedIn(*m_faces)) {
         m_faceText = item->text();
         UpdateData(false);
     }
 }
 
 void CFontDlg::TakeSize() {
-    if (const QListWidgetItem* item = m_sizes->currentItem()) {
+    if (const QListWidgetItem* item = SelectedIn(*m_sizes)) {
         m_size = item->text().toDouble();
         UpdateData(false);
     }
@@ -196,8 +202,8 @@ void CFontDlg::CommitFace() {
         return;
     }
     SelectFaceByPrefix();
-    const QListWidgetItem* item = m_faces->item(std::max(0, m_faces->currentRow()));
-    m_faceText = item->text();
+    const QListWidgetItem* item = SelectedIn(*m_faces);
+    m_faceText = item != nullptr ? item->text() : m_faces->item(0)->text();
     UpdateData(false);
 }
 
@@ -220,15 +226,16 @@ void CFontDlg::OnOK() {
 }
 
 bool CFontDlg::eventFilter(QObject* watched, QEvent* event) {
-    const auto* edit = static_cast<QLineEdit*>(watched);
-    if (event->type() == QEvent::FocusOut && edit->isModified()) {
-        // A text that cannot be read yet waits for the return from a menu or another window.
-        const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
-        const bool waits =
-            reason == Qt::PopupFocusReason || (reason == Qt::ActiveWindowFocusReason && !UpdateData(true));
-        if (!waits) {
-            edit == m_faceEdit ? CommitFace() : CommitSize();
-        }
+    if (event->type() != QEvent::FocusOut) {
+        return false;
     }
-    return false;
+    watched->event(event); // first, since what follows can bring the focus back
+    const auto* edit = static_cast<QLineEdit*>(watched);
+    // A text that cannot be read yet waits for the return from a menu or another window.
+    const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    if (edit->isModified() && reason != Qt::PopupFocusReason &&
+        (reason != Qt::ActiveWindowFocusReason || UpdateData(true))) {
+        edit == m_faceEdit ? CommitFace() : CommitSize();
+    }
+    return true;
 }

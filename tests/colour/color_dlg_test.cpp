@@ -4,7 +4,7 @@
 #include "colour/spectrum_ctrl.h"
 #include "platform/widgets/numeric_edit.h"
 #include "preview/chart_preview_view.h"
-#include "tests/colour/widgets.h"
+#include "tests/driver/widgets.h"
 
 #include <QAbstractButton>
 #include <QComboBox>
@@ -154,6 +154,14 @@ TEST_F(ColorDlg, PutsTheLastNumberBackWhereTheTextIsNone) {
             EXPECT_EQ(Number("B")->Text(), "255");
             EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFFU);
         }
+        m_dialog.activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_dialog));
+        const Dismiss<QMessageBox> box;
+        Type(Number("B"), "x");
+        QTest::keyClick(Number("B"), Qt::Key_Tab);
+        EXPECT_EQ(box.m_count, 1);
+        EXPECT_EQ(m_dialog.focusWidget(), Number("B"));
+        EXPECT_EQ(Number("B")->findChild<QLineEdit*>()->selectedText(), "255");
     });
 }
 

@@ -2,7 +2,7 @@
 
 #include "colour/palettes.h"
 #include "colour/swatch_grids.h"
-#include "tests/colour/widgets.h"
+#include "tests/driver/widgets.h"
 
 #include <QHelpEvent>
 #include <QToolTip>

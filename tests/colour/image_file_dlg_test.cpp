@@ -3,7 +3,7 @@
 #include "colour/image_file_dlg.h"
 #include "platform/widgets/dialog.h"
 #include "preview/chart_preview_view.h"
-#include "tests/colour/widgets.h"
+#include "tests/driver/widgets.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "colour/color_dlg.h"
-#include "tests/colour/random_events.h"
-#include "tests/colour/widgets.h"
+#include "tests/driver/random_person.h"
+#include "tests/driver/widgets.h"
 
 class RandomEvents : public WidgetTest {};
 

@@ -2,7 +2,7 @@
 
 #include "colour/spectrum_ctrl.h"
 #include "colour/spectrum_event.h"
-#include "tests/colour/widgets.h"
+#include "tests/driver/widgets.h"
 
 #include <QHelpEvent>
 #include <QLineEdit>

@@ -1,5 +1,5 @@
 #pragma once
-// What the tests of the colour dialog's controls share.
+// How tests drive dialogs and their controls.
 
 #include "platform/application.h"
 #include "platform/widgets/field_changed.h"
@@ -8,6 +8,7 @@
 #include <QTest>
 #include <QTimer>
 #include <QWidget>
+#include <gtest/gtest.h>
 #include <vector>
 
 /// Makes the application object before the first widget.
