@@ -10,7 +10,7 @@
 namespace {
 
 constexpr QSize kSmallestScreen(1366, 768);
-constexpr int kSpace = 12;
+constexpr int kSpace = 10;
 constexpr QSize kFrame(8, 64); // title bar, borders and a task bar
 
 /// `wanted`, but not below `least` and, beyond that, not above `most`.
@@ -39,7 +39,6 @@ void LayEditor(CDialog& dialog, CChartPreviewView* preview, QLayout* body, QWidg
         preview->setObjectName(QStringLiteral("Preview"));
         preview->setAccessibleName(QStringLiteral("Preview"));
         preview->setFocusPolicy(Qt::ClickFocus);
-        SizePreview(*preview, body->sizeHint(), buttons->sizeHint());
         sides->addWidget(preview);
     }
     sides->addLayout(body);
@@ -48,5 +47,13 @@ void LayEditor(CDialog& dialog, CChartPreviewView* preview, QLayout* body, QWidg
     all->setSpacing(kSpace);
     all->addLayout(sides);
     all->addWidget(buttons);
+    if (preview != nullptr) {
+        // Sizes can be known once all stands in its place and has its style.
+        for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+            widget->ensurePolished();
+        }
+        all->activate();
+        SizePreview(*preview, body->sizeHint(), buttons->sizeHint());
+    }
     all->setSizeConstraint(QLayout::SetFixedSize);
 }

@@ -32,6 +32,7 @@ CForm::CForm(CDialog& page, std::function<void()> notify)
 CForm::CForm(CDialog& page, QWidget& owner) : CForm(page, [&owner] { SendFieldChanged(&owner, 0); }) {}
 
 CForm::~CForm() {
+    m_page.SetControls(nullptr);
     if (m_bands->parent() == nullptr) {
         delete m_bands; // the page was never started
     }
@@ -39,6 +40,7 @@ CForm::~CForm() {
 
 void CForm::Band() {
     m_columns = new QHBoxLayout;
+    m_columns->setSpacing(9);
     m_bands->addLayout(m_columns);
     m_column = nullptr;
     EndGroup();
@@ -66,6 +68,7 @@ void CForm::BeginGroup(QWidget* box) {
     }
     m_group = box;
     m_parts = new QHBoxLayout(box);
+    m_parts->setSpacing(12);
     m_column->addWidget(box);
     Part();
 }
@@ -134,7 +137,7 @@ CSimpleCombo& CForm::List(const char* caption) {
     AddRow(nullptr, *list);
     Grow();
     if (list->objectName().isEmpty()) {
-        list->setObjectName(QString::fromUtf8(caption).section(u' ', 0, 0));
+        list->setObjectName(QString::fromUtf8(caption).section(u' ', 0, 0) + u's');
         list->setAccessibleName(list->objectName());
     }
     return *list;
@@ -164,6 +167,7 @@ void CForm::Place(const char* label, QWidget& control) {
 }
 
 QLayout* CForm::Layout() const {
+    AlignLabels(); // whoever places the form wants to know its size
     return m_bands;
 }
 

@@ -82,7 +82,8 @@ public:
         m_lists.push_back(std::move(list));
         return result;
     }
-    /// A list that the page keeps itself. Named by its group, else by the first word of `caption`.
+    /// A list that the page keeps itself. Named by its group, else by the plural of the first word of
+    /// `caption`.
     CSimpleCombo& List(const char* caption);
     /// A row of buttons.
     std::vector<QPushButton*> Buttons(const std::vector<std::pair<const char*, Click>>& buttons);

@@ -11,7 +11,7 @@ namespace {
 class CFocusWatch : public QObject {
 public:
     CFocusWatch(QWidget* watched, std::function<void(bool forAnotherWindow)> leave)
-        : QObject(watched), m_leave(std::move(leave)) {
+        : m_leave(std::move(leave)) {
         watched->installEventFilter(this);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -77,7 +77,8 @@ bool CEditRow::CommitIfIn(const QWidget* focus) {
 }
 
 void CEditRow::Watch(QWidget* control) {
-    new CFocusWatch(control, [this](bool forAnotherWindow) { Leave(forAnotherWindow); });
+    m_watch =
+        std::make_unique<CFocusWatch>(control, [this](bool forAnotherWindow) { Leave(forAnotherWindow); });
 }
 
 void CEditRow::Written() {

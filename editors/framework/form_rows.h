@@ -4,8 +4,10 @@
 
 #include "editors/framework/binding.h"
 
+#include <QObject>
 #include <QString>
 #include <functional>
+#include <memory>
 #include <utility>
 
 class CForm;
@@ -88,7 +90,8 @@ protected:
 private:
     void Leave(bool forAnotherWindow);
 
-    QString m_settled; ///< the text that needs no commit
+    std::unique_ptr<QObject> m_watch; ///< of the control, which can lose the focus after the row is gone
+    QString m_settled;                ///< the text that needs no commit
     bool m_settling = false;
 };
 

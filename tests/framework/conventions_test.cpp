@@ -1,0 +1,86 @@
+#include "editors/framework/conventions.h"
+
+#include <cmath>
+#include <cstdlib>
+#include <gtest/gtest.h>
+#include <limits>
+#include <tuple>
+
+namespace {
+
+TEST(RoundTo, RoundsHalfAwayFromZeroAndWraps) {
+    constexpr double kInfinity = std::numeric_limits<double>::infinity();
+    // Worked by hand: sign * trunc(|v| * 10^d + 0.5), taken as 32 bits with a sign, / 10^d.
+    const std::tuple<double, int, double> cases[] = {
+        {0, 2, 0},
+        {1.234, 2, 1.23},
+        {1.235, 2, 1.24}, // 123.5 + 0.5
+        {-1.236, 2, -1.24},
+        {0.125, 2, 0.13},
+        {-0.004, 2, 0},
+        {1.25, 1, 1.3},
+        {21474836.47, 2, 21474836.47},
+        {21474836.48, 2, -21474836.48},
+        {-21474836.48, 2, 21474836.48},
+        {42949672.96, 2, 0},
+        {42949673.96, 2, 1},
+        {1.2, 0, 2},
+        {-1.2, 0, 1}, // the sign twice
+        {-2.0, -3, 2},
+        {kInfinity, 2, 0},
+        {-kInfinity, 2, 0},
+        {1e308, 2, 0},
+        {std::nan(""), 2, 0},
+    };
+    for (const auto& [value, digits, rounded] : cases) {
+        EXPECT_DOUBLE_EQ(RoundTo(value, digits), rounded) << value << ' ' << digits;
+        EXPECT_FALSE(std::signbit(RoundTo(value, digits)) && rounded == 0) << value;
+    }
+}
+
+TEST(Codes, OfAlignmentsAndSidesGoToRowsAndBack) {
+    const int alignments[] = {7, 8, 9, 4, 5, 6, 1, 2, 3, 10, 11, 12, 13};
+    for (int row = 0; row < 13; ++row) {
+        EXPECT_EQ(IndexToAlignment(row), alignments[row]);
+        EXPECT_EQ(AlignmentToIndex(alignments[row]), row);
+    }
+    const int sides[] = {4, 6, 8, 2};
+    for (int row = 0; row < 4; ++row) {
+        EXPECT_EQ(IndexToSide(row), sides[row]);
+        EXPECT_EQ(SideToIndex(sides[row]), row);
+    }
+    for (const int unknown : {-1, 0, 14, 99}) {
+        EXPECT_EQ(AlignmentToIndex(unknown), 0);
+        EXPECT_EQ(SideToIndex(unknown), 0);
+    }
+    for (const int outside : {-1, 13, 99}) {
+        EXPECT_EQ(IndexToAlignment(outside), 7);
+        EXPECT_EQ(IndexToSide(outside), 4);
+    }
+    EXPECT_STREQ(Alignments().Rows()[1].text, "TopCenter(Top)");
+    EXPECT_STREQ(Alignments().Rows()[7].text, "BottomCenter(Bottom)");
+}
+
+TEST(FirstLineOf, CutsTextsAtTheirFirstBreak) {
+    EXPECT_EQ(FirstLineOf("one"), "one");
+    EXPECT_EQ(FirstLineOf(""), "");
+    EXPECT_EQ(FirstLineOf("one\ntwo\nthree"), "one...");
+    EXPECT_EQ(FirstLineOf("one\r\ntwo"), "one...");
+    EXPECT_EQ(FirstLineOf("one\rtwo"), "one...");
+    EXPECT_EQ(FirstLineOf("\n"), "...");
+    EXPECT_EQ(FromEditText("a\r\nb\nc\rd"), "a\nb\nc\rd");
+}
+
+TEST(RandomChartColor, TakesRedGreenAndBlueInTurn) {
+    std::srand(7);
+    const int red = std::rand() % 256;
+    const int green = std::rand() % 256;
+    const int blue = std::rand() % 256;
+    std::srand(7);
+    const CChartColor color = RandomChartColor();
+    EXPECT_EQ(color.m_type, 0);
+    EXPECT_EQ(color.m_color, static_cast<unsigned>(red) << 16 | static_cast<unsigned>(green) << 8 |
+                                 static_cast<unsigned>(blue));
+}
+
+} // namespace
