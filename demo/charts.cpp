@@ -78,7 +78,7 @@ std::span<const ChartKind> ChartKinds() {
 Charts ExampleCharts() {
     Charts charts;
     CChartLayout& layout = charts.layout;
-    layout.SetChartSize(560, 440);
+    layout.SetChartSize(580, 440);
     layout.m_edgeColor.m_color = kTransparent;
     layout.m_defaultFont.m_fileName = "normal";
     layout.m_titles.push_back(Title(QStringLiteral("Where the money goes"), "bold", 15, 0x222222));
@@ -88,7 +88,7 @@ Charts ExampleCharts() {
     layout.m_labelFont.m_fileName = "normal";
     layout.m_labelFont.m_size = 9;
     layout.m_showLegend = false;
-    layout.m_piePlotArea.m_centerX = 280;
+    layout.m_piePlotArea.m_centerX = 290;
     layout.m_piePlotArea.m_centerY = 250;
     layout.m_piePlotArea.m_radius = 130;
 

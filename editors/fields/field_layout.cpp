@@ -11,10 +11,9 @@ void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::fu
     auto* button = new QPushButton(QStringLiteral("..."), &field);
     const int height = button->sizeHint().height();
     button->setFixedWidth(height * 3 / 2);
-    button->setAutoDefault(false);
     swatch.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Fixed); // as wide as the page leaves it
     swatch.setFixedHeight(height);
-    swatch.setMinimumWidth(height * 2);
+    swatch.setMinimumWidth(height * 7 / 4);
     swatch.setFocusPolicy(Qt::NoFocus);
 
     auto* row = new QHBoxLayout(&field);
@@ -22,11 +21,17 @@ void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::fu
     row->addWidget(&swatch, 1);
     row->addWidget(button);
     row->addWidget(&text);
-    field.setFocusProxy(button);
-    QObject::connect(button, &QPushButton::clicked, &field, choose);
+    OpenBy(field, *button, choose);
+}
+
+void OpenBy(CDialog& field, QPushButton& button, const std::function<void()>& choose) {
+    button.setFocusPolicy(Qt::StrongFocus);
+    field.setFocusProxy(&button);
+    QObject::connect(&button, &QPushButton::clicked, &field, choose);
     // The name that the page gives to the field is the button's too: it is what takes the focus.
-    QObject::connect(&field, &QObject::objectNameChanged, button, [button](const QString& name) {
-        button->setAccessibleName(name + QStringLiteral("..."));
+    QObject::connect(&field, &QObject::objectNameChanged, &button, [&button](const QString& name) {
+        button.setObjectName(name + QStringLiteral("..."));
+        button.setAccessibleName(button.objectName());
     });
 }
 

@@ -55,7 +55,7 @@ const NumberCase kNumberCases[] = {
     {"StartAngle", 0, "-33.456", 0, "-33.46", -33.46},
     {"StartAngle", 0, "400", 0, "400", 400},
     {"StartAngle", 7.5, nullptr, -2, "-12.5", -12.5},
-    {"StartAngle", 0, "77", 1, "87", 87}, // the press takes the focus, which commits what was typed
+    {"StartAngle", 0, "77", 1, "10", 10}, // a press starts from what was committed
     {"Inner R(%)", 50, "150", 0, "100", 100},
     {"Inner R(%)", 100, nullptr, 1, "100", 100},
     {"Inner R(%)", 5, nullptr, -1, "0", 0},

@@ -1,0 +1,49 @@
+#!/usr/bin/env bash
+# Follows the README: builds its code against an installed copy in both ways that it tells, and runs it.
+#   test_readme.sh SOURCE_FOLDER BUILD_FOLDER [SANITIZERS]
+set -euo pipefail
+source=$1
+build=$2
+sanitizers=${3:-}
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+cd "$work"
+
+block() { # block LANGUAGE: the README's only block of code in that language
+    awk -v fence="\`\`\`$1" '$0 == fence { on = 1; next } /^```/ { on = 0 } on' "$source/README.md"
+}
+
+quietly() { # quietly COMMAND...: shows what it said if it fails
+    "$@" >log 2>&1 || { cat log; echo "FAILED: $*"; exit 1; }
+}
+
+block cpp >host.cpp
+[ "$(wc -l <host.cpp)" -ge 20 ] || { echo "FAILED: the README has no host's code"; exit 1; }
+for command in scripts/demo.sh scripts/test.sh; do
+    grep -q "^    $command " "$source/README.md" && [ -x "$source/$command" ] ||
+        { echo "FAILED: $command"; exit 1; }
+done
+for picture in $(sed -n 's/^!\[.*\](\(.*\))$/\1/p' "$source/README.md"); do
+    [ "$(stat -c %s "$source/$picture")" -lt 100000 ] || { echo "FAILED: $picture is large"; exit 1; }
+done
+
+quietly cmake --install "$build" --prefix "$work/installed"
+{
+    echo 'cmake_minimum_required(VERSION 3.22)'
+    echo 'project(Host LANGUAGES CXX)'
+    block cmake
+} >CMakeLists.txt
+flags="-Wall -Wextra -Werror ${sanitizers:+-fsanitize=$sanitizers}"
+quietly cmake -S . -B made -G Ninja -DCMAKE_PREFIX_PATH="$work/installed" -DCMAKE_CXX_FLAGS="$flags"
+quietly cmake --build made
+# The dialog waits for its user.
+status=0
+QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=0 timeout 3 made/host >log 2>&1 || status=$?
+[ $status -eq 124 ] || { cat log; echo "FAILED: the host ended with $status"; exit 1; }
+
+if [ -z "$sanitizers" ]; then
+    PKG_CONFIG_PATH=$(dirname "$(find installed -name charteditors.pc)")
+    export PKG_CONFIG_PATH=$work/$PKG_CONFIG_PATH
+    quietly bash -c "$(block sh)"
+fi
+echo ok
