@@ -6,10 +6,18 @@
 #include "resources/string_table.h"
 
 #include <QLabel>
+#include <algorithm>
 
 CChartColorField::CChartColorField()
     : m_preview(new CChartPreviewView(this)), m_type(new QLabel(this)),
       m_typeText(QString::fromUtf8(LoadChartString(1))) {
+    // Room for each of the kinds, so that a choice does not move the page.
+    int width = 0;
+    for (const int kind : {1, 2, 3}) {
+        const QString text = QString::fromUtf8(LoadChartString(kind));
+        width = std::max(width, m_type->fontMetrics().horizontalAdvance(text));
+    }
+    m_type->setMinimumWidth(width);
     LaySwatchField(*this, *m_preview, *m_type, [this] { Choose(); });
 }
 

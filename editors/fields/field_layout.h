@@ -5,10 +5,14 @@
 
 class CDialog;
 class QLabel;
+class QPushButton;
 class QWidget;
 
 /// Lays out a field as swatch, button and text in one row. `choose` is called by the button.
 void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::function<void()>& choose);
+
+/// Makes `button` the way into the dialog of the field: `choose` is called by it.
+void OpenBy(CDialog& field, QPushButton& button, const std::function<void()>& choose);
 
 /// Sends the message of a changed field to the page that it stands on, the nearest dialog above it.
 void SendToPage(CDialog& field, int key);

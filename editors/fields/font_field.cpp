@@ -12,7 +12,6 @@ CChartFontField::CChartFontField()
     : m_name(new QLabel(this)), m_sizeCaption(new QLabel(QStringLiteral("Size:"), this)),
       m_size(new QLabel(this)) {
     auto* button = new QPushButton(QStringLiteral("Font..."), this);
-    button->setAutoDefault(false);
     // A long name is cut at the end of its place rather than making the page wider.
     m_name->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
     m_name->setMinimumWidth(fontMetrics().averageCharWidth() * 16);
@@ -25,8 +24,7 @@ CChartFontField::CChartFontField()
     grid->addWidget(m_size, 1, 1);
     grid->addWidget(button, 1, 2);
     grid->setColumnStretch(1, 1);
-    setFocusProxy(button);
-    connect(button, &QPushButton::clicked, this, [this] { Choose(); });
+    OpenBy(*this, *button, [this] { Choose(); });
 }
 
 void CChartFontField::HideSize() {

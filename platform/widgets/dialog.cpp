@@ -83,10 +83,12 @@ QWidget* CDialog::MakeOkCancel() {
     auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
     QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
     QPushButton* cancel = buttons->button(QDialogButtonBox::Cancel);
-    ok->setText(QStringLiteral("OK"));
-    cancel->setText(QStringLiteral("Cancel"));
-    ok->setObjectName(QStringLiteral("OK"));
-    cancel->setObjectName(QStringLiteral("Cancel"));
+    for (const auto& [button, text] :
+         {std::pair(ok, QStringLiteral("OK")), {cancel, QStringLiteral("Cancel")}}) {
+        button->setText(text);
+        button->setObjectName(text);
+        button->setAccessibleName(text);
+    }
     ok->setDefault(true);
     // A press takes the focus on every platform, so that the edit that had it commits before the dialog ends.
     // Where the edit has refused to let go, the press is over.

@@ -3,6 +3,7 @@
 
 #include <QCheckBox>
 #include <QGroupBox>
+#include <QVBoxLayout>
 
 namespace {
 
@@ -19,8 +20,9 @@ class Hosted : public CDialog {
 public:
     Hosted() : m_page(m_layout, *this) {
         m_page.Create(this);
-        m_page.resize(m_page.sizeHint());
-        resize(m_page.size());
+        auto* room = new QVBoxLayout(this);
+        room->addWidget(&m_page);
+        room->addWidget(MakeOkCancel());
         show();
         activateWindow();
         EXPECT_TRUE(QTest::qWaitForWindowActive(this));
