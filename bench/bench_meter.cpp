@@ -6,6 +6,7 @@
 
 #include <QLineF>
 #include <QPainter>
+#include <QPainterPath>
 #include <benchmark/benchmark.h>
 #include <cmath>
 #include <numbers>
@@ -61,16 +62,18 @@ void angularByPainter(benchmark::State& state) {
             painter.fillPath(ring, QColor(0x66, 0x66, 0xff));
         }
         painter.setPen(Qt::black);
+        QList<QLineF> ticks;
         for (int i = 0; i <= 100; ++i) {
             const double angle = (i * 1.8 - 90) * std::numbers::pi / 180;
             const QPointF out(std::sin(angle), -std::cos(angle));
             const double length = i % 10 == 0 ? 14 : i % 5 == 0 ? 9 : 6;
-            painter.drawLine(QPointF(250, 275) + out * 200, QPointF(250, 275) + out * (200 - length));
+            ticks.emplace_back(QPointF(250, 275) + out * 200, QPointF(250, 275) + out * (200 - length));
             if (i % 10 == 0) {
                 painter.drawText(QRectF(QPointF(235, 268) + out * 212, QSizeF(30, 14)), Qt::AlignCenter,
                                  QString::number(i));
             }
         }
+        painter.drawLines(ticks);
         if (state.range(0) != 0) {
             QPolygonF pointer = {{240, 100}, {258, 276}, {254, 300}, {242, 274}};
             painter.setPen(Qt::NoPen);
