@@ -95,7 +95,7 @@ void CAngularMeter_addZone2(AngularMeter* meter, double start, double end, int f
 void CLinearMeter_setMeter(LinearMeter* meter, int left, int top, int width, int height, int axisPosition,
                            bool reverse) {
     if (auto* target = object<chartdraw::LinearMeter>(meter)) {
-        target->setMeter(QRect(left, top, width, height), axisPosition, reverse);
+        target->setMeter({left, top}, {width, height}, axisPosition, reverse);
     }
 }
 

@@ -32,9 +32,9 @@ LinearMeter::LinearMeter(int width, int height, Colour background, Colour edge, 
     m_bar = QRect(w * 9 / 20, h / 10, w / 10, h * 4 / 5);
 }
 
-void LinearMeter::setMeter(const QRect& bar, int side, bool reverse) {
-    m_bar = QRect(limited(bar.x()), limited(bar.y()), std::max(0, limited(bar.width())),
-                  std::max(0, limited(bar.height())));
+void LinearMeter::setMeter(QPoint corner, QSize size, int side, bool reverse) {
+    m_bar = QRect(limited(corner.x()), limited(corner.y()), std::max(0, limited(size.width())),
+                  std::max(0, limited(size.height())));
     m_side = side == Right || side == TopCenter || side == BottomCenter ? side : Left;
     m_reverse = reverse;
     changed();

@@ -15,9 +15,10 @@ public:
 
     LinearMeter(int width, int height, Colour background, Colour edge, int effect);
 
-    /// `side`, an alignment code, is the one of the bar where the scale is: Left, Right, TopCenter or
-    /// BottomCenter; another is Left. The lower limit is below or left, above or right when reversed.
-    void setMeter(const QRect& bar, int side, bool reverse);
+    /// The bar's upper left corner and its size in pixels. `side`, an alignment code, is the one where the
+    /// scale is: Left, Right, TopCenter or BottomCenter; another is Left. The lower limit is below or left,
+    /// above or right when reversed.
+    void setMeter(QPoint corner, QSize size, int side, bool reverse);
     TextBox* addZone(double start, double end, Colour colour, std::string label);
 
 protected:

@@ -20,7 +20,9 @@ void MultiChart::addChart(QPoint at, Chart& chart) {
         return;
     }
     std::erase_if(m_shown, [&](const Shown& shown) { return shown.chart == &chart; });
-    m_shown.push_back({&chart, at});
+    // Far enough outside the picture, so that sums cannot overflow.
+    constexpr int kFar = 2 * kMaxSide;
+    m_shown.push_back({&chart, {std::clamp(at.x(), -kFar, kFar), std::clamp(at.y(), -kFar, kFar)}});
     chart.addHost(this);
     changed();
 }
@@ -70,8 +72,11 @@ void MultiChart::drawBody(Canvas& canvas) {
         // What lies beyond the right and lower side need not be drawn; a chart still sees its upper left
         // corner at (0, 0).
         const QSize whole(shown.chart->width(), shown.chart->height());
+        if (whole.isEmpty() || whole.width() > kMaxSide || whole.height() > kMaxSide) {
+            continue;
+        }
         const QRect area = QRect(shown.at, whole) & QRect(0, 0, width(), height());
-        if (area.isEmpty() || whole.width() > kMaxSide || whole.height() > kMaxSide) {
+        if (area.isEmpty()) {
             continue;
         }
         const QPoint seen = area.bottomRight() - shown.at;

@@ -216,13 +216,15 @@ TEST(LinearMeter, KeepsLabelsOutsideTheScaleInsideThePictureAndApart) {
 
 TEST(LinearMeter, TakesAnyGeometry) {
     constexpr int far = std::numeric_limits<int>::max();
-    const QRect bars[] = {{0, 0, 0, 0},       {10, 10, -5, 100}, {10, 10, 100, -5}, {far, far, far, far},
-                          {-far, -far, 1, 1}, {10, 10, 1, far},  {10, 10, far, 1},  {5, 5, 1, 1}};
-    for (const QRect& bar : bars) {
+    const struct {
+        int left, top, width, height;
+    } bars[] = {{0, 0, 0, 0},       {10, 10, -5, 100}, {10, 10, 100, -5}, {far, far, far, far},
+                {-far, -far, 1, 1}, {10, 10, 1, far},  {10, 10, far, 1},  {5, 5, 1, 1}};
+    for (const auto& bar : bars) {
         for (const int side :
              std::initializer_list<int>{CHART_LEFT, CHART_RIGHT, CHART_TOP, CHART_BOTTOM, -far}) {
             Meter m(CHART_LEFT);
-            CLinearMeter_setMeter(m.meter, bar.x(), bar.y(), bar.width(), bar.height(), side, true);
+            CLinearMeter_setMeter(m.meter, bar.left, bar.top, bar.width, bar.height, side, true);
             CBaseMeter_setLabelStyle(m.base, nullptr, 8, -1, 0);
             CBaseMeter_setLineWidth(m.base, far, far, 1, far);
             CLinearMeter_addZone(m.meter, -1e308, 1e308, kGreen, "label");
