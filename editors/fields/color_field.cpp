@@ -14,8 +14,8 @@ CChartColorField::CChartColorField()
     // Room for each of the kinds, so that a choice does not move the page.
     int width = 0;
     for (const int kind : {1, 2, 3}) {
-        const QString text = QString::fromUtf8(LoadChartString(kind));
-        width = std::max(width, m_type->fontMetrics().horizontalAdvance(text));
+        m_type->setText(QString::fromUtf8(LoadChartString(kind)));
+        width = std::max(width, m_type->sizeHint().width());
     }
     m_type->setMinimumWidth(width);
     LaySwatchField(*this, *m_preview, *m_type, [this] { Choose(); });

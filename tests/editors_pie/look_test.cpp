@@ -2,34 +2,9 @@
 
 #include "tests/editors_pie/person.h"
 
-#include <QLabel>
+#include "tests/framework/audit.h"
 
 using namespace pie_test;
-
-namespace {
-
-/// Texts of controls that are wider or higher than their control shows.
-QStringList CutOff(QWidget& window) {
-    QStringList result;
-    for (QWidget* widget : window.findChildren<QWidget*>()) {
-        if (widget->objectName().startsWith(QStringLiteral("qt_"))) {
-            continue; // parts that the toolkit shows when there is room
-        }
-        const bool texts = qobject_cast<QLabel*>(widget) || qobject_cast<QAbstractButton*>(widget) ||
-                           qobject_cast<QComboBox*>(widget) || qobject_cast<QAbstractSpinBox*>(widget);
-        QSize wanted = widget->minimumSizeHint();
-        if (auto* button = qobject_cast<QPushButton*>(widget)) { // wants to be wider than its text needs
-            wanted.setWidth(button->fontMetrics().horizontalAdvance(button->text()) + 8);
-        }
-        if (texts && widget->isVisible() &&
-            (widget->width() < wanted.width() || widget->height() < wanted.height())) {
-            result.append(widget->objectName() + ' ' + widget->metaObject()->className());
-        }
-    }
-    return result;
-}
-
-} // namespace
 
 TEST(PieLook, FitsASmallScreenAtEveryFontAndPictureSize) {
     CPieChart empty;
@@ -51,7 +26,7 @@ TEST(PieLook, FitsASmallScreenAtEveryFontAndPictureSize) {
                 EXPECT_LE(window.height(), 768 - 30);
                 EXPECT_GE(editor.Preview().width() * 3, window.width());
                 EXPECT_EQ(window.minimumSize(), window.maximumSize());
-                EXPECT_TRUE(CutOff(window).isEmpty()) << qPrintable(CutOff(window).join('\n'));
+                audit::Everything(window);
                 editor.Cancel();
             }));
         }
