@@ -3,7 +3,6 @@
 
     check_symbols.py LIBRARY --list FILE       one demangled name a line; lines that begin with # are remarks
     check_symbols.py LIBRARY --header FILE     the functions that a C header declares
-    --allow-missing                            names may be missing, but none may be too many
     --print                                    prints what the library exports, to make a list from
 
 Exits with 1 if they differ.
@@ -39,7 +38,6 @@ def main():
     parser.add_argument("library")
     parser.add_argument("--list")
     parser.add_argument("--header")
-    parser.add_argument("--allow-missing", action="store_true")
     parser.add_argument("--print", action="store_true")
     options = parser.parse_args()
 
@@ -55,10 +53,10 @@ def main():
     extra = sorted(actual - expected)
     for name in extra:
         print(f"+ {name}    is exported, but should not be")
-    for name in [] if options.allow_missing else missing:
+    for name in missing:
         print(f"- {name}    is not exported")
     print(f"{len(expected)} expected, {len(actual)} exported, {len(extra)} too many, {len(missing)} missing")
-    return 1 if extra or (missing and not options.allow_missing) else 0
+    return 1 if extra or missing else 0
 
 
 if __name__ == "__main__":
