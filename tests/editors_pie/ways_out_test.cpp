@@ -68,14 +68,15 @@ TEST(PieWaysOut, EveryCancelLeavesTheObjectAsItWas) {
         {"Esc", [](PieEditor& editor) { QTest::keyClick(editor.Number("Depth"), Qt::Key_Escape); }},
         {"Esc in the text", [](PieEditor& editor) { QTest::keyClick(editor.Text(), Qt::Key_Escape); }},
     };
-    for (const auto& [name, leave] : ways) {
+    for (const auto& way : ways) {
+        SCOPED_TRACE(way.first);
         CPieChart pie = UnusualPie();
         const char* text = pie.m_sectors[0].m_text.data();
         EXPECT_FALSE(Edit(pie, [&](PieEditor& editor) {
             ChangeEverything(editor);
-            leave(editor);
-        })) << name;
-        EXPECT_EQ(Shown(pie), Shown(UnusualPie())) << name;
+            way.second(editor);
+        }));
+        EXPECT_EQ(Shown(pie), Shown(UnusualPie()));
         EXPECT_EQ(pie.m_sectors[0].m_text.data(), text) << "pointers into the object stay good";
     }
 }
