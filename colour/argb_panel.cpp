@@ -133,13 +133,16 @@ bool CArgbPanel::Exchange(bool read) {
             number.edit->SetText(QString::number(*number.value));
             continue;
         }
+        if (!number.edit->Touched()) {
+            continue; // a number that came from outside may be past the limit
+        }
         bool good = false;
         const int typed = number.edit->Text().trimmed().toInt(&good);
         if (!good) {
             m_bad = &number;
             return false;
         }
-        *number.value = typed;
+        *number.value = std::min(typed, number.ceiling);
     }
     const std::uint32_t shown = Rgb(m_red, m_green, m_blue);
     if (!read && m_spectrum->GetRGB() != shown) {
@@ -151,19 +154,18 @@ bool CArgbPanel::Exchange(bool read) {
 bool CArgbPanel::CommitFocused() {
     for (Number& number : m_numbers) {
         if (number.edit == window()->focusWidget()) {
-            Commit(number);
+            Commit();
             return true;
         }
     }
     return false;
 }
 
-void CArgbPanel::Commit(Number& number) {
+void CArgbPanel::Commit() {
     if (m_complaining) {
         return; // the box takes the focus from another edit, which must not complain as well
     }
     if (m_page.UpdateData(true)) {
-        *number.value = std::min(*number.value, number.ceiling);
         Notify(ColorChanged);
         return;
     }
@@ -226,7 +228,7 @@ bool CArgbPanel::eventFilter(QObject* watched, QEvent* event) {
         // A text that cannot be read yet waits for the return from a menu or another window.
         if (number.edit == watched && number.edit->Touched() && reason != Qt::PopupFocusReason &&
             (reason != Qt::ActiveWindowFocusReason || m_page.UpdateData(true))) {
-            Commit(number);
+            Commit();
         }
     }
     return true;

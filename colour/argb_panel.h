@@ -47,7 +47,8 @@ private:
     void LayOut(bool withAngle);
     void AddNumber(QGridLayout& grid, const char* label, std::int32_t& value, std::int32_t ceiling);
     void Press(Number& number, int direction);
-    void Commit(Number& number);
+    /// Reads the numbers and notifies, or complains and puts the last good ones back.
+    void Commit();
     void TakePaletteCell();
     /// Writes the controls and sends a ColorMessage.
     void Notify(int message);

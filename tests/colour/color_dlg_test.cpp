@@ -233,6 +233,17 @@ TEST_F(ColorDlg, AngleSnapsWhenStepped) {
     });
 }
 
+TEST_F(ColorDlg, NumbersFromOutsideStayUntilTheyAreTouched) {
+    m_dialog.m_color.m_type = 2;
+    m_dialog.m_color.m_direction = 400;
+    RunModal(m_dialog, [&] {
+        TypeInto("R", "1");
+        EXPECT_EQ(m_dialog.m_color.m_direction, 400);
+        TypeInto("Angle", "401");
+        EXPECT_EQ(m_dialog.m_color.m_direction, 360);
+    });
+}
+
 TEST_F(ColorDlg, TypesShareTheNumbersTheyStartedWith) {
     m_dialog.m_color.m_color = 0x05010203;
     m_dialog.m_color.m_direction = 30;
