@@ -236,8 +236,9 @@ void PolarLayer::drawLabels(Canvas& canvas, const PolarFrame& frame, const Angul
     constexpr std::size_t kMostLabels = 500; // more cannot be told apart in any picture
     const std::vector<double> angles = anglesOf(axis);
     const auto isFree = [&](const QRectF& box) {
-        return room.contains(box) && std::none_of(taken.begin(), taken.end(),
-                                                  [&](const QRectF& other) { return box.intersects(other); });
+        return room.contains(box) && std::none_of(taken.begin(), taken.end(), [&](const QRectF& other) {
+                   return box.adjusted(-1, -1, 1, 1).intersects(other);
+               });
     };
     std::size_t drawn = 0;
     for (const auto& point : points(frame, axis)) {
