@@ -35,6 +35,7 @@ CRaisedEffectField::CRaisedEffectField() : m_form(*this, [this] { ApplyControls(
                  {"Flat", "Raised", "Depressed", "SoftLighting", "NormalGlare", "ReduceGlare"});
     m_directionRow = &m_form.Side("Direction:", m_side);
     m_sizeRow = &m_form.Integer("Size:", m_size).Unsigned().FloorOfPresses(0).Regardless();
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_form.Layout()->setContentsMargins(0, 0, 0, 0);
 }
 

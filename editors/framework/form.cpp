@@ -76,6 +76,7 @@ void CForm::BeginGroup(QWidget* box) {
 void CForm::Part() {
     m_part = new QGridLayout;
     m_part->setColumnStretch(2, 1);
+    m_part->setVerticalSpacing(m_page.fontMetrics().height() / 2);
     m_parts->addLayout(m_part, 1);
     m_parts->setAlignment(m_part, Qt::AlignTop);
 }
@@ -242,6 +243,11 @@ void CForm::AlignLabels() const {
 }
 
 void CForm::Start() {
+    for (auto* column : m_bands->findChildren<QVBoxLayout*>()) {
+        if ((column->expandingDirections() & Qt::Vertical) == 0) {
+            column->setStretch(column->count() - 1, 1); // the last group ends where the other columns end
+        }
+    }
     if (m_page.layout() == nullptr) {
         m_page.setLayout(m_bands);
     }
