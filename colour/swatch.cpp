@@ -16,7 +16,7 @@ public:
     void PaintSample(const char* bytes, int length) override {
         if (length > 0) {
             m_image = BitmapPart({bytes, static_cast<std::size_t>(length)}, QRect(QPoint(), m_size));
-            QPainter(&m_image).drawRect(QRect(QPoint(), m_size).adjusted(0, 0, -1, -1));
+            QPainter(&m_image).drawRect(m_image.rect().adjusted(0, 0, -1, -1));
         }
     }
 
