@@ -72,14 +72,16 @@ void CSwatchGrid::paintEvent(QPaintEvent* /*event*/) {
     for (int i = 0; i < m_shape.Count(); ++i) {
         const QRect cell = m_shape.CellRect(i, size());
         painter.drawImage(cell.topLeft(), SwatchOf(i, cell.size()));
+        if (i == m_cursor && hasFocus()) {
+            for (int distance = 1; distance <= m_shape.margin; ++distance) {
+                DrawFrame(painter, cell, distance, palette().color(QPalette::Highlight));
+            }
+        }
         if (i == m_hover) {
             DrawFrame(painter, cell, m_shape.margin, kHoverFrame);
         }
         if (i == m_selected) {
             DrawFrame(painter, cell, m_shape.margin, kSelectedFrame);
-        }
-        if (i == m_cursor && hasFocus()) {
-            DrawFrame(painter, cell, 1, palette().color(QPalette::Highlight));
         }
     }
 }
