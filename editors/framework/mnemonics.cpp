@@ -2,72 +2,111 @@
 
 #include <QAbstractButton>
 #include <QLabel>
+#include <QMap>
 #include <QSet>
 #include <QStackedWidget>
 #include <QStringList>
 #include <QTabBar>
+#include <functional>
 #include <vector>
 
 namespace {
 
-/// The place of the letter to mark: the first free one that begins a word, else any free one; -1 for none.
-qsizetype Choose(const QString& text, const QSet<QChar>& taken) {
-    for (const bool wordsOnly : {true, false}) {
-        for (qsizetype i = 0; i < text.size(); ++i) {
-            const bool begins = i == 0 || !text[i - 1].isLetterOrNumber() || text[i].isUpper();
-            if (text[i].isLetterOrNumber() && (begins || !wordsOnly) && !taken.contains(text[i].toLower())) {
-                return i;
+/// A text that wants a letter, and the place of the letter in it; -1 while it has none.
+struct Caption {
+    QString text;
+    std::function<void(const QString&)> show;
+    qsizetype marked = -1;
+};
+
+/// Gives each caption a letter of its own that is not in `taken`. Letters that begin a word are tried first;
+/// a caption that finds all of its letters in use makes one that has another choice move to it.
+class CLetters {
+public:
+    CLetters(std::vector<Caption>& captions, const QSet<QChar>& taken)
+        : m_captions(captions), m_taken(taken) {
+        for (std::size_t i = 0; i < captions.size(); ++i) {
+            QSet<QChar> tried;
+            Find(i, tried);
+        }
+    }
+
+private:
+    bool Find(std::size_t index, QSet<QChar>& tried) {
+        const QString& text = m_captions[index].text;
+        for (const bool wordsOnly : {true, false}) {
+            for (qsizetype i = 0; i < text.size(); ++i) {
+                const QChar letter = text[i].toLower();
+                const bool begins = i == 0 || !text[i - 1].isLetterOrNumber() || text[i].isUpper();
+                if (!letter.isLetterOrNumber() || begins != wordsOnly || m_taken.contains(letter) ||
+                    tried.contains(letter)) {
+                    continue;
+                }
+                tried.insert(letter);
+                const auto owner = m_owners.constFind(letter);
+                if (owner == m_owners.cend() || Find(owner.value(), tried)) {
+                    m_owners[letter] = index;
+                    m_captions[index].marked = i;
+                    return true;
+                }
             }
         }
+        return false;
     }
-    return -1;
-}
 
-/// The text with its letter marked, if there is one for it.
-QString Marked(QString text, QSet<QChar>& taken) {
-    qsizetype at = text.indexOf(u'&');
-    if (at < 0) {
-        at = Choose(text, taken);
-        if (at >= 0) {
-            text.insert(at, u'&');
-        }
-    }
-    if (at >= 0 && at + 1 < text.size()) {
-        taken.insert(text[at + 1].toLower());
-    }
-    return text;
-}
+    std::vector<Caption>& m_captions;
+    const QSet<QChar>& m_taken;
+    QMap<QChar, std::size_t> m_owners;
+};
 
-void Mark(QWidget& widget, QSet<QChar>& taken) {
+void Collect(QWidget& widget, std::vector<Caption>& captions) {
     static const QStringList plain{QString(), QStringLiteral("..."), QStringLiteral("OK"),
                                    QStringLiteral("Cancel")};
     if (auto* label = qobject_cast<QLabel*>(&widget); label != nullptr && label->buddy() != nullptr) {
-        label->setText(Marked(label->text(), taken));
+        captions.push_back({label->text(), [label](const QString& text) { label->setText(text); }});
     } else if (auto* button = qobject_cast<QAbstractButton*>(&widget);
                button != nullptr && !plain.contains(button->text())) {
-        button->setText(Marked(button->text(), taken));
+        captions.push_back({button->text(), [button](const QString& text) { button->setText(text); }});
     } else if (auto* tabs = qobject_cast<QTabBar*>(&widget)) {
         for (int i = 0; i < tabs->count(); ++i) {
-            tabs->setTabText(i, Marked(tabs->tabText(i), taken));
+            captions.push_back(
+                {tabs->tabText(i), [tabs, i](const QString& text) { tabs->setTabText(i, text); }});
         }
     }
 }
 
-/// Marks what shows at all times first, and then each of the pages with what is left.
-void MarkBelow(QWidget& parent, QSet<QChar>& taken, std::vector<QStackedWidget*>& stacks) {
+/// What shows at all times below `parent`, and the stacks of pages that show one at a time.
+void CollectBelow(QWidget& parent, std::vector<Caption>& captions, std::vector<QStackedWidget*>& stacks) {
     for (QWidget* child : parent.findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         if (auto* stack = qobject_cast<QStackedWidget*>(child)) {
             stacks.push_back(stack);
         } else {
-            Mark(*child, taken);
-            MarkBelow(*child, taken, stacks);
+            Collect(*child, captions);
+            CollectBelow(*child, captions, stacks);
         }
     }
 }
 
 void MarkPage(QWidget& page, QSet<QChar> taken) {
+    std::vector<Caption> captions;
     std::vector<QStackedWidget*> stacks;
-    MarkBelow(page, taken, stacks);
+    CollectBelow(page, captions, stacks);
+
+    const auto hasLetter = [&taken](const Caption& caption) {
+        const qsizetype at = caption.text.indexOf(u'&') + 1;
+        if (at > 0 && at < caption.text.size()) {
+            taken.insert(caption.text[at].toLower());
+        }
+        return at > 0;
+    };
+    std::erase_if(captions, hasLetter);
+    const CLetters letters(captions, taken);
+    for (Caption& caption : captions) {
+        if (caption.marked >= 0) {
+            taken.insert(caption.text[caption.marked].toLower());
+            caption.show(caption.text.insert(caption.marked, u'&'));
+        }
+    }
     for (const QStackedWidget* stack : stacks) {
         for (int i = 0; i < stack->count(); ++i) {
             MarkPage(*stack->widget(i), taken);
