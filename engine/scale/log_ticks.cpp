@@ -65,6 +65,21 @@ void setLinear(Ticks& ticks, const Scale& scale, double majorDecades, double min
         ticks.minor = without(evenValues(scale, part), values, part);
 }
 
+/// Plain numbers, or all of them with an exponent where one needs it.
+std::vector<std::string> logLabels(const std::vector<double>& values) {
+    std::vector<std::string> labels;
+    bool exponents = false;
+    for (const double value : values) {
+        labels.push_back(numberText(value));
+        exponents = exponents || labels.back().find('e') != std::string::npos;
+    }
+    for (std::size_t i = 0; exponents && i < values.size(); ++i) {
+        const double exponent = std::floor(std::log10(values[i]) + 1e-9);
+        labels[i] = numberText(std::round(values[i] / std::pow(10.0, exponent))) + 'e' + numberText(exponent);
+    }
+    return labels;
+}
+
 /// The densest of the sets whose ticks stand at least `decades` apart; null if none does.
 const Digits* densest(double decades) {
     for (const Digits* set : {&kAll, &k125, &k1})
@@ -86,10 +101,7 @@ Ticks logTicks(const Scale& scale, const Density& density) {
     const Digits* set = densest(majorDecades);
     const int every = set != nullptr ? 1 : static_cast<int>(niceStep(majorDecades));
     const auto major = multiples(scale, set != nullptr ? *set : k1, every);
-    std::vector<std::string> labels;
-    for (const double value : major)
-        labels.push_back(numberText(value));
-    setMajor(ticks, major, std::move(labels));
+    setMajor(ticks, major, logLabels(major));
     if (const Digits* minor = minorDecades > 0 ? densest(minorDecades) : nullptr)
         ticks.minor = multiples(scale, *minor);
     // Both lists ascend, so what is left of the minor ticks does too.

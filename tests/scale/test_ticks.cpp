@@ -213,7 +213,7 @@ TEST(LogTicks, DecadesAndParts) {
         // for 2 and 5 and the decades between the labels (37 in all, less 7).
         {3, 4000, 270, "1 | 10 | 100 | 1000 | 10000", 32},
         {1, 1e12, 270, "1 | 100 | 10000 | 1000000 | 100000000 | 10000000000 | 1000000000000", 30},
-        {2e-8, 0.7, 270, "1e-8 | 1e-7 | 1e-6 | 0.00001 | 0.0001 | 0.001 | 0.01 | 0.1 | 1", 16},
+        {2e-8, 0.7, 270, "1e-8 | 1e-7 | 1e-6 | 1e-5 | 1e-4 | 1e-3 | 1e-2 | 1e-1 | 1e0", 16},
         {1.5, 60, 270, "1 | 2 | 5 | 10 | 20 | 50 | 100", 12},
         {85, 120, 270, "85 | 90 | 95 | 100 | 105 | 110 | 115 | 120", 28},
         {100, 100, 270, "10 | 20 | 50 | 100 | 200 | 500 | 1000", 12},
@@ -229,6 +229,8 @@ TEST(LogTicks, DecadesAndParts) {
         expectSound(ticks, scale, c.length);
     }
     EXPECT_EQ(labels(logTicks(Scale::log(1, 10), {2000})), "1 | 2 | 3 | 4 | 5 | 6 | 7 | 8 | 9 | 10");
+    // One notation for all: 10000000000 does not stand beside 1e20.
+    EXPECT_EQ(labels(logTicks(Scale::log(1, 1e20), {140})), "1e0 | 1e5 | 1e10 | 1e15 | 1e20");
 }
 
 TEST(DateTicks, CalendarBorders) {
