@@ -37,8 +37,8 @@ public:
     /// odd pixel below or to the right.
     void line(QPointF from, QPointF to, Colour colour, double width);
     /// A connected line with round joins and ends. A point that is not a number breaks it; a point alone
-    /// between two breaks is a dot. Long lines are handed to the raster engine in pieces, so that a wide pen
-    /// stays linear in the number of points; a colour that shows through is laid on once all the same.
+    /// between two breaks is a dot. The cost is linear in the line's length for any pen, and a colour that
+    /// shows through is laid on once, however often the line crosses itself.
     void polyline(std::span<const QPointF> points, Colour colour, double width);
     /// A box: fill, then the effect, then the edge inside its outermost pixels. With a plain border effect
     /// and a default (-1) edge the border alone is drawn; without one a default edge is none. `edgeWidth` in

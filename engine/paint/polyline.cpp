@@ -1,5 +1,6 @@
 #include "engine/paint/canvas.h"
 #include "engine/paint/clip.h"
+#include "engine/paint/pen_mask.h"
 
 #include <algorithm>
 #include <cmath>
@@ -9,11 +10,8 @@ namespace chartdraw {
 
 namespace {
 
-// The raster engine's work on a wide pen grows with the square of what one outline covers twice; thin lines
-// are drawn one by one whatever their number. Both figures are the fastest of those measured.
-constexpr std::size_t kWidePiece = 12;
-constexpr std::size_t kThinPiece = 512;
-constexpr double kFarthest = 1e9; // pixels; beyond it slopes are no longer told apart
+constexpr std::size_t kPiece = 512; // segments in one call, the fastest number of those measured
+constexpr double kFarthest = 1e9;   // pixels; beyond it slopes are no longer told apart
 
 /// From the middle of pixels, which the callers name, to pixel borders. An even width is centred on a border.
 double penOffset(double width) {
@@ -29,80 +27,58 @@ bool isGap(QPointF point) {
     return std::isnan(point.x()) || std::isnan(point.y());
 }
 
-/// Draws the runs of points between gaps, each in pieces of a bounded number of segments.
-class PieceDrawer {
-public:
-    PieceDrawer(QPainter& painter, const QRectF& limits)
-        : m_painter(painter), m_limits(limits),
-          m_segments(painter.pen().widthF() > 1 ? kWidePiece : kThinPiece) {
-        m_piece.reserve(m_segments + 1);
-    }
-
-    void draw(std::span<const QPointF> points, double offset) {
-        for (std::size_t i = 0; i < points.size();) {
-            if (isGap(points[i])) {
-                ++i;
-                continue;
+/// Hands the segments of the runs of points between gaps, cut to the limits, and lone points, as segments
+/// without length, to `draw`.
+template <typename Draw>
+void forEachSegment(std::span<const QPointF> points, double offset, const QRectF& limits, const Draw& draw) {
+    const auto clipped = [&](QPointF from, QPointF to) {
+        if (clipSegment(from, to, limits)) {
+            draw(from, to);
+        }
+    };
+    for (std::size_t i = 0; i < points.size();) {
+        if (isGap(points[i])) {
+            ++i;
+            continue;
+        }
+        QPointF last = limited(points[i], offset);
+        bool moved = false;
+        for (++i; i < points.size() && !isGap(points[i]); ++i) {
+            const QPointF next = limited(points[i], offset);
+            if (next != last) {
+                clipped(last, next);
+                moved = true;
             }
-            QPointF last = limited(points[i], offset);
-            const QPointF first = last;
-            bool moved = false;
-            for (++i; i < points.size() && !isGap(points[i]); ++i) {
-                const QPointF next = limited(points[i], offset);
-                if (next != last) {
-                    segment(last, next);
-                    moved = true;
-                }
-                last = next;
-            }
-            flush();
-            if (!moved && m_limits.contains(first)) {
-                dot(first);
-            }
+            last = next;
+        }
+        if (!moved) {
+            clipped(last, last);
         }
     }
+}
 
-private:
-    void segment(QPointF from, QPointF to) {
-        if (!clipSegment(from, to, m_limits)) {
+/// A line one pixel wide in an opaque colour, by the raster engine, which has its fastest way for it.
+void drawThin(QPainter& painter, std::span<const QPointF> points, double offset, const QRectF& limits) {
+    std::vector<QPointF> piece;
+    piece.reserve(kPiece + 1);
+    const auto flush = [&] {
+        if (piece.size() > 1) {
+            painter.drawPolyline(piece.data(), static_cast<int>(piece.size()));
+        }
+        piece.clear();
+    };
+    forEachSegment(points, offset, limits, [&](QPointF from, QPointF to) {
+        if (from == to) {
+            painter.fillRect(QRectF(from - QPointF(0.5, 0.5), QSizeF(1, 1)), painter.pen().brush());
             return;
         }
-        if (m_piece.size() > m_segments || m_piece.empty() || m_piece.back() != from) {
+        if (piece.size() > kPiece || piece.empty() || piece.back() != from) {
             flush();
-            m_piece.push_back(from);
+            piece.push_back(from);
         }
-        m_piece.push_back(to);
-    }
-
-    void dot(QPointF centre) {
-        const double width = std::max(1.0, m_painter.pen().widthF());
-        const QRectF bounds(centre - QPointF(width, width) / 2, QSizeF(width, width));
-        QPainterPath path;
-        if (width > 1) {
-            path.addEllipse(bounds);
-        } else {
-            path.addRect(bounds);
-        }
-        m_painter.fillPath(path, m_painter.pen().brush());
-    }
-
-    void flush() {
-        if (m_piece.size() > 1) {
-            m_painter.drawPolyline(m_piece.data(), static_cast<int>(m_piece.size()));
-        }
-        m_piece.clear();
-    }
-
-    QPainter& m_painter;
-    QRectF m_limits;
-    std::size_t m_segments;
-    std::vector<QPointF> m_piece;
-};
-
-QPen roundPen(const QBrush& brush, double width) {
-    // A round join of a narrow pen looks no other and takes twice the time.
-    return {brush, width, Qt::SolidLine, width > 1 ? Qt::RoundCap : Qt::SquareCap,
-            width < 3 ? Qt::MiterJoin : Qt::RoundJoin};
+        piece.push_back(to);
+    });
+    flush();
 }
 
 QRectF boundsOf(std::span<const QPointF> points) {
@@ -155,34 +131,28 @@ void Canvas::polyline(std::span<const QPointF> points, Colour colour, double wid
     if (!(width > 0) || points.empty() || m_colours.invisible(colour)) {
         return;
     }
-    width = std::min(width, 1e5);
+    width = std::clamp(width, 1.0, 1e5);
     const double offset = penOffset(width);
     const QRectF limits = visible(width + 2);
     const QRectF extent = boundsOf(points);
     const QBrush brush = m_colours.brush(colour, extent);
-    if (brush.isOpaque() || points.size() < 3 || m_painter.transform().type() > QTransform::TxTranslate) {
-        m_painter.setPen(roundPen(brush, width));
-        PieceDrawer(m_painter, limits).draw(points, offset);
+    if (width == 1 && brush.isOpaque()) {
+        m_painter.setPen(QPen(brush, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+        drawThin(m_painter, points, offset, limits);
         return;
     }
-    // The pieces overlap: drawn opaque on a layer and coloured there, they show no joints.
-    const double reach = width + 2;
-    const QRect area = (extent.adjusted(-reach, -reach, reach, reach) & visible(1)).toAlignedRect();
+    const double reach = width / 2 + 2;
+    QRectF shown = extent.adjusted(-reach, -reach, reach, reach) & visible(1);
+    if (m_painter.hasClipping()) {
+        shown &= m_painter.clipBoundingRect();
+    }
+    const QRect area = shown.toAlignedRect();
     if (area.isEmpty()) {
         return;
     }
-    QImage layer(area.size(), QImage::Format_ARGB32_Premultiplied);
-    layer.fill(Qt::transparent);
-    {
-        QPainter painter(&layer);
-        painter.setRenderHints(m_painter.renderHints());
-        painter.translate(-area.topLeft());
-        painter.setPen(roundPen(Qt::black, width));
-        PieceDrawer(painter, limits).draw(points, offset);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceIn);
-        painter.fillRect(area, brush);
-    }
-    m_painter.drawImage(area.topLeft(), layer);
+    PenMask mask(area, width);
+    forEachSegment(points, offset, limits, [&](QPointF from, QPointF to) { mask.segment(from, to); });
+    mask.paint(m_painter, brush);
 }
 
 } // namespace chartdraw

@@ -139,6 +139,20 @@ std::vector<QPointF> wave(int points, double width, double height) {
     return line;
 }
 
+TEST(Polyline, PointsOnAStraightLineLeaveNoMark) {
+    const QPointF ends[] = {{20, 12}, {80, 87}};
+    for (const double width : {2.0, 3.0, 5.0, 30.0}) {
+        std::vector<QPointF> many;
+        for (int i = 0; i <= 40; ++i) {
+            many.push_back(ends[0] + (ends[1] - ends[0]) * i / 40);
+        }
+        const QImage dotted = drawn(100, 100, [&](Canvas& on) { on.polyline(many, 0, width); });
+        const QImage plain = drawn(100, 100, [&](Canvas& on) { on.polyline(ends, 0, width); });
+        EXPECT_LE(difference(dotted, plain), 1) << width;
+        EXPECT_EQ(plain.pixel(50, 50), 0xff000000) << width; // (50, 49.5) lies on the line
+    }
+}
+
 TEST(Polyline, PiecesLookLikeOneStroke) {
     const std::vector<QPointF> line = wave(120, 300, 100);
     for (const double width : {1.0, 2.0, 3.0, 7.0}) {
