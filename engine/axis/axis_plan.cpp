@@ -73,15 +73,26 @@ private:
         AutoScale options = settings().automatic;
         options.includeZero = m_request.includeZero;
         options.symmetric = m_request.symmetric;
+        DataRange data = m_request.data;
+        const DataRange& whole = m_request.whole;
+        if (!whole.empty) {
+            if (data.empty || data.max <= whole.max) {
+                options.topExtension = 0;
+            }
+            if (data.empty || data.min >= whole.min) {
+                options.bottomExtension = 0;
+            }
+            data.add(whole);
+        }
         const bool given = settings().limitsGiven;
         const double lower = settings().lower, upper = settings().upper;
         switch (settings().type) {
         case Type::Log:
-            return given ? Scale::log(lower, upper) : autoLogScale(m_request.data, options, density);
+            return given ? Scale::log(lower, upper) : autoLogScale(data, options, density);
         case Type::Date:
-            return given ? Scale::date(lower, upper) : autoDateScale(m_request.data, options);
+            return given ? Scale::date(lower, upper) : autoDateScale(data, options);
         default:
-            return given ? Scale::linear(lower, upper) : autoLinearScale(m_request.data, options, density);
+            return given ? Scale::linear(lower, upper) : autoLinearScale(data, options, density);
         }
     }
 

@@ -15,6 +15,7 @@ namespace chartdraw {
 /// What the chart knows of an axis's data.
 struct AxisRequest {
     DataRange data;           ///< of all that is shown on the axis
+    DataRange whole;          ///< of data with nothing to be kept free beyond them: percentages
     bool includeZero = false; ///< bars and areas stand on 0
     bool symmetric = false;   ///< 0 in the middle, with limits from the data
     /// Rows shown, for an axis without a numeric scale: the rows first to first + count - 1 of the data stand

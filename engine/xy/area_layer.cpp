@@ -88,7 +88,7 @@ DataRange AreaLayer::yRange() const {
         const std::size_t end = std::min(rows().end, border.size());
         range.add(std::span(border).subspan(std::min(rows().begin, end), end - std::min(rows().begin, end)));
     }
-    return range;
+    return m_percentage ? percentRange(range) : range;
 }
 
 void AreaLayer::drawArea(Canvas& canvas, const PlotFrame& frame, const DataSet& set,

@@ -16,6 +16,7 @@ public:
     AreaLayer(XYChart& chart, bool percentage, int depth);
 
     DataRange yRange() const override;
+    bool fillsRange() const override { return m_percentage; }
     bool needsZero() const override { return true; }
     void draw(Canvas& canvas, const PlotFrame& frame) override;
     void drawLabels(Canvas& canvas, const PlotFrame& frame) override;

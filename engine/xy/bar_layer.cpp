@@ -160,7 +160,7 @@ DataRange BarLayer::yRange() const {
             range.add(piece.to);
         }
     }
-    return range;
+    return fillsRange() ? percentRange(range) : range;
 }
 
 void BarLayer::drawPiece(Canvas& canvas, const PlotFrame& frame, const Places& places, std::size_t row,

@@ -30,6 +30,7 @@ public:
 
     DataRange xRange() const override;
     DataRange yRange() const override;
+    bool fillsRange() const override { return m_combine == Combine::Percentage; }
     bool needsZero() const override { return true; }
     bool wantsIndent() const override { return true; }
     void draw(Canvas& canvas, const PlotFrame& frame) override;

@@ -24,6 +24,7 @@ struct Tie {
 /// What layers say of an axis.
 struct Bound {
     DataRange data;
+    DataRange whole; ///< of layers that fill their range
     bool includeZero = false;
     bool any = false;
 };
@@ -63,7 +64,7 @@ private:
             x.data.add(layer->xRange());
             x.any = true;
             Bound& y = m_bound[indexOf(&layer->yAxis())];
-            y.data.add(layer->yRange());
+            (layer->fillsRange() ? y.whole : y.data).add(layer->yRange());
             y.any = true;
             y.includeZero = y.includeZero || layer->needsZero();
             rows = std::max(rows, layer->rows().size());
@@ -193,6 +194,7 @@ private:
                 for (std::size_t k = 0; k < m_axes.size(); ++k) {
                     if (m_ties[k].root == i && m_bound[k].any) {
                         request.data.add(onRoot(m_bound[k].data, m_ties[k]));
+                        request.whole.add(onRoot(m_bound[k].whole, m_ties[k]));
                         request.includeZero =
                             request.includeZero || (m_bound[k].includeZero && m_ties[k].intercept == 0);
                     }

@@ -144,6 +144,16 @@ DataRange Layer::yRange() const {
     return range;
 }
 
+DataRange Layer::percentRange(const DataRange& range) {
+    DataRange whole;
+    if (!range.empty) {
+        whole.add(range.minPositive); // log scales begin there; 0 where there is none
+        whole.add(range.max > 0 ? 100 : 0);
+        whole.add(range.min < 0 ? -100 : 0);
+    }
+    return whole;
+}
+
 void Layer::drawLabels(Canvas& /*canvas*/, const PlotFrame& /*frame*/) {}
 
 void Layer::collectKeys(std::vector<LegendKey>& keys) const {

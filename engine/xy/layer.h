@@ -111,9 +111,12 @@ public:
 
     /// The range of the x values of the rows shown. Bars and boxes add half their room at both ends.
     virtual DataRange xRange() const;
-    /// The range of what is shown along y in the rows shown: of sums where sets are stacked, 0 to 100 for
-    /// percentages. The base takes the values of all data sets.
+    /// The range of what is shown along y in the rows shown: of sums where sets are stacked; 0 to 100 for
+    /// percentages, and -100 where there are negative ones. The base takes the values of all data sets.
     virtual DataRange yRange() const;
+    /// Whether yRange is all that there can be, so that an axis for it keeps nothing free beyond:
+    /// percentages.
+    virtual bool fillsRange() const { return false; }
     /// Whether what is drawn begins at zero, so that the axis must show it.
     virtual bool needsZero() const { return false; }
     /// Whether half a row is wanted at both ends of an axis of rows.
@@ -133,6 +136,8 @@ protected:
     /// Pixels of depth where -1 was asked for.
     virtual int automaticDepth() const { return 10; }
     void changed();
+    /// The whole range of percentages of which some of `range` are shown.
+    static DataRange percentRange(const DataRange& range);
 
 private:
     TextBox* labelStyle(TextBox*& box, const TextLook& look);

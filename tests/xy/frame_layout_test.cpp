@@ -3,6 +3,8 @@
 #include "engine/data/chart_time.h"
 #include "engine/data/label_filter.h"
 #include "engine/text/alignment.h"
+#include "engine/xy/area_layer.h"
+#include "engine/xy/bar_layer.h"
 #include "engine/xy/frame_layout.h"
 #include "tests/xy/probe.h"
 
@@ -89,6 +91,35 @@ TEST_F(FrameLayoutTest, AxesTakeTheirLimitsFromTheLayersBoundToThem) {
     for (Axis* axis : {stranger.yAxis(), chart.xAxis(), static_cast<Axis*>(nullptr)}) {
         other->setYAxis(axis);
         EXPECT_EQ(&other->yAxis(), chart.yAxis2());
+    }
+}
+
+TEST_F(FrameLayoutTest, PercentagesFillTheirAxis) {
+    const struct {
+        std::vector<double> first, second, beside;
+        std::pair<double, double> limits;
+    } rows[] = {
+        {{1, 2, 3}, {7, 5, 6}, {}, {0, 100}},    {{1, -2}, {3, -5}, {}, {-100, 100}},
+        {{-1, -2}, {-3, -5}, {}, {-100, 0}},     {{1, 2}, {7, 5}, {10, 95}, {0, 100}},
+        {{1, 2}, {7, 5}, {10, 130}, {0, 150}},   // 130 / 0.9 = 144, and steps of at least 26 pixels
+        {{1, 2}, {7, 5}, {-20, 50}, {-40, 100}}, // 100 - 120 / 0.9 = -33
+    };
+    for (const auto& row : rows) {
+        for (const bool bars : {true, false}) {
+            XYChart tried(400, 300, 0xffffff, kTransparent, 0);
+            tried.setPlotArea(50, 30, 300, 200);
+            Layer* layer =
+                bars ? static_cast<Layer*>(tried.addLayer<BarLayer>(BarLayer::Combine::Percentage, 0))
+                     : tried.addLayer<AreaLayer>(true, 0);
+            layer->addDataSet(row.first, kDefaultColour, {});
+            layer->addDataSet(row.second, kDefaultColour, {});
+            if (!row.beside.empty()) {
+                tried.addLayer<Probe>(Form::Polyline, row.beside);
+            }
+            const AxisMap y = layoutFrame(tried).layers.at(0).y;
+            EXPECT_EQ(y.value(230), row.limits.first) << bars << row.limits.first;
+            EXPECT_EQ(y.value(30), row.limits.second) << bars << row.limits.second;
+        }
     }
 }
 
