@@ -9,9 +9,12 @@ namespace chartdraw {
 
 namespace {
 
-constexpr int kLane = 8; // pixels that the processor takes together
-constexpr int kUnit = 255 * 4;
+// Lanes are short loops kept from being unrolled: only loops are turned into operations on many pixels.
+constexpr int kLane = 8;             // pixels that the processor takes together
+constexpr int kUnit = 255 * 4;       // to a pixel
 constexpr double kMostUnits = 20000; // leaves room for a lane's width
+constexpr int kBand = 32;            // rows coloured at a time, few enough to stay in the cache
+constexpr double kLevel = 1e-9;      // slope below which a line has no row-wise middle
 
 using Lane = std::int16_t[kLane];
 
@@ -32,8 +35,6 @@ void cover(std::uint8_t* pixels, const Lane& lane) {
         pixels[k] = pixels[k] > covered ? pixels[k] : covered;
     }
 }
-constexpr int kBand = 32;       // rows coloured at a time, few enough to stay in the cache
-constexpr double kLevel = 1e-9; // slope below which a line has no row-wise middle
 
 } // namespace
 
