@@ -8,6 +8,10 @@ if(MSVC)
 else()
     target_compile_options(chart_flags INTERFACE -Wall -Wextra -Wpedantic -Wconversion -Wshadow
         $<$<BOOL:${CHART_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL GNU AND CMAKE_CXX_COMPILER_VERSION VERSION_LESS 13)
+        # This compiler sees an overlap in the standard library's own string + string when it optimises fully.
+        target_compile_options(chart_flags INTERFACE -Wno-restrict)
+    endif()
 endif()
 if(CHART_SANITIZE)
     target_compile_options(chart_flags INTERFACE -fsanitize=${CHART_SANITIZE} -fno-omit-frame-pointer)
