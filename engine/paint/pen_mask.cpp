@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
+#include <cstring>
 
 namespace chartdraw {
 
@@ -36,6 +38,14 @@ void cover(std::uint8_t* pixels, const Lane& lane) {
     }
 }
 
+/// Whether nothing can be added to the pixels of a lane.
+bool isFull(const std::uint8_t* pixels) {
+    std::uint64_t lane = 0;
+    static_assert(sizeof(lane) == kLane);
+    std::memcpy(&lane, pixels, sizeof(lane));
+    return lane == ~std::uint64_t{0};
+}
+
 } // namespace
 
 /// A segment as distances from its first end: along it and across it, at the middle of pixel (0, 0).
@@ -55,7 +65,11 @@ void PenMask::row(int y, int from, int to, const Stroke& stroke) {
     const double span = (kLane - 1) * stroke.ux;
     double along = stroke.along + from * stroke.ux + y * stroke.uy;
     double across = stroke.across + from * stroke.uy - y * stroke.ux;
-    for (int x = from; x < to; x += kLane, pixels += kLane) {
+    for (int x = from; x < to;
+         x += kLane, pixels += kLane, along += kLane * stroke.ux, across += kLane * stroke.uy) {
+        if (isFull(pixels)) {
+            continue; // as most are where a wide pen crosses its own line again and again
+        }
         Lane lane;
         if (std::min(along, along + span) >= 0 && std::max(along, along + span) <= stroke.length) {
             const std::int16_t left = units(m_reach + across), right = units(m_reach - across);
@@ -81,8 +95,6 @@ void PenMask::row(int y, int from, int to, const Stroke& stroke) {
             }
         }
         cover(pixels, lane);
-        along += kLane * stroke.ux;
-        across += kLane * stroke.uy;
     }
 }
 
