@@ -35,18 +35,16 @@ public:
             // Comes when the paint is over.
             QTimer::singleShot(0, this, [this] {
                 ++m_paints;
-                if (m_then) {
+                if (m_then)
                     m_then();
-                }
             });
         }
         return false;
     }
     /// Runs the events until the preview has been painted once more.
     void Wait() const {
-        for (const int before = m_paints; m_paints == before;) {
+        for (const int before = m_paints; m_paints == before;)
             QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-        }
     }
     void Then(std::function<void()> then) { m_then = std::move(then); }
 
@@ -56,9 +54,8 @@ private:
 };
 
 void Close() {
-    if (QWidget* dialog = QApplication::activeModalWidget()) {
+    if (QWidget* dialog = QApplication::activeModalWidget())
         dialog->close();
-    }
 }
 
 void open(benchmark::State& state) {
@@ -102,9 +99,8 @@ BENCHMARK(press)->Unit(benchmark::kMillisecond)->UseRealTime();
 } // namespace
 
 int main(int argc, char** argv) {
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
     const QApplication application(argc, argv);
     benchmark::Initialize(&argc, argv);
     benchmark::RunSpecifiedBenchmarks();

@@ -1,7 +1,7 @@
 // The search of 500 font files, TrueType and collections, in one folder and its subfolders.
 
-#include "font/font_catalogue.h"
-#include "font/font_folders.h"
+#include "editors/font/font_catalogue.h"
+#include "editors/font/font_folders.h"
 
 #include <QDir>
 #include <QFile>

@@ -2,7 +2,7 @@
 // by the plain painter, which no library can beat by much.
 
 #include "bench/floor.h"
-#include "drawing/surface.h"
+#include <chartdraw/surface.h>
 
 #include <QLineF>
 #include <QPainter>
@@ -50,9 +50,8 @@ void angularByPainter(benchmark::State& state) {
         painter.setFont(font);
         if (state.range(0) != 0) {
             QLinearGradient metal(0, 55, 0, 495);
-            for (int i = 0; i <= 8; ++i) {
+            for (int i = 0; i <= 8; ++i)
                 metal.setColorAt(i / 8.0, QColor::fromHsv(240, 40 + i % 4 * 30, 220));
-            }
             painter.setPen(Qt::NoPen);
             painter.setBrush(metal);
             painter.drawEllipse(QPointF(250, 275), 220, 220);

@@ -2,7 +2,7 @@
 // beside the same rectangles, sectors and texts by the plain painter, which no library can beat by much.
 
 #include "bench/floor.h"
-#include "drawing/surface.h"
+#include <chartdraw/surface.h>
 
 #include <QPainter>
 #include <benchmark/benchmark.h>

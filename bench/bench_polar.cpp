@@ -2,7 +2,7 @@
 // bitmap file, beside the same circles, lines and texts by the plain painter.
 
 #include "bench/floor.h"
-#include "drawing/surface.h"
+#include <chartdraw/surface.h>
 
 #include <QPainter>
 #include <benchmark/benchmark.h>
@@ -52,12 +52,10 @@ void polarByPainter(benchmark::State& state) {
         painter.setFont(font);
         painter.setPen(QColor(0xcc, 0xcc, 0xcc));
         const int rings = empty ? 10 : 5;
-        for (int i = 1; i <= rings; ++i) {
+        for (int i = 1; i <= rings; ++i)
             painter.drawEllipse(QPointF(250, 275), 200.0 * i / rings, 200.0 * i / rings);
-        }
-        for (int i = 0; i < 12; ++i) {
+        for (int i = 0; i < 12; ++i)
             painter.drawLine(at(0, 0), at(i * 30, 200));
-        }
         painter.setPen(Qt::black);
         painter.drawLine(250, 75, 250, 275);
         for (int i = 0; i <= rings; ++i) {

@@ -1,8 +1,8 @@
 // From RefreshPreview to the painted pane for the default pie, whole and in its steps, and scrolling, which
 // only copies.
 
-#include "drawing/pie.h"
-#include "preview/chart_preview_view.h"
+#include "editors/preview/chart_preview_view.h"
+#include "render/pie.h"
 #include "resources/preview_menu.h"
 #include <QApplication>
 #include <QScrollBar>

@@ -1,7 +1,7 @@
 // XY charts, built, drawn and made into the bitmap file, each beside the same marks by the plain painter.
 
 #include "bench/floor.h"
-#include "drawing/surface.h"
+#include <chartdraw/surface.h>
 
 #include <QLineF>
 #include <QPainter>
@@ -42,9 +42,8 @@ struct Floor {
             text(QRectF(0, kTop + i * kPlotHeight / 5 - 8, kLeft - 6, 16), 100 - i * 20, Qt::AlignRight);
         }
         painter.drawRect(QRectF(kLeft + 0.5, kTop + 0.5, kPlotWidth, kPlotHeight));
-        for (int i = 0; i < 6; ++i) {
+        for (int i = 0; i < 6; ++i)
             text(QRectF(kLeft + i * 100, kTop + kPlotHeight + 6, 100, 16), i);
-        }
     }
     void text(const QRectF& box, int number, Qt::Alignment alignment = Qt::AlignHCenter) {
         painter.drawText(box, static_cast<int>(alignment), QString::number(number));
@@ -64,9 +63,8 @@ void barsByLibrary(benchmark::State& state) {
         CBaseChart_addTitle(chart.base, "Sales by region", "bold", 12, -1, -1, -1);
         CBaseChart_addLegend(chart.base, kLeft, 28, false, nullptr, 8);
         Layer* layer = BarLayer2Layer(CXYChart_addBarLayer2(chart.xy, CHART_COMBINE_SIDE, 0));
-        for (int i = 0; i < 3; ++i) {
+        for (int i = 0; i < 3; ++i)
             CLayer_addDataSet(layer, kSets[i], 6, -1, kNames[i]);
-        }
         CLayer_setDataLabelStyle(layer, nullptr, 8, -1, 0);
         chart.make();
     }
@@ -136,9 +134,8 @@ void lineByPainter(benchmark::State& state) {
                 low = values[i] < low ? values[i] : low;
                 high = values[i] > high ? values[i] : high;
             }
-            for (const double value : {first, low, high, last}) {
+            for (const double value : {first, low, high, last})
                 points.emplace_back(kLeft + column, kTop + kPlotHeight / 2.0 - value);
-            }
         }
         floor.painter.setPen(QPen(QColor(0x44, 0x79, 0xbb), static_cast<double>(state.range(1))));
         for (std::size_t i = 0; i + 1 < points.size(); i += 12) {

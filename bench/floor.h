@@ -35,9 +35,8 @@ inline QByteArray bitmapFile(const QImage& image) {
 /// The main of a benchmark that draws: fonts need an application object, here one without a display.
 #define BENCH_MAIN()                                                                                         \
     int main(int argc, char** argv) {                                                                        \
-        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {                                                \
+        if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))                                                  \
             qputenv("QT_QPA_PLATFORM", "offscreen");                                                         \
-        }                                                                                                    \
         const QGuiApplication application(argc, argv);                                                       \
         benchmark::Initialize(&argc, argv);                                                                  \
         benchmark::RunSpecifiedBenchmarks();                                                                 \

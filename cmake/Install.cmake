@@ -1,14 +1,9 @@
 # What an installed copy holds: the libraries, their headers, and how CMake and pkg-config find them.
 include(CMakePackageConfigHelpers)
 
-set(package_targets charteditors chartdraw)
-if(TARGET chartrender)
-    list(APPEND package_targets chartrender)
-    install(FILES chartrender/chartrender.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/chartrender)
-endif()
-install(DIRECTORY model/include/charteditors DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(FILES drawing/surface.h DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/chartdraw)
-install(TARGETS ${package_targets} EXPORT ChartEditorsTargets)
+install(DIRECTORY engine/include/chartdraw model/include/charteditors render/include/chartrender
+        DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+install(TARGETS charteditors chartdraw chartrender EXPORT ChartEditorsTargets)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ChartEditors)
 install(EXPORT ChartEditorsTargets NAMESPACE ChartEditors:: DESTINATION ${package_dir})
@@ -27,6 +22,4 @@ function(chart_pkgconfig name description requires)
 endfunction()
 chart_pkgconfig(chartdraw "Charts as pictures, through flat functions" "")
 chart_pkgconfig(charteditors "Ready-made property editors for charts" "chartdraw")
-if(TARGET chartrender)
-    chart_pkgconfig(chartrender "Pictures of charts from a model and the host's data" "charteditors chartdraw")
-endif()
+chart_pkgconfig(chartrender "Pictures of charts from a model and the host's data" "charteditors chartdraw")

@@ -52,12 +52,10 @@ ChartRenderResult RenderPie(const Charts& charts, ChartPictureFormat format, CCh
     const bool named = charts.pie.m_sectors.size() == static_cast<int>(charts.data.values.size());
     std::vector<std::string> texts;
     std::vector<const char*> labels;
-    for (const QString& label : charts.data.labels) {
+    for (const QString& label : charts.data.labels)
         texts.push_back(Narrow(label));
-    }
-    for (const std::string& text : texts) {
+    for (const std::string& text : texts)
         labels.push_back(text.c_str());
-    }
     const CPieChartData data{charts.data.values.data(), named ? nullptr : labels.data(),
                              static_cast<int>(charts.data.values.size())};
     return RenderPieChart(charts.pie, charts.layout, data, format, picture);
@@ -110,9 +108,8 @@ Charts ExampleCharts() {
 void ShowData(Charts& charts, const LabelledValues& data, const QString& title) {
     charts.data = data;
     charts.pie.m_sectors = CPieChartSectors();
-    for (const QString& label : data.labels) {
+    for (const QString& label : data.labels)
         charts.pie.m_sectors.push_back(Sector(label, kDefaultColor));
-    }
     charts.layout.m_titles = CChartTitles();
     charts.layout.m_titles.push_back(Title(title, "bold", 15, 0x222222));
 }

@@ -31,9 +31,8 @@ public:
         Record record{m_line, {}};
         do {
             const std::optional<QString> cell = NextCell();
-            if (!cell) {
+            if (!cell)
                 return std::nullopt;
-            }
             record.cells.append(*cell);
         } while (Take(m_separator));
         TakeLineEnd();
@@ -57,36 +56,31 @@ private:
 
     void TakeLineEnd() {
         const bool carriage = Take(u'\r');
-        if (Take(u'\n') || carriage) {
+        if (Take(u'\n') || carriage)
             ++m_line;
-        }
     }
 
     bool AtCellEnd() const { return AtEnd() || Peek() == m_separator || Peek() == u'\n' || Peek() == u'\r'; }
 
     std::optional<QString> NextCell() {
-        while (Peek() == u' ') {
+        while (Peek() == u' ')
             ++m_at;
-        }
         QString quoted;
         if (Take(u'"')) {
             do {
                 const qsizetype end = m_text.indexOf(u'"', m_at);
-                if (end < 0) {
+                if (end < 0)
                     return std::nullopt;
-                }
                 quoted += m_text.mid(m_at, end - m_at);
                 m_at = end + 1;
-                if (Peek() == u'"') {
+                if (Peek() == u'"')
                     quoted += u'"'; // a doubled quote stands for one, and the text goes on
-                }
             } while (Take(u'"'));
             m_line += static_cast<int>(quoted.count(u'\n'));
         }
         const qsizetype from = m_at;
-        while (!AtCellEnd()) {
+        while (!AtCellEnd())
             ++m_at;
-        }
         return quoted + m_text.mid(from, m_at - from).trimmed();
     }
 
@@ -97,9 +91,8 @@ private:
 };
 
 std::optional<double> ToNumber(QString text, QChar separator) {
-    if (separator != u',') {
+    if (separator != u',')
         text.replace(u',', u'.');
-    }
     bool good = false;
     const double value = text.toDouble(&good);
     return good && std::isfinite(value) ? std::optional(value) : std::nullopt;
@@ -115,9 +108,8 @@ QString FaultOf(const Record& record, const std::optional<double>& value) {
         return QStringLiteral("a label and a value are wanted, and here are %1 columns.")
             .arg(record.cells.size());
     }
-    if (!value) {
+    if (!value)
         return QStringLiteral("\"%1\" is not a number.").arg(record.cells[1]);
-    }
     return *value < 0 ? QStringLiteral("%1 is below 0, and a pie has no place for it.").arg(record.cells[1])
                       : QString();
 }
@@ -131,24 +123,19 @@ CsvResult ReadRecords(const QString& text) {
     Splitter records(text);
     for (bool first = true; !records.AtEnd();) {
         const std::optional<Record> record = records.Next();
-        if (!record) {
+        if (!record)
             return Failed(AtLine(records.Line(), QStringLiteral("a quote is opened and never closed.")));
-        }
-        if (record->cells.size() == 1 && record->cells[0].isEmpty()) {
+        if (record->cells.size() == 1 && record->cells[0].isEmpty())
             continue;
-        }
         const std::optional<double> value = ToNumber(record->cells.value(1), records.Separator());
         const bool heading = first && record->cells.size() == 2 && !value;
         first = false;
-        if (heading) {
+        if (heading)
             continue;
-        }
-        if (const QString fault = FaultOf(*record, value); !fault.isEmpty()) {
+        if (const QString fault = FaultOf(*record, value); !fault.isEmpty())
             return Failed(AtLine(record->line, fault));
-        }
-        if (result.data.values.size() == kMostRows) {
+        if (result.data.values.size() == kMostRows)
             return Failed(AtLine(record->line, QStringLiteral("more than %1 rows.").arg(kMostRows)));
-        }
         result.data.labels.push_back(record->cells[0]);
         result.data.values.push_back(*value);
     }
@@ -158,32 +145,26 @@ CsvResult ReadRecords(const QString& text) {
 } // namespace
 
 CsvResult ReadCsv(const QByteArray& bytes) {
-    if (bytes.size() > kMostBytes) {
+    if (bytes.size() > kMostBytes)
         return Failed(QStringLiteral("The file is larger than a megabyte."));
-    }
     QStringDecoder decoder(QStringDecoder::Utf8); // drops the mark at the start, if there is one
     const QString text = decoder(bytes);
-    if (decoder.hasError() || text.contains(QChar(0))) {
+    if (decoder.hasError() || text.contains(QChar(0)))
         return Failed(QStringLiteral("The file is not a text in UTF-8."));
-    }
     CsvResult result = ReadRecords(text);
     const std::vector<double>& values = result.data.values;
-    if (!result.error.isEmpty()) {
+    if (!result.error.isEmpty())
         return result;
-    }
-    if (values.empty()) {
+    if (values.empty())
         return Failed(QStringLiteral("The file has no line with a label and a value."));
-    }
-    if (*std::max_element(values.begin(), values.end()) <= 0) {
+    if (*std::max_element(values.begin(), values.end()) <= 0)
         return Failed(QStringLiteral("All values are 0: there is nothing to share out."));
-    }
     return result;
 }
 
 CsvResult ReadCsvFile(const QString& path) {
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly)) {
+    if (!file.open(QIODevice::ReadOnly))
         return Failed(QStringLiteral("The file cannot be read: %1.").arg(file.errorString()));
-    }
     return ReadCsv(file.read(kMostBytes + 1));
 }

@@ -115,9 +115,8 @@ void HostWindow::ShowChart() {
 }
 
 void HostWindow::Edit() {
-    if (Kind().edit(m_charts)) {
+    if (Kind().edit(m_charts))
         ShowChart();
-    }
 }
 
 void HostWindow::OpenData(const QString& path) {
@@ -136,27 +135,24 @@ void HostWindow::SavePicture(const QString& path) {
     const bool bitmap = path.endsWith(QStringLiteral(".bmp"), Qt::CaseInsensitive);
     CChartPicture picture;
     Kind().render(m_charts, bitmap ? ChartPictureFormat::Bmp : ChartPictureFormat::Png, picture);
-    if (!picture.Save(QFile::encodeName(path).constData())) {
+    if (!picture.Save(QFile::encodeName(path).constData()))
         Complain(QStringLiteral("The picture cannot be written to %1.").arg(path));
-    }
 }
 
 void HostWindow::AskForData() {
     const QString path =
         QFileDialog::getOpenFileName(this, QStringLiteral("Open data"), QString(),
                                      QStringLiteral("Labels and values (*.csv *.tsv *.txt)"));
-    if (!path.isEmpty()) {
+    if (!path.isEmpty())
         OpenData(path);
-    }
 }
 
 void HostWindow::AskForPicture() {
     const QString path =
         QFileDialog::getSaveFileName(this, QStringLiteral("Save picture"), QStringLiteral("chart.png"),
                                      QStringLiteral("PNG pictures (*.png);;Bitmaps (*.bmp)"));
-    if (!path.isEmpty()) {
+    if (!path.isEmpty())
         SavePicture(path);
-    }
 }
 
 void HostWindow::Complain(const QString& text) {
@@ -164,9 +160,8 @@ void HostWindow::Complain(const QString& text) {
 }
 
 void HostWindow::dragEnterEvent(QDragEnterEvent* event) {
-    if (!DraggedFile(event->mimeData()).isEmpty()) {
+    if (!DraggedFile(event->mimeData()).isEmpty())
         event->acceptProposedAction();
-    }
 }
 
 void HostWindow::dropEvent(QDropEvent* event) {

@@ -13,11 +13,9 @@ namespace {
 /// Without a display the toolkit would end the process before it can say anything useful.
 bool GoOffscreen() {
 #if defined(__unix__) && !defined(__APPLE__)
-    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) {
-        if (!qEnvironmentVariableIsEmpty(name)) {
+    for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
+        if (!qEnvironmentVariableIsEmpty(name))
             return false;
-        }
-    }
     qputenv("QT_QPA_PLATFORM", "offscreen");
     return true;
 #else
@@ -53,9 +51,8 @@ int main(int argc, char** argv) {
         }
         ShowData(charts, read.data, QFileInfo(path).completeBaseName());
     }
-    if (parser.isSet(pictures)) {
+    if (parser.isSet(pictures))
         return WritePictures(charts, parser.value(pictures)) ? 0 : 1;
-    }
     if (blind) {
         std::fputs("There is no display. --pictures DIR writes pictures of all there is to see.\n", stderr);
         return 1;

@@ -61,9 +61,8 @@ bool WritePictures(const Charts& charts, const QString& folder) {
     HostWindow window(charts);
     bool good = writer.Write(QStringLiteral("window.png"), window.grab());
     for (const ChartKind& kind : ChartKinds()) {
-        if (kind.edit == nullptr) {
+        if (kind.edit == nullptr)
             continue;
-        }
         const QString name = QString::fromUtf8(kind.file);
         good = writer.Write(name + QStringLiteral("-editor.png"), PictureOfEditor(kind, charts)) && good;
         good = writer.Write(name + QStringLiteral("-chart.png"), PictureOfChart(kind, charts)) && good;

@@ -1,8 +1,8 @@
 #include "editors/fields/color_field.h"
 
-#include "colour/color_dlg.h"
+#include "editors/colour/color_dlg.h"
 #include "editors/fields/field_layout.h"
-#include "preview/chart_preview_view.h"
+#include "editors/preview/chart_preview_view.h"
 #include "resources/string_table.h"
 
 #include <QLabel>

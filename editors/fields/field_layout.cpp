@@ -37,8 +37,7 @@ void OpenBy(CDialog& field, QPushButton& button, const std::function<void()>& ch
 
 void SendToPage(CDialog& field, int key) {
     QWidget* above = field.parentWidget();
-    while (above != nullptr && dynamic_cast<CDialog*>(above) == nullptr) {
+    while (above != nullptr && dynamic_cast<CDialog*>(above) == nullptr)
         above = above->parentWidget();
-    }
     SendFieldChanged(above, key);
 }

@@ -1,8 +1,8 @@
 #include "editors/fields/font_field.h"
 
 #include "editors/fields/field_layout.h"
+#include "editors/font/font_dlg.h"
 #include "editors/framework/conventions.h"
-#include "font/font_dlg.h"
 
 #include <QGridLayout>
 #include <QLabel>

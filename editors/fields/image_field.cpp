@@ -1,8 +1,8 @@
 #include "editors/fields/image_field.h"
 
-#include "colour/image_file_dlg.h"
+#include "editors/colour/image_file_dlg.h"
 #include "editors/fields/field_layout.h"
-#include "preview/chart_preview_view.h"
+#include "editors/preview/chart_preview_view.h"
 
 #include <QLabel>
 

@@ -11,13 +11,12 @@
 /// The value as the type that a control shows: numbers, flags and codes by a cast, texts by their encoding.
 template <class To, class From>
 To ValueAs(const From& value) {
-    if constexpr (std::is_same_v<To, QString> && std::is_same_v<From, CChartString>) {
+    if constexpr (std::is_same_v<To, QString> && std::is_same_v<From, CChartString>)
         return FromModelText(value);
-    } else if constexpr (std::is_same_v<To, CChartString> && std::is_same_v<From, QString>) {
+    else if constexpr (std::is_same_v<To, CChartString> && std::is_same_v<From, QString>)
         return ToModelText(value);
-    } else {
+    else
         return static_cast<To>(value);
-    }
 }
 
 template <class T>
@@ -50,9 +49,8 @@ public:
     bool Store(const T& value) const { return m_set(value); }
     const void* Owner() const { return m_owner; }
     void Afterwards() const {
-        if (m_afterwards) {
+        if (m_afterwards)
             m_afterwards();
-        }
     }
 
 private:

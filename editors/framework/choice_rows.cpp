@@ -10,7 +10,8 @@
 
 CCheckRow::CCheckRow(CForm& form, CBinding<bool> field, const char* text)
     : CValueRow(form, std::move(field)), m_box(new QCheckBox(QString::fromUtf8(text), &form.Page())) {
-    QObject::connect(m_box, &QCheckBox::clicked, m_box, [this] { Chosen(); });
+    QObject::connect(
+        m_box, &QCheckBox::clicked, m_box, [this] { Chosen(); });
 }
 
 QWidget* CCheckRow::Control() const {
@@ -27,19 +28,17 @@ void CCheckRow::Load() {
 }
 
 bool CCheckRow::Exchange(bool read) {
-    if (read) {
+    if (read)
         m_mirror = m_box->isChecked();
-    } else {
+    else
         m_box->setChecked(m_mirror);
-    }
     return true;
 }
 
 CComboRow::CComboRow(CForm& form, CBinding<std::int32_t> field, std::vector<CChoice> choices)
     : CValueRow(form, std::move(field)), m_choices(std::move(choices)), m_box(new CQuietCombo(&form.Page())) {
-    for (const CChoice& choice : m_choices.Rows()) {
+    for (const CChoice& choice : m_choices.Rows())
         m_box->addItem(QString::fromUtf8(choice.text));
-    }
     QObject::connect(m_box, &QComboBox::activated, m_box, [this] { Chosen(); });
 }
 
@@ -53,11 +52,10 @@ CComboRow& CComboRow::Otherwise(int row) {
 }
 
 bool CComboRow::Exchange(bool read) {
-    if (!read) {
+    if (!read)
         m_box->setCurrentIndex(m_choices.RowOf(m_mirror, m_otherwise));
-    } else {
+    else
         m_mirror = m_choices.CodeOf(m_box->currentIndex(), m_mirror);
-    }
     return true;
 }
 
@@ -81,9 +79,8 @@ bool CRadioRow::Exchange(bool read) {
     if (!read) {
         // With a code of no button, none is on.
         m_buttons->setExclusive(false);
-        for (QAbstractButton* button : m_buttons->buttons()) {
+        for (QAbstractButton* button : m_buttons->buttons())
             button->setChecked(m_buttons->id(button) == m_mirror);
-        }
         m_buttons->setExclusive(true);
     } else if (m_buttons->checkedId() >= 0) {
         m_mirror = m_buttons->checkedId();

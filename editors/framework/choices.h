@@ -17,21 +17,17 @@ struct CChoice {
 class CChoices {
 public:
     explicit CChoices(std::vector<CChoice> rows) : m_rows(std::move(rows)) {
-        for (std::size_t row = 0; row < m_rows.size(); ++row) {
-            if (m_rows[row].code < 0) {
+        for (std::size_t row = 0; row < m_rows.size(); ++row)
+            if (m_rows[row].code < 0)
                 m_rows[row].code = static_cast<int>(row);
-            }
-        }
     }
 
     const std::vector<CChoice>& Rows() const { return m_rows; }
     /// The first row with that code; `otherwise` if there is none.
     int RowOf(int code, int otherwise) const {
-        for (std::size_t row = 0; row < m_rows.size(); ++row) {
-            if (m_rows[row].code == code) {
+        for (std::size_t row = 0; row < m_rows.size(); ++row)
+            if (m_rows[row].code == code)
                 return static_cast<int>(row);
-            }
-        }
         return otherwise;
     }
     /// The code of a row; `otherwise` if there is no such row.

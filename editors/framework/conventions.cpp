@@ -7,14 +7,12 @@
 
 double RoundTo(double value, int digits) {
     const double sign = value >= 0 ? 1 : -1;
-    if (digits < 1) {
+    if (digits < 1)
         return std::ceil(value) * sign;
-    }
     const double scale = std::pow(10.0, digits);
     const double scaled = std::trunc(std::fabs(value) * scale + 0.5);
-    if (!std::isfinite(scaled)) {
+    if (!std::isfinite(scaled))
         return 0;
-    }
     const auto low = static_cast<std::int32_t>(static_cast<std::uint32_t>(std::fmod(scaled, 4294967296.0)));
     return sign * low / scale + 0.0; // no negative zero
 }
@@ -62,11 +60,9 @@ QString FromEditText(const QString& text) {
 }
 
 QString FirstLineOf(const QString& text) {
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        if (text[i] == u'\r' || text[i] == u'\n') {
+    for (qsizetype i = 0; i < text.size(); ++i)
+        if (text[i] == u'\r' || text[i] == u'\n')
             return text.left(i) + QStringLiteral("...");
-        }
-    }
     return text;
 }
 

@@ -1,7 +1,7 @@
 #include "editors/framework/editor_frame.h"
 
+#include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/dialog.h"
-#include "preview/chart_preview_view.h"
 
 #include <QHBoxLayout>
 #include <QVBoxLayout>
@@ -49,9 +49,8 @@ void LayEditor(CDialog& dialog, CChartPreviewView* preview, QLayout* body, QWidg
     all->addWidget(buttons);
     if (preview != nullptr) {
         // Sizes can be known once all stands in its place and has its style.
-        for (const QWidget* widget : dialog.findChildren<QWidget*>()) {
+        for (const QWidget* widget : dialog.findChildren<QWidget*>())
             widget->ensurePolished();
-        }
         all->activate();
         SizePreview(*preview, body->sizeHint(), buttons->sizeHint());
     }

@@ -33,9 +33,8 @@ CForm::CForm(CDialog& page, QWidget& owner) : CForm(page, [&owner] { SendFieldCh
 
 CForm::~CForm() {
     m_page.SetControls(nullptr);
-    if (m_bands->parent() == nullptr) {
+    if (m_bands->parent() == nullptr)
         delete m_bands; // the page was never started
-    }
 }
 
 void CForm::Band() {
@@ -47,9 +46,8 @@ void CForm::Band() {
 }
 
 void CForm::Column() {
-    if (m_columns == nullptr) {
+    if (m_columns == nullptr)
         Band();
-    }
     m_column = new QVBoxLayout;
     m_columns->addLayout(m_column);
     EndGroup();
@@ -63,9 +61,8 @@ QGroupBox* CForm::Group(const char* caption) {
 }
 
 void CForm::BeginGroup(QWidget* box) {
-    if (m_column == nullptr) {
+    if (m_column == nullptr)
         Column();
-    }
     m_group = box;
     m_parts = new QHBoxLayout(box);
     m_parts->setSpacing(12);
@@ -173,14 +170,12 @@ QLayout* CForm::Layout() const {
 }
 
 QString CForm::NameFor(const char* label) const {
-    if (label != nullptr) {
+    if (label != nullptr)
         return WithoutColon(QString::fromUtf8(label));
-    }
     const QString group = m_group->objectName();
     QString name = group;
-    for (int n = 2; !group.isEmpty() && m_group->findChild<QWidget*>(name) != nullptr; ++n) {
+    for (int n = 2; !group.isEmpty() && m_group->findChild<QWidget*>(name) != nullptr; ++n)
         name = group + QString::asprintf(" %d", n);
-    }
     return name;
 }
 
@@ -200,11 +195,10 @@ QWidget* CForm::AddRow(const char* label, QWidget& control) {
         const QLayoutItem* before = m_part->itemAtPosition(line - 1, 1);
         const bool beside = dynamic_cast<CDialog*>(&control) != nullptr && before != nullptr &&
                             qobject_cast<CNumericEdit*>(before->widget()) != nullptr;
-        if (beside) {
+        if (beside)
             m_part->addWidget(&control, line - 1, 2);
-        } else {
+        else
             m_part->addWidget(&control, line, 0, 1, 3, place);
-        }
         return nullptr;
     }
     auto* text = new QLabel(QString::fromUtf8(label), &m_page);
@@ -231,38 +225,30 @@ void CForm::AlignLabels() const {
             parts.push_back({part, inset});
             for (int line = 0; line < part->rowCount(); ++line) {
                 const QLayoutItem* item = part->itemAtPosition(line, 0);
-                if (item != nullptr && qobject_cast<QLabel*>(item->widget()) != nullptr) {
+                if (item != nullptr && qobject_cast<QLabel*>(item->widget()) != nullptr)
                     width = std::max(width, inset + item->sizeHint().width());
-                }
             }
         }
-        for (const Labelled& labelled : parts) {
+        for (const Labelled& labelled : parts)
             labelled.part->setColumnMinimumWidth(0, width - labelled.inset);
-        }
     }
 }
 
 void CForm::Start() {
-    for (auto* column : m_bands->findChildren<QVBoxLayout*>()) {
-        if ((column->expandingDirections() & Qt::Vertical) == 0) {
+    for (auto* column : m_bands->findChildren<QVBoxLayout*>())
+        if ((column->expandingDirections() & Qt::Vertical) == 0)
             column->setStretch(column->count() - 1, 1); // the last group ends where the other columns end
-        }
-    }
-    if (m_page.layout() == nullptr) {
+    if (m_page.layout() == nullptr)
         m_page.setLayout(m_bands);
-    }
-    if (!m_grows) {
+    if (!m_grows)
         m_bands->addStretch();
-    }
     m_grows = true;
     AlignLabels();
     LoadRows(nullptr);
-    for (const auto& list : m_lists) {
+    for (const auto& list : m_lists)
         list->Fill();
-    }
-    if (m_page.isWindow()) {
+    if (m_page.isWindow())
         AssignMnemonics(m_page);
-    }
 }
 
 bool CForm::Exchange(bool read) {
@@ -276,12 +262,10 @@ bool CForm::Exchange(bool read) {
 }
 
 bool CForm::UpdateDataSafe() {
-    if (m_complaining) {
+    if (m_complaining)
         return false; // the box below takes the focus from another edit, which must not complain as well
-    }
-    if (m_page.UpdateData(true)) {
+    if (m_page.UpdateData(true))
         return true;
-    }
     m_complaining = true;
     QMessageBox(QMessageBox::Warning, m_page.window()->windowTitle(),
                 QStringLiteral("\"%1\" must be %2.").arg(m_bad->Name(), m_bad->Wants()), QMessageBox::Ok,
@@ -300,26 +284,20 @@ bool CForm::CommitFocused() {
 }
 
 void CForm::FieldChanged(int key) {
-    for (const auto& row : m_rows) {
-        if (key != 0 && row->Key() == key && !row->Store() && !row->TellsAlways()) {
+    for (const auto& row : m_rows)
+        if (key != 0 && row->Key() == key && !row->Store() && !row->TellsAlways())
             return;
-        }
-    }
     Notify();
 }
 
 void CForm::LoadRows(const void* owner) {
-    for (const auto& row : m_rows) {
-        if (owner == nullptr || row->Owner() == owner) {
+    for (const auto& row : m_rows)
+        if (owner == nullptr || row->Owner() == owner)
             row->Load();
-        }
-    }
     m_page.UpdateData(false);
-    for (const auto& row : m_rows) {
-        if (owner == nullptr || row->Owner() == owner) {
+    for (const auto& row : m_rows)
+        if (owner == nullptr || row->Owner() == owner)
             row->Loaded();
-        }
-    }
 }
 
 int CForm::SelectedOrWarn(CSimpleCombo& list, const char* message) {

@@ -15,15 +15,13 @@ public:
         watched->installEventFilter(this);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
-        if (event->type() != QEvent::FocusOut) {
+        if (event->type() != QEvent::FocusOut)
             return false;
-        }
         // The control does its own part first: to leave can bring the focus back to it.
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         watched->event(event);
-        if (reason != Qt::PopupFocusReason) {
+        if (reason != Qt::PopupFocusReason)
             m_leave(reason == Qt::ActiveWindowFocusReason);
-        }
         return true;
     }
 
@@ -35,9 +33,8 @@ private:
 
 void CFormRow::SetEnabled(bool enabled) {
     Control()->setEnabled(enabled);
-    if (m_label != nullptr) {
+    if (m_label != nullptr)
         m_label->setEnabled(enabled);
-    }
 }
 
 void CFormRow::SetName(const QString& name) {
@@ -54,31 +51,28 @@ QWidget* CFormRow::Page() const {
 }
 
 void CFormRow::Chosen() {
-    if (m_validated ? m_form.UpdateDataSafe() : (m_form.Page().UpdateData(true), Exchange(true))) {
+    if (m_validated ? m_form.UpdateDataSafe() : (m_form.Page().UpdateData(true), Exchange(true)))
         StoreAndTell();
-    }
 }
 
 void CFormRow::StoreAndTell(bool tell) {
     if (Store()) {
-        if (tell) {
+        if (tell)
             m_form.Notify();
-        }
         Afterwards();
     }
 }
 
 bool CEditRow::CommitIfIn(const QWidget* focus) {
-    if (focus != Control()) {
+    if (focus != Control())
         return false;
-    }
     Commit(true);
     return true;
 }
 
 void CEditRow::Watch(QWidget* control) {
-    m_watch =
-        std::make_unique<CFocusWatch>(control, [this](bool forAnotherWindow) { Leave(forAnotherWindow); });
+    m_watch = std::make_unique<CFocusWatch>(
+        control, [this](bool forAnotherWindow) { Leave(forAnotherWindow); });
 }
 
 void CEditRow::Written() {
@@ -103,7 +97,6 @@ void CEditRow::Commit(bool tell) {
 void CEditRow::Leave(bool forAnotherWindow) {
     // What nobody has changed is not written back: the model may hold more than the control shows. A text
     // that cannot be read yet waits for the return from another window.
-    if (ControlText() != m_settled && !(forAnotherWindow && !Exchange(true))) {
+    if (ControlText() != m_settled && !(forAnotherWindow && !Exchange(true)))
         Commit(!m_quietOnLeave);
-    }
 }

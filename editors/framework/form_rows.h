@@ -122,9 +122,8 @@ public:
     void Load() override { m_mirror = m_field.Value(); }
     bool Store() override {
         const bool stored = m_field.Store(m_mirror);
-        if (stored && m_then) {
+        if (stored && m_then)
             m_then();
-        }
         return stored;
     }
     void Afterwards() override { m_field.Afterwards(); }

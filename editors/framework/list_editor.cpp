@@ -7,7 +7,8 @@
 
 CListBase::CListBase(CForm& form, CSimpleCombo& combo, const char* caption, const char* noneSelected)
     : m_form(form), m_combo(combo), m_caption(caption), m_noneSelected(noneSelected) {
-    QObject::connect(&combo, &CSimpleCombo::SelectionChanged, &combo, [this](int row) { SyncFromItem(row); });
+    QObject::connect(
+        &combo, &CSimpleCombo::SelectionChanged, &combo, [this](int row) { SyncFromItem(row); });
     form.Buttons({{"Add", [this] { Add(); }}, {"Delete", [this] { Remove(); }}});
 }
 
@@ -23,17 +24,15 @@ void CListBase::Fill() {
 }
 
 void CListBase::SyncFromItem(int index) {
-    if (index < 0) {
+    if (index < 0)
         RenewDefault();
-    }
     m_form.LoadRows(this);
 }
 
 void CListBase::RefreshCaption() {
     const int row = Selected();
-    if (row < 0) {
+    if (row < 0)
         return;
-    }
     m_combo.Delete(row);
     m_combo.Insert(row, CaptionOf(row));
     m_combo.Select(row);
@@ -51,9 +50,8 @@ void CListBase::Add() {
 
 void CListBase::Remove() {
     const int row = m_form.SelectedOrWarn(m_combo, m_noneSelected);
-    if (row < 0) {
+    if (row < 0)
         return;
-    }
     Erase(row);
     FillRows();
     m_combo.Select(std::min(row, Count() - 1));
@@ -63,9 +61,8 @@ void CListBase::Remove() {
 
 void CListBase::FillRows() {
     m_combo.Clear();
-    for (int i = 0; i < Count(); ++i) {
+    for (int i = 0; i < Count(); ++i)
         m_combo.Add(CaptionOf(i));
-    }
 }
 
 QString CListBase::CaptionOf(int index) const {

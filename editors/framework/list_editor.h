@@ -95,9 +95,8 @@ private:
         return {[this, part]() -> T { return part(Selected() < 0 ? m_default : m_items[Selected()]); },
                 [this, part](const T& value) {
                     const int row = Selected();
-                    if (row >= 0) {
+                    if (row >= 0)
                         part(m_items[row]) = value;
-                    }
                     return row >= 0;
                 },
                 this, std::move(afterwards)};

@@ -39,9 +39,8 @@ private:
                 const QChar letter = text[i].toLower();
                 const bool begins = i == 0 || !text[i - 1].isLetterOrNumber() || text[i].isUpper();
                 if (!letter.isLetterOrNumber() || begins != wordsOnly || m_taken.contains(letter) ||
-                    tried.contains(letter)) {
+                    tried.contains(letter))
                     continue;
-                }
                 tried.insert(letter);
                 const auto owner = m_owners.constFind(letter);
                 if (owner == m_owners.cend() || Find(owner.value(), tried)) {
@@ -94,9 +93,8 @@ void MarkPage(QWidget& page, QSet<QChar> taken) {
 
     const auto hasLetter = [&taken](const Caption& caption) {
         const qsizetype at = caption.text.indexOf(u'&') + 1;
-        if (at > 0 && at < caption.text.size()) {
+        if (at > 0 && at < caption.text.size())
             taken.insert(caption.text[at].toLower());
-        }
         return at > 0;
     };
     std::erase_if(captions, hasLetter);
@@ -107,11 +105,9 @@ void MarkPage(QWidget& page, QSet<QChar> taken) {
             caption.show(caption.text.insert(caption.marked, u'&'));
         }
     }
-    for (const QStackedWidget* stack : stacks) {
-        for (int i = 0; i < stack->count(); ++i) {
+    for (const QStackedWidget* stack : stacks)
+        for (int i = 0; i < stack->count(); ++i)
             MarkPage(*stack->widget(i), taken);
-        }
-    }
 }
 
 } // namespace

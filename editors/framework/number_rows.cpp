@@ -54,9 +54,8 @@ bool CIntegerRow::Exchange(bool read) {
             m_unsigned ? qlonglong{std::numeric_limits<std::uint32_t>::max()} : Limits::max();
         bool good = false;
         const qlonglong typed = m_edit->Text().trimmed().toLongLong(&good);
-        if (!good || typed < Limits::min() || typed > ceiling) {
+        if (!good || typed < Limits::min() || typed > ceiling)
             return false;
-        }
         m_mirror = static_cast<std::int32_t>(typed);
     }
     Limit();
@@ -82,18 +81,15 @@ bool CRealRow::Exchange(bool read) {
     if (read) {
         bool good = false;
         const double typed = m_edit->Text().trimmed().toDouble(&good);
-        if (!good || !std::isfinite(typed)) {
+        if (!good || !std::isfinite(typed))
             return false;
-        }
         m_mirror = typed;
     }
-    if (m_rounded || !std::isfinite(m_mirror)) {
+    if (m_rounded || !std::isfinite(m_mirror))
         m_mirror = RoundTo(m_mirror, 2);
-    }
     Limit();
-    if (!read) {
+    if (!read)
         WriteText(QString::number(m_mirror, 'g', 15));
-    }
     return true;
 }
 

@@ -64,9 +64,8 @@ public:
 
 protected:
     void Limit() {
-        if (!m_limited || m_limited()) {
+        if (!m_limited || m_limited())
             this->m_mirror = std::clamp(this->m_mirror, m_floor, m_ceiling);
-        }
     }
 
     T m_step = 1;

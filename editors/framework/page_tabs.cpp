@@ -17,17 +17,14 @@ CPageTabs::CPageTabs(CDialog& dialog) : QTabWidget(&dialog), m_dialog(dialog) {
 }
 
 CPageTabs::~CPageTabs() {
-    for (int i = 0; i < count(); ++i) {
-        for (QWidget* page : widget(i)->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+    for (int i = 0; i < count(); ++i)
+        for (QWidget* page : widget(i)->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
             page->setParent(nullptr);
-        }
-    }
 }
 
 void CPageTabs::AttachPage(CDialog& page, const QString& caption) {
-    if (!caption.isEmpty()) {
+    if (!caption.isEmpty())
         addTab(new QStackedWidget, caption);
-    }
     auto* stack = static_cast<QStackedWidget*>(widget(count() - 1));
     page.Create(stack);
     stack->addWidget(&page);

@@ -29,11 +29,10 @@ public:
 } // namespace
 
 CTextRow::CTextRow(CForm& form, CBinding<QString> field, bool multiLine) : CValueRow(form, std::move(field)) {
-    if (multiLine) {
+    if (multiLine)
         m_lines = new CLinesEdit(&form.Page());
-    } else {
+    else
         m_line = new QLineEdit(&form.Page());
-    }
     Watch(Control());
 }
 
@@ -42,11 +41,10 @@ QWidget* CTextRow::Control() const {
 }
 
 void CTextRow::WhenTyped(const std::function<void()>& typed) {
-    if (m_lines != nullptr) {
+    if (m_lines != nullptr)
         QObject::connect(m_lines, &QPlainTextEdit::textChanged, m_lines, typed);
-    } else {
+    else
         QObject::connect(m_line, &QLineEdit::textChanged, m_line, typed);
-    }
 }
 
 QString CTextRow::ControlText() const {
@@ -55,9 +53,8 @@ QString CTextRow::ControlText() const {
 
 void CTextRow::Load() {
     CValueRow::Load();
-    if (m_lines != nullptr) {
+    if (m_lines != nullptr)
         m_mirror = FromEditText(m_mirror);
-    }
     Settle();
 }
 
@@ -67,11 +64,10 @@ bool CTextRow::Exchange(bool read) {
         return true;
     }
     if (ControlText() != m_mirror) { // only then: it would move the caret
-        if (m_lines != nullptr) {
+        if (m_lines != nullptr)
             m_lines->setPlainText(m_mirror);
-        } else {
+        else
             m_line->setText(m_mirror);
-        }
     }
     Written();
     return true;
@@ -94,9 +90,8 @@ void CTextRow::Put(const QString& text) {
 CFormatRow::CFormatRow(CForm& form, const std::vector<const char*>& texts)
     : CFormRow(form), m_box(new CQuietCombo(&form.Page())) {
     m_box->addItem(QString::fromUtf8(kNoFormat));
-    for (const char* text : texts) {
+    for (const char* text : texts)
         m_box->addItem(QString::fromUtf8(text));
-    }
 }
 
 CFormatRow& CFormatRow::For(CTextRow& text) {

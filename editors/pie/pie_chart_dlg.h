@@ -2,8 +2,8 @@
 // The editor of pie charts: one dialog without pages, its controls beside the preview.
 
 #include "editors/framework/form.h"
+#include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/dialog.h"
-#include "preview/chart_preview_view.h"
 
 class CPieChartDlg : public CDialog {
 public:

@@ -1,10 +1,10 @@
 // Operations of boxes, text boxes and legends.
 
-#include "drawing/surface.h"
 #include "engine/api/convert.h"
 #include "engine/chart/chart.h"
 #include "engine/chart/legend.h"
 #include "engine/paint/picture.h"
+#include <chartdraw/surface.h>
 
 #include <algorithm>
 #include <cmath>
@@ -44,9 +44,8 @@ void CBox_setBackground(Box* box, int background, int edge, int raisedEffect) {
 }
 
 void CBox_setPos(Box* box, int x, int y) {
-    if (auto* target = object<chartdraw::Box>(box)) {
+    if (auto* target = object<chartdraw::Box>(box))
         target->setPos(x, y);
-    }
 }
 
 void CBox_setSize(Box* box, int width, int height) {
@@ -62,9 +61,8 @@ int CBox_getHeight(Box* box) {
 }
 
 void CTextBox_setText(TextBox* box, const char* text) {
-    if (auto* target = object<chartdraw::TextBox>(box)) {
+    if (auto* target = object<chartdraw::TextBox>(box))
         target->setText(chartdraw::toText(text));
-    }
 }
 
 void CTextBox_setFontAngle(TextBox* box, double angle, bool vertical) {
@@ -75,16 +73,14 @@ void CTextBox_setFontAngle(TextBox* box, double angle, bool vertical) {
 }
 
 void CTextBox_setFontColor(TextBox* box, int color) {
-    if (auto* look = lookOf(box)) {
+    if (auto* look = lookOf(box))
         look->colour = chartdraw::orDefault(toColour(color), look->colour);
-    }
 }
 
 void CTextBox_setFontSize(TextBox* box, double height, double width) {
     if (auto* look = lookOf(box)) {
-        if (height > 0) {
+        if (height > 0)
             look->size = height;
-        }
         look->widthSize = width > 0 ? width : 0;
     }
 }
@@ -92,22 +88,19 @@ void CTextBox_setFontSize(TextBox* box, double height, double width) {
 void CTextBox_setFontStyle(TextBox* box, const char* font, int fontIndex) {
     if (auto* look = lookOf(box)) {
         look->font = chartdraw::toText(font);
-        if (fontIndex > 0 && !look->font.empty() && look->font.find('|') == std::string::npos) {
+        if (fontIndex > 0 && !look->font.empty() && look->font.find('|') == std::string::npos)
             look->font += '|' + std::to_string(fontIndex);
-        }
     }
 }
 
 void CTextBox_setAlignment(TextBox* box, int alignment) {
-    if (auto* look = lookOf(box)) {
+    if (auto* look = lookOf(box))
         look->alignment = chartdraw::alignmentOr(alignment, look->alignment);
-    }
 }
 
 void CTextBox_setHeight(TextBox* box, int height) {
-    if (auto* look = lookOf(box)) {
+    if (auto* look = lookOf(box))
         look->height = limitedSide(height);
-    }
 }
 
 void CTextBox_setMargin(TextBox* box, int margin) {

@@ -1,7 +1,7 @@
 // Casts of a handle to its base kind. The object stays the same; a handle of a wrong kind becomes null.
 
-#include "drawing/surface.h"
 #include "engine/object/object.h"
+#include <chartdraw/surface.h>
 
 namespace {
 

@@ -1,10 +1,10 @@
 // Operations of every chart: size, background, fonts, titles, texts, lines, legend, picture, patterns.
 
-#include "drawing/surface.h"
 #include "engine/api/convert.h"
 #include "engine/chart/chart.h"
 #include "engine/paint/picture.h"
 #include "engine/scale/format.h"
+#include <chartdraw/surface.h>
 
 using chartdraw::Chart;
 using chartdraw::handle;
@@ -17,9 +17,8 @@ namespace {
 /// A title as it looks until its box is edited: a little air around it, centred.
 chartdraw::TextLook titleLook(const char* font, double size, int fontColor, int background, int edge) {
     chartdraw::TextLook look = chartdraw::toLook(font, size > 0 ? size : 12, fontColor);
-    if (look.font.empty()) {
+    if (look.font.empty())
         look.font = "bold";
-    }
     look.background = chartdraw::orDefault(toColour(background), chartdraw::kTransparent);
     look.edge = chartdraw::orDefault(toColour(edge), chartdraw::kTransparent);
     look.setMargins(6, 6, 4, 4);
@@ -42,21 +41,18 @@ void CBaseChart_destroy(BaseChart* base) {
 }
 
 void CBaseChart_setSize(BaseChart* base, int width, int height) {
-    if (auto* chart = object<Chart>(base)) {
+    if (auto* chart = object<Chart>(base))
         chart->setSize(width, height);
-    }
 }
 
 void CBaseChart_setBackground(BaseChart* base, int background, int edge, int raisedEffect) {
-    if (auto* chart = object<Chart>(base)) {
+    if (auto* chart = object<Chart>(base))
         chart->setBackground(toColour(background), toColour(edge), raisedEffect);
-    }
 }
 
 void CBaseChart_setBgImage(BaseChart* base, const char* file, int alignment) {
-    if (auto* chart = object<Chart>(base)) {
+    if (auto* chart = object<Chart>(base))
         chart->setBackgroundImage(toText(file), alignment);
-    }
 }
 
 void CBaseChart_setRoundedFrame(BaseChart* base, int exterior, int r1, int r2, int r3, int r4) {
@@ -69,15 +65,13 @@ void CBaseChart_setRoundedFrame(BaseChart* base, int exterior, int r1, int r2, i
 
 void CBaseChart_setDefaultFonts(BaseChart* base, const char* normal, const char* bold, const char* italic,
                                 const char* boldItalic) {
-    if (auto* chart = object<Chart>(base)) {
+    if (auto* chart = object<Chart>(base))
         chart->setDefaultFonts({{toText(normal), toText(bold), toText(italic), toText(boldItalic)}});
-    }
 }
 
 void CBaseChart_setAntiAlias(BaseChart* base, bool shapes, int textMode) {
-    if (auto* chart = object<Chart>(base)) {
+    if (auto* chart = object<Chart>(base))
         chart->setAntiAlias(shapes, textMode);
-    }
 }
 
 TextBox* CBaseChart_addTitle(BaseChart* base, const char* title, const char* font, double size, int fontColor,
@@ -95,9 +89,8 @@ TextBox* CBaseChart_addTitle2(BaseChart* base, int alignment, const char* title,
 TextBox* CBaseChart_addText(BaseChart* base, int x, int y, const char* text, const char* font, double size,
                             int fontColor, int alignment, double angle, bool vertical) {
     auto* chart = object<Chart>(base);
-    if (chart == nullptr) {
+    if (chart == nullptr)
         return nullptr;
-    }
     chartdraw::TextLook look = chartdraw::toLook(font, size, fontColor, angle);
     look.vertical = vertical;
     look.alignment = chartdraw::alignmentOr(alignment, chartdraw::TopLeft);
@@ -112,9 +105,8 @@ Line* CBaseChart_addLine(BaseChart* base, int x1, int y1, int x2, int y2, int co
 
 LegendBox* CBaseChart_addLegend(BaseChart* base, int x, int y, bool vertical, const char* font, double size) {
     auto* chart = object<Chart>(base);
-    if (chart == nullptr) {
+    if (chart == nullptr)
         return nullptr;
-    }
     chartdraw::TextLook look = chartdraw::toLook(font, size, -1);
     look.setMargins(5, 5, 4, 4);
     return handle<LegendBox>(chart->addLegend({x, y}, vertical, look));
@@ -135,31 +127,25 @@ bool CBaseChart_makeChart2(BaseChart* base, int format, const char** data, int* 
     int count = 0;
     auto* chart = object<Chart>(base);
     const bool made = chart != nullptr && format == 4 && chart->makePicture(&bytes, &count);
-    if (data != nullptr) {
+    if (data != nullptr)
         *data = bytes;
-    }
-    if (length != nullptr) {
+    if (length != nullptr)
         *length = count;
-    }
     return made;
 }
 
 int CBaseChart_patternColor(BaseChart* base, const int* pixels, int count, int height, int startX,
                             int startY) {
     auto* chart = object<Chart>(base);
-    if (chart == nullptr || pixels == nullptr || height <= 0 || count < height) {
+    if (chart == nullptr || pixels == nullptr || height <= 0 || count < height)
         return static_cast<int>(chartdraw::kTransparent);
-    }
     const int width = count / height;
-    if (width > chartdraw::kMaxSide || height > chartdraw::kMaxSide) {
+    if (width > chartdraw::kMaxSide || height > chartdraw::kMaxSide)
         return static_cast<int>(chartdraw::kTransparent);
-    }
     QImage tile(width, height, QImage::Format_ARGB32);
-    for (int y = 0; y < height; ++y) {
-        for (int x = 0; x < width; ++x) {
+    for (int y = 0; y < height; ++y)
+        for (int x = 0; x < width; ++x)
             tile.setPixel(x, y, chart->colours().solid(toColour(pixels[y * width + x])).rgba());
-        }
-    }
     return static_cast<int>(chart->colours().addPattern(tile, startX, startY));
 }
 
@@ -177,9 +163,8 @@ const char* CBaseChart_formatValue(BaseChart* base, double value, const char* fo
 
 void CDrawArea_destroy(DrawArea* area) {
     auto* object = chartdraw::object<chartdraw::DrawArea>(area);
-    if (object != nullptr && !object->ownedByChart()) {
+    if (object != nullptr && !object->ownedByChart())
         delete object;
-    }
 }
 
 int CDrawArea_getWidth(DrawArea* area) {

@@ -31,17 +31,15 @@ inline std::vector<double> toDoubles(const double* data, int count) {
 
 inline std::vector<std::string> toTexts(const char* const* texts, int count) {
     std::vector<std::string> result;
-    for (int i = 0; texts != nullptr && i < count; ++i) {
+    for (int i = 0; texts != nullptr && i < count; ++i)
         result.push_back(toText(texts[i]));
-    }
     return result;
 }
 
 inline std::vector<Colour> toColours(const int* colours, int count) {
     std::vector<Colour> result;
-    for (int i = 0; colours != nullptr && i < count; ++i) {
+    for (int i = 0; colours != nullptr && i < count; ++i)
         result.push_back(toColour(colours[i]));
-    }
     return result;
 }
 
@@ -54,9 +52,8 @@ inline int alignmentOr(int code, int fallback) {
 inline TextLook toLook(const char* font, double size, int colour, double angle = 0) {
     TextLook look;
     look.font = toText(font);
-    if (size > 0) {
+    if (size > 0)
         look.size = size;
-    }
     look.colour = orDefault(toColour(colour), kTextColour);
     look.angle = angle;
     return look;

@@ -1,8 +1,8 @@
 // Operations without a handle that concern colours and effects.
 
-#include "drawing/surface.h"
 #include "engine/paint/colour.h"
 #include "engine/paint/effect.h"
+#include <chartdraw/surface.h>
 
 extern "C" {
 

@@ -1,6 +1,5 @@
 // Operations of the layers of XY charts and of their data sets.
 
-#include "drawing/surface.h"
 #include "engine/api/convert.h"
 #include "engine/data/no_value.h"
 #include "engine/xy/area_layer.h"
@@ -9,6 +8,7 @@
 #include "engine/xy/inter_line_layer.h"
 #include "engine/xy/line_layer.h"
 #include "engine/xy/xy_chart.h"
+#include <chartdraw/surface.h>
 
 #include <algorithm>
 #include <utility>
@@ -47,9 +47,8 @@ template <class Handle>
 Handle* addLine(XYChart* chart, Form form, const double* data, int count, int color, const char* name,
                 int depth) {
     auto* target = object<Chart>(chart);
-    if (target == nullptr) {
+    if (target == nullptr)
         return nullptr;
-    }
     auto* layer = target->addLayer<chartdraw::LineLayer>(form, depth);
     layer->addDataSet(toDoubles(data, count), toColour(color), toText(name));
     return handle<Handle>(layer);
@@ -98,9 +97,8 @@ AreaLayer* CXYChart_addAreaLayer2(XYChart* chart, int combine, int depth) {
 LineLayer* CXYChart_addScatterLayer(XYChart* chart, const double* x, int xCount, const double* y, int yCount,
                                     const char* name, int symbol, int size, int fill, int edge) {
     auto* target = object<Chart>(chart);
-    if (target == nullptr) {
+    if (target == nullptr)
         return nullptr;
-    }
     const int count = std::min(x != nullptr ? xCount : 0, y != nullptr ? yCount : 0);
     auto* layer = target->addLayer<chartdraw::LineLayer>(Form::Straight, 0);
     layer->setLineWidth(0);
@@ -117,9 +115,8 @@ BoxWhiskerLayer* CXYChart_addBoxWhiskerLayer(XYChart* chart, const double* top, 
                                              const double* middle, int middleCount, int fill, int whisker,
                                              int edge) {
     auto* target = object<Chart>(chart);
-    if (target == nullptr) {
+    if (target == nullptr)
         return nullptr;
-    }
     std::vector<std::vector<double>> series = {
         toDoubles(top, topCount), toDoubles(bottom, bottomCount), toDoubles(maximum, maximumCount),
         toDoubles(minimum, minimumCount), toDoubles(middle, middleCount)};
@@ -139,9 +136,8 @@ HLOCLayer* CXYChart_addHLOCLayer(XYChart* chart, const double* high, int highCou
                                  int lowCount, const double* open, int openCount, const double* close,
                                  int closeCount, int color) {
     auto* target = object<Chart>(chart);
-    if (target == nullptr) {
+    if (target == nullptr)
         return nullptr;
-    }
     std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
                                                toDoubles(open, openCount), toDoubles(close, closeCount)};
     return handle<HLOCLayer>(target->addLayer<chartdraw::HLOCLayer>(std::move(series), toColour(color)));
@@ -152,9 +148,8 @@ CandleStickLayer* CXYChart_addCandleStickLayer(XYChart* chart, const double* hig
                                                int openCount, const double* close, int closeCount, int rise,
                                                int fall, int edge) {
     auto* target = object<Chart>(chart);
-    if (target == nullptr) {
+    if (target == nullptr)
         return nullptr;
-    }
     std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
                                                toDoubles(open, openCount), toDoubles(close, closeCount)};
     return handle<CandleStickLayer>(target->addLayer<chartdraw::CandleStickLayer>(
@@ -182,41 +177,35 @@ DataSet* CLayer_getDataSet(Layer* layer, int index) {
 }
 
 void CLayer_set3D(Layer* layer, int depth, int zGap) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = object<chartdraw::Layer>(layer))
         target->set3D(depth, zGap);
-    }
 }
 
 void CLayer_setLineWidth(Layer* layer, int width) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = object<chartdraw::Layer>(layer))
         target->setLineWidth(width);
-    }
 }
 
 void CLayer_setBorderColor(Layer* layer, int color, int effect) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = object<chartdraw::Layer>(layer))
         target->setBorder(toColour(color), effect);
-    }
 }
 
 void CLayer_setXData(Layer* layer, const double* data, int count) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = object<chartdraw::Layer>(layer))
         target->setXData(toDoubles(data, count));
-    }
 }
 
 void CLayer_setUseYAxis(Layer* layer, Axis* axis) {
     if (auto* target = object<chartdraw::Layer>(layer)) {
-        if (auto* wanted = object<chartdraw::Axis>(axis)) {
+        if (auto* wanted = object<chartdraw::Axis>(axis))
             target->setYAxis(wanted);
-        }
     }
 }
 
 void CLayer_setUseYAxis2(Layer* layer, bool second) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = object<chartdraw::Layer>(layer))
         target->setYAxis(second ? target->chart().yAxis2() : target->chart().yAxis());
-    }
 }
 
 TextBox* CLayer_setDataLabelStyle(Layer* layer, const char* font, double size, int color, double angle) {
@@ -227,9 +216,8 @@ TextBox* CLayer_setDataLabelStyle(Layer* layer, const char* font, double size, i
 }
 
 void CLayer_setDataLabelFormat(Layer* layer, const char* format) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = object<chartdraw::Layer>(layer))
         target->setDataLabelFormat(toText(format));
-    }
 }
 
 TextBox* CLayer_setAggregateLabelStyle(Layer* layer, const char* font, double size, int color, double angle) {
@@ -240,51 +228,43 @@ TextBox* CLayer_setAggregateLabelStyle(Layer* layer, const char* font, double si
 }
 
 void CLayer_setAggregateLabelFormat(Layer* layer, const char* format) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = object<chartdraw::Layer>(layer))
         target->setAggregateLabelFormat(toText(format));
-    }
 }
 
 void CLayer_setHTMLImageMap(Layer* layer, const char* url, const char* query, const char* extraAttributes) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = object<chartdraw::Layer>(layer))
         target->setImageMap(toText(url), toText(query), toText(extraAttributes));
-    }
 }
 
 void CDataSet_setDataName(DataSet* dataSet, const char* name) {
-    if (auto* target = object<chartdraw::DataSet>(dataSet)) {
+    if (auto* target = object<chartdraw::DataSet>(dataSet))
         target->setName(toText(name));
-    }
 }
 
 void CDataSet_setDataColor(DataSet* dataSet, int data, int edge, int shadow, int shadowEdge) {
-    if (auto* target = object<chartdraw::DataSet>(dataSet)) {
+    if (auto* target = object<chartdraw::DataSet>(dataSet))
         target->setColours(toColour(data), toColour(edge), toColour(shadow), toColour(shadowEdge));
-    }
 }
 
 void CDataSet_setDataSymbol(DataSet* dataSet, int symbol, int size, int fill, int edge, int lineWidth) {
-    if (auto* target = object<chartdraw::DataSet>(dataSet)) {
+    if (auto* target = object<chartdraw::DataSet>(dataSet))
         target->setSymbol({symbol, size, toColour(fill), toColour(edge), lineWidth});
-    }
 }
 
 void CBarLayer_setBarShape(BarLayer* layer, int shape, int dataGroup, int dataItem) {
-    if (auto* target = object<chartdraw::BarLayer>(layer)) {
+    if (auto* target = object<chartdraw::BarLayer>(layer))
         target->setShape(isBarShape(shape) ? shape : CHART_NO_SHAPE, dataGroup, dataItem);
-    }
 }
 
 void CBarLayer_setOverlapRatio(BarLayer* layer, double ratio, bool firstOnTop) {
-    if (auto* target = object<chartdraw::BarLayer>(layer)) {
+    if (auto* target = object<chartdraw::BarLayer>(layer))
         target->setOverlap(ratio, firstOnTop);
-    }
 }
 
 void CBarLayer_setBarGap(BarLayer* layer, double gap, double subGap) {
-    if (auto* target = object<chartdraw::BarLayer>(layer)) {
+    if (auto* target = object<chartdraw::BarLayer>(layer))
         target->setGap(gap, subGap);
-    }
 }
 
 Line* CLineLayer_getLine(LineLayer* layer, int dataSet) {
@@ -294,34 +274,29 @@ Line* CLineLayer_getLine(LineLayer* layer, int dataSet) {
 
 void CLineLayer_setSymbolScale(LineLayer* layer, const double* xScale, int xCount, int /*xScaleType*/,
                                const double* yScale, int yCount, int /*yScaleType*/) {
-    if (auto* target = object<chartdraw::LineLayer>(layer)) {
+    if (auto* target = object<chartdraw::LineLayer>(layer))
         target->setSymbolSizes(toDoubles(xScale, xCount), toDoubles(yScale, yCount));
-    }
 }
 
 void CBaseBoxLayer_setDataGap(BaseBoxLayer* layer, double gap) {
-    if (auto* target = object<chartdraw::BaseBoxLayer>(layer)) {
+    if (auto* target = object<chartdraw::BaseBoxLayer>(layer))
         target->setDataGap(gap);
-    }
 }
 
 void CBaseBoxLayer_setDataWidth(BaseBoxLayer* layer, int width) {
-    if (auto* target = object<chartdraw::BaseBoxLayer>(layer)) {
+    if (auto* target = object<chartdraw::BaseBoxLayer>(layer))
         target->setDataWidth(width);
-    }
 }
 
 void CBoxWhiskerLayer_setBoxColors(BoxWhiskerLayer* layer, const int* colors, int colorCount,
                                    const char* const* names, int nameCount) {
-    if (auto* target = object<chartdraw::BoxWhiskerLayer>(layer)) {
+    if (auto* target = object<chartdraw::BoxWhiskerLayer>(layer))
         target->setBoxColours(chartdraw::toColours(colors, colorCount), chartdraw::toTexts(names, nameCount));
-    }
 }
 
 void CHLOCLayer_setColorMethod(HLOCLayer* layer, int method, int rise, int fall, double leadValue) {
-    if (auto* target = object<chartdraw::HLOCLayer>(layer)) {
+    if (auto* target = object<chartdraw::HLOCLayer>(layer))
         target->setColourMethod(method == CHART_UP_DOWN, toColour(rise), toColour(fall), leadValue);
-    }
 }
 
 } // extern "C"

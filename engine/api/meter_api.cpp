@@ -1,9 +1,9 @@
 // Operations of meters and their pointers.
 
-#include "drawing/surface.h"
 #include "engine/api/convert.h"
 #include "engine/meter/angular_meter.h"
 #include "engine/meter/linear_meter.h"
+#include <chartdraw/surface.h>
 
 #include <array>
 
@@ -42,9 +42,8 @@ LinearMeter* CLinearMeter_create(int width, int height, int background, int edge
 
 void CBaseMeter_setScale(BaseMeter* meter, double lower, double upper, double major, double minor,
                          double micro) {
-    if (auto* target = object<chartdraw::BaseMeter>(meter)) {
+    if (auto* target = object<chartdraw::BaseMeter>(meter))
         target->setScale(lower, upper, {major, minor, micro});
-    }
 }
 
 TextBox* CBaseMeter_setLabelStyle(BaseMeter* meter, const char* font, double size, int color, double angle) {
@@ -55,9 +54,8 @@ TextBox* CBaseMeter_setLabelStyle(BaseMeter* meter, const char* font, double siz
 }
 
 void CBaseMeter_setLineWidth(BaseMeter* meter, int axis, int majorTick, int minorTick, int microTick) {
-    if (auto* target = object<chartdraw::BaseMeter>(meter)) {
+    if (auto* target = object<chartdraw::BaseMeter>(meter))
         target->setLineWidths(axis, majorTick, minorTick, microTick);
-    }
 }
 
 MeterPointer* CBaseMeter_addPointer(BaseMeter* meter, double value, int color, int edge) {
@@ -68,35 +66,30 @@ MeterPointer* CBaseMeter_addPointer(BaseMeter* meter, double value, int color, i
 }
 
 void CMeterPointer_setShape(MeterPointer* pointer, int shape, double lengthRatio, double widthRatio) {
-    if (auto* target = object<chartdraw::MeterPointer>(pointer)) {
+    if (auto* target = object<chartdraw::MeterPointer>(pointer))
         target->setShape(shapeOf(shape), lengthRatio, widthRatio);
-    }
 }
 
 void CAngularMeter_setMeter(AngularMeter* meter, int x, int y, int radius, double startAngle,
                             double endAngle) {
-    if (auto* target = object<chartdraw::AngularMeter>(meter)) {
+    if (auto* target = object<chartdraw::AngularMeter>(meter))
         target->setMeter({x, y}, radius, startAngle, endAngle);
-    }
 }
 
 void CAngularMeter_addRing(AngularMeter* meter, int startRadius, int endRadius, int fill, int edge) {
-    if (auto* target = object<chartdraw::AngularMeter>(meter)) {
+    if (auto* target = object<chartdraw::AngularMeter>(meter))
         target->addRing(startRadius, endRadius, toColour(fill), toColour(edge));
-    }
 }
 
 void CAngularMeter_addZone2(AngularMeter* meter, double start, double end, int fill, int edge) {
-    if (auto* target = object<chartdraw::AngularMeter>(meter)) {
+    if (auto* target = object<chartdraw::AngularMeter>(meter))
         target->addZone(start, end, toColour(fill), toColour(edge));
-    }
 }
 
 void CLinearMeter_setMeter(LinearMeter* meter, int left, int top, int width, int height, int axisPosition,
                            bool reverse) {
-    if (auto* target = object<chartdraw::LinearMeter>(meter)) {
+    if (auto* target = object<chartdraw::LinearMeter>(meter))
         target->setMeter({left, top}, {width, height}, axisPosition, reverse);
-    }
 }
 
 TextBox* CLinearMeter_addZone(LinearMeter* meter, double start, double end, int color, const char* label) {

@@ -1,8 +1,8 @@
 // Operations of multi-charts.
 
-#include "drawing/surface.h"
 #include "engine/api/convert.h"
 #include "engine/multi/multi_chart.h"
+#include <chartdraw/surface.h>
 
 using chartdraw::handle;
 using chartdraw::object;
@@ -19,15 +19,13 @@ MultiChart* CMultiChart_create(int width, int height, int background, int edge, 
 void CMultiChart_addChart(MultiChart* multi, int x, int y, BaseChart* chart) {
     auto* target = object<chartdraw::MultiChart>(multi);
     auto* added = object<chartdraw::Chart>(chart);
-    if (target != nullptr && added != nullptr) {
+    if (target != nullptr && added != nullptr)
         target->addChart({x, y}, *added);
-    }
 }
 
 void CMultiChart_setMainChart(MultiChart* multi, BaseChart* chart) {
-    if (auto* target = object<chartdraw::MultiChart>(multi)) {
+    if (auto* target = object<chartdraw::MultiChart>(multi))
         target->setMainChart(object<chartdraw::Chart>(chart));
-    }
 }
 
 } // extern "C"

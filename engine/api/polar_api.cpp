@@ -1,8 +1,8 @@
 // Operations of polar charts, their angular axis and their layers.
 
-#include "drawing/surface.h"
 #include "engine/api/convert.h"
 #include "engine/polar/polar_chart.h"
+#include <chartdraw/surface.h>
 
 using chartdraw::handle;
 using chartdraw::Kind;
@@ -33,27 +33,23 @@ PolarChart* CPolarChart_create(int width, int height, int background, int edge, 
 
 void CPolarChart_setPlotArea(PolarChart* chart, int x, int y, int radius, int background, int edge,
                              int edgeWidth) {
-    if (auto* target = object<chartdraw::PolarChart>(chart)) {
+    if (auto* target = object<chartdraw::PolarChart>(chart))
         target->setPlotArea({x, y}, radius, toColour(background), toColour(edge), edgeWidth);
-    }
 }
 
 void CPolarChart_setPlotAreaBg(PolarChart* chart, int first, int second, bool alternateRings) {
-    if (auto* target = object<chartdraw::PolarChart>(chart)) {
+    if (auto* target = object<chartdraw::PolarChart>(chart))
         target->setAlternatingColours(toColour(first), toColour(second), alternateRings);
-    }
 }
 
 void CPolarChart_setGridColor(PolarChart* chart, int radial, int radialWidth, int angular, int angularWidth) {
-    if (auto* target = object<chartdraw::PolarChart>(chart)) {
+    if (auto* target = object<chartdraw::PolarChart>(chart))
         target->setGrid(toColour(radial), radialWidth, toColour(angular), angularWidth);
-    }
 }
 
 void CPolarChart_setGridStyle(PolarChart* chart, bool polygon, bool onTop) {
-    if (auto* target = object<chartdraw::PolarChart>(chart)) {
+    if (auto* target = object<chartdraw::PolarChart>(chart))
         target->setGridStyle(polygon, onTop);
-    }
 }
 
 AngularAxis* CPolarChart_angularAxis(PolarChart* chart) {
@@ -87,9 +83,8 @@ PolarSplineAreaLayer* CPolarChart_addSplineAreaLayer(PolarChart* chart, const do
 }
 
 void CPolarLayer_setAngles(PolarLayer* layer, const double* angles, int count) {
-    if (auto* target = object<chartdraw::PolarLayer>(layer)) {
+    if (auto* target = object<chartdraw::PolarLayer>(layer))
         target->setAngles(toDoubles(angles, count));
-    }
 }
 
 TextBox* CPolarLayer_setDataLabelStyle(PolarLayer* layer, const char* font, double size, int color,
@@ -101,46 +96,39 @@ TextBox* CPolarLayer_setDataLabelStyle(PolarLayer* layer, const char* font, doub
 }
 
 void CPolarLayer_setDataLabelFormat(PolarLayer* layer, const char* format) {
-    if (auto* target = object<chartdraw::PolarLayer>(layer)) {
+    if (auto* target = object<chartdraw::PolarLayer>(layer))
         target->setDataLabelFormat(toText(format));
-    }
 }
 
 void CPolarLayer_setDataSymbol(PolarLayer* layer, int symbol, int size, int fill, int edge, int lineWidth) {
-    if (auto* target = object<chartdraw::PolarLayer>(layer)) {
+    if (auto* target = object<chartdraw::PolarLayer>(layer))
         target->setSymbol({symbol, size, toColour(fill), toColour(edge), lineWidth});
-    }
 }
 
 void CPolarLayer_setLineWidth(PolarLayer* layer, int width) {
-    if (auto* target = object<chartdraw::PolarLayer>(layer)) {
+    if (auto* target = object<chartdraw::PolarLayer>(layer))
         target->setLineWidth(width);
-    }
 }
 
 void CPolarLayer_setSymbolScale(PolarLayer* layer, const double* scale, int count, int /*scaleType*/) {
-    if (auto* target = object<chartdraw::PolarLayer>(layer)) {
+    if (auto* target = object<chartdraw::PolarLayer>(layer))
         target->setSymbolScale(toDoubles(scale, count));
-    }
 }
 
 void CPolarLineLayer_setCloseLoop(PolarLineLayer* layer, bool close) {
-    if (auto* target = object<chartdraw::PolarLineLayer>(layer)) {
+    if (auto* target = object<chartdraw::PolarLineLayer>(layer))
         target->setCloseLoop(close);
-    }
 }
 
 void CAngularAxis_setLinearScale(AngularAxis* axis, double lower, double upper, double majorIncrement,
                                  double minorIncrement) {
-    if (auto* target = object<chartdraw::AngularAxis>(axis)) {
+    if (auto* target = object<chartdraw::AngularAxis>(axis))
         target->setLinearScale(lower, upper, {majorIncrement, minorIncrement, 0});
-    }
 }
 
 void CAngularAxis_setLabels(AngularAxis* axis, const char* const* labels, int count) {
-    if (auto* target = object<chartdraw::AngularAxis>(axis)) {
+    if (auto* target = object<chartdraw::AngularAxis>(axis))
         target->setLabels(chartdraw::toTexts(labels, count));
-    }
 }
 
 TextBox* CAngularAxis_setLabelStyle(AngularAxis* axis, const char* font, double size, int color,
@@ -152,9 +140,8 @@ TextBox* CAngularAxis_setLabelStyle(AngularAxis* axis, const char* font, double 
 }
 
 void CAngularAxis_addZone2(AngularAxis* axis, double start, double end, int fill, int edge) {
-    if (auto* target = object<chartdraw::AngularAxis>(axis)) {
+    if (auto* target = object<chartdraw::AngularAxis>(axis))
         target->addZone(start, end, toColour(fill), toColour(edge));
-    }
 }
 
 } // extern "C"

@@ -1,8 +1,8 @@
 // Operations of XY charts and their plot area; the layers have a file of their own.
 
-#include "drawing/surface.h"
 #include "engine/api/convert.h"
 #include "engine/xy/xy_chart.h"
+#include <chartdraw/surface.h>
 
 using chartdraw::handle;
 using chartdraw::object;
@@ -20,9 +20,8 @@ XYChart* CXYChart_create(int width, int height, int background, int edge, int ra
 PlotArea* CXYChart_setPlotArea(XYChart* chart, int x, int y, int width, int height, int background,
                                int alternate, int edge, int horizontalGrid, int verticalGrid) {
     auto* target = object<Engine>(chart);
-    if (target == nullptr) {
+    if (target == nullptr)
         return nullptr;
-    }
     chartdraw::PlotArea* area = target->setPlotArea(x, y, width, height);
     area->setBackground(toColour(background), toColour(alternate), toColour(edge));
     area->setFirstGrid(toColour(horizontalGrid), toColour(verticalGrid));
@@ -55,45 +54,38 @@ Axis* CXYChart_addAxis(XYChart* chart, int alignment, int offset) {
 }
 
 void CXYChart_swapXY(XYChart* chart, bool swap) {
-    if (auto* target = object<Engine>(chart)) {
+    if (auto* target = object<Engine>(chart))
         target->swapXY(swap);
-    }
 }
 
 void CXYChart_setAxisAtOrigin(XYChart* chart, int originMode, int flags) {
-    if (auto* target = object<Engine>(chart)) {
+    if (auto* target = object<Engine>(chart))
         target->setAxisAtOrigin(originMode, flags);
-    }
 }
 
 void CXYChart_setYAxisOnRight(XYChart* chart, bool right) {
-    if (auto* target = object<Engine>(chart)) {
+    if (auto* target = object<Engine>(chart))
         target->setYAxisOnRight(right);
-    }
 }
 
 void CXYChart_setTrimData(XYChart* chart, int start, int length) {
-    if (auto* target = object<Engine>(chart)) {
+    if (auto* target = object<Engine>(chart))
         target->setTrimData(start, length);
-    }
 }
 
 void CPlotArea_setBackground(PlotArea* area, int background, int alternate, int edge) {
-    if (auto* target = object<chartdraw::PlotArea>(area)) {
+    if (auto* target = object<chartdraw::PlotArea>(area))
         target->setBackground(toColour(background), toColour(alternate), toColour(edge));
-    }
 }
 
 void CPlotArea_setBackground2(PlotArea* area, const char* imageFile, int alignment) {
-    if (auto* target = object<chartdraw::PlotArea>(area)) {
+    if (auto* target = object<chartdraw::PlotArea>(area))
         target->setImage(chartdraw::toText(imageFile), alignment);
-    }
 }
 
 void CPlotArea_set4QBgColor(PlotArea* area, int q1, int q2, int q3, int q4, int edge) {
-    if (auto* target = object<chartdraw::PlotArea>(area)) {
+    if (auto* target = object<chartdraw::PlotArea>(area))
         target->setQuadrants({toColour(q1), toColour(q2), toColour(q3), toColour(q4)}, toColour(edge));
-    }
 }
 
 void CPlotArea_setGridColor(PlotArea* area, int majorHorizontal, int majorVertical, int minorHorizontal,
@@ -106,9 +98,8 @@ void CPlotArea_setGridColor(PlotArea* area, int majorHorizontal, int majorVertic
 
 void CPlotArea_setGridWidth(PlotArea* area, int majorHorizontal, int majorVertical, int minorHorizontal,
                             int minorVertical) {
-    if (auto* target = object<chartdraw::PlotArea>(area)) {
+    if (auto* target = object<chartdraw::PlotArea>(area))
         target->setGridWidths({majorHorizontal, majorVertical, minorHorizontal, minorVertical});
-    }
 }
 
 } // extern "C"

@@ -100,18 +100,16 @@ void Axis::setAutoScale(double topExtension, double bottomExtension, double zero
     m_scale.automatic.zeroAffinity = part(zeroAffinity, defaults.zeroAffinity);
     m_scale.limitsGiven = false;
     m_scale.increments = {};
-    if (m_scale.type == ScaleSettings::Type::Linear) {
+    if (m_scale.type == ScaleSettings::Type::Linear)
         m_scale.type = ScaleSettings::Type::Automatic;
-    }
     changed();
 }
 
 void Axis::setLimits(ScaleSettings::Type type, double lower, double upper, const Increments& increments) {
     m_scale.type = type;
     m_scale.limitsGiven = isValue(lower) && isValue(upper) && lower != upper;
-    if (m_scale.limitsGiven) {
+    if (m_scale.limitsGiven)
         std::tie(m_scale.lower, m_scale.upper) = std::minmax(lower, upper);
-    }
     m_scale.increments = increments;
     changed();
 }
@@ -120,18 +118,16 @@ void Axis::setScaleFromData(ScaleSettings::Type type, std::string format) {
     m_scale.type = type;
     m_scale.limitsGiven = false;
     m_scale.increments = {};
-    if (!format.empty()) {
+    if (!format.empty())
         m_ticks.labelFormat = std::move(format);
-    }
     changed();
 }
 
 TextBox* Axis::setLabels(std::vector<double> values, std::string format) {
     m_scale.type = ScaleSettings::Type::Labels;
     m_scale.labels = std::move(values);
-    if (!format.empty()) {
+    if (!format.empty())
         m_ticks.labelFormat = std::move(format);
-    }
     changed();
     return m_labelBox;
 }
@@ -185,9 +181,8 @@ void Axis::addZone(double start, double end, Colour colour) {
 }
 
 void Axis::copyFrom(const Axis& source) {
-    if (&source == this) {
+    if (&source == this)
         return;
-    }
     m_scale = source.m_scale;
     m_ticks = source.m_ticks;
     m_width = source.m_width;
@@ -195,21 +190,17 @@ void Axis::copyFrom(const Axis& source) {
     m_tickColour = source.m_tickColour;
     m_labelBox->edit() = source.m_labelBox->look();
     m_syncedTo = nullptr;
-    if (source.m_syncedTo != nullptr) {
+    if (source.m_syncedTo != nullptr)
         syncTo(source.m_syncedTo, source.m_syncSlope, source.m_syncIntercept);
-    }
 }
 
 void Axis::syncTo(const Axis* other, double slope, double intercept) {
     if (other == nullptr || &other->m_chart != &m_chart || !isValue(slope) || slope == 0 ||
-        !isValue(intercept)) {
+        !isValue(intercept))
         return;
-    }
-    for (const Axis* link = other; link != nullptr; link = link->m_syncedTo) {
-        if (link == this) {
+    for (const Axis* link = other; link != nullptr; link = link->m_syncedTo)
+        if (link == this)
             return; // the ring would leave no axis to follow
-        }
-    }
     m_syncedTo = other;
     m_syncSlope = slope;
     m_syncIntercept = intercept;
@@ -218,9 +209,8 @@ void Axis::syncTo(const Axis* other, double slope, double intercept) {
 
 TextLook Axis::titleLook(bool upright) const {
     TextLook look = m_title->look();
-    if (look.angle == naturalAngle(m_direction == Direction::Y) && !look.vertical) {
+    if (look.angle == naturalAngle(m_direction == Direction::Y) && !look.vertical)
         look.angle = naturalAngle(upright);
-    }
     return look;
 }
 

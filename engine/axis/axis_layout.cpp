@@ -87,9 +87,8 @@ private:
 /// Moves a box along and across the axis into the picture; nothing where it is larger than that.
 QPointF intoPicture(const QRectF& box, const QRect& picture) {
     const auto shift = [](double low, double high, double from, double to) {
-        if (high - low > to - from) {
+        if (high - low > to - from)
             return 0.0;
-        }
         return low < from ? from - low : high > to ? to - high : 0.0;
     };
     const QRectF room(picture);
@@ -113,28 +112,22 @@ void keepInside(std::vector<AxisLayout::Label>& labels, const AxisPlace& place) 
         label.move(by);
         return !by.isNull();
     };
-    if (labels.empty()) {
+    if (labels.empty())
         return;
-    }
-    if (moved(labels.front())) {
-        while (labels.size() > 2 && close(labels.front(), labels[1])) {
+    if (moved(labels.front()))
+        while (labels.size() > 2 && close(labels.front(), labels[1]))
             labels.erase(labels.begin() + 1);
-        }
-    }
-    if (moved(labels.back())) {
-        while (labels.size() > 1 && close(labels.back(), labels[labels.size() - 2])) {
+    if (moved(labels.back()))
+        while (labels.size() > 1 && close(labels.back(), labels[labels.size() - 2]))
             labels.erase(labels.size() > 2 ? labels.end() - 2 : labels.end() - 1);
-        }
-    }
 }
 
 void placeLabels(AxisLayout& layout, AxisPlan& plan, const Axis& axis, double distance) {
     const AxisPlace& place = layout.place;
     const LabelPlacer placer(place, axis.labelBox().look().angle, distance);
     for (PlannedTick& tick : plan.ticks) {
-        if (!tick.label) {
+        if (!tick.label)
             continue;
-        }
         AxisLayout::Label label{.value = tick.value,
                                 .text = std::move(tick.text),
                                 .block = std::move(*tick.label),
@@ -146,29 +139,29 @@ void placeLabels(AxisLayout& layout, AxisPlan& plan, const Axis& axis, double di
     }
     keepInside(layout.labels, place);
     if (place.avoid) {
-        std::erase_if(layout.labels, [&](const AxisLayout::Label& label) {
-            const QRectF box = label.box();
-            return alongOf(place, box.topLeft()) < *place.avoid + 1 &&
-                   alongOf(place, box.bottomRight()) > *place.avoid;
-        });
+        std::erase_if(
+            layout.labels,
+            [&](const AxisLayout::Label& label) {
+                const QRectF box = label.box();
+                return alongOf(place, box.topLeft()) < *place.avoid + 1 &&
+                       alongOf(place, box.bottomRight()) > *place.avoid;
+            });
     }
 }
 
 /// The labels of the marks stand among those of the ticks, which give way to them.
 void placeMarks(AxisLayout& layout, const Axis& axis, double distance) {
     for (const Mark* mark : axis.marks()) {
-        if (!layout.map.contains(mark->value())) {
+        if (!layout.map.contains(mark->value()))
             continue;
-        }
         AxisLayout::Label label{.value = mark->value(),
                                 .text = mark->text(),
                                 .block = mark->block(),
                                 .anchor = {},
                                 .alignment = Center,
                                 .pivot = false};
-        if (label.block.empty()) {
+        if (label.block.empty())
             continue;
-        }
         LabelPlacer(layout.place, mark->look().angle, distance)
             .put(label, layout.map.wholePixel(mark->value()));
         label.move(alongOnly(layout.place, intoPicture(label.box(), layout.place.picture)));
@@ -212,9 +205,8 @@ void placeTitle(AxisLayout& layout, const Axis& axis) {
     const bool upright = place.upright();
     const bool beyond = upright ? code == TopCenter || code == BottomCenter : code == Left || code == Right;
     TextBlock block(axis.titleLook(upright && !beyond), axis.title().text(), axis.chart().fonts());
-    if (block.empty()) {
+    if (block.empty())
         return;
-    }
     AxisLayout::Label title{.value = 0,
                             .text = axis.title().text(),
                             .block = std::move(block),
@@ -242,9 +234,8 @@ void placeTitle(AxisLayout& layout, const Axis& axis) {
     const QPointF out = outward(place.side);
     const double inward = std::max(0.0, -QPointF::dotProduct(back, out));
     title.move(alongOnly(place, back) - out * (beyond ? inward : std::min<double>(inward, std::max(0, gap))));
-    if (axis.title().pos()) {
+    if (axis.title().pos())
         title.move(QPointF(*axis.title().pos()) - title.box().topLeft());
-    }
     layout.title = std::move(title);
 }
 
@@ -262,9 +253,8 @@ void AxisPlace::setScaleEnds(const ScaleSettings& scale) {
     const int topPixels = static_cast<int>(top), bottomPixels = static_cast<int>(bottom);
     lower = upright() ? to - bottomPixels : from + bottomPixels;
     upper = upright() ? from + topPixels : to - topPixels;
-    if (scale.reverse) {
+    if (scale.reverse)
         std::swap(lower, upper);
-    }
 }
 
 QRectF AxisLayout::Label::box() const {
@@ -272,28 +262,25 @@ QRectF AxisLayout::Label::box() const {
 }
 
 void AxisLayout::Label::draw(Canvas& canvas) const {
-    if (pivot) {
+    if (pivot)
         block.drawPivotAt(canvas, anchor, alignment);
-    } else {
+    else
         block.drawAt(canvas, anchor, alignment);
-    }
 }
 
 AxisLayout layoutAxis(const Axis& axis, AxisPlan plan, const AxisPlace& place) {
     AxisLayout layout;
     layout.map = plan.map(place.lower, place.upper);
     layout.place = place;
-    for (const PlannedTick& tick : plan.ticks) {
+    for (const PlannedTick& tick : plan.ticks)
         layout.ticks.push_back({tick.value, layout.map.wholePixel(tick.value), tick.major});
-    }
     const double ticks = std::max({0, axis.ticks().majorLength, axis.ticks().minorLength});
     const double line = std::max(0, axis.width() - 1);
     const double distance = line + std::max(0, axis.ticks().majorLength) + kLabelGap + 0.5;
     placeLabels(layout, plan, axis, distance);
     placeMarks(layout, axis, distance);
-    if (axis.chart().colours().invisible(axis.labelBox().look().colour)) {
+    if (axis.chart().colours().invisible(axis.labelBox().look().colour))
         layout.labels.clear(); // they took part in the plan, so that axes that differ in this alone agree
-    }
     layout.reach = reachOf(layout, line + ticks);
     placeTitle(layout, axis);
     return layout;
@@ -315,16 +302,14 @@ QRect axisLine(const AxisPlace& place, int width) {
 
 void drawAxisLine(Canvas& canvas, const Axis& axis, const AxisLayout& layout) {
     const int width = axis.width();
-    if (width < 1) {
+    if (width < 1)
         return;
-    }
     const AxisPlace& place = layout.place;
     const TickSettings& ticks = axis.ticks();
     for (const AxisLayout::Tick& tick : layout.ticks) {
         const int length = tick.major ? ticks.majorLength : ticks.minorLength;
-        if (length == 0) {
+        if (length == 0)
             continue;
-        }
         const double first = length > 0 ? width : -1;
         const double last = length > 0 ? width - 1 + length : length;
         canvas.line(pointAt(place, tick.pixel, first), pointAt(place, tick.pixel, last), axis.tickColour(),
@@ -334,12 +319,10 @@ void drawAxisLine(Canvas& canvas, const Axis& axis, const AxisLayout& layout) {
 }
 
 void drawAxisLabels(Canvas& canvas, const AxisLayout& layout) {
-    for (const AxisLayout::Label& label : layout.labels) {
+    for (const AxisLayout::Label& label : layout.labels)
         label.draw(canvas);
-    }
-    if (layout.title) {
+    if (layout.title)
         layout.title->draw(canvas);
-    }
 }
 
 } // namespace chartdraw

@@ -29,9 +29,8 @@ double AxisMap::clamp(double value) const {
 }
 
 std::optional<AxisMap::Affine> AxisMap::affine() const {
-    if (m_scale.kind() == ScaleKind::Log) {
+    if (m_scale.kind() == ScaleKind::Log)
         return std::nullopt;
-    }
     const double slope = m_tied ? m_slope : 1;
     const double factor = (m_upper - m_lower) / (m_scale.upper() - m_scale.lower()) / slope;
     return Affine{m_lower - factor * other(m_scale.lower()), factor};

@@ -37,9 +37,8 @@ private:
         const ScaleSettings& labels = copied != nullptr ? copied->scale() : axis.scale();
         const TickSettings& own = axis.ticks();
         RowContent result;
-        if (labels.type == Type::Labels) {
+        if (labels.type == Type::Labels)
             result.labels = labels.labels;
-        }
         const bool useCopied = copied != nullptr;
         result.format = useCopied && own.labelFormat.empty() ? copied->ticks().labelFormat : own.labelFormat;
         result.rules = useCopied && own.rules.empty() ? copied->ticks().rules : own.rules;
@@ -51,9 +50,8 @@ private:
     }
 
     bool rows() const {
-        if (m_request.root != nullptr) {
+        if (m_request.root != nullptr)
             return m_copies && m_request.rootScale.kind() == ScaleKind::Enumerated;
-        }
         return showsRows(m_axis, m_request.rowCount);
     }
 
@@ -61,9 +59,8 @@ private:
 
     /// The scale in this axis's own values.
     Scale ownScale(const Density& density) const {
-        if (m_request.root != nullptr) {
+        if (m_request.root != nullptr)
             return tiedScale();
-        }
         if (rows()) {
             const bool indent = settings().indent == ScaleSettings::Indent::AsLayersNeed
                                     ? m_request.indent
@@ -76,12 +73,10 @@ private:
         DataRange data = m_request.data;
         const DataRange& whole = m_request.whole;
         if (!whole.empty) {
-            if (data.empty || data.max <= whole.max) {
+            if (data.empty || data.max <= whole.max)
                 options.topExtension = 0;
-            }
-            if (data.empty || data.min >= whole.min) {
+            if (data.empty || data.min >= whole.min)
                 options.bottomExtension = 0;
-            }
             data.add(whole);
         }
         const bool given = settings().limitsGiven;
@@ -100,9 +95,8 @@ private:
         const Scale& root = m_request.rootScale;
         const double lower = root.lower() * m_request.slope + m_request.intercept;
         const double upper = root.upper() * m_request.slope + m_request.intercept;
-        if (m_copies) {
+        if (m_copies)
             return root;
-        }
         return root.kind() == ScaleKind::Log && m_request.intercept == 0 && m_request.slope > 0
                    ? Scale::log(lower, upper)
                    : Scale::linear(lower, upper);
@@ -117,9 +111,8 @@ private:
     }
 
     double firstSpacing() const {
-        if (settings().majorSpacing > 0) {
+        if (settings().majorSpacing > 0)
             return settings().majorSpacing;
-        }
         // A level axis starts dense: what its labels want in breadth is found by looking at them. Rows are
         // worth a label each where it fits.
         const double level = settings().type == Type::Date ? kDateSpacing : kLevelSpacing;
@@ -142,9 +135,8 @@ private:
             const bool fixed = settings().increments.major > 0 || plan.ticks.size() < 3;
             if (wanted == 0 || fixed || attempt == kAttempts) {
                 m_fit.thin(plan.ticks, map, ranks);
-                for (const double value : ticks.minor) {
+                for (const double value : ticks.minor)
                     plan.ticks.push_back({.value = value, .major = false, .text = {}, .label = {}});
-                }
                 return plan;
             }
             density.majorPx = std::max(wanted, density.majorPx * 1.25);
@@ -170,9 +162,8 @@ private:
             return ranks;
         }
         const LabelMaker maker(m_axis, m_content);
-        for (const Tick& tick : ticks.major) {
+        for (const Tick& tick : ticks.major)
             plan.ticks.push_back(maker.tick(tick.value, tick.value, tick.label, PickedLabel::kAxisFormat));
-        }
         return {};
     }
 

@@ -30,9 +30,8 @@ std::vector<double> LabelFit::halfExtents(const std::vector<PlannedTick>& ticks)
         }
     }
     const bool slanted = m_slant > 0.05 && m_slant < 0.999;
-    if (slanted) {
+    if (slanted)
         std::fill(result.begin(), result.end(), std::min(longest, strip) / 2);
-    }
     return result;
 }
 
@@ -41,14 +40,12 @@ double LabelFit::wantedDistance(const std::vector<PlannedTick>& ticks, const Axi
     double wanted = 0;
     std::size_t before = ticks.size();
     for (std::size_t i = 0; i < ticks.size(); ++i) {
-        if (!ticks[i].label) {
+        if (!ticks[i].label)
             continue;
-        }
         if (before < i) {
             const double room = halves[before] + halves[i] + m_gap;
-            if (std::abs(map.pixel(ticks[i].value) - map.pixel(ticks[before].value)) < room) {
+            if (std::abs(map.pixel(ticks[i].value) - map.pixel(ticks[before].value)) < room)
                 wanted = std::max(wanted, room);
-            }
         }
         before = i;
     }
@@ -56,9 +53,8 @@ double LabelFit::wantedDistance(const std::vector<PlannedTick>& ticks, const Axi
 }
 
 void LabelFit::thin(std::vector<PlannedTick>& ticks, const AxisMap& map, std::span<const int> ranks) const {
-    if (wantedDistance(ticks, map) == 0) {
+    if (wantedDistance(ticks, map) == 0)
         return;
-    }
     if (!ranks.empty()) {
         thinByRank(ticks, map, ranks);
         return;
@@ -74,14 +70,11 @@ void LabelFit::thin(std::vector<PlannedTick>& ticks, const AxisMap& map, std::sp
         }
     }
     std::vector<bool> kept(labelled.size(), false);
-    for (const int index : thinLabels(extents, m_gap, true)) {
+    for (const int index : thinLabels(extents, m_gap, true))
         kept[static_cast<std::size_t>(index)] = true;
-    }
-    for (std::size_t i = 0; i < labelled.size(); ++i) {
-        if (!kept[i]) {
+    for (std::size_t i = 0; i < labelled.size(); ++i)
+        if (!kept[i])
             labelled[i]->dropLabel();
-        }
-    }
 }
 
 void LabelFit::thinByRank(std::vector<PlannedTick>& ticks, const AxisMap& map,
@@ -94,19 +87,17 @@ void LabelFit::thinByRank(std::vector<PlannedTick>& ticks, const AxisMap& map,
     std::map<double, double> taken; // from start to end of the room of each label kept
     for (const std::size_t i : order) {
         PlannedTick& tick = ticks[i];
-        if (!tick.label) {
+        if (!tick.label)
             continue;
-        }
         const double at = map.pixel(tick.value);
         const double half = halves[i] + m_gap / 2;
         const auto after = taken.lower_bound(at - half);
         const bool free = (after == taken.end() || after->first >= at + half) &&
                           (after == taken.begin() || std::prev(after)->second <= at - half);
-        if (free) {
+        if (free)
             taken.emplace(at - half, at + half);
-        } else {
+        else
             tick.dropLabel();
-        }
     }
 }
 

@@ -33,9 +33,8 @@ QRectF boxOutside(QPointF centre, double radius, double angle, QSizeF size) {
     double distance = way.x() > 0 ? (radius + half.width()) / way.x() : 0;
     if (way.x() <= 0 || distance * way.y() > half.height()) {
         distance = way.y() > 0 ? (radius + half.height()) / way.y() : 0;
-        if (way.y() <= 0 || distance * way.x() > half.width()) {
+        if (way.y() <= 0 || distance * way.x() > half.width())
             distance = cornerDistance(way, half, radius, -1);
-        }
     }
     return boxAbout(centre + out * distance, size);
 }
@@ -72,9 +71,8 @@ std::vector<bool> thinAround(std::span<const QRectF> boxes, double gap) {
         return true;
     };
     std::size_t step = 1;
-    while (step < boxes.size() && !fits(step)) {
+    while (step < boxes.size() && !fits(step))
         ++step;
-    }
     for (std::size_t wider = step; wider <= 2 * step && wider < boxes.size(); ++wider) {
         if ((boxes.size() - 1) % wider == 0 && fits(wider)) {
             step = wider;

@@ -19,9 +19,8 @@ class TickFields final : public FieldSource {
 public:
     TickFields(double value, std::string_view shown) : m_value(value), m_shown(shown) {}
     FieldValue field(std::string_view name) const override {
-        if (name == "value") {
+        if (name == "value")
             return FieldValue::number(m_value, m_shown);
-        }
         return name == "label" ? FieldValue::text(m_shown) : FieldValue::unknown();
     }
 
@@ -44,15 +43,13 @@ std::vector<Candidate> candidates(const LabelMaker& maker, RowSpan rows) {
     std::vector<Candidate> result;
     const RowContent& content = maker.content();
     if (hasRules(content.rules) && !content.labels.empty()) {
-        for (const PickedLabel& picked : maker.pick(content.labels, rows.first, rows.count)) {
+        for (const PickedLabel& picked : maker.pick(content.labels, rows.first, rows.count))
             result.push_back({picked.index - rows.first, picked.rule});
-        }
         return result;
     }
     const TickSettings& ticks = maker.axis().ticks();
-    for (int row = ticks.majorOffset; row < rows.count; row += std::min(ticks.majorStep, rows.count)) {
+    for (int row = ticks.majorOffset; row < rows.count; row += std::min(ticks.majorStep, rows.count))
         result.push_back({row, PickedLabel::kAxisFormat});
-    }
     return result;
 }
 
@@ -64,11 +61,9 @@ void thinCandidates(std::vector<Candidate>& found, double length) {
     const auto step =
         static_cast<std::ptrdiff_t>(std::ceil(count * kLeastLabelPitch / std::max(1.0, length)));
     std::ptrdiff_t i = 0;
-    for (Candidate& candidate : found) {
-        if (labelled(candidate) && i++ % std::max<std::ptrdiff_t>(step, 1) != 0) {
+    for (Candidate& candidate : found)
+        if (labelled(candidate) && i++ % std::max<std::ptrdiff_t>(step, 1) != 0)
             candidate.rule = PickedLabel::kTickOnly;
-        }
-    }
 }
 
 } // namespace
@@ -82,18 +77,15 @@ RowTexts::RowTexts(std::span<const double> values) : m_values(values) {
     bool wholeDays = true;
     bool any = false;
     for (const double value : values) {
-        if (!isValue(value)) {
+        if (!isValue(value))
             continue;
-        }
-        if (value < from || value >= to) {
+        if (value < from || value >= to)
             return;
-        }
         any = true;
         wholeDays = wholeDays && std::fmod(value, kSecondsPerDay) == 0;
     }
-    if (any) {
+    if (any)
         m_dateSpec = wholeDays ? "yyyy-mm-dd" : "yyyy-mm-dd\nhh:nn";
-    }
 }
 
 double RowTexts::value(std::size_t row) const {
@@ -101,9 +93,8 @@ double RowTexts::value(std::size_t row) const {
 }
 
 std::string RowTexts::text(std::size_t row) const {
-    if (row >= m_values.size() && !m_values.empty()) {
+    if (row >= m_values.size() && !m_values.empty())
         return {};
-    }
     return m_dateSpec.empty() ? numberText(value(row)) : dateText(value(row), m_dateSpec);
 }
 
@@ -126,20 +117,17 @@ std::vector<PickedLabel> LabelMaker::pick(std::span<const double> times, int fir
 PlannedTick LabelMaker::tick(double position, double value, std::string_view shown, int rule) const {
     PlannedTick result;
     result.value = position;
-    if (rule == PickedLabel::kTickOnly) {
+    if (rule == PickedLabel::kTickOnly)
         return result;
-    }
     const Format& format = rule >= 0 ? m_ruleFormats[static_cast<std::size_t>(rule)] : m_format;
-    if (format.text() == "-") {
+    if (format.text() == "-")
         return result;
-    }
     result.text = format.isEmpty() ? std::string(shown) : format.apply(TickFields(value, shown));
     TextBlock block = m_axis.labelBox().block(result.text);
-    if (block.empty()) {
+    if (block.empty())
         result.text.clear();
-    } else {
+    else
         result.label = std::move(block);
-    }
     return result;
 }
 
@@ -165,23 +153,19 @@ void addRowTicks(std::vector<PlannedTick>& ticks, const LabelMaker& maker, RowSp
     }
     fit.thin(ticks, map,
              hasRules(maker.content().rules) ? std::span<const int>(ranks) : std::span<const int>());
-    if (pitch < kLeastTickPitch) {
+    if (pitch < kLeastTickPitch)
         std::erase_if(ticks, [](const PlannedTick& tick) { return !tick.label; });
-    }
 
     const TickSettings& settings = maker.axis().ticks();
     const double minorPitch = length * settings.minorStep / std::max(1, rows.count);
     if (settings.minorStep > 0 && minorPitch >= 2) {
         std::vector<bool> taken(static_cast<std::size_t>(rows.count), false);
-        for (const PlannedTick& tick : ticks) {
+        for (const PlannedTick& tick : ticks)
             taken[static_cast<std::size_t>(tick.value)] = true;
-        }
         for (int row = settings.minorOffset; row < rows.count;
-             row += std::min(settings.minorStep, rows.count)) {
-            if (!taken[static_cast<std::size_t>(row)]) {
+             row += std::min(settings.minorStep, rows.count))
+            if (!taken[static_cast<std::size_t>(row)])
                 ticks.push_back({.value = static_cast<double>(row), .major = false, .text = {}, .label = {}});
-            }
-        }
     }
 }
 

@@ -9,13 +9,11 @@ namespace chartdraw {
 
 bool DrawArea::load(const std::string& path) {
     QImage read = loadPicture(path);
-    if (read.isNull()) {
+    if (read.isNull())
         return false;
-    }
     m_image = std::move(read);
-    if (m_chart != nullptr) {
+    if (m_chart != nullptr)
         m_chart->setSize(m_image.width(), m_image.height());
-    }
     return true;
 }
 
@@ -30,9 +28,8 @@ Chart::Chart(Kind kind, int width, int height, Colour background, Colour edge, i
 }
 
 Chart::~Chart() {
-    for (Chart* host : m_hosts) {
+    for (Chart* host : m_hosts)
         host->hostedEnds(this);
-    }
 }
 
 void Chart::setSize(int width, int height) {
@@ -62,11 +59,9 @@ void Chart::setRoundedFrame(Colour exterior, const Corners& corners) {
 }
 
 void Chart::setDefaultFonts(FontSet fonts) {
-    for (std::size_t i = 0; i < fonts.files.size(); ++i) {
-        if (!fonts.files[i].empty()) {
+    for (std::size_t i = 0; i < fonts.files.size(); ++i)
+        if (!fonts.files[i].empty())
             m_fonts.files[i] = std::move(fonts.files[i]);
-        }
-    }
     changed();
 }
 
@@ -101,9 +96,8 @@ LegendBox* Chart::addLegend(QPoint at, bool vertical, const TextLook& look) {
 }
 
 LegendBox* Chart::legend() {
-    if (m_legend == nullptr) {
+    if (m_legend == nullptr)
         m_legend = own<LegendBox>(*this);
-    }
     return m_legend;
 }
 
@@ -113,9 +107,8 @@ const char* Chart::keepText(std::string text) {
 
 void Chart::changed() {
     m_stale = true;
-    for (Chart* host : m_hosts) {
+    for (Chart* host : m_hosts)
         host->changed();
-    }
 }
 
 bool Chart::makePicture(const char** data, int* length) {
@@ -141,28 +134,23 @@ void Chart::draw(Canvas& canvas) {
     canvas.painter().setRenderHint(QPainter::Antialiasing, m_smoothShapes);
     canvas.painter().setRenderHint(QPainter::TextAntialiasing, m_textMode != 0);
     drawBackground(canvas);
-    if (!m_drawArea.image().isNull()) {
+    if (!m_drawArea.image().isNull())
         canvas.painter().drawImage(0, 0, m_drawArea.image());
-    }
     drawBody(canvas);
     TitleStacks stacks(QSize(m_width, m_height));
-    for (Title* title : m_titles) {
+    for (Title* title : m_titles)
         title->drawIn(canvas, stacks);
-    }
-    if (m_legend != nullptr) {
+    if (m_legend != nullptr)
         m_legend->draw(canvas);
-    }
-    for (DrawObj* object : m_objects) {
+    for (DrawObj* object : m_objects)
         object->draw(canvas);
-    }
     drawTop(canvas);
 }
 
 void Chart::drawBackground(Canvas& canvas) {
     const QRect all(0, 0, m_width, m_height);
-    if (m_rounded) {
+    if (m_rounded)
         canvas.fillRect(all, m_exterior);
-    }
     const Corners corners = m_rounded ? m_corners : Corners{};
     if (m_imagePath.empty()) {
         canvas.box(all, m_background, m_edge, m_effect, corners);
@@ -171,9 +159,8 @@ void Chart::drawBackground(Canvas& canvas) {
     canvas.box(all, m_background, kTransparent, 0, corners);
     QPainter& painter = canvas.painter();
     painter.save();
-    if (m_rounded) {
+    if (m_rounded)
         painter.setClipPath(roundedRect(all, corners));
-    }
     drawImage(canvas, loadPicture(m_imagePath), all, m_imageAlignment);
     painter.restore();
     canvas.box(all, kTransparent, m_edge, m_effect, corners);
@@ -188,9 +175,8 @@ void Chart::collectKeys(std::vector<LegendKey>& /*keys*/) const {}
 void Chart::hostedEnds(Chart* /*chart*/) {}
 
 void Chart::addHost(Chart* host) {
-    if (std::find(m_hosts.begin(), m_hosts.end(), host) == m_hosts.end()) {
+    if (std::find(m_hosts.begin(), m_hosts.end(), host) == m_hosts.end())
         m_hosts.push_back(host);
-    }
 }
 
 void Chart::removeHost(Chart* host) {
@@ -198,8 +184,9 @@ void Chart::removeHost(Chart* host) {
 }
 
 bool Chart::isShownIn(const Chart* other) const {
-    return this == other || std::any_of(m_hosts.begin(), m_hosts.end(),
-                                        [&](const Chart* host) { return host->isShownIn(other); });
+    return this == other ||
+           std::any_of(
+               m_hosts.begin(), m_hosts.end(), [&](const Chart* host) { return host->isShownIn(other); });
 }
 
 } // namespace chartdraw

@@ -87,9 +87,8 @@ void SymbolPainter::draw(QPointF centre) {
         draw(centre, QSizeF(m_symbol.size, m_symbol.size));
         return;
     }
-    if (!m_visible || !(std::abs(centre.x()) < kFarthest && std::abs(centre.y()) < kFarthest)) {
+    if (!m_visible || !(std::abs(centre.x()) < kFarthest && std::abs(centre.y()) < kFarthest))
         return;
-    }
     const double steps = m_wholePixels ? 1 : kPhases;
     const auto place = [&](double along, int& phase) {
         const double snapped = std::floor(along * steps + 0.5) / steps;
@@ -105,9 +104,8 @@ void SymbolPainter::draw(QPointF centre) {
 void SymbolPainter::draw(QPointF centre, QSizeF size) {
     const bool drawn = m_visible && size.width() > 0 && size.height() > 0 &&
                        std::abs(centre.x()) < kFarthest && std::abs(centre.y()) < kFarthest;
-    if (drawn) {
+    if (drawn)
         paint(m_canvas, centre, size.boundedTo(QSizeF(kMaxSymbolSize, kMaxSymbolSize)));
-    }
 }
 
 /// A pixel free on all sides of the symbol, and one for its place between pixels.

@@ -44,9 +44,8 @@ LegendKey lineKey(std::string name, Colour colour, double width,
     key.drawSymbol = [=, mark = std::move(drawMark)](Canvas& canvas, const QRectF& area) {
         const double y = std::floor(area.center().y());
         canvas.line({area.left(), y}, {area.right() - 1, y}, colour, std::min(width, area.height()));
-        if (mark) {
+        if (mark)
             mark(canvas, {std::floor(area.center().x()), y});
-        }
     };
     return key;
 }
@@ -105,9 +104,8 @@ LegendBox::Plan LegendBox::plan() const {
     Plan plan;
     chart().collectKeys(plan.keys);
     std::erase_if(plan.keys, [](const LegendKey& key) { return key.fields == nullptr && key.text.empty(); });
-    for (const OwnKey& own : m_keys) {
+    for (const OwnKey& own : m_keys)
         plan.keys.push_back(keyOf(own, seriesColour(static_cast<int>(plan.keys.size()))));
-    }
 
     TextLook bare = look();
     bare.setMargins(0, 0, 0, 0);
@@ -152,13 +150,11 @@ LegendBox::Plan LegendBox::plan() const {
 }
 
 void LegendBox::draw(Canvas& canvas) {
-    if (!m_shown) {
+    if (!m_shown)
         return;
-    }
     const Plan plan = this->plan();
-    if (plan.placed.empty()) {
+    if (plan.placed.empty())
         return;
-    }
     const TextLook& style = look();
     canvas.box(QRect(*pos(), plan.box), style.background, style.edge, style.effect, style.corners);
     const QPoint origin = *pos() + QPoint(style.marginLeft, style.marginTop);

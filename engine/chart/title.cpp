@@ -28,9 +28,8 @@ QPoint TitleStacks::place(QSize size, int alignment) {
 
 QPoint TitleStacks::placeStrip(QSize size) {
     int top = 0;
-    for (std::size_t column = 0; column < 3; ++column) {
+    for (std::size_t column = 0; column < 3; ++column)
         top = std::max(top, m_used[column]);
-    }
     std::fill_n(m_used.begin(), 3, top + size.height());
     return {0, top};
 }
@@ -40,9 +39,8 @@ Title::Title(Chart& chart, std::string text, const TextLook& look, int alignment
 
 TextBlock Title::laidOut() const {
     TextLook full = look();
-    if (m_strip && full.width <= 0) {
+    if (m_strip && full.width <= 0)
         full.width = chart().width();
-    }
     return {full, text(), chart().fonts()};
 }
 

@@ -27,16 +27,17 @@ double at(std::span<const double> series, std::size_t row) {
 /// Sets each row to what `calculate` makes of it and of the same row of another series.
 template <class Calculate>
 void combine(std::vector<double>& values, std::span<const double> other, Calculate calculate) {
-    for (std::size_t row = 0; row < values.size(); ++row) {
+    for (std::size_t row = 0; row < values.size(); ++row)
         values[row] = toStored(calculate(toNumber(values[row]), at(other, row)));
-    }
 }
 
 template <class Test>
 void select(std::vector<double>& values, std::span<const double> test, double fill, Test passes) {
-    combine(values, test.empty() ? values : test, [=](double value, double tested) {
-        return std::isnan(tested) || std::isnan(value) ? kGap : passes(tested) ? value : fill;
-    });
+    combine(
+        values, test.empty() ? values : test,
+        [=](double value, double tested) {
+            return std::isnan(tested) || std::isnan(value) ? kGap : passes(tested) ? value : fill;
+        });
 }
 
 /// Sets each row to the merger of the last `interval` rows. The rows are cut into blocks of that many: a
@@ -119,40 +120,44 @@ struct Extreme {
 } // namespace
 
 ArrayMath::ArrayMath(std::span<const double> values) : Object(kKind), m_values(values.begin(), values.end()) {
-    for (double& value : m_values) {
+    for (double& value : m_values)
         value = toStored(toNumber(value));
-    }
 }
 
 void ArrayMath::add(std::span<const double> other) {
-    combine(m_values, other, [](double a, double b) { return a + b; });
+    combine(
+        m_values, other, [](double a, double b) { return a + b; });
 }
 
 void ArrayMath::sub(std::span<const double> other) {
-    combine(m_values, other, [](double a, double b) { return a - b; });
+    combine(
+        m_values, other, [](double a, double b) { return a - b; });
 }
 
 void ArrayMath::mul(double factor) {
-    combine(m_values, {}, [b = toNumber(factor)](double a, double) { return a * b; });
+    combine(
+        m_values, {}, [b = toNumber(factor)](double a, double) { return a * b; });
 }
 
 void ArrayMath::div(double divisor) {
-    combine(m_values, {}, [b = toNumber(divisor)](double a, double) { return a / b; });
+    combine(
+        m_values, {}, [b = toNumber(divisor)](double a, double) { return a / b; });
 }
 
 void ArrayMath::financeDiv(std::span<const double> divisor, double zeroByZero) {
-    combine(m_values, divisor, [=](double a, double b) { return a == 0 && b == 0 ? zeroByZero : a / b; });
+    combine(
+        m_values, divisor, [=](double a, double b) { return a == 0 && b == 0 ? zeroByZero : a / b; });
 }
 
 void ArrayMath::abs() {
-    combine(m_values, {}, [](double a, double) { return std::fabs(a); });
+    combine(
+        m_values, {}, [](double a, double) { return std::fabs(a); });
 }
 
 void ArrayMath::delta(int offset) {
     const auto back = std::min(static_cast<std::size_t>(std::max(offset, 1)), m_values.size());
-    for (std::size_t row = m_values.size(); row-- > back;) {
+    for (std::size_t row = m_values.size(); row-- > back;)
         m_values[row] = toStored(toNumber(m_values[row]) - toNumber(m_values[row - back]));
-    }
     std::fill_n(m_values.begin(), back, kNoValue);
 }
 
@@ -186,24 +191,25 @@ void ArrayMath::expAvg(double smoothing) {
 
 double ArrayMath::max() const {
     double largest = kGap;
-    for (const double value : m_values) {
-        if (isValue(value) && !(largest >= value)) {
+    for (const double value : m_values)
+        if (isValue(value) && !(largest >= value))
             largest = value;
-        }
-    }
     return std::isnan(largest) ? 0 : largest;
 }
 
 void ArrayMath::selectGTZ(std::span<const double> test, double fill) {
-    select(m_values, test, fill, [](double tested) { return tested > 0; });
+    select(
+        m_values, test, fill, [](double tested) { return tested > 0; });
 }
 
 void ArrayMath::selectLTZ(std::span<const double> test, double fill) {
-    select(m_values, test, fill, [](double tested) { return tested < 0; });
+    select(
+        m_values, test, fill, [](double tested) { return tested < 0; });
 }
 
 void ArrayMath::selectEQZ(std::span<const double> test, double fill) {
-    select(m_values, test, fill, [](double tested) { return tested == 0; });
+    select(
+        m_values, test, fill, [](double tested) { return tested == 0; });
 }
 
 } // namespace chartdraw

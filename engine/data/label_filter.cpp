@@ -30,12 +30,10 @@ int encodeFilter(int type, int labelStep, double initialMargin) {
 }
 
 LabelFilter decodeFilter(int filter) {
-    if (filter >= 0 && filter < kTypes) {
+    if (filter >= 0 && filter < kTypes)
         return {.type = toType(filter + 1)};
-    }
-    if (filter < kMark) {
+    if (filter < kMark)
         return {};
-    }
     const int step = filter >> kStepShift & kMaxStep;
     const int margin = filter & kMarginMask;
     return {toType((filter ^ kMark) >> kTypeShift), std::max(step, 1), std::min(margin / kMarginUnits, 1.0)};

@@ -53,9 +53,8 @@ std::pair<double, double> ordered(double a, double b) {
 /// Whole days from a time to the nearest weekday on or after it, or on or before it.
 int daysToWeekday(double time, bool backwards) {
     const int weekday = weekdayOf(time);
-    if (weekday < 5) {
+    if (weekday < 5)
         return 0;
-    }
     return backwards ? 4 - weekday : 7 - weekday;
 }
 
@@ -84,9 +83,8 @@ void RanTable::setCol(int column, double minimum, double maximum) {
     const double first = limited(minimum, limited(maximum, 0));
     const auto [low, high] = ordered(first, limited(maximum, first));
     Random random(m_seed, column);
-    for (double& cell : cells(column)) {
+    for (double& cell : cells(column))
         cell = random.between(low, high);
-    }
 }
 
 void RanTable::setDateCol(int column, double start, double step, bool weekdaysOnly) {
@@ -95,9 +93,8 @@ void RanTable::setDateCol(int column, double start, double step, bool weekdaysOn
     double row = 0;
     for (double& cell : cells(column)) {
         const double offset = row * stride;
-        if (weekdaysOnly) {
+        if (weekdaysOnly)
             origin += daysToWeekday(origin + offset, stride < 0) * kSecondsPerDay;
-        }
         cell = origin + offset;
         ++row;
     }
@@ -105,9 +102,8 @@ void RanTable::setDateCol(int column, double start, double step, bool weekdaysOn
 
 void RanTable::setHLOCCols(int firstColumn, double start, double minDelta, double maxDelta, double lower,
                            double upper) {
-    if (!has(firstColumn) || !has(firstColumn + 3)) {
+    if (!has(firstColumn) || !has(firstColumn + 3))
         return;
-    }
     const auto [low, high] = ordered(limited(lower, -kLargest), limited(upper, kLargest));
     const auto [fall, rise] = ordered(limited(minDelta, 0), limited(maxDelta, 0));
     const double reach = (rise - fall) / 4; // how far a row's high and low stand off at most

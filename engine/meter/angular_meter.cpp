@@ -63,9 +63,8 @@ double AngularMeter::majorLength() const {
 
 void AngularMeter::drawBody(Canvas& canvas) {
     drawRings(canvas);
-    if (m_radius <= 0) {
+    if (m_radius <= 0)
         return;
-    }
     drawZones(canvas);
     const double breadth = m_radius * radians(std::abs(m_end - m_start));
     const Dial dial = this->dial(breadth, true);
@@ -77,9 +76,8 @@ void AngularMeter::drawRings(Canvas& canvas) const {
     for (const Ring& ring : m_rings) {
         QPainterPath path; // odd-even: the inner circle is a hole
         path.addEllipse(circle(ring.outer));
-        if (ring.inner > 0) {
+        if (ring.inner > 0)
             path.addEllipse(circle(ring.inner));
-        }
         canvas.fillPath(path, ring.fill);
         canvas.strokePath(path, ring.edge, 1);
     }
@@ -88,9 +86,8 @@ void AngularMeter::drawRings(Canvas& canvas) const {
 void AngularMeter::drawZones(Canvas& canvas) const {
     for (const Zone& zone : m_zones) {
         const auto covered = span(zone.start, zone.end);
-        if (!covered) {
+        if (!covered)
             continue;
-        }
         const double from = angleAt(covered->first), to = angleAt(covered->second);
         QPainterPath path;
         if (std::abs(to - from) >= 360) {
@@ -144,17 +141,13 @@ double AngularMeter::clearOfRings(const Dial& dial, double radius) const {
     }
     const double breadth = reach - radius;
     std::vector<int> borders;
-    for (const Ring& ring : m_rings) {
-        if (!colours().invisible(ring.fill) || !colours().invisible(ring.edge)) {
+    for (const Ring& ring : m_rings)
+        if (!colours().invisible(ring.fill) || !colours().invisible(ring.edge))
             borders.insert(borders.end(), {ring.inner, ring.outer});
-        }
-    }
     std::sort(borders.begin(), borders.end());
-    for (const int border : borders) {
-        if (border > radius - 1 && border < radius + breadth) {
+    for (const int border : borders)
+        if (border > radius - 1 && border < radius + breadth)
             radius = border + kLabelGap;
-        }
-    }
     return radius;
 }
 
@@ -181,11 +174,9 @@ std::vector<QRectF> AngularMeter::labelBoxes(const Dial& dial) const {
 void AngularMeter::drawLabels(Canvas& canvas, const Dial& dial) const {
     const std::vector<QRectF> boxes = labelBoxes(dial);
     const std::vector<bool> kept = thinAround(boxes, kLabelAir);
-    for (std::size_t i = 0; i < boxes.size(); ++i) {
-        if (kept[i]) {
+    for (std::size_t i = 0; i < boxes.size(); ++i)
+        if (kept[i])
             dial.labels[i].text.drawAt(canvas, boxes[i].topLeft(), TopLeft);
-        }
-    }
 }
 
 QPainterPath AngularMeter::outlineOf(const MeterPointer& pointer, double fraction) const {

@@ -23,9 +23,8 @@ bool isOpaque(Colour colour) {
 void fillZone(Canvas& canvas, const QPainterPath& path, Colour fill, Colour edge) {
     canvas.fillPath(path, fill);
     // A second layer of a colour that shows through would be seen as a darker edge.
-    if (edge != kDefaultColour || isOpaque(fill)) {
+    if (edge != kDefaultColour || isOpaque(fill))
         canvas.strokePath(path, orDefault(edge, fill), 1);
-    }
 }
 
 BaseMeter::BaseMeter(Kind kind, int width, int height, Colour background, Colour edge, int effect)
@@ -84,9 +83,8 @@ BaseMeter::Dial BaseMeter::dial(double length, bool sideBySide) const {
     }
     for (const Tick& tick : dial.ticks.major) {
         dial.majors.push_back(tick.value);
-        if (TextBlock text = label(tick); !text.empty()) {
+        if (TextBlock text = label(tick); !text.empty())
             dial.labels.push_back({tick.value, std::move(text)});
-        }
     }
     return dial;
 }
@@ -98,18 +96,16 @@ std::array<BaseMeter::TickSort, 3> BaseMeter::tickSorts(const Dial& dial) const 
 }
 
 std::optional<double> BaseMeter::fraction(double value) const {
-    if (std::isnan(value) || value == kNoValue) {
+    if (std::isnan(value) || value == kNoValue)
         return std::nullopt;
-    }
     const double rising = m_scale.fraction(std::clamp(value, m_scale.lower(), m_scale.upper()));
     return m_falling ? 1 - rising : rising;
 }
 
 std::optional<std::pair<double, double>> BaseMeter::span(double start, double end) const {
     const std::optional<double> from = fraction(start), to = fraction(end);
-    if (!from || !to || *from == *to) {
+    if (!from || !to || *from == *to)
         return std::nullopt;
-    }
     return std::minmax(*from, *to);
 }
 
@@ -120,11 +116,9 @@ Colour BaseMeter::scaleColour() const {
 
 std::vector<QRectF> BaseMeter::pointerBounds() const {
     std::vector<QRectF> bounds;
-    for (const MeterPointer* pointer : m_pointers) {
-        if (const std::optional<double> at = fraction(pointer->value())) {
+    for (const MeterPointer* pointer : m_pointers)
+        if (const std::optional<double> at = fraction(pointer->value()))
             bounds.push_back(outlineOf(*pointer, *at).boundingRect());
-        }
-    }
     return bounds;
 }
 
@@ -133,9 +127,8 @@ void BaseMeter::drawTop(Canvas& canvas) {
         if (const std::optional<double> at = fraction(pointer->value())) {
             const QPainterPath outline = outlineOf(*pointer, *at);
             canvas.fillPath(outline, pointer->fill());
-            if (pointer->edge() != pointer->fill()) {
+            if (pointer->edge() != pointer->fill())
                 canvas.strokePath(outline, pointer->edge(), 1);
-            }
         }
     }
 }

@@ -101,9 +101,8 @@ QRectF LinearMeter::zoneRect(double from, double to) const {
 }
 
 void LinearMeter::drawBody(Canvas& canvas) {
-    if (barLength() < 1) {
+    if (barLength() < 1)
         return;
-    }
     drawZones(canvas);
     drawZoneLabels(canvas);
     const Dial dial = this->dial(barLength(), !upright());
@@ -112,11 +111,9 @@ void LinearMeter::drawBody(Canvas& canvas) {
 }
 
 void LinearMeter::drawZones(Canvas& canvas) const {
-    for (const Zone& zone : m_zones) {
-        if (const auto covered = span(zone.start, zone.end)) {
+    for (const Zone& zone : m_zones)
+        if (const auto covered = span(zone.start, zone.end))
             canvas.fillRect(zoneRect(covered->first, covered->second), zone.colour);
-        }
-    }
 }
 
 /// As near to the middle of the zone as no pointer covers the label.
@@ -131,9 +128,8 @@ QRectF LinearMeter::placeInside(const QRectF& zone, QSizeF size, const std::vect
         const QRectF box = placed(part);
         const bool free = std::none_of(pointers.begin(), pointers.end(),
                                        [&](const QRectF& pointer) { return pointer.intersects(box); });
-        if (free) {
+        if (free)
             return box;
-        }
     }
     return placed(0.5);
 }
@@ -146,9 +142,8 @@ void LinearMeter::drawZoneLabels(Canvas& canvas) const {
     for (const Zone& zone : m_zones) {
         const auto covered = span(zone.start, zone.end);
         TextBlock text = zone.label->block();
-        if (!covered || text.empty()) {
+        if (!covered || text.empty())
             continue;
-        }
         const QRectF rect = zoneRect(covered->first, covered->second);
         const QSizeF size(text.size());
         if (size.width() <= rect.width() && size.height() <= rect.height()) {
@@ -162,9 +157,11 @@ void LinearMeter::drawZoneLabels(Canvas& canvas) const {
         at -= QPointF(outward().x() * half.x(), outward().y() * half.y());
         beside.push_back({std::move(text), movedInto(QRectF(at - half, size), room())});
     }
-    std::stable_sort(beside.begin(), beside.end(), [this](const ZoneLabel& a, const ZoneLabel& b) {
-        return startAlong(a.box, upright()) < startAlong(b.box, upright());
-    });
+    std::stable_sort(
+        beside.begin(), beside.end(),
+        [this](const ZoneLabel& a, const ZoneLabel& b) {
+            return startAlong(a.box, upright()) < startAlong(b.box, upright());
+        });
     const auto moveTo = [this](QRectF& box, double start) {
         upright() ? box.moveTop(start) : box.moveLeft(start);
     };
@@ -178,9 +175,8 @@ void LinearMeter::drawZoneLabels(Canvas& canvas) const {
         moveTo(label->box,
                std::min(startAlong(label->box, upright()), end - lengthAlong(label->box, upright())));
         end = startAlong(label->box, upright()) - 1;
-        if (end + 1 >= startAlong(room(), upright())) {
+        if (end + 1 >= startAlong(room(), upright()))
             label->text.drawAt(canvas, label->box.topLeft(), TopLeft);
-        }
     }
 }
 

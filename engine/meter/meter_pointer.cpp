@@ -13,11 +13,9 @@ constexpr double kLargestRatio = 100; // farther out than any picture
 /// A symmetric outline from its right half, given from the tip down.
 QPainterPath mirrored(const QPolygonF& right) {
     QPolygonF whole = right;
-    for (auto corner = right.rbegin(); corner != right.rend(); ++corner) {
-        if (corner->x() != 0) {
+    for (auto corner = right.rbegin(); corner != right.rend(); ++corner)
+        if (corner->x() != 0)
             whole << QPointF(-corner->x(), corner->y());
-        }
-    }
     QPainterPath path;
     path.addPolygon(whole);
     path.closeSubpath();

@@ -10,15 +10,13 @@ MultiChart::MultiChart(int width, int height, Colour background, Colour edge, in
     : Chart(Kind::MultiChart, width, height, background, edge, effect) {}
 
 MultiChart::~MultiChart() {
-    for (const Shown& shown : m_shown) {
+    for (const Shown& shown : m_shown)
         shown.chart->removeHost(this);
-    }
 }
 
 void MultiChart::addChart(QPoint at, Chart& chart) {
-    if (isShownIn(&chart)) {
+    if (isShownIn(&chart))
         return;
-    }
     std::erase_if(m_shown, [&](const Shown& shown) { return shown.chart == &chart; });
     // Far enough outside the picture, so that sums cannot overflow.
     constexpr int kFar = 2 * kMaxSide;
@@ -35,8 +33,8 @@ void MultiChart::setMainChart(Chart* chart) {
 }
 
 bool MultiChart::shows(const Chart* chart) const {
-    return std::any_of(m_shown.begin(), m_shown.end(),
-                       [&](const Shown& shown) { return shown.chart == chart; });
+    return std::any_of(
+        m_shown.begin(), m_shown.end(), [&](const Shown& shown) { return shown.chart == chart; });
 }
 
 Chart* MultiChart::mainChart() const {
@@ -45,9 +43,8 @@ Chart* MultiChart::mainChart() const {
 
 void MultiChart::collectKeys(std::vector<LegendKey>& keys) const {
     const Chart* main = mainChart();
-    if (main == nullptr || main->showsLegend()) {
+    if (main == nullptr || main->showsLegend())
         return;
-    }
     std::vector<LegendKey> own;
     main->collectKeys(own);
     for (LegendKey& key : own) {
@@ -72,18 +69,15 @@ void MultiChart::drawBody(Canvas& canvas) {
         // What lies beyond the right and lower side need not be drawn; a chart still sees its upper left
         // corner at (0, 0).
         const QSize whole(shown.chart->width(), shown.chart->height());
-        if (whole.isEmpty() || whole.width() > kMaxSide || whole.height() > kMaxSide) {
+        if (whole.isEmpty() || whole.width() > kMaxSide || whole.height() > kMaxSide)
             continue;
-        }
         const QRect area = QRect(shown.at, whole) & QRect(0, 0, width(), height());
-        if (area.isEmpty()) {
+        if (area.isEmpty())
             continue;
-        }
         const QPoint seen = area.bottomRight() - shown.at;
         QImage layer(seen.x() + 1, seen.y() + 1, QImage::Format_ARGB32_Premultiplied);
-        if (layer.isNull()) {
+        if (layer.isNull())
             continue;
-        }
         layer.fill(Qt::transparent);
         {
             Canvas part(layer, shown.chart->colours());
@@ -95,9 +89,8 @@ void MultiChart::drawBody(Canvas& canvas) {
 
 void MultiChart::hostedEnds(Chart* chart) {
     std::erase_if(m_shown, [&](const Shown& shown) { return shown.chart == chart; });
-    if (m_main == chart) {
+    if (m_main == chart)
         m_main = nullptr;
-    }
     changed();
 }
 

@@ -48,11 +48,9 @@ Kind baseOf(Kind kind) {
 }
 
 bool isKind(Kind kind, Kind wanted) {
-    for (; kind != Kind::None; kind = baseOf(kind)) {
-        if (kind == wanted) {
+    for (; kind != Kind::None; kind = baseOf(kind))
+        if (kind == wanted)
             return true;
-        }
-    }
     return false;
 }
 

@@ -26,9 +26,8 @@ QRect wholePixels(const QRectF& rect, const QRectF& limits) {
         return static_cast<int>(std::floor(std::clamp(value, low, high) + 0.5));
     };
     const QRectF upright = rect.normalized();
-    if (std::isnan(upright.left() + upright.right() + upright.top() + upright.bottom())) {
+    if (std::isnan(upright.left() + upright.right() + upright.top() + upright.bottom()))
         return {};
-    }
     const QPoint topLeft(side(upright.left(), limits.left(), limits.right()),
                          side(upright.top(), limits.top(), limits.bottom()));
     const QPoint behind(side(upright.right(), limits.left(), limits.right()),
@@ -38,16 +37,14 @@ QRect wholePixels(const QRectF& rect, const QRectF& limits) {
 
 /// The rectangle that a path of four upright sides is.
 std::optional<QRectF> asRect(const QPainterPath& path) {
-    if (path.elementCount() != 5 && path.elementCount() != 4) {
+    if (path.elementCount() != 5 && path.elementCount() != 4)
         return std::nullopt;
-    }
     for (int i = 0; i < path.elementCount(); ++i) {
         const QPointF from = path.elementAt(i);
         const QPointF to = path.elementAt((i + 1) % path.elementCount());
         if (path.elementAt(i).isCurveTo() || (i > 0 && path.elementAt(i).isMoveTo()) ||
-            (from.x() != to.x() && from.y() != to.y())) {
+            (from.x() != to.x() && from.y() != to.y()))
             return std::nullopt;
-        }
     }
     return path.boundingRect();
 }
@@ -75,35 +72,30 @@ QRectF Canvas::visible(double margin) const {
 
 void Canvas::fillRect(const QRectF& rect, Colour colour) {
     const QRect pixels = wholePixels(rect, visible(1));
-    if (!pixels.isEmpty()) {
+    if (!pixels.isEmpty())
         fillPixels(pixels, colour, rect);
-    }
 }
 
 void Canvas::fillPixels(const QRect& pixels, Colour colour, const QRectF& extent) {
-    if (colour < kTransparent) {
+    if (colour < kTransparent)
         m_painter.fillRect(pixels, m_colours.solid(colour));
-    } else if (!m_colours.invisible(colour)) {
+    else if (!m_colours.invisible(colour))
         m_painter.fillRect(pixels, m_colours.brush(colour, extent));
-    }
 }
 
 void Canvas::fillPath(const QPainterPath& path, Colour colour, const QRectF* extent) {
-    if (m_colours.invisible(colour)) {
+    if (m_colours.invisible(colour))
         return;
-    }
     const QBrush brush = m_colours.brush(colour, extent != nullptr ? *extent : path.boundingRect());
-    if (isSafe(path.controlPointRect())) {
+    if (isSafe(path.controlPointRect()))
         m_painter.fillPath(path, brush);
-    } else {
+    else
         m_painter.fillPath(clipPath(path, visible(2)), brush);
-    }
 }
 
 void Canvas::strokePath(const QPainterPath& path, Colour colour, double width) {
-    if (!(width > 0) || m_colours.invisible(colour)) {
+    if (!(width > 0) || m_colours.invisible(colour))
         return;
-    }
     const QRectF bounds = path.controlPointRect();
     const double penWidth = std::min(width, kSafeCoordinate);
     QPen pen(m_colours.brush(colour, bounds), penWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
@@ -118,24 +110,21 @@ void Canvas::strokePath(const QPainterPath& path, Colour colour, double width) {
         for (qsizetype i = 1; i < polygon.size(); ++i) {
             QPointF from = polygon[i - 1];
             QPointF to = polygon[i];
-            if (clipSegment(from, to, limits)) {
+            if (clipSegment(from, to, limits))
                 m_painter.drawLine(from, to);
-            }
         }
     }
 }
 
 void Canvas::frame(const QRect& rect, Colour colour, const Corners& corners, int width) {
     const int inner = std::min({width, (rect.width() + 1) / 2, (rect.height() + 1) / 2});
-    if (inner <= 0 || m_colours.invisible(colour)) {
+    if (inner <= 0 || m_colours.invisible(colour))
         return;
-    }
     if (!isSquare(corners)) {
         QPainterPath outline = roundedRect(rect, corners);
         const QRect inside = rect.adjusted(inner, inner, -inner, -inner);
-        if (!inside.isEmpty()) {
+        if (!inside.isEmpty())
             outline.addPath(roundedRect(inside, insetCorners(corners, inner)));
-        }
         fillPath(outline, colour);
         return;
     }
@@ -150,33 +139,27 @@ void Canvas::frame(const QRect& rect, Colour colour, const Corners& corners, int
                            {rect.left(), rect.bottom() + 1 - bottom, rect.width(), bottom}};
     for (const QRect& side : sides) {
         const QRect pixels = wholePixels(side, limits);
-        if (!pixels.isEmpty()) {
+        if (!pixels.isEmpty())
             fillPixels(pixels, colour, rect);
-        }
     }
 }
 
 void Canvas::box(const QRect& whole, Colour fillColour, Colour edge, int effect, const Corners& corners,
                  int edgeWidth) {
-    if (whole.isEmpty()) {
+    if (whole.isEmpty())
         return;
-    }
     const QRect rect = whole & QRect(QPoint(-kFar, -kFar), QPoint(kFar, kFar));
-    if (rect.isEmpty()) {
+    if (rect.isEmpty())
         return;
-    }
-    if (isSquare(corners)) {
+    if (isSquare(corners))
         fillRect(rect, fillColour);
-    } else {
+    else
         fillPath(roundedRect(rect, corners), fillColour);
-    }
     const QRect lit = isSafe(rect) ? rect : wholePixels(rect, visible(kMaxEffectSize));
-    if (!lit.isEmpty()) {
+    if (!lit.isEmpty())
         lightBox(m_painter, lit, corners, Effect::decode(effect));
-    }
-    if (edge != kDefaultColour) {
+    if (edge != kDefaultColour)
         frame(rect, edge, corners, edgeWidth);
-    }
 }
 
 void Canvas::shape(const QPainterPath& path, Colour fillColour, Colour edge, int effect, double edgeWidth) {
@@ -190,12 +173,10 @@ void Canvas::shape(const QPainterPath& path, Colour fillColour, Colour edge, int
         return;
     }
     fillPath(path, fillColour);
-    if (isSafe(path.controlPointRect())) {
+    if (isSafe(path.controlPointRect()))
         lightPath(m_painter, path, Effect::decode(effect));
-    }
-    if (edge != kDefaultColour) {
+    if (edge != kDefaultColour)
         strokePath(path, edge, edgeWidth);
-    }
 }
 
 void drawImage(Canvas& canvas, const QImage& image, const QRect& area, int alignment) {
@@ -204,9 +185,8 @@ void drawImage(Canvas& canvas, const QImage& image, const QRect& area, int align
     const QRect target(area.left() + room.width() * (code % 3) / 2,
                        area.top() + room.height() * (2 - code / 3) / 2, image.width(), image.height());
     const QRect shown = target & area;
-    if (!image.isNull() && !shown.isEmpty()) {
+    if (!image.isNull() && !shown.isEmpty())
         canvas.painter().drawImage(shown.topLeft(), image, shown.translated(-target.topLeft()));
-    }
 }
 
 } // namespace chartdraw

@@ -16,25 +16,21 @@ bool clipSegment(QPointF& from, QPointF& to, const QRectF& bounds) {
                                                          {step.y(), bounds.bottom() - from.y()}}};
     for (const auto& [distance, room] : sides) {
         if (distance == 0) {
-            if (room < 0) {
+            if (room < 0)
                 return false;
-            }
         } else if (distance < 0) {
             enter = std::max(enter, room / distance);
         } else {
             leave = std::min(leave, room / distance);
         }
     }
-    if (enter > leave) {
+    if (enter > leave)
         return false;
-    }
     const QPointF start = from;
-    if (enter > 0) {
+    if (enter > 0)
         from = start + step * enter;
-    }
-    if (leave < 1) {
+    if (leave < 1)
         to = start + step * leave;
-    }
     return true;
 }
 
@@ -49,12 +45,10 @@ QPolygonF cut(const QPolygonF& polygon, const Distance& inside) {
         const QPointF to = polygon[(i + 1) % polygon.size()];
         const double a = inside(from);
         const double b = inside(to);
-        if (a >= 0) {
+        if (a >= 0)
             kept << from;
-        }
-        if ((a < 0) != (b < 0)) {
+        if ((a < 0) != (b < 0))
             kept << from + (to - from) * (a / (a - b));
-        }
     }
     return kept;
 }
@@ -66,9 +60,12 @@ QPainterPath clipPath(const QPainterPath& path, const QRectF& bounds) {
     clipped.setFillRule(path.fillRule());
     const QList<QPolygonF> polygons = path.toSubpathPolygons();
     for (QPolygonF polygon : polygons) {
-        polygon = cut(polygon, [&](QPointF p) { return p.x() - bounds.left(); });
-        polygon = cut(polygon, [&](QPointF p) { return bounds.right() - p.x(); });
-        polygon = cut(polygon, [&](QPointF p) { return p.y() - bounds.top(); });
+        polygon = cut(
+            polygon, [&](QPointF p) { return p.x() - bounds.left(); });
+        polygon = cut(
+            polygon, [&](QPointF p) { return bounds.right() - p.x(); });
+        polygon = cut(
+            polygon, [&](QPointF p) { return p.y() - bounds.top(); });
         polygon = cut(polygon, [&](QPointF p) { return bounds.bottom() - p.y(); });
         clipped.addPolygon(polygon);
         clipped.closeSubpath();

@@ -119,9 +119,8 @@ QBrush metalBrush(const QColor& base, int angle, const QRectF& extent) {
     const double reach =
         (std::abs(direction.x()) * extent.width() + std::abs(direction.y()) * extent.height()) / 2;
     QLinearGradient gradient(extent.center() - direction * reach, extent.center() + direction * reach);
-    for (const auto& [position, amount] : kBands) {
+    for (const auto& [position, amount] : kBands)
         gradient.setColorAt(position, shade(base, amount));
-    }
     return gradient;
 }
 
@@ -159,9 +158,8 @@ Colour metalColour(Colour base, int angle) {
 ColourTable::ColourTable() : m_palette(kDefaultPalette) {}
 
 Colour ColourTable::addPattern(const QImage& tile, int startX, int startY) {
-    if (tile.isNull()) {
+    if (tile.isNull())
         return kTransparent;
-    }
     // One count for all charts: a token that strays into another chart is unknown there.
     static std::atomic<Colour> counter{0};
     const Colour token = kPatternBase + (counter.fetch_add(1, std::memory_order_relaxed) & kTokenMask);
@@ -175,17 +173,14 @@ QColor ColourTable::solid(Colour colour) const {
         return {static_cast<int>(colour >> 16 & 0xff), static_cast<int>(colour >> 8 & 0xff),
                 static_cast<int>(colour & 0xff), static_cast<int>(255 - (colour >> 24))};
     }
-    if (isPalette(colour)) {
+    if (isPalette(colour))
         return QColor::fromRgba(m_palette[colour - kPaletteBase]);
-    }
-    if (isMetal(colour)) {
+    if (isMetal(colour))
         return solid(metals().find(colour).base);
-    }
     if (isPattern(colour)) {
         const auto found = m_patterns.find(colour);
-        if (found != m_patterns.end()) {
+        if (found != m_patterns.end())
             return found->second.mean;
-        }
     }
     return QColor(0, 0, 0, 0);
 }
@@ -201,12 +196,10 @@ QBrush ColourTable::brush(Colour colour, const QRectF& extent) const {
         return Qt::NoBrush;
     }
     const QColor plain = solid(colour);
-    if (plain.alpha() == 0) {
+    if (plain.alpha() == 0)
         return Qt::NoBrush;
-    }
-    if (isMetal(colour) && extent.isValid()) {
+    if (isMetal(colour) && extent.isValid())
         return metalBrush(plain, metals().find(colour).angle, extent);
-    }
     return plain;
 }
 

@@ -5,13 +5,13 @@
 namespace chartdraw {
 
 bool isSquare(const Corners& corners) {
-    return std::all_of(corners.begin(), corners.end(), [](int radius) { return radius <= 0; });
+    return std::all_of(
+        corners.begin(), corners.end(), [](int radius) { return radius <= 0; });
 }
 
 Corners insetCorners(Corners corners, int inset) {
-    for (int& radius : corners) {
+    for (int& radius : corners)
         radius = std::max(0, radius - inset);
-    }
     return corners;
 }
 
@@ -22,11 +22,10 @@ QPainterPath roundedRect(const QRectF& rect, const Corners& corners) {
     };
     QPainterPath path;
     const auto arc = [&](double x, double y, double diameter, double startAngle) {
-        if (diameter > 0) {
+        if (diameter > 0)
             path.arcTo(x, y, diameter, diameter, startAngle, -90);
-        } else {
+        else
             path.lineTo(x, y);
-        }
     };
     path.moveTo(rect.left(), rect.top() + size(0) / 2);
     arc(rect.left(), rect.top(), size(0), 180);

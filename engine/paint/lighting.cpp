@@ -32,9 +32,8 @@ struct Beam {
         const QPointF centre = bounds.center();
         from = level ? QPointF(bounds.left(), centre.y()) : QPointF(centre.x(), bounds.top());
         to = level ? QPointF(bounds.right(), centre.y()) : QPointF(centre.x(), bounds.bottom());
-        if (direction == 6 || direction == 2) {
+        if (direction == 6 || direction == 2)
             std::swap(from, to);
-        }
         length = level ? bounds.width() : bounds.height();
         across = level ? bounds.height() : bounds.width();
     }
@@ -46,9 +45,8 @@ struct Stop {
 };
 
 QBrush withStops(QGradient gradient, double length, std::initializer_list<Stop> stops) {
-    for (const Stop& stop : stops) {
+    for (const Stop& stop : stops)
         gradient.setColorAt(std::clamp(stop.position / length, 0.0, 1.0), tone(stop.strength));
-    }
     return gradient;
 }
 
@@ -112,9 +110,8 @@ void bevelPath(QPainter& painter, const QPainterPath& path, int size) {
     const QRectF bounds = path.boundingRect();
     const QRectF shown = painter.combinedTransform().inverted().mapRect(QRectF(painter.window()));
     const QRect area = (shown & bounds).toAlignedRect();
-    if (area.isEmpty()) {
+    if (area.isEmpty())
         return;
-    }
     const double width = std::min(std::abs(size) * 1.0, std::min(bounds.width(), bounds.height()) / 2);
     // In steps, so that it fades inwards: light and shade cross on thin shapes without a hard patch.
     const int steps = std::clamp(static_cast<int>(width), 1, 6);
@@ -153,9 +150,8 @@ void lightBox(QPainter& painter, const QRect& rect, const Corners& corners, cons
 
 void lightPath(QPainter& painter, const QPainterPath& path, const Effect& effect) {
     const QRectF bounds = path.boundingRect();
-    if (bounds.isEmpty()) {
+    if (bounds.isEmpty())
         return;
-    }
     switch (effect.type) {
     case Effect::Type::Flat:
         break;

@@ -67,9 +67,8 @@ void PenMask::row(int y, int from, int to, const Stroke& stroke) {
     double across = stroke.across + from * stroke.uy - y * stroke.ux;
     for (int x = from; x < to;
          x += kLane, pixels += kLane, along += kLane * stroke.ux, across += kLane * stroke.uy) {
-        if (isFull(pixels)) {
+        if (isFull(pixels))
             continue; // as most are where a wide pen crosses its own line again and again
-        }
         Lane lane;
         if (std::min(along, along + span) >= 0 && std::max(along, along + span) <= stroke.length) {
             const std::int16_t left = units(m_reach + across), right = units(m_reach - across);
@@ -109,9 +108,8 @@ void PenMask::segment(QPointF from, QPointF to) {
         stroke.uy = step.y() / length;
     }
 #pragma GCC unroll 1
-    for (int k = 0; k < kLane; ++k) {
+    for (int k = 0; k < kLane; ++k)
         stroke.sideways[k] = units(k * stroke.uy);
-    }
     stroke.along = (0.5 - from.x()) * stroke.ux + (0.5 - from.y()) * stroke.uy;
     stroke.across = (0.5 - from.x()) * stroke.uy - (0.5 - from.y()) * stroke.ux;
     const double low = std::max(0.0, std::min(from.x(), to.x()) - m_reach);
@@ -129,9 +127,8 @@ void PenMask::segment(QPointF from, QPointF to) {
             left = std::max(left, middle - half - 0.5); // the middle of a pixel counts, not its border
             right = std::min(right, middle + half - 0.5);
         }
-        if (left < right) {
+        if (left < right)
             row(y, static_cast<int>(left), static_cast<int>(right) + 1, stroke);
-        }
     }
 }
 

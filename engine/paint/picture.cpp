@@ -27,11 +27,9 @@ QByteArray formatOf(const QByteArray& bytes) {
         {QByteArray::fromRawData("BM", 2), "bmp"},
         {QByteArray::fromRawData("\0\0", 2), "wbmp"},
     };
-    for (const auto& [signature, format] : kSignatures) {
-        if (bytes.startsWith(signature)) {
+    for (const auto& [signature, format] : kSignatures)
+        if (bytes.startsWith(signature))
             return format;
-        }
-    }
     return {};
 }
 
@@ -56,22 +54,19 @@ public:
         const std::lock_guard lock(m_mutex);
         const auto found = std::find_if(m_files.begin(), m_files.end(),
                                         [&](const CachedFile& file) { return file.isOf(info); });
-        if (found == m_files.end()) {
+        if (found == m_files.end())
             return {};
-        }
         m_files.splice(m_files.begin(), m_files, found);
         return found->image;
     }
 
     void add(const QFileInfo& info, const QImage& image) {
-        if (image.sizeInBytes() > kMaxCachedBytes) {
+        if (image.sizeInBytes() > kMaxCachedBytes)
             return;
-        }
         const std::lock_guard lock(m_mutex);
         m_files.push_front({info.absoluteFilePath(), info.size(), info.lastModified(), image});
-        if (m_files.size() > kCachedFiles) {
+        if (m_files.size() > kCachedFiles)
             m_files.pop_back();
-        }
     }
 
 private:
@@ -83,9 +78,8 @@ private:
 
 QImage decodePicture(const QByteArray& bytes) {
     const QByteArray format = formatOf(bytes);
-    if (format.isEmpty()) {
+    if (format.isEmpty())
         return {};
-    }
     QBuffer buffer;
     buffer.setData(bytes);
     buffer.open(QIODevice::ReadOnly);
@@ -93,13 +87,11 @@ QImage decodePicture(const QByteArray& bytes) {
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
     QImage image;
-    if (!isReadable(reader.size()) || !reader.read(&image)) {
+    if (!isReadable(reader.size()) || !reader.read(&image))
         return {};
-    }
     // A GIF's first frame may be announced smaller than the screen that it is given on.
-    if (!isReadable(image.size())) {
+    if (!isReadable(image.size()))
         return {};
-    }
     return image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
 }
 
@@ -107,19 +99,16 @@ QImage loadPicture(const std::string& path) {
     static PictureCache cache;
     const QFileInfo info(QString::fromStdString(path));
     // Opening a pipe or a device could wait for ever.
-    if (!info.isFile() || info.size() > kMaxFileBytes) {
+    if (!info.isFile() || info.size() > kMaxFileBytes)
         return {};
-    }
     QImage image = cache.find(info);
     if (image.isNull()) {
         QFile file(info.filePath());
-        if (!file.open(QIODevice::ReadOnly)) {
+        if (!file.open(QIODevice::ReadOnly))
             return {};
-        }
         image = decodePicture(file.readAll());
-        if (!image.isNull()) {
+        if (!image.isNull())
             cache.add(info, image);
-        }
     }
     return image;
 }
@@ -127,17 +116,15 @@ QImage loadPicture(const std::string& path) {
 QByteArray bitmapFile(const QImage& image) {
     const int width = image.width();
     const int height = image.height();
-    if (image.isNull() || width > kMaxSide || height > kMaxSide) {
+    if (image.isNull() || width > kMaxSide || height > kMaxSide)
         return {};
-    }
     constexpr int kHeaderBytes = 54;
     const int stride = (width * 3 + 3) / 4 * 4;
     QByteArray file(kHeaderBytes + static_cast<qsizetype>(stride) * height, '\0');
     auto* bytes = reinterpret_cast<uchar*>(file.data());
     const auto put = [bytes](int at, int count, qint64 value) {
-        for (int i = 0; i < count; ++i) {
+        for (int i = 0; i < count; ++i)
             bytes[at + i] = static_cast<uchar>(value >> (8 * i));
-        }
     };
     put(0, 2, 'B' | 'M' << 8);
     put(2, 4, file.size());

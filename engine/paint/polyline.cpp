@@ -32,9 +32,8 @@ bool isGap(QPointF point) {
 template <typename Draw>
 void forEachSegment(std::span<const QPointF> points, double offset, const QRectF& limits, const Draw& draw) {
     const auto clipped = [&](QPointF from, QPointF to) {
-        if (clipSegment(from, to, limits)) {
+        if (clipSegment(from, to, limits))
             draw(from, to);
-        }
     };
     for (std::size_t i = 0; i < points.size();) {
         if (isGap(points[i])) {
@@ -51,9 +50,8 @@ void forEachSegment(std::span<const QPointF> points, double offset, const QRectF
             }
             last = next;
         }
-        if (!moved) {
+        if (!moved)
             clipped(last, last);
-        }
     }
 }
 
@@ -62,9 +60,8 @@ void drawThin(QPainter& painter, std::span<const QPointF> points, double offset,
     std::vector<QPointF> piece;
     piece.reserve(kPiece + 1);
     const auto flush = [&] {
-        if (piece.size() > 1) {
+        if (piece.size() > 1)
             painter.drawPolyline(piece.data(), static_cast<int>(piece.size()));
-        }
         piece.clear();
     };
     forEachSegment(points, offset, limits, [&](QPointF from, QPointF to) {
@@ -97,9 +94,8 @@ QRectF boundsOf(std::span<const QPointF> points) {
 } // namespace
 
 void Canvas::line(QPointF from, QPointF to, Colour colour, double width) {
-    if (!(width > 0) || isGap(from) || isGap(to) || m_colours.invisible(colour)) {
+    if (!(width > 0) || isGap(from) || isGap(to) || m_colours.invisible(colour))
         return;
-    }
     width = std::min(width, kFarthest);
     const auto whole = [](double value) {
         return std::floor(std::clamp(value, -kFarthest, kFarthest) + 0.5);
@@ -128,9 +124,8 @@ void Canvas::line(QPointF from, QPointF to, Colour colour, double width) {
 }
 
 void Canvas::polyline(std::span<const QPointF> points, Colour colour, double width) {
-    if (!(width > 0) || points.empty() || m_colours.invisible(colour)) {
+    if (!(width > 0) || points.empty() || m_colours.invisible(colour))
         return;
-    }
     width = std::clamp(width, 1.0, 1e5);
     const double offset = penOffset(width);
     const QRectF limits = visible(width + 2);
@@ -143,13 +138,11 @@ void Canvas::polyline(std::span<const QPointF> points, Colour colour, double wid
     }
     const double reach = width / 2 + 2;
     QRectF shown = extent.adjusted(-reach, -reach, reach, reach) & visible(1);
-    if (m_painter.hasClipping()) {
+    if (m_painter.hasClipping())
         shown &= m_painter.clipBoundingRect();
-    }
     const QRect area = shown.toAlignedRect();
-    if (area.isEmpty()) {
+    if (area.isEmpty())
         return;
-    }
     PenMask mask(area, width);
     forEachSegment(points, offset, limits, [&](QPointF from, QPointF to) { mask.segment(from, to); });
     mask.paint(m_painter, brush);

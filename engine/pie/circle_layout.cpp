@@ -47,12 +47,10 @@ public:
         std::stable_sort(m_items.begin(), m_items.end(), [this](const Item& a, const Item& b) {
             return direction(m_spots[a.spot].angle).y() < direction(m_spots[b.spot].angle).y();
         });
-        while (!tryPlace()) {
+        while (!tryPlace())
             dropLightestOf(m_tooLong);
-        }
-        for (const Item& item : m_items) {
+        for (const Item& item : m_items)
             result[item.spot] = {true, item.box, {}};
-        }
     }
 
 private:
@@ -68,15 +66,13 @@ private:
 
     /// Stacks labels that would overlap, more of them in each round. False: a stack is longer than the room.
     bool tryPlace() {
-        for (Item& item : m_items) {
+        for (Item& item : m_items)
             item.linked = false;
-        }
         do {
             for (std::size_t begin = 0, end; begin < m_items.size(); begin = end) {
                 end = begin + 1;
-                while (end < m_items.size() && m_items[end].linked) {
+                while (end < m_items.size() && m_items[end].linked)
                     ++end;
-                }
                 if (!stack({begin, end})) {
                     m_tooLong = {begin, end};
                     return false;
@@ -94,9 +90,8 @@ private:
             lengths.push_back(m_items[i].wish.height() + kGap);
             sum += lengths.back();
         }
-        if (sum - kGap > m_room.height()) {
+        if (sum - kGap > m_room.height())
             return false;
-        }
         const auto tops = stackApart(wished, lengths, m_room.top(), m_room.bottom() + kGap);
         for (std::size_t i = range.begin; i < range.end; ++i) {
             const double top = tops[i - range.begin];
@@ -135,9 +130,8 @@ private:
         bool changed = false;
         for (std::size_t b = 1; b < m_items.size(); ++b) {
             for (std::size_t a = 0; a < b; ++a) {
-                if (!m_items[a].box.intersects(m_items[b].box)) {
+                if (!m_items[a].box.intersects(m_items[b].box))
                     continue;
-                }
                 for (std::size_t i = a + 1; i <= b; ++i) {
                     changed = changed || !m_items[i].linked;
                     m_items[i].linked = true;
@@ -169,9 +163,8 @@ void addJoins(std::span<const LabelSpot> spots, std::vector<PlacedLabel>& labels
         const QPointF near(std::clamp(spots[i].rim.x(), box.left(), box.right()),
                            std::clamp(spots[i].rim.y(), box.top(), box.bottom()));
         const QPointF gap = near - spots[i].rim;
-        if (labels[i].shown && std::hypot(gap.x(), gap.y()) > kJoinFrom) {
+        if (labels[i].shown && std::hypot(gap.x(), gap.y()) > kJoinFrom)
             labels[i].join = joinLine(spots[i], box);
-        }
     }
 }
 
@@ -180,23 +173,19 @@ bool crosses(const std::vector<QPointF>& join, const QRectF& box) {
     for (std::size_t k = 1; k < join.size(); ++k) {
         const QPointF way = join[k] - join[k - 1];
         const int steps = 1 + static_cast<int>(std::hypot(way.x(), way.y()) / 3);
-        for (int step = 0; step <= steps; ++step) {
-            if (box.contains(join[k - 1] + way * step / steps)) {
+        for (int step = 0; step <= steps; ++step)
+            if (box.contains(join[k - 1] + way * step / steps))
                 return true;
-            }
-        }
     }
     return false;
 }
 
 bool anyConflict(const std::vector<PlacedLabel>& labels) {
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        for (std::size_t k = 0; k < labels.size() && labels[i].shown; ++k) {
+        for (std::size_t k = 0; k < labels.size() && labels[i].shown; ++k)
             if (k != i && labels[k].shown &&
-                (labels[i].box.intersects(labels[k].box) || crosses(labels[i].join, labels[k].box))) {
+                (labels[i].box.intersects(labels[k].box) || crosses(labels[i].join, labels[k].box)))
                 return true;
-            }
-        }
     }
     return false;
 }
@@ -220,9 +209,8 @@ std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const QR
     const auto kept = heaviest(spots, kMostLabels);
     if (distance < 0) {
         result.resize(spots.size());
-        for (std::size_t i : kept) {
+        for (std::size_t i : kept)
             result[i] = {true, insideBox(spots[i], room, distance), {}};
-        }
         hideOverlaps(spots, result);
         return result;
     }
@@ -231,15 +219,13 @@ std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const QR
         result.assign(spots.size(), {});
         Half left(spots, room, distance, false, crowded);
         Half right(spots, room, distance, true, crowded);
-        for (std::size_t i : kept) {
+        for (std::size_t i : kept)
             (direction(spots[i].angle).x() >= -1e-9 ? right : left).add(i);
-        }
         left.place(result);
         right.place(result);
         addJoins(spots, result);
-        if (!anyConflict(result)) {
+        if (!anyConflict(result))
             break;
-        }
     }
     hideOverlaps(spots, result);
     return result;

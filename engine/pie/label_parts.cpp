@@ -16,9 +16,8 @@ constexpr double kLastPart = 5;  ///< the least length of the part beside the la
 
 /// Whether a line from the rim outwards cuts through the ellipse.
 bool cutsThrough(const LabelSpot& spot, QPointF from, QPointF to) {
-    if (spot.rx <= 0 || spot.ry <= 0) {
+    if (spot.rx <= 0 || spot.ry <= 0)
         return false;
-    }
     const auto scaled = [&](QPointF point) {
         return QPointF((point.x() - spot.centre.x()) / spot.rx, (point.y() - spot.centre.y()) / spot.ry);
     };
@@ -47,11 +46,9 @@ std::vector<std::size_t> heaviest(std::span<const LabelSpot> spots, std::size_t 
 
 void hideOverlaps(std::span<const LabelSpot> spots, std::vector<PlacedLabel>& labels) {
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        for (std::size_t k = 0; k < i && labels[i].shown; ++k) {
-            if (labels[k].shown && labels[i].box.intersects(labels[k].box)) {
+        for (std::size_t k = 0; k < i && labels[i].shown; ++k)
+            if (labels[k].shown && labels[i].box.intersects(labels[k].box))
                 labels[spots[k].weight >= spots[i].weight ? i : k] = {};
-            }
-        }
     }
 }
 
@@ -67,12 +64,10 @@ std::vector<QPointF> joinLine(const LabelSpot& spot, const QRectF& box) {
     // Bend where the line has just left the rim; farther out if it would run through the pie from there.
     const double latest = nearX - side * kLastPart;
     double bend = spot.rim.x() + direction(spot.angle).x() * kOutwards;
-    if ((bend - latest) * side > 0 || (bend - spot.rim.x()) * side < 0) {
+    if ((bend - latest) * side > 0 || (bend - spot.rim.x()) * side < 0)
         bend = latest;
-    }
-    for (int step = 1; step <= 8 && cutsThrough(spot, spot.rim, {bend, middle}); ++step) {
+    for (int step = 1; step <= 8 && cutsThrough(spot, spot.rim, {bend, middle}); ++step)
         bend += (latest - bend) * step / 8;
-    }
     return {spot.rim, {bend, middle}, {nearX, middle}};
 }
 

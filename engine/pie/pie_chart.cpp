@@ -90,13 +90,11 @@ void PieChart::set3D(int depth, double degrees, bool oblique) {
 }
 
 Sector* PieChart::sector(int index) {
-    if (index < 0 || index >= std::ssize(m_values)) {
+    if (index < 0 || index >= std::ssize(m_values))
         return nullptr;
-    }
     Sector*& sector = m_sectors[static_cast<std::size_t>(index)];
-    if (sector == nullptr) {
+    if (sector == nullptr)
         sector = own<Sector>(*this);
-    }
     return sector;
 }
 
@@ -116,9 +114,8 @@ PieBody PieChart::body() const {
     body.centre = m_sized ? QPointF(m_centre) : QPointF(width() / 2.0, height() / 2.0);
     body.radius = m_sized ? m_radius : std::min(width(), height()) * 0.35;
     body.inner = std::min<double>(m_inner, body.radius);
-    if (!m_view) {
+    if (!m_view)
         return body;
-    }
     // A body that lies aside may lie anywhere; a tilt goes from above to the side.
     const bool automatic = !std::isfinite(m_view->degrees) || m_view->degrees == -1;
     const double given =
@@ -138,17 +135,15 @@ PieBody PieChart::body() const {
 QPointF PieChart::centreOf(const PieBody& body, std::size_t index, const SectorSpan& span) const {
     const Sector* style = styleOf(index);
     const int distance = style != nullptr ? style->explode() : 0;
-    if (distance == 0) {
+    if (distance == 0)
         return body.centre;
-    }
     return body.at(body.centre, span.middle(), distance > 0 ? distance : std::max(5.0, body.radius * 0.12));
 }
 
 void PieChart::drawBody(Canvas& canvas) {
     const PieBody body = this->body();
-    if (body.radius < 1 || m_values.empty()) {
+    if (body.radius < 1 || m_values.empty())
         return;
-    }
     const std::vector<double> parts = shares(m_values);
     const std::vector<SectorSpan> spans = sectorSpans(parts, m_startAngle, m_clockwise);
     if (std::none_of(parts.begin(), parts.end(), [](double part) { return part > 0; })) {
@@ -163,9 +158,8 @@ void PieChart::drawBody(Canvas& canvas) {
         const Colour edge = orDefault(style != nullptr ? style->edge() : kDefaultColour, m_edge);
         sectors.push_back({spans[i], centreOf(body, i, spans[i]), fillOf(i), edge});
     }
-    if (!m_clockwise) {
+    if (!m_clockwise)
         std::reverse(sectors.begin(), sectors.end());
-    }
     drawPie(canvas, {body, m_view && m_view->oblique}, sectors);
     drawLabels(canvas, body, parts, spans);
 }

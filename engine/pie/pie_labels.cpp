@@ -22,18 +22,14 @@ public:
         : m_label(std::move(label)), m_value(value), m_percent(share * 100), m_index(index) {}
 
     FieldValue field(std::string_view name) const override {
-        if (name == "label" || name == "dataSetName") {
+        if (name == "label" || name == "dataSetName")
             return FieldValue::text(m_label);
-        }
-        if (name == "value") {
+        if (name == "value")
             return FieldValue::number(m_value);
-        }
-        if (name == "percent") {
+        if (name == "percent")
             return FieldValue::number(m_percent);
-        }
-        if (name == "sector") {
+        if (name == "sector")
             return FieldValue::number(static_cast<double>(m_index));
-        }
         return FieldValue::unknown();
     }
 
@@ -68,9 +64,8 @@ void PieChart::collectKeys(std::vector<LegendKey>& keys) const {
 }
 
 double PieChart::labelDistance(const PieBody& body) const {
-    if (m_inColumns) {
+    if (m_inColumns)
         return m_labelDistance >= 0 ? m_labelDistance : std::max(18.0, body.radius / 6);
-    }
     return m_labelDistance == -1 ? kCircleDistance : m_labelDistance;
 }
 
@@ -88,29 +83,24 @@ int PieChart::widthBeside(const PieBody& body, QPointF about, double angle) cons
 std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span<const double> shares,
                                                   std::span<const SectorSpan> spans) const {
     std::vector<LabelSpot> weights(shares.size());
-    for (std::size_t i = 0; i < shares.size(); ++i) {
+    for (std::size_t i = 0; i < shares.size(); ++i)
         weights[i].weight = shares[i];
-    }
     TextLook look = m_labelStyle->look();
     const bool wraps = look.wrapWidth == 0 && look.angle == 0 && !look.vertical;
     std::vector<Label> labels;
     for (std::size_t i : heaviest(weights, kMostLabels)) {
-        if (!isValue(m_values[i]) || m_values[i] < 0) {
+        if (!isValue(m_values[i]) || m_values[i] < 0)
             continue;
-        }
         const std::string text = m_format.apply(*fieldsOf(i, shares[i]));
-        if (text.find_first_not_of(" \t\r\n") == std::string::npos) {
+        if (text.find_first_not_of(" \t\r\n") == std::string::npos)
             continue;
-        }
         const double angle = spans[i].middle();
         const QPointF about = centreOf(body, i, spans[i]);
-        if (wraps) {
+        if (wraps)
             look.wrapWidth = widthBeside(body, about, angle);
-        }
         TextBlock block(look, text, fonts());
-        if (block.empty()) {
+        if (block.empty())
             continue;
-        }
         const QPointF lowered =
             body.depth * body.facing(angle); // in front, the label stays clear of the wall
         const LabelSpot spot{angle,
@@ -129,9 +119,8 @@ void PieChart::drawLabels(Canvas& canvas, const PieBody& body, std::span<const d
                           std::span<const SectorSpan> spans) const {
     const std::vector<Label> labels = makeLabels(body, shares, spans);
     std::vector<LabelSpot> spots;
-    for (const Label& label : labels) {
+    for (const Label& label : labels)
         spots.push_back(label.spot);
-    }
     QRectF room = QRectF(0, 0, width(), height()).adjusted(kMargin, kMargin, -kMargin, -kMargin);
     std::vector<PlacedLabel> placed;
     if (m_inColumns) {
@@ -144,9 +133,8 @@ void PieChart::drawLabels(Canvas& canvas, const PieBody& body, std::span<const d
     for (std::size_t i = 0; i < labels.size(); ++i) {
         const Sector* style = styleOf(labels[i].sector);
         const Colour line = orDefault(style != nullptr ? style->joinLine() : kDefaultColour, m_joinLine);
-        if (placed[i].join.size() > 1) {
+        if (placed[i].join.size() > 1)
             canvas.polyline(placed[i].join, line, 1);
-        }
     }
     for (std::size_t i = 0; i < labels.size(); ++i) {
         if (placed[i].shown) {

@@ -23,16 +23,13 @@ public:
 
     void walls() {
         std::vector<SectorSpan> spans;
-        for (const SectorLook& sector : m_sectors) {
+        for (const SectorLook& sector : m_sectors)
             spans.push_back(sector.span);
-        }
-        for (const WallStep& step : wallOrder(spans, viewerAngle(m_pie.body))) {
-            if (step.front) {
+        for (const WallStep& step : wallOrder(spans, viewerAngle(m_pie.body)))
+            if (step.front)
                 outerWall(step.sector);
-            } else {
+            else
                 backWalls(step.sector);
-            }
-        }
     }
 
     void faces() {
@@ -70,9 +67,8 @@ private:
     /// The angle that sector `i` may reach under those after it.
     double joinedAhead(std::size_t i) const {
         double angle = 0;
-        for (; i + 1 < m_sectors.size() && angle < kFaceOverlap && joined(i, i + 1); ++i) {
+        for (; i + 1 < m_sectors.size() && angle < kFaceOverlap && joined(i, i + 1); ++i)
             angle += m_sectors[i + 1].span.span;
-        }
         return std::min(angle, kFaceOverlap);
     }
 
@@ -80,9 +76,8 @@ private:
     /// closed.
     double joinedBehind() const {
         double angle = 0;
-        for (std::size_t i = m_sectors.size() - 1; i > 0 && joined(i, next(i)); --i) {
+        for (std::size_t i = m_sectors.size() - 1; i > 0 && joined(i, next(i)); --i)
             angle += m_sectors[i].span.span;
-        }
         return angle;
     }
 
@@ -94,9 +89,8 @@ private:
             span.start -= more;
             span.span += more;
         }
-        if (joined(i, next(i)) && !m_wallDrawn[next(i)]) {
+        if (joined(i, next(i)) && !m_wallDrawn[next(i)])
             span.span += more;
-        }
         m_wallDrawn[i] = true;
         const QRectF rim = m_pie.body.bounds(m_sectors[i].centre);
         QLinearGradient shade(rim.left(), 0, rim.right(), 0);
@@ -112,9 +106,8 @@ private:
         wall(i, m_pie.body.roundWall(sector.centre, sector.span, false), shade);
         for (const bool atEnd : {false, true}) {
             // Hidden where the next sector stands right beside.
-            if (m_sectors.size() > 1 && joined(i, atEnd ? next(i) : before(i))) {
+            if (m_sectors.size() > 1 && joined(i, atEnd ? next(i) : before(i)))
                 continue;
-            }
             const double outwards = (atEnd ? sector.span.end() : sector.span.start) +
                                     (atEnd ? std::numbers::pi : -std::numbers::pi) / 2;
             wall(i, m_pie.body.cutWall(sector.centre, sector.span, atEnd),
@@ -130,9 +123,8 @@ private:
     }
 
     void wall(std::size_t i, const QPainterPath& path, const QBrush& shade) {
-        if (path.isEmpty()) {
+        if (path.isEmpty())
             return;
-        }
         const SectorLook& sector = m_sectors[i];
         m_canvas.fillPath(path, sector.fill, &m_extent);
         m_canvas.painter().fillPath(path, shade);
@@ -151,24 +143,20 @@ private:
 void drawPie(Canvas& canvas, const PieLook& pie, std::span<const SectorLook> sectors) {
     std::vector<SectorLook> visible;
     for (const SectorLook& sector : sectors) {
-        if (sector.span.span <= 0) {
+        if (sector.span.span <= 0)
             continue;
-        }
         // Slivers that no pixel can show go together, so that thousands of them cost no more than hundreds.
         SectorLook* last = visible.empty() ? nullptr : &visible.back();
-        if (last != nullptr && last->span.span * pie.body.radius < kSliver && last->centre == sector.centre) {
+        if (last != nullptr && last->span.span * pie.body.radius < kSliver && last->centre == sector.centre)
             last->span.span += sector.span.span;
-        } else {
+        else
             visible.push_back(sector);
-        }
     }
-    if (visible.empty()) {
+    if (visible.empty())
         return;
-    }
     PiePainter painter(canvas, pie, visible);
-    if (pie.body.solid()) {
+    if (pie.body.solid())
         painter.walls();
-    }
     painter.faces();
 }
 

@@ -44,18 +44,16 @@ std::vector<double> shares(std::span<const double> values) {
         result.push_back(isValue(value) && value > 0 ? value : 0);
         largest = std::max(largest, result.back());
     }
-    if (largest <= 0) {
+    if (largest <= 0)
         return result;
-    }
     // Scaled by the largest first: a sum of huge values must not leave the range of numbers.
     double sum = 0;
     for (double& value : result) {
         value /= largest;
         sum += value;
     }
-    for (double& value : result) {
+    for (double& value : result)
         value /= sum;
-    }
     return result;
 }
 
@@ -91,9 +89,8 @@ QPointF PieBody::shift(double angle, double distance) const {
 }
 
 double PieBody::facing(double angle) const {
-    if (!solid()) {
+    if (!solid())
         return 0;
-    }
     return std::max(0.0, std::cos(angle - viewerAngle(*this)));
 }
 
@@ -108,9 +105,8 @@ QPainterPath PieBody::face(QPointF about, const SectorSpan& span) const {
     const QRectF hole = ellipse(about, inner);
     if (span.span >= kWhole) {
         path.addEllipse(rim);
-        if (inner > 0) {
+        if (inner > 0)
             path.addEllipse(hole);
-        }
         return path;
     }
     path.moveTo(at(about, span.start, inner));
@@ -127,9 +123,8 @@ QPainterPath PieBody::face(QPointF about, const SectorSpan& span) const {
 QPainterPath PieBody::roundWall(QPointF about, const SectorSpan& span, bool outer) const {
     QPainterPath path;
     const double wallRadius = outer ? radius : inner;
-    if (!solid() || wallRadius <= 0) {
+    if (!solid() || wallRadius <= 0)
         return path;
-    }
     // The outer wall shows on the half turned to the viewer, the inner one on the other half.
     const double viewer = viewerAngle(*this) + (outer ? 0 : std::numbers::pi);
     const double visibleStart = viewer - kTurn / 4;
@@ -141,9 +136,8 @@ QPainterPath PieBody::roundWall(QPointF about, const SectorSpan& span, bool oute
     for (const double turn : {0.0, kTurn}) {
         const double from = visibleStart + std::max(0.0, offset - turn);
         const double to = visibleStart + std::min(kTurn / 2, offset - turn + span.span);
-        if (to - from <= 1e-9) {
+        if (to - from <= 1e-9)
             continue;
-        }
         path.moveTo(at(lifted, from, wallRadius));
         arcTo(path, upper, from, to);
         path.lineTo(at(about, to, wallRadius) + depth);
@@ -157,9 +151,8 @@ QPainterPath PieBody::cutWall(QPointF about, const SectorSpan& span, bool atEnd)
     QPainterPath path;
     const double angle = atEnd ? span.end() : span.start;
     const double outwards = angle + (atEnd ? kTurn / 4 : -kTurn / 4);
-    if (!solid() || span.span >= kWhole || facing(outwards) <= 1e-6) {
+    if (!solid() || span.span >= kWhole || facing(outwards) <= 1e-6)
         return path;
-    }
     const QPointF near = at(about, angle, inner);
     const QPointF far = at(about, angle, radius);
     const QPointF lift = underFace(depth);
@@ -187,9 +180,8 @@ std::vector<WallStep> wallOrder(std::span<const SectorSpan> spans, double toward
     const double back = towardsViewer + std::numbers::pi;
     for (std::size_t i = 0; i < spans.size(); ++i) {
         const SectorSpan& span = spans[i];
-        if (span.span <= 0) {
+        if (span.span <= 0)
             continue;
-        }
         const bool holdsBack = normalised(back - span.start) < span.span;
         const bool holdsFront = normalised(towardsViewer - span.start) < span.span;
         const double fromFront = normalised(span.middle() - towardsViewer);
@@ -205,9 +197,8 @@ std::vector<WallStep> wallOrder(std::span<const SectorSpan> spans, double toward
                      [](const Ranked& a, const Ranked& b) { return a.distance > b.distance; });
     std::vector<WallStep> result;
     result.reserve(ranked.size());
-    for (const Ranked& entry : ranked) {
+    for (const Ranked& entry : ranked)
         result.push_back(entry.step);
-    }
     return result;
 }
 

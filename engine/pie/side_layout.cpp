@@ -15,9 +15,8 @@ using Column = std::vector<std::size_t>;
 
 double heightOf(std::span<const LabelSpot> spots, const Column& column) {
     double sum = 0;
-    for (std::size_t i : column) {
+    for (std::size_t i : column)
         sum += spots[i].size.height() + kRowGap;
-    }
     return sum;
 }
 
@@ -32,10 +31,8 @@ void balance(std::span<const LabelSpot> spots, Column& from, Column& to, double 
     while (heightOf(spots, from) > height && from.size() > 1) {
         const auto next = leaning(from.front()) < leaning(from.back()) ? from.begin() : from.end() - 1;
         const bool atTop = direction(spots[*next].angle).y() < 0;
-        if (leaning(*next) > kNearAxis ||
-            heightOf(spots, to) + spots[*next].size.height() + kRowGap > height) {
+        if (leaning(*next) > kNearAxis || heightOf(spots, to) + spots[*next].size.height() + kRowGap > height)
             return;
-        }
         to.insert(atTop ? to.begin() : to.end(), *next);
         from.erase(next);
     }
@@ -43,9 +40,9 @@ void balance(std::span<const LabelSpot> spots, Column& from, Column& to, double 
 
 void dropLightest(std::span<const LabelSpot> spots, Column& column, double height) {
     while (!column.empty() && heightOf(spots, column) > height + kRowGap) {
-        column.erase(std::min_element(column.begin(), column.end(), [&](std::size_t a, std::size_t b) {
-            return spots[a].weight < spots[b].weight;
-        }));
+        column.erase(std::min_element(
+            column.begin(), column.end(),
+            [&](std::size_t a, std::size_t b) { return spots[a].weight < spots[b].weight; }));
     }
 }
 
@@ -59,14 +56,15 @@ std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const QRec
         edges[0] = std::min(edges[0], spot.centre.x() - spot.rx);
         edges[1] = std::max(edges[1], spot.centre.x() + spot.rx);
     }
-    for (std::size_t i : heaviest(spots, kMostLabels)) {
+    for (std::size_t i : heaviest(spots, kMostLabels))
         columns[direction(spots[i].angle).x() >= -1e-9 ? 1 : 0].push_back(i);
-    }
     const double height = room.height();
     for (Column& column : columns) {
-        std::stable_sort(column.begin(), column.end(), [&](std::size_t a, std::size_t b) {
-            return direction(spots[a].angle).y() < direction(spots[b].angle).y();
-        });
+        std::stable_sort(
+            column.begin(), column.end(),
+            [&](std::size_t a, std::size_t b) {
+                return direction(spots[a].angle).y() < direction(spots[b].angle).y();
+            });
     }
     balance(spots, columns[0], columns[1], height);
     balance(spots, columns[1], columns[0], height);
@@ -88,11 +86,9 @@ std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const QRec
         }
     }
     hideOverlaps(spots, result);
-    for (std::size_t i = 0; i < spots.size(); ++i) {
-        if (result[i].shown) {
+    for (std::size_t i = 0; i < spots.size(); ++i)
+        if (result[i].shown)
             result[i].join = joinLine(spots[i], result[i].box);
-        }
-    }
     return result;
 }
 

@@ -17,9 +17,8 @@ constexpr double kLeastSpacing = 4; ///< pixels between spokes on the rim
 double automaticStep(double range) {
     for (const int parts : {12, 10, 8, 9, 7, 6, 5}) {
         const double step = range / parts;
-        if (decimalsOf(step) + exponentOf(step) <= 1) { // at most two digits
+        if (decimalsOf(step) + exponentOf(step) <= 1) // at most two digits
             return step;
-        }
     }
     return range / 8;
 }
@@ -77,12 +76,10 @@ std::vector<double> AngularAxis::evenSteps(std::size_t count) const {
 }
 
 std::pair<double, double> AngularAxis::zoneTurns(const Zone& zone) const {
-    if (!isValue(zone.start) || !isValue(zone.end) || zone.start == zone.end) {
+    if (!isValue(zone.start) || !isValue(zone.end) || zone.start == zone.end)
         return {0, 0};
-    }
-    if (std::abs(m_scale.fraction(zone.end) - m_scale.fraction(zone.start)) >= 1) {
+    if (std::abs(m_scale.fraction(zone.end) - m_scale.fraction(zone.start)) >= 1)
         return {0, 1};
-    }
     const double from = turn(zone.start);
     const double covered = turn(zone.end) - from;
     return {from, covered < 0 ? covered + 1 : covered};
@@ -100,22 +97,17 @@ AngularTicks AngularAxis::ticks(double circumference) const {
         return result;
     }
     Increments increments = m_increments;
-    if (!(isValue(increments.major) && increments.major > 0)) {
+    if (!(isValue(increments.major) && increments.major > 0))
         increments.major = automaticStep(m_scale.upper() - m_scale.lower());
-    }
     const Ticks ticks = linearTicks(m_scale, increments, {.lengthPx = circumference});
     // The ends of the scale are one place, named by the lower limit.
     const auto closes = [this](double value) { return m_scale.fraction(value) > 1 - 1e-9; };
-    for (const Tick& tick : ticks.major) {
-        if (!closes(tick.value)) {
+    for (const Tick& tick : ticks.major)
+        if (!closes(tick.value))
             result.spokes.push_back({turn(tick.value), tick.label});
-        }
-    }
-    for (const double value : ticks.minor) {
-        if (!closes(value)) {
+    for (const double value : ticks.minor)
+        if (!closes(value))
             result.minor.push_back(turn(value));
-        }
-    }
     return result;
 }
 

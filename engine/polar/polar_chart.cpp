@@ -67,9 +67,8 @@ PolarLayer* PolarChart::addLayer(Kind kind, std::vector<double> data, Colour col
 }
 
 void PolarChart::collectKeys(std::vector<LegendKey>& keys) const {
-    for (const PolarLayer* layer : m_layers) {
+    for (const PolarLayer* layer : m_layers)
         layer->collectKeys(keys);
-    }
 }
 
 PolarChart::Plot PolarChart::plot() const {
@@ -79,9 +78,8 @@ PolarChart::Plot PolarChart::plot() const {
     frame.centre = m_centre;
     frame.radius = m_radius;
     frame.polygon = m_polygon;
-    for (const AngularTick& spoke : plot.angular.spokes) {
+    for (const AngularTick& spoke : plot.angular.spokes)
         frame.spokes.push_back(spoke.turn);
-    }
     std::sort(frame.spokes.begin(), frame.spokes.end());
 
     const ScaleSettings& scale = m_radial->scale();
@@ -100,9 +98,8 @@ PolarChart::Plot PolarChart::plot() const {
     frame.radial = scale.reverse ? plot.radial.map(outer, inner) : plot.radial.map(inner, outer);
     for (const PlannedTick& tick : plot.radial.ticks) {
         const double pixels = frame.pixels(tick.value);
-        if (tick.major && pixels >= 1 && pixels <= m_radius + 0.5) {
+        if (tick.major && pixels >= 1 && pixels <= m_radius + 0.5)
             plot.rings.push_back(pixels);
-        }
     }
     std::sort(plot.rings.begin(), plot.rings.end());
     return plot;
@@ -114,30 +111,25 @@ QRectF PolarChart::room() const {
 }
 
 void PolarChart::drawBody(Canvas& canvas) {
-    if (m_radius <= 0) {
+    if (m_radius <= 0)
         return;
-    }
     const Plot plot = this->plot();
     drawArea(canvas, plot);
     drawZones(canvas, plot.frame);
-    if (!m_gridOnTop) {
+    if (!m_gridOnTop)
         drawGrid(canvas, plot);
-    }
-    for (const PolarLayer* layer : m_layers) {
+    for (const PolarLayer* layer : m_layers)
         layer->draw(canvas, plot.frame, *m_angular);
-    }
-    if (m_gridOnTop) {
+    if (m_gridOnTop)
         drawGrid(canvas, plot);
-    }
     canvas.strokePath(plot.frame.ring(m_radius), m_edge, m_edgeWidth);
     std::vector<QRectF> taken;
     drawRadialAxis(canvas, plot, taken);
     drawMarks(canvas, plot.frame, taken);
     drawRadialTitle(canvas, plot.frame, taken);
     drawAngularLabels(canvas, plot, taken);
-    for (const PolarLayer* layer : m_layers) {
+    for (const PolarLayer* layer : m_layers)
         layer->drawLabels(canvas, plot.frame, *m_angular, room(), taken);
-    }
 }
 
 } // namespace chartdraw

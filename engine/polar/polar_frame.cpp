@@ -43,18 +43,16 @@ QPainterPath PolarFrame::band(double from, double to) const {
     QPainterPath path;
     if (outer > inner) {
         path = ring(outer); // odd-even: the inner ring is a hole
-        if (inner > 0) {
+        if (inner > 0)
             path.addPath(ring(inner));
-        }
     }
     return path;
 }
 
 QPainterPath PolarFrame::sector(double fromTurn, double turns) const {
     QPainterPath path;
-    if (turns >= 1) {
+    if (turns >= 1)
         return ring(radius);
-    }
     const QPointF middle = centre + kToBorders;
     const QRectF circle(middle - QPointF(radius, radius), QSizeF(2 * radius, 2 * radius));
     path.moveTo(middle);

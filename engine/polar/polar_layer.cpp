@@ -26,21 +26,16 @@ public:
         : m_value(value), m_angle(angle), m_label(label), m_name(name), m_row(row) {}
 
     FieldValue field(std::string_view name) const override {
-        if (name == "value") {
+        if (name == "value")
             return FieldValue::number(m_value);
-        }
-        if (name == "angle" || name == "x") {
+        if (name == "angle" || name == "x")
             return FieldValue::number(m_angle);
-        }
-        if (name == "label" || name == "xLabel") {
+        if (name == "label" || name == "xLabel")
             return m_label.empty() ? FieldValue::number(m_angle) : FieldValue::text(m_label);
-        }
-        if (name == "dataSetName") {
+        if (name == "dataSetName")
             return FieldValue::text(m_name);
-        }
-        if (name == "dataItem") {
+        if (name == "dataItem")
             return FieldValue::number(static_cast<double>(m_row));
-        }
         return FieldValue::unknown();
     }
 
@@ -66,9 +61,8 @@ void PolarLayer::setAngles(std::vector<double> angles) {
 }
 
 TextBox* PolarLayer::setDataLabelStyle(const TextLook& look) {
-    if (m_labelStyle == nullptr) {
+    if (m_labelStyle == nullptr)
         m_labelStyle = m_chart.own<TextBox>(m_chart);
-    }
     m_labelStyle->edit() = look;
     m_labelStyle->edit().setMargins(2, 2, 0, 0);
     return m_labelStyle;
@@ -125,17 +119,15 @@ std::vector<std::optional<PolarLayer::Point>> PolarLayer::points(const PolarFram
     std::vector<std::optional<Point>> points(m_data.size());
     for (std::size_t row = 0; row < m_data.size(); ++row) {
         const double turn = axis.turn(angles[row]), pixels = frame.pixels(m_data[row]);
-        if (!std::isnan(turn) && !std::isnan(pixels)) {
+        if (!std::isnan(turn) && !std::isnan(pixels))
             points[row] = Point{row, turn, pixels, frame.at(turn, pixels)};
-        }
     }
     return points;
 }
 
 double PolarLayer::symbolSize(std::size_t row) const {
-    if (row < m_symbolSizes.size()) {
+    if (row < m_symbolSizes.size())
         return isValue(m_symbolSizes[row]) ? std::clamp<double>(m_symbolSizes[row], 0, kMaxSymbolSize) : 0;
-    }
     return m_symbol.size;
 }
 
@@ -147,30 +139,25 @@ void PolarLayer::draw(Canvas& canvas, const PolarFrame& frame, const AngularAxis
     const bool leaves = isSmooth() || std::any_of(points.begin(), points.end(), [&](const auto& point) {
                             return point && point->pixels > frame.radius;
                         });
-    if (leaves) {
+    if (leaves)
         painter.setClipPath(frame.ring(frame.radius + m_lineWidth / 2.0 + 1));
-    }
-    if (isArea()) {
+    if (isArea())
         drawArea(canvas, points);
-    } else {
+    else
         drawLine(canvas, points);
-    }
     painter.restore();
     drawSymbols(canvas, frame, points);
 }
 
 void PolarLayer::drawArea(Canvas& canvas, const std::vector<std::optional<Point>>& points) const {
     std::vector<QPointF> border;
-    for (const auto& point : points) {
-        if (point) {
+    for (const auto& point : points)
+        if (point)
             border.push_back(point->at);
-        }
-    }
-    if (isSmooth()) {
+    if (isSmooth())
         border = smoothCurve(border, true);
-    } else if (!border.empty()) {
+    else if (!border.empty())
         border.push_back(border.front());
-    }
     QPainterPath path;
     path.addPolygon(QPolygonF(QList<QPointF>(border.begin(), border.end())).translated(0.5, 0.5));
     path.setFillRule(Qt::WindingFill);
@@ -186,20 +173,17 @@ void PolarLayer::drawLine(Canvas& canvas, const std::vector<std::optional<Point>
     std::vector<QPointF> line, run;
     const QPointF gap(std::numeric_limits<double>::quiet_NaN(), 0);
     const auto endRun = [&](bool closed) {
-        if (isSmooth()) {
+        if (isSmooth())
             run = smoothCurve(run, closed);
-        }
         line.insert(line.end(), run.begin(), run.end());
         line.push_back(gap);
         run.clear();
     };
-    for (const auto& point : points) {
-        if (point) {
+    for (const auto& point : points)
+        if (point)
             run.push_back(point->at);
-        } else {
+        else
             endRun(false);
-        }
-    }
     if (m_closed && points.size() > 2 && points.front() && points.back()) {
         if (whole && isSmooth()) {
             endRun(true);
@@ -216,9 +200,8 @@ void PolarLayer::drawSymbols(Canvas& canvas, const PolarFrame& frame,
                              const std::vector<std::optional<Point>>& points) const {
     SymbolPainter painter(canvas, m_symbol.resolved(m_colour));
     for (const auto& point : points) {
-        if (!point || point->pixels > frame.radius + 0.5) {
+        if (!point || point->pixels > frame.radius + 0.5)
             continue;
-        }
         if (point->row < m_symbolSizes.size()) {
             const double size = symbolSize(point->row);
             painter.draw(point->at, QSizeF(size, size));
@@ -230,9 +213,8 @@ void PolarLayer::drawSymbols(Canvas& canvas, const PolarFrame& frame,
 
 void PolarLayer::drawLabels(Canvas& canvas, const PolarFrame& frame, const AngularAxis& axis,
                             const QRectF& room, std::vector<QRectF>& taken) const {
-    if (m_labelStyle == nullptr) {
+    if (m_labelStyle == nullptr)
         return;
-    }
     constexpr std::size_t kMostLabels = 500; // more cannot be told apart in any picture
     const std::vector<double> angles = anglesOf(axis);
     const auto isFree = [&](const QRectF& box) {
@@ -242,17 +224,15 @@ void PolarLayer::drawLabels(Canvas& canvas, const PolarFrame& frame, const Angul
     };
     std::size_t drawn = 0;
     for (const auto& point : points(frame, axis)) {
-        if (!point || point->pixels > frame.radius + 0.5 || drawn == kMostLabels) {
+        if (!point || point->pixels > frame.radius + 0.5 || drawn == kMostLabels)
             continue;
-        }
         const std::size_t row = point->row;
         const bool named = m_angles.empty() && row < axis.labels().size();
         const auto label = named ? std::string_view(axis.labels()[row]) : std::string_view();
         const PointFields fields(m_data[row], angles[row], label, m_name, row);
         const TextBlock text = m_labelStyle->block(m_labelFormat.apply(fields));
-        if (text.empty()) {
+        if (text.empty())
             continue;
-        }
         const bool marked = m_symbol.shape > 0;
         const double clear = (marked ? symbolSize(row) / 2 : m_lineWidth / 2.0) + kLabelGap;
         const double outwards = point->turn * 2 * std::numbers::pi;
@@ -271,9 +251,8 @@ void PolarLayer::drawLabels(Canvas& canvas, const PolarFrame& frame, const Angul
 }
 
 void PolarLayer::collectKeys(std::vector<LegendKey>& keys) const {
-    if (m_name.empty()) {
+    if (m_name.empty())
         return;
-    }
     if (isArea()) {
         keys.push_back(boxKey(m_name, m_colour, kTransparent));
         return;

@@ -34,11 +34,10 @@ QPainterPath outlineOf(const QPainterPath& lines, double width) {
 } // namespace
 
 void PolarChart::drawArea(Canvas& canvas, const Plot& plot) const {
-    if (m_first == kDefaultColour && m_second == kDefaultColour) {
+    if (m_first == kDefaultColour && m_second == kDefaultColour)
         canvas.fillPath(plot.frame.ring(m_radius), m_background);
-    } else {
+    else
         drawAlternating(canvas, plot);
-    }
 }
 
 void PolarChart::drawAlternating(Canvas& canvas, const Plot& plot) const {
@@ -70,9 +69,8 @@ void PolarChart::drawAlternating(Canvas& canvas, const Plot& plot) const {
 void PolarChart::drawZones(Canvas& canvas, const PolarFrame& frame) const {
     for (const Zone& zone : m_radial->zones()) {
         const double from = frame.pixels(zone.start), to = frame.pixels(zone.end);
-        if (!std::isnan(from) && !std::isnan(to)) {
+        if (!std::isnan(from) && !std::isnan(to))
             canvas.fillPath(frame.band(from, to), zone.colour);
-        }
     }
     for (const AngularAxis::Zone& zone : m_angular->zones()) {
         const auto [from, turns] = m_angular->zoneTurns(zone);
@@ -87,19 +85,16 @@ void PolarChart::drawZones(Canvas& canvas, const PolarFrame& frame) const {
 void PolarChart::drawGrid(Canvas& canvas, const Plot& plot) const {
     const PolarFrame& frame = plot.frame;
     QPainterPath rings, spokes;
-    for (const double ring : plot.rings) {
+    for (const double ring : plot.rings)
         rings.addPath(frame.ring(ring));
-    }
     const auto add = [&](double turn, double from) {
         spokes.moveTo(frame.at(turn, from) + kToBorders);
         spokes.lineTo(frame.at(turn, m_radius) + kToBorders);
     };
-    for (const double turn : frame.spokes) {
+    for (const double turn : frame.spokes)
         add(turn, 0);
-    }
-    for (const double turn : plot.angular.minor) {
+    for (const double turn : plot.angular.minor)
         add(turn, std::max(0.0, m_radius - kMinorLength));
-    }
     if (canvas.colours().solid(m_ringColour).alpha() == 255 &&
         canvas.colours().solid(m_spokeColour).alpha() == 255) {
         canvas.strokePath(rings, m_ringColour, m_ringWidth);
@@ -128,15 +123,12 @@ void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QR
     for (const PlannedTick& tick : plot.radial.ticks) {
         const double pixels = std::round(frame.pixels(tick.value));
         const int length = tick.major ? settings.majorLength : settings.minorLength;
-        if (!(pixels <= m_radius + 0.5)) {
+        if (!(pixels <= m_radius + 0.5))
             continue;
-        }
-        if (length != 0 && m_radial->width() > 0) {
+        if (length != 0 && m_radial->width() > 0)
             canvas.line(point(pixels, length), point(pixels, 0), m_radial->tickColour(), 1);
-        }
-        if (!tick.label) {
+        if (!tick.label)
             continue;
-        }
         // The outermost label stays below the rim, where the labels of the angles are.
         QRectF box = tick.label->boundsAt(point(pixels, reach) + kToBorders, Right);
         box.moveTop(std::max(box.top(), frame.centre.y() - m_radius + 1));
@@ -154,17 +146,15 @@ void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QR
 /// Right of the axis, as near to its middle as there is room beside the labels of marks.
 void PolarChart::drawRadialTitle(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const {
     const TextBlock title = m_radial->title().block();
-    if (title.empty()) {
+    if (title.empty())
         return;
-    }
     QRectF box;
     for (const double part : {0.5, 0.6, 0.4, 0.7, 0.3, 0.8}) {
         const QPointF beside = frame.at(0, m_radius * part) + QPointF(m_radial->titleGap(), 0);
         box = movedInto(title.boundsAt(beside, Left), room());
         if (std::none_of(taken.begin(), taken.end(),
-                         [&](const QRectF& other) { return other.intersects(box); })) {
+                         [&](const QRectF& other) { return other.intersects(box); }))
             break;
-        }
     }
     title.drawAt(canvas, box.topLeft(), TopLeft);
     taken.push_back(box);
@@ -173,9 +163,8 @@ void PolarChart::drawRadialTitle(Canvas& canvas, const PolarFrame& frame, std::v
 /// A ring at the value of each mark of the radial axis, its label right of the axis.
 void PolarChart::drawMarks(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const {
     for (const Mark* mark : m_radial->marks()) {
-        if (!isValue(mark->value()) || !frame.radial.contains(mark->value())) {
+        if (!isValue(mark->value()) || !frame.radial.contains(mark->value()))
             continue;
-        }
         const double pixels = frame.pixels(mark->value());
         canvas.strokePath(frame.ring(pixels), mark->colour(), 1);
         const TextBlock label = mark->block();
@@ -206,9 +195,8 @@ void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot, std::vector
             look.wrapWidth = std::max(kLeastWrap, static_cast<int>(beside) - margins);
         }
         TextBlock label(look, spoke.label, fonts());
-        if (label.empty()) {
+        if (label.empty())
             continue;
-        }
         QRectF box = movedInto(boxOutside(centre, radius, angle, QSizeF(label.size())), room());
         box.moveTopLeft(QPointF(std::round(box.left()), std::round(box.top())));
         labels.push_back(std::move(label));

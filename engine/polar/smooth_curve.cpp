@@ -19,9 +19,8 @@ double distance(QPointF a, QPointF b) {
 QPointF control(QPointF before, QPointF at, QPointF next) {
     const double d1 = distance(before, at), d2 = distance(at, next);
     const double a = std::sqrt(d1), b = std::sqrt(d2);
-    if (a == 0 || b == 0) {
+    if (a == 0 || b == 0)
         return at;
-    }
     // The tangent of the spline at `at`, scaled to a third of the way to `next`.
     const QPointF tangent = (at - before) / a - (next - before) / (a + b) + (next - at) / b;
     return at + tangent * (b / 3);
@@ -41,18 +40,14 @@ void addCubic(std::vector<QPointF>& curve, QPointF from, QPointF c1, QPointF c2,
 
 std::vector<QPointF> smoothCurve(std::span<const QPointF> points, bool closed) {
     std::vector<QPointF> knots;
-    for (const QPointF& point : points) {
-        if (knots.empty() || distance(knots.back(), point) > 1e-6) {
+    for (const QPointF& point : points)
+        if (knots.empty() || distance(knots.back(), point) > 1e-6)
             knots.push_back(point);
-        }
-    }
-    if (closed && knots.size() > 1 && distance(knots.front(), knots.back()) <= 1e-6) {
+    if (closed && knots.size() > 1 && distance(knots.front(), knots.back()) <= 1e-6)
         knots.pop_back();
-    }
     const std::size_t count = knots.size();
-    if (count < 2) {
+    if (count < 2)
         return knots;
-    }
     const bool round = closed && count > 2;
     // At an open end the curve begins as if the point before it were the end itself.
     const auto knot = [&](std::ptrdiff_t i) {

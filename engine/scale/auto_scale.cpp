@@ -128,9 +128,8 @@ void DataRange::add(std::span<const double> values) {
         add(high[k]);
         add(positive[k]);
     }
-    for (; i < values.size(); ++i) {
+    for (; i < values.size(); ++i)
         add(values[i]);
-    }
 }
 
 void DataRange::add(const DataRange& other) {

@@ -57,9 +57,9 @@ std::string_view Format::name(const Piece& piece) const {
 }
 
 bool Format::has(std::string_view wanted) const {
-    return std::any_of(m_pieces.begin(), m_pieces.end(), [&](const Piece& piece) {
-        return piece.kind != Piece::Kind::Literal && name(piece) == wanted;
-    });
+    return std::any_of(
+        m_pieces.begin(), m_pieces.end(),
+        [&](const Piece& piece) { return piece.kind != Piece::Kind::Literal && name(piece) == wanted; });
 }
 
 void Format::appendField(std::string& out, const Piece& piece, const FieldValue& value) const {
@@ -81,12 +81,11 @@ void Format::appendField(std::string& out, const Piece& piece, const FieldValue&
 }
 
 void Format::appendTo(std::string& out, const FieldSource& fields) const {
-    for (const Piece& piece : m_pieces) {
+    for (const Piece& piece : m_pieces)
         if (piece.kind == Piece::Kind::Literal)
             out.append(m_text, piece.begin, piece.end - piece.begin);
         else
             appendField(out, piece, fields.field(name(piece)));
-    }
 }
 
 std::string Format::apply(const FieldSource& fields) const {

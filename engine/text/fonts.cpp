@@ -42,10 +42,9 @@ int styleOfMissing(std::string_view file) {
     };
     QString stem = QString::fromUtf8(file.data(), std::ssize(file));
     stem.truncate(stem.lastIndexOf(u'.'));
-    for (const auto& [ending, style] : endings) {
+    for (const auto& [ending, style] : endings)
         if (stem.endsWith(QLatin1String(ending), Qt::CaseInsensitive))
             return style;
-    }
     return 0;
 }
 
@@ -89,10 +88,9 @@ private:
             {"DejaVuSans.ttf", "DejaVuSans-Bold.ttf", "DejaVuSans-Oblique.ttf", "DejaVuSans-BoldOblique.ttf"},
             {"NotoSans-Regular.ttf", "NotoSans-Bold.ttf", "NotoSans-Italic.ttf", "NotoSans-BoldItalic.ttf"},
         }};
-        for (const auto& family : files) {
+        for (const auto& family : files)
             if (const auto face = loadFile(family[static_cast<std::size_t>(style)], 0))
                 return *face;
-        }
         return {.family = {}, .bold = style % 2 == 1, .italic = style >= 2};
     }
 

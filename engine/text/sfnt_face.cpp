@@ -177,10 +177,9 @@ std::optional<SfntFace> extractFace(const QByteArray& file, int index, std::stri
     if (version != 0x00010000 && version != tag("OTTO") && version != tag("true"))
         return std::nullopt;
     std::vector<Table> tables = readTables(file, directory);
-    for (const std::uint32_t needed : {tag("cmap"), tag("head"), tag("hhea"), tag("hmtx"), tag("maxp")}) {
+    for (const std::uint32_t needed : {tag("cmap"), tag("head"), tag("hhea"), tag("hmtx"), tag("maxp")})
         if (find(tables, needed).isEmpty())
             return std::nullopt;
-    }
     SfntFace face;
     readStyle(tables, face);
     // A signature would no longer hold.

@@ -215,10 +215,9 @@ void TextBlock::Layout::drawOutlines(Canvas& canvas, const QTransform& place) co
             const QRawFont font = run.rawFont();
             const double reach = 4 * font.pixelSize();
             const QRectF seen = picture.adjusted(-reach, -reach, reach, reach).translated(-textCorner);
-            for (qsizetype i = 0; i < indexes.size(); ++i) {
+            for (qsizetype i = 0; i < indexes.size(); ++i)
                 if (const QPointF at = positions[i] + piece.offset; seen.contains(at))
                     path.addPath(font.pathForGlyph(indexes[i]).translated(at));
-            }
         }
         path.addRect(piece.underline);
         painter.fillPath(path, canvas.colours().solid(piece.colour));

@@ -26,14 +26,12 @@ struct Stretch {
         const double last = std::floor(upper.back().x() + 0.5) + sign;
         const auto add = [&](double x, double y) { polygon << frame.at(x, y) + QPointF(0.5, 0.5); };
         add(first, upper.front().y());
-        for (std::size_t i = 1; i + 1 < upper.size(); ++i) {
+        for (std::size_t i = 1; i + 1 < upper.size(); ++i)
             add(upper[i].x(), upper[i].y());
-        }
         add(last, upper.back().y());
         add(last, lower.back().y() + sink);
-        for (std::size_t i = lower.size() - 1; i-- > 1;) {
+        for (std::size_t i = lower.size() - 1; i-- > 1;)
             add(lower[i].x(), lower[i].y() + sink);
-        }
         add(first, lower.front().y() + sink);
         return polygon;
     }
@@ -54,14 +52,11 @@ std::vector<double> AreaLayer::rowScales() const {
     std::vector<double> scales;
     if (m_percentage) {
         scales.resize(rowCount());
-        for (const DataSet* set : dataSets()) {
-            for (std::size_t row = 0; row < set->data().size(); ++row) {
+        for (const DataSet* set : dataSets())
+            for (std::size_t row = 0; row < set->data().size(); ++row)
                 scales[row] += isValue(set->data()[row]) ? std::abs(set->data()[row]) : 0;
-            }
-        }
-        for (double& scale : scales) {
+        for (double& scale : scales)
             scale = scale > 0 ? 100 / scale : 0;
-        }
     }
     return scales;
 }
@@ -99,9 +94,8 @@ void AreaLayer::drawArea(Canvas& canvas, const PlotFrame& frame, const DataSet& 
     if (lower != nullptr) {
         lowers = runsOf(reducedPoints(*this, *lower, frame));
         // Neighbours overlap by a pixel, or the background would shine through between them.
-        if (frame.depth == 0 && set.colour() <= 0xffffff) {
+        if (frame.depth == 0 && set.colour() <= 0xffffff)
             sink = frame.y.upperPixel() < frame.y.lowerPixel() ? 1 : -1;
-        }
     }
     const double base = std::floor(frame.baseLine() + 0.5) - 0.5;
     const Colour edge = set.edge(borderColour());
@@ -113,9 +107,8 @@ void AreaLayer::drawArea(Canvas& canvas, const PlotFrame& frame, const DataSet& 
         const QPolygonF outline = stretch.outline(frame, sink);
         if (frame.depth > 0) {
             std::vector<QPointF> top;
-            for (const QPointF& point : stretch.upper) {
+            for (const QPointF& point : stretch.upper)
                 top.push_back(frame.at(point.x(), point.y()));
-            }
             const Colour side = orDefault(set.shadow(), set.colour());
             drawRibbon(canvas, top, frame.depth, side);
             const QPointF end = top.back();

@@ -36,9 +36,8 @@ public:
         double cluster = room * (1 - layer.m_gap);
         // Rows without a gap share their borders, wherever these fall; others keep a pixel between them.
         m_sharedBorders = layer.m_gap <= 0 || room < 2;
-        if (!m_sharedBorders) {
+        if (!m_sharedBorders)
             cluster = std::clamp(std::round(cluster), 1.0, std::max(1.0, std::floor(room) - 1));
-        }
         // bars * width + (bars - 1) * gaps = cluster, where width + gap = pitch and gap = subGap * pitch
         m_pitch = cluster / std::max(1e-6, static_cast<double>(m_bars) - layer.m_subGap);
         m_width = m_pitch * (1 - layer.m_subGap);
@@ -50,9 +49,8 @@ public:
     bool find(std::size_t row, std::size_t set, int& first, int& last) const {
         const double x = m_layer.xValue(row);
         const double middle = isValue(x) ? m_frame.x.pixel(x) : std::numeric_limits<double>::quiet_NaN();
-        if (!showsX(m_frame, middle, m_frame.depth > 0 ? 0.5 : m_pitch * static_cast<double>(m_bars))) {
+        if (!showsX(m_frame, middle, m_frame.depth > 0 ? 0.5 : m_pitch * static_cast<double>(m_bars)))
             return false;
-        }
         std::size_t slot = m_layer.m_combine == Combine::Side ? set : 0;
         slot = m_mirrored ? m_bars - 1 - slot : slot;
         const double from = m_start + static_cast<double>(slot) * m_pitch;
@@ -108,9 +106,8 @@ int BarLayer::shapeOf(std::size_t set, std::size_t row) const {
     const int r = static_cast<int>(std::min<std::size_t>(row, std::numeric_limits<int>::max()));
     for (const auto& key : {std::pair(s, r), std::pair(-1, r), std::pair(s, -1), std::pair(-1, -1)}) {
         const auto found = m_shapes.find(key);
-        if (found != m_shapes.end()) {
+        if (found != m_shapes.end())
             return found->second;
-        }
     }
     return NoShape;
 }
@@ -131,15 +128,13 @@ void BarLayer::piecesOf(std::size_t row, std::vector<Piece>& pieces) const {
     double up = 0, down = 0;
     for (std::size_t i = 0; i < dataSets().size(); ++i) {
         const double value = valueAt(*dataSets()[i], row);
-        if (!isValue(value)) {
+        if (!isValue(value))
             continue;
-        }
         double& reached = value < 0 ? down : up;
         const double from = stacked() ? reached : 0;
         const double to = from + value * scale;
-        if (stacked()) {
+        if (stacked())
             reached = to;
-        }
         pieces.push_back({i, from, to, sum > 0 ? std::abs(value) * 100 / sum : 0});
     }
 }
@@ -149,16 +144,14 @@ DataRange BarLayer::xRange() const {
 }
 
 DataRange BarLayer::yRange() const {
-    if (!stacked()) {
+    if (!stacked())
         return Layer::yRange();
-    }
     DataRange range;
     std::vector<Piece> pieces;
     for (std::size_t row = rows().begin; row < rows().end; ++row) {
         piecesOf(row, pieces);
-        for (const Piece& piece : pieces) {
+        for (const Piece& piece : pieces)
             range.add(piece.to);
-        }
     }
     return fillsRange() ? percentRange(range) : range;
 }
@@ -166,9 +159,8 @@ DataRange BarLayer::yRange() const {
 void BarLayer::drawPiece(Canvas& canvas, const PlotFrame& frame, const Places& places, std::size_t row,
                          const Piece& piece) const {
     int x0 = 0, x1 = 0;
-    if (!places.find(row, piece.set, x0, x1)) {
+    if (!places.find(row, piece.set, x0, x1))
         return;
-    }
     const DataSet& set = *dataSets()[piece.set];
     const Colour edge = set.edge(borderColour());
     const bool edged = !canvas.colours().invisible(edge) && lineWidth() > 0;
@@ -219,30 +211,26 @@ void BarLayer::draw(Canvas& canvas, const PlotFrame& frame) {
     std::vector<Piece> pieces;
     const auto drawRow = [&](std::size_t row) {
         piecesOf(row, pieces);
-        if (m_firstOnTop && !stacked()) {
+        if (m_firstOnTop && !stacked())
             std::reverse(pieces.begin(), pieces.end());
-        } else if (frame.depth > 0 && stacked()) {
+        else if (frame.depth > 0 && stacked())
             std::stable_sort(pieces.begin(), pieces.end(), [&](const Piece& a, const Piece& b) {
                 const double difference = frame.y.pixel(a.from + a.to) - frame.y.pixel(b.from + b.to);
                 return frame.swapped ? difference < 0 : difference > 0;
             });
-        } else if (frame.depth > 0 && (frame.x.lowerPixel() > frame.x.upperPixel()) != frame.swapped) {
+        else if (frame.depth > 0 && (frame.x.lowerPixel() > frame.x.upperPixel()) != frame.swapped)
             std::reverse(pieces.begin(), pieces.end()); // a reversed axis
-        }
-        for (const Piece& piece : pieces) {
+        for (const Piece& piece : pieces)
             drawPiece(canvas, frame, places, row, piece);
-        }
     };
     if (frame.depth > 0) {
-        for (const std::size_t row : drawingOrder(frame)) {
+        for (const std::size_t row : drawingOrder(frame))
             drawRow(row);
-        }
         return;
     }
     const ClipScope clip(canvas, frame.inner());
-    for (std::size_t row = rows().begin; row < rows().end; ++row) {
+    for (std::size_t row = rows().begin; row < rows().end; ++row)
         drawRow(row);
-    }
 }
 
 void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
@@ -255,9 +243,8 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
             labelSums(labels, frame, places, row, pieces);
         }
     }
-    if (dataLabels() == nullptr) {
+    if (dataLabels() == nullptr)
         return;
-    }
     // Beside a sum the values go into their bars.
     const bool inside = stacked() || aggregateLabels() != nullptr;
     DataLabels labels(canvas, *this, frame, *dataLabels(), dataLabelFormat());
@@ -266,9 +253,8 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
         for (const Piece& piece : pieces) {
             int x0 = 0, x1 = 0;
             const bool nothing = inside && piece.to == piece.from; // there is no body to write into
-            if (nothing || !places.find(row, piece.set, x0, x1)) {
+            if (nothing || !places.find(row, piece.set, x0, x1))
                 continue;
-            }
             const DataSet* set = dataSets()[piece.set];
             const double tip = alongY(frame, piece.to);
             const double middle = (tip + alongY(frame, piece.from)) / 2;
@@ -289,27 +275,23 @@ void BarLayer::labelSums(DataLabels& labels, const PlotFrame& frame, const Place
                     {(x0 + x1) / 2.0, alongY(frame, tip), tip >= 0 ? LabelSide::Above : LabelSide::Below});
     };
     for (const Piece& piece : pieces) {
-        if (!places.find(row, piece.set, x0, x1)) {
+        if (!places.find(row, piece.set, x0, x1))
             return;
-        }
         const DataSet* set = dataSets()[piece.set];
         sum += set->data()[row];
         highest = std::max(highest, piece.to);
         lowest = std::min(lowest, piece.to);
-        if (!stacked()) { // each bar is a stack of its own
+        if (!stacked()) // each bar is a stack of its own
             label(set, set->data()[row], piece.share, piece.to);
-        }
     }
-    if (stacked() && !pieces.empty()) {
+    if (stacked() && !pieces.empty())
         label(nullptr, sum, 100, sum < 0 && lowest < 0 ? lowest : highest);
-    }
 }
 
 void BarLayer::collectKeys(std::vector<LegendKey>& keys) const {
     for (const DataSet* set : dataSets()) {
-        if (set->name().empty()) {
+        if (set->name().empty())
             continue;
-        }
         LegendKey key;
         key.fields = nameOnly(set->name());
         key.drawSymbol = [fill = set->colour(), edge = set->edge(borderColour()),

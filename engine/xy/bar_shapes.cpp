@@ -88,9 +88,8 @@ private:
     QPolygonF arc(QPointF centre, double from, double sweep) const {
         constexpr int kPieces = 48;
         QPolygonF polygon;
-        for (int i = 0; i <= kPieces; ++i) {
+        for (int i = 0; i <= kPieces; ++i)
             polygon << point(centre, from + sweep * i / kPieces);
-        }
         return polygon;
     }
 
@@ -102,9 +101,8 @@ void drawCylinder(Canvas& canvas, const QRect& pixels, bool lying, bool shaded, 
     const Cylinder cylinder(pixels, lying, look.depth);
     const QPainterPath outline = cylinder.outline();
     canvas.shape(outline, look.fill, kTransparent, look.effect);
-    if (shaded) {
+    if (shaded)
         canvas.painter().fillPath(outline, cylinder.shading());
-    }
     const QPainterPath end = cylinder.nearEnd();
     canvas.fillPath(end, chartdraw::shaded(canvas.colours(), look.fill, 0.25));
     canvas.strokePath(outline, look.edge, look.edgeWidth);
@@ -114,23 +112,20 @@ void drawCylinder(Canvas& canvas, const QRect& pixels, bool lying, bool shaded, 
 } // namespace
 
 void drawBar(Canvas& canvas, const QRect& pixels, int shape, int tip, const BarLook& look) {
-    if (pixels.isEmpty()) {
+    if (pixels.isEmpty())
         return;
-    }
     if (shape == CircleShape || shape == CircleShapeNoShading) {
         drawCylinder(canvas, pixels, tip == 4 || tip == 6, shape == CircleShape, look);
         return;
     }
     const bool plain = shape < DiamondShape || shape > InvertedTriangleShape;
     const QPolygonF front = outline(pixels, plain ? SquareShape : shape, plain ? 8 : tip);
-    if (look.depth > 0) {
+    if (look.depth > 0)
         drawSides(canvas, front, look.depth, look.side, look.sideEdge);
-    }
-    if (plain) {
+    if (plain)
         canvas.box(pixels, look.fill, look.edge, look.effect, {}, look.edgeWidth);
-    } else {
+    else
         canvas.shape(closed(front), look.fill, look.edge, look.effect, look.edgeWidth);
-    }
 }
 
 } // namespace chartdraw

@@ -68,9 +68,8 @@ void BaseBoxLayer::forEachPlace(const PlotFrame& frame, const Visit& visit) cons
     }
     for (std::size_t row = rows().begin; row < rows().end; ++row) {
         const double x = xValue(row);
-        if (!isValue(x)) {
+        if (!isValue(x))
             continue;
-        }
         const double middle = frame.x.pixel(x);
         if (showsX(frame, middle, frame.depth > 0 ? 0.5 : width)) {
             const int first = whole(middle) - width / 2;
@@ -86,9 +85,8 @@ void BaseBoxLayer::draw(Canvas& canvas, const PlotFrame& frame) {
 }
 
 void BaseBoxLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
-    if (dataLabels() == nullptr) {
+    if (dataLabels() == nullptr)
         return;
-    }
     DataLabels labels(canvas, *this, frame, *dataLabels(), dataLabelFormat());
     std::vector<std::pair<std::string_view, double>> fields;
     forEachPlace(frame, [&](const Place& place) {
@@ -96,9 +94,8 @@ void BaseBoxLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
         fields.clear();
         if (labelOf(place.row, value, fields)) {
             double highest = value;
-            for (const auto& [name, number] : fields) {
+            for (const auto& [name, number] : fields)
                 highest = isValue(number) ? std::max(highest, number) : highest;
-            }
             labels.draw({place.row, &set(), value, NAN, fields},
                         {static_cast<double>(place.middle), static_cast<double>(pixel(frame, highest)),
                          LabelSide::Above});
@@ -134,9 +131,8 @@ Colour BoxWhiskerLayer::fillOf(std::size_t row) const {
 
 void BoxWhiskerLayer::drawWhisker(Canvas& canvas, const PlotFrame& frame, const Place& place, double from,
                                   double to) const {
-    if (!isValue(to) || lineWidth() < 1) {
+    if (!isValue(to) || lineWidth() < 1)
         return;
-    }
     const int end = pixel(frame, to);
     const int wing = (place.last - place.first + 1) / 4;
     const QPoint back(frame.depth / 2, -frame.depth / 2); // whiskers stand in the middle of bodies
@@ -144,12 +140,10 @@ void BoxWhiskerLayer::drawWhisker(Canvas& canvas, const PlotFrame& frame, const 
         const QRect pixels = pixelRect(frame, x0, x1, y0, y1).translated(back);
         canvas.line(pixels.topLeft(), pixels.bottomRight(), m_whisker, lineWidth());
     };
-    if (isValue(from)) {
+    if (isValue(from))
         line(place.middle, place.middle, pixel(frame, from), end);
-    }
-    if (wing > 0) {
+    if (wing > 0)
         line(place.middle - wing, place.middle + wing, end, end);
-    }
 }
 
 void BoxWhiskerLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Place& place) const {
@@ -190,11 +184,9 @@ bool BoxWhiskerLayer::labelOf(std::size_t row, double& value,
               {"max", at(Maximum, row)},
               {"min", at(Minimum, row)},
               {"med", at(Middle, row)}};
-    for (const Series series : {Top, Middle, Bottom, Maximum, Minimum}) {
-        if (!isValue(value)) {
+    for (const Series series : {Top, Middle, Bottom, Maximum, Minimum})
+        if (!isValue(value))
             value = at(series, row);
-        }
-    }
     return isValue(value);
 }
 
@@ -207,11 +199,9 @@ void BoxWhiskerLayer::collectKeys(std::vector<LegendKey>& keys) const {
         BaseBoxLayer::collectKeys(keys);
         return;
     }
-    for (std::size_t i = 0; i < m_names.size(); ++i) {
-        if (!m_names[i].empty()) {
+    for (std::size_t i = 0; i < m_names.size(); ++i)
+        if (!m_names[i].empty())
             keys.push_back(boxKey(m_names[i], fillOf(i), set().edge(borderColour())));
-        }
-    }
 }
 
 } // namespace chartdraw

@@ -34,9 +34,8 @@ std::vector<double> parameters(std::span<const QPointF> run) {
 std::vector<double> slopes(std::span<const double> t, std::span<const double> v) {
     const std::size_t count = v.size();
     std::vector<double> secants(count - 1), result(count);
-    for (std::size_t i = 0; i + 1 < count; ++i) {
+    for (std::size_t i = 0; i + 1 < count; ++i)
         secants[i] = t[i + 1] > t[i] ? (v[i + 1] - v[i]) / (t[i + 1] - t[i]) : 0;
-    }
     for (std::size_t i = 1; i + 1 < count; ++i) {
         const double left = secants[i - 1], right = secants[i];
         if (left * right > 0) {
@@ -65,9 +64,8 @@ struct Hermite {
 
 void appendSmooth(std::vector<QPointF>& curve, std::span<const QPointF> run) {
     curve.push_back(run.front());
-    if (run.size() < 2) {
+    if (run.size() < 2)
         return;
-    }
     std::vector<double> x(run.size()), y(run.size());
     for (std::size_t i = 0; i < run.size(); ++i) {
         x[i] = run[i].x();
@@ -94,9 +92,8 @@ void appendSmooth(std::vector<QPointF>& curve, std::span<const QPointF> run) {
 std::vector<QPointF> smoothCurve(std::span<const QPointF> points) {
     std::vector<QPointF> curve;
     forEachRun(points, [&](std::span<const QPointF> run) {
-        if (!curve.empty()) {
+        if (!curve.empty())
             curve.push_back(kGap);
-        }
         appendSmooth(curve, run);
     });
     return curve;
@@ -107,9 +104,8 @@ std::vector<QPointF> steps(std::span<const QPointF> points) {
     std::vector<QPointF> result;
     for (const QPointF& point : points) {
         const QPointF next = whole(point);
-        if (!result.empty() && next.x() == next.x() && result.back().x() == result.back().x()) {
+        if (!result.empty() && next.x() == next.x() && result.back().x() == result.back().x())
             result.emplace_back(next.x(), result.back().y());
-        }
         result.push_back(next);
     }
     return result;
@@ -119,9 +115,8 @@ void snapLevels(std::span<QPointF> points) {
     bool level = false;
     for (std::size_t i = 0; i < points.size(); ++i) {
         const bool nextLevel = i + 1 < points.size() && points[i].y() == points[i + 1].y();
-        if (level || nextLevel) {
+        if (level || nextLevel)
             points[i].setY(std::floor(points[i].y() + 0.5));
-        }
         level = nextLevel;
     }
 }

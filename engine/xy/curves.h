@@ -24,12 +24,10 @@ void forEachRun(std::span<const QPointF> points, const Visit& visit) {
     for (std::size_t i = 0; i < points.size();) {
         std::size_t end = i;
         while (end < points.size() && points[end].x() == points[end].x() &&
-               points[end].y() == points[end].y()) {
+               points[end].y() == points[end].y())
             ++end;
-        }
-        if (end > i) {
+        if (end > i)
             visit(points.subspan(i, end - i));
-        }
         i = end + 1;
     }
 }

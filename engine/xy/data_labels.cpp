@@ -17,16 +17,14 @@ public:
         : m_layer(layer), m_rows(rows), m_content(content) {}
 
     FieldValue field(std::string_view name) const override {
-        if (name == "value") {
+        if (name == "value")
             return FieldValue::number(m_content.value);
-        }
         if (name == "xLabel") {
             m_text = m_rows.text(m_content.row);
             return FieldValue::number(m_rows.value(m_content.row), m_text);
         }
-        if (name == "x") {
+        if (name == "x")
             return FieldValue::number(m_layer.xValue(m_content.row));
-        }
         if (name == "dataSetName") {
             return FieldValue::text(m_content.set != nullptr ? std::string_view(m_content.set->name())
                                                              : std::string_view());
@@ -35,11 +33,9 @@ public:
             m_text = numberText(m_content.percent, NumberSpec::atMost(2));
             return FieldValue::number(m_content.percent, m_text);
         }
-        for (const auto& [known, value] : m_content.more) {
-            if (name == known) {
+        for (const auto& [known, value] : m_content.more)
+            if (name == known)
                 return FieldValue::number(value);
-            }
-        }
         return FieldValue::unknown();
     }
 
@@ -71,9 +67,8 @@ LabelRoom::LabelRoom(QSize picture)
 QRect LabelRoom::cells(const QRectF& box) const {
     const QRect pixels =
         (box & QRectF(0, 0, m_size.width() * kCell, m_size.height() * kCell)).toAlignedRect();
-    if (pixels.isEmpty()) {
+    if (pixels.isEmpty())
         return {};
-    }
     return {QPoint(pixels.left() / kCell, pixels.top() / kCell),
             QPoint(pixels.right() / kCell, pixels.bottom() / kCell)};
 }
@@ -81,12 +76,10 @@ QRect LabelRoom::cells(const QRectF& box) const {
 bool LabelRoom::isFree(const QRectF& box) const {
     const QRect range = cells(box);
     for (int y = range.top(); y <= range.bottom(); ++y) {
-        for (int x = range.left(); x <= range.right(); ++x) {
+        for (int x = range.left(); x <= range.right(); ++x)
             if (m_taken[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_size.width()) +
-                        static_cast<std::size_t>(x)]) {
+                        static_cast<std::size_t>(x)])
                 return false;
-            }
-        }
     }
     return true;
 }
@@ -149,9 +142,8 @@ void DataLabels::draw(const LabelContent& content, const LabelSpot& spot) {
     const QRectF near = m_plot.adjusted(-3, -3, 3, 3);
     QRectF box;
     if (!near.contains(m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5)) ||
-        !place(box, spot, m_least)) { // where not even the least label has room none is laid out
+        !place(box, spot, m_least)) // where not even the least label has room none is laid out
         return;
-    }
     const TextBlock block = m_style.block(m_format.apply(Fields(m_layer, m_rows, content)));
     if (!block.empty() && place(box, spot, block.size())) {
         m_room->take(box);

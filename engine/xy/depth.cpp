@@ -38,9 +38,8 @@ bool clockwise(const QPolygonF& polygon) {
 
 Colour shaded(const ColourTable& colours, Colour colour, double amount) {
     const QColor plain = colours.solid(colour);
-    if (plain.alpha() == 0) {
+    if (plain.alpha() == 0)
         return kTransparent;
-    }
     const double target = amount > 0 ? 255 : 0;
     const auto mixed = [&](int channel) {
         return static_cast<Colour>(std::lround(channel + (target - channel) * std::abs(amount)));
@@ -55,9 +54,8 @@ void drawSides(Canvas& canvas, const QPolygonF& front, int depth, Colour side, C
         const QPointF from = front[i];
         const QPointF to = front[(i + 1) % front.size()];
         const QPointF normal(turn * (to.y() - from.y()), turn * (from.x() - to.x()));
-        if (normal.x() - normal.y() > 0) {
+        if (normal.x() - normal.y() > 0)
             drawSide(canvas, from, to, depth, shaded(canvas.colours(), side, light(normal)), edge);
-        }
     }
 }
 
@@ -67,9 +65,8 @@ void drawRibbon(Canvas& canvas, std::span<const QPointF> points, int depth, Colo
         const QPointF step = points[i] - points[i - 1];
         if (!std::isnan(step.x() + step.y())) {
             QPointF normal(step.y(), -step.x());
-            if (normal.y() > 0) { // the side that looks up
+            if (normal.y() > 0) // the side that looks up
                 normal = -normal;
-            }
             const bool fromBelow = normal.x() - normal.y() < 0;
             const Colour shade = shaded(canvas.colours(), colour, light(normal) - (fromBelow ? 0.15 : 0));
             drawSide(canvas, points[i - 1] + half, points[i] + half, depth, shade, kTransparent);

@@ -38,9 +38,8 @@ public:
     FrameLayout build() {
         m_frame.plot = m_chart.plotArea()->frame();
         askLayers();
-        for (std::size_t i = 0; i < m_axes.size(); ++i) {
+        for (std::size_t i = 0; i < m_axes.size(); ++i)
             findTie(i);
-        }
         planAxes();
         layoutAxes();
         placeLayers();
@@ -71,9 +70,8 @@ private:
             numbers = numbers || layer->hasXData();
             m_indent = m_indent || layer->wantsIndent();
         }
-        if (numbers) {
+        if (numbers)
             rows = 0;
-        }
         for (const ChartAxis& own : m_axes) {
             const ScaleSettings& scale = own.axis->scale();
             if (own.axis->direction() == Direction::X && scale.type == ScaleSettings::Type::Labels) {
@@ -88,9 +86,8 @@ private:
     /// The axis whose scale this one follows directly, and how; itself where there is none.
     Tie directTie(std::size_t index) const {
         const Axis& axis = *m_axes[index].axis;
-        if (axis.syncedTo() != nullptr) {
+        if (axis.syncedTo() != nullptr)
             return {indexOf(axis.syncedTo()), axis.syncSlope(), axis.syncIntercept()};
-        }
         const std::size_t first = axis.direction() == Direction::X ? kFirstX : kFirstY;
         const bool own = m_bound[index].any || axis.scale().limitsGiven ||
                          axis.scale().type == ScaleSettings::Type::Labels;
@@ -99,9 +96,8 @@ private:
 
     const Tie& findTie(std::size_t index) {
         Tie& tie = m_ties[index];
-        if (m_states[index] != State::New) {
+        if (m_states[index] != State::New)
             return tie;
-        }
         m_states[index] = State::Open;
         tie = {index, 1, 0};
         const Tie direct = directTie(index);
@@ -109,9 +105,8 @@ private:
         if (direct.root != index && m_states[direct.root] != State::Open) {
             const Tie& on = findTie(direct.root);
             const Tie whole{on.root, direct.slope * on.slope, direct.slope * on.intercept + direct.intercept};
-            if (isValue(whole.slope) && whole.slope != 0 && isValue(whole.intercept)) {
+            if (isValue(whole.slope) && whole.slope != 0 && isValue(whole.intercept))
                 tie = whole; // beyond that the chain is too long for numbers, and the axis stands alone
-            }
         }
         m_states[index] = State::Done;
         return tie;
@@ -120,21 +115,18 @@ private:
     /// The range of an axis's data in the values of the axis that it is tied to.
     static DataRange onRoot(const DataRange& data, const Tie& tie) {
         DataRange result;
-        if (!data.empty) {
+        if (!data.empty)
             for (const double value :
-                 {data.min, data.max, data.minPositive > 0 ? data.minPositive : data.max}) {
+                 {data.min, data.max, data.minPositive > 0 ? data.minPositive : data.max})
                 result.add((value - tie.intercept) / tie.slope);
-            }
-        }
         return result;
     }
 
     /// The side at which an axis is drawn.
     int drawnSide(const ChartAxis& own) const {
         int side = own.side;
-        if (m_chart.yAxisOnRight() && !own.further && (side == Left || side == Right)) {
+        if (m_chart.yAxisOnRight() && !own.further && (side == Left || side == Right))
             side = side == Left ? Right : Left;
-        }
         if (m_chart.swapped()) {
             switch (side) {
             case Left:
@@ -248,11 +240,13 @@ private:
         const AxisLayout& x = m_frame.axes[kFirstX];
         AxisLayout& y = m_frame.axes[kFirstY];
         if (x.place.avoid && y.place.avoid) {
-            std::erase_if(y.labels, [&](const AxisLayout::Label& label) {
-                return std::any_of(x.labels.begin(), x.labels.end(), [&](const AxisLayout::Label& other) {
-                    return label.box().intersects(other.box());
+            std::erase_if(
+                y.labels,
+                [&](const AxisLayout::Label& label) {
+                    return std::any_of(
+                        x.labels.begin(), x.labels.end(),
+                        [&](const AxisLayout::Label& other) { return label.box().intersects(other.box()); });
                 });
-            });
         }
     }
 

@@ -20,26 +20,22 @@ public:
     void draw() {
         drawWalls();
         m_area.drawBackground(m_canvas, m_frame.back(), backgroundLines());
-        for (std::size_t i = 0; i < m_frame.axes.size(); ++i) {
+        for (std::size_t i = 0; i < m_frame.axes.size(); ++i)
             drawZones(*m_chart.axes()[i].axis, m_frame.axes[i]);
-        }
         drawGrid(false);
         drawGrid(true);
         m_area.drawEdge(m_canvas, m_frame.back());
         drawWallEdges();
-        for (std::size_t i = 0; i < m_frame.axes.size(); ++i) {
+        for (std::size_t i = 0; i < m_frame.axes.size(); ++i)
             drawAxisLine(m_canvas, *m_chart.axes()[i].axis, m_frame.axes[i]);
-        }
-        for (std::size_t i = 0; i < m_frame.layers.size(); ++i) {
+        for (std::size_t i = 0; i < m_frame.layers.size(); ++i)
             m_chart.layers()[i]->draw(m_canvas, m_frame.layers[i]);
-        }
         for (std::size_t i = 0; i < m_frame.axes.size(); ++i) {
             drawAxisLabels(m_canvas, m_frame.axes[i]);
             drawMarks(*m_chart.axes()[i].axis, m_frame.axes[i]);
         }
-        for (std::size_t i = 0; i < m_frame.layers.size(); ++i) {
+        for (std::size_t i = 0; i < m_frame.layers.size(); ++i)
             m_chart.layers()[i]->drawLabels(m_canvas, m_frame.layers[i]);
-        }
     }
 
 private:
@@ -52,16 +48,13 @@ private:
 
     PlotArea::Lines backgroundLines() const {
         PlotArea::Lines lines;
-        for (const AxisLayout::Tick& tick : firstY().ticks) {
-            if (tick.major) {
+        for (const AxisLayout::Tick& tick : firstY().ticks)
+            if (tick.major)
                 lines.bands.push_back(tick.pixel);
-            }
-        }
         lines.bandsUpright = !firstY().place.upright();
         lines.origin = QPoint(zeroOf(firstX()), zeroOf(firstY()));
-        if (m_chart.swapped()) {
+        if (m_chart.swapped())
             lines.origin = QPoint(lines.origin.y(), lines.origin.x());
-        }
         return lines;
     }
 
@@ -84,12 +77,10 @@ private:
     }
 
     void drawWallEdges() {
-        if (m_frame.depth > 0) {
+        if (m_frame.depth > 0)
             for (const QPoint corner :
-                 {m_frame.plot.topLeft(), m_frame.plot.bottomLeft(), m_frame.plot.bottomRight()}) {
+                 {m_frame.plot.topLeft(), m_frame.plot.bottomLeft(), m_frame.plot.bottomRight()})
                 m_canvas.line(corner, corner + m_frame.back(), m_area.edge(), 1);
-            }
-        }
     }
 
     /// The pixels across the plot area between two positions along an axis, moved to the back wall.
@@ -107,9 +98,8 @@ private:
                               place.to);
         };
         for (const Zone& zone : axis.zones()) {
-            if (std::isnan(zone.start) || std::isnan(zone.end)) {
+            if (std::isnan(zone.start) || std::isnan(zone.end))
                 continue;
-            }
             const auto [low, high] = std::minmax({pixel(zone.start), pixel(zone.end)});
             m_canvas.fillRect(strip(place, low, high - 1), orDefault(zone.colour, kTransparent));
         }
@@ -121,14 +111,11 @@ private:
             const GridLook& look =
                 m_area.grid(major ? (level ? PlotArea::MajorHorizontal : PlotArea::MajorVertical)
                                   : (level ? PlotArea::MinorHorizontal : PlotArea::MinorVertical));
-            if (look.width < 1 || m_canvas.colours().invisible(look.colour)) {
+            if (look.width < 1 || m_canvas.colours().invisible(look.colour))
                 continue;
-            }
-            for (const AxisLayout::Tick& tick : axis->ticks) {
-                if (tick.major == major) {
+            for (const AxisLayout::Tick& tick : axis->ticks)
+                if (tick.major == major)
                     drawGridLine(axis->place, tick.pixel, look);
-                }
-            }
         }
     }
 
@@ -145,19 +132,16 @@ private:
         const AxisPlace& place = layout.place;
         const QRect& plot = m_frame.plot;
         for (const Mark* mark : axis.marks()) {
-            if (!layout.map.contains(mark->value())) {
+            if (!layout.map.contains(mark->value()))
                 continue;
-            }
             const int pixel = layout.map.wholePixel(mark->value());
-            if (place.upright()) {
+            if (place.upright())
                 m_canvas.line(QPoint(plot.left(), pixel), QPoint(plot.right(), pixel), mark->colour(), 1);
-            } else {
+            else
                 m_canvas.line(QPoint(pixel, plot.top()), QPoint(pixel, plot.bottom()), mark->colour(), 1);
-            }
         }
-        for (const AxisLayout::Label& label : layout.marks) {
+        for (const AxisLayout::Label& label : layout.marks)
             label.draw(m_canvas);
-        }
     }
 
     static constexpr Colour kWallShade = 0xe0000000; // a breath of black over the background

@@ -17,13 +17,14 @@ using Run = std::vector<QPointF>;
 std::vector<Run> ascendingRuns(std::span<const QPointF> points) {
     std::vector<Run> runs;
     const auto byX = [](const QPointF& a, const QPointF& b) { return a.x() < b.x(); };
-    forEachRun(points, [&](std::span<const QPointF> run) {
-        Run& copy = runs.emplace_back(run.begin(), run.end());
-        if (copy.front().x() > copy.back().x()) {
-            std::reverse(copy.begin(), copy.end());
-        }
-        std::stable_sort(copy.begin(), copy.end(), byX);
-    });
+    forEachRun(
+        points,
+        [&](std::span<const QPointF> run) {
+            Run& copy = runs.emplace_back(run.begin(), run.end());
+            if (copy.front().x() > copy.back().x())
+                std::reverse(copy.begin(), copy.end());
+            std::stable_sort(copy.begin(), copy.end(), byX);
+        });
     std::stable_sort(runs.begin(), runs.end(),
                      [&](const Run& a, const Run& b) { return byX(a.front(), b.front()); });
     return runs;
@@ -35,14 +36,12 @@ public:
     explicit Walker(const Run& run) : m_run(run) {}
     /// Moves to the last segment that begins before `x`, so that yAt() is the height just right of it.
     void enter(double x) {
-        while (m_at + 2 < m_run.size() && m_run[m_at + 1].x() <= x) {
+        while (m_at + 2 < m_run.size() && m_run[m_at + 1].x() <= x)
             ++m_at;
-        }
     }
     double yAt(double x) const {
-        if (m_run.size() == 1) {
+        if (m_run.size() == 1)
             return m_run.front().y();
-        }
         const QPointF from = m_run[m_at], to = m_run[m_at + 1];
         return to.x() > from.x() ? from.y() + (to.y() - from.y()) * (x - from.x()) / (to.x() - from.x())
                                  : to.y();
@@ -73,9 +72,8 @@ public:
             return;
         }
         const bool above = ((left != 0 ? left : right) > 0) == m_up;
-        if (!m_first.empty() && above != m_above) {
+        if (!m_first.empty() && above != m_above)
             finish();
-        }
         m_above = above;
         extend(m_first, {x0, a0}, {x1, a1});
         extend(m_second, {x0, b0}, {x1, b1});
@@ -94,9 +92,8 @@ public:
 
 private:
     static void extend(QPolygonF& line, QPointF from, QPointF to) {
-        if (line.empty() || line.back() != from) {
+        if (line.empty() || line.back() != from)
             line << from;
-        }
         line << to;
     }
 
@@ -110,11 +107,9 @@ void walk(const Run& first, const Run& second, PieceMaker& maker) {
     const double to = std::min(first.back().x(), second.back().x());
     std::vector<double> stops;
     for (const Run* run : {&first, &second}) {
-        for (const QPointF& point : *run) {
-            if (point.x() >= from && point.x() <= to) {
+        for (const QPointF& point : *run)
+            if (point.x() >= from && point.x() <= to)
                 stops.push_back(point.x());
-            }
-        }
     }
     stops.push_back(from);
     stops.push_back(to);
@@ -145,9 +140,8 @@ std::vector<BetweenPiece> piecesBetween(std::span<const QPointF> first, std::spa
     PieceMaker maker(pieces, up);
     const std::vector<Run> as = ascendingRuns(first), bs = ascendingRuns(second);
     for (std::size_t a = 0, b = 0; a < as.size() && b < bs.size();) {
-        if (as[a].front().x() < bs[b].back().x() && bs[b].front().x() < as[a].back().x()) {
+        if (as[a].front().x() < bs[b].back().x() && bs[b].front().x() < as[a].back().x())
             walk(as[a], bs[b], maker);
-        }
         ++(as[a].back().x() < bs[b].back().x() ? a : b);
     }
     return pieces;
@@ -161,9 +155,8 @@ InterLineLayer* InterLineLayer::add(XYChart& chart, const Line* first, const Lin
                (asSeries(line) != nullptr ||
                 (mark != nullptr && mark->mark().axis().direction() == Direction::Y));
     };
-    if (!fits(first) || !fits(second) || (asSeries(first) == nullptr && asSeries(second) == nullptr)) {
+    if (!fits(first) || !fits(second) || (asSeries(first) == nullptr && asSeries(second) == nullptr))
         return nullptr;
-    }
     return chart.addLayer<InterLineLayer>(*first, *second, above, orDefault(below, above));
 }
 
@@ -173,11 +166,9 @@ InterLineLayer::InterLineLayer(XYChart& chart, const Line& first, const Line& se
     // The positions of a mark are those of its axis.
     for (const Line* line : {&second, &first}) {
         if (const MarkLine* mark = asMark(line)) {
-            for (const ChartAxis& own : chart.axes()) {
-                if (own.axis == &mark->mark().axis()) {
+            for (const ChartAxis& own : chart.axes())
+                if (own.axis == &mark->mark().axis())
                     setYAxis(own.axis);
-                }
-            }
         }
     }
 }
@@ -188,9 +179,8 @@ std::vector<QPointF> InterLineLayer::pointsOf(const Line& line, const PlotFrame&
         const PlotFrame& own = series->layer().frame();
         std::vector<QPointF> points = series->layer().curve(series->set(), own);
         const QPointF shift = own.at(0, 0);
-        for (QPointF& point : points) {
+        for (QPointF& point : points)
             point += frame.swapped ? QPointF(shift.y(), shift.x()) : shift;
-        }
         return points;
     }
     const double y = std::floor(frame.y.pixel(asMark(&line)->mark().value()) + 0.5);
@@ -207,9 +197,8 @@ void InterLineLayer::draw(Canvas& canvas, const PlotFrame& frame) {
     for (const BetweenPiece& piece : piecesBetween(pointsOf(m_first, frame), pointsOf(m_second, frame), up)) {
         QPainterPath path;
         QPolygonF outline;
-        for (const QPointF& point : piece.outline) {
+        for (const QPointF& point : piece.outline)
             outline << (frame.swapped ? QPointF(point.y(), point.x()) : point) + QPointF(0.5, 0.5);
-        }
         path.addPolygon(outline);
         path.closeSubpath();
         canvas.fillPath(path, piece.firstAbove ? m_above : m_below);

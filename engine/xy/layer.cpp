@@ -52,17 +52,15 @@ void Layer::setXData(std::vector<double> data) {
 }
 
 double Layer::xValue(std::size_t row) const {
-    if (hasXData()) {
+    if (hasXData())
         return row < m_xData.size() ? m_xData[row] : kNoValue;
-    }
     return static_cast<double>(row) - static_cast<double>(rows().begin);
 }
 
 std::size_t Layer::rowCount() const {
     std::size_t count = 0;
-    for (const DataSet* set : m_dataSets) {
+    for (const DataSet* set : m_dataSets)
         count = std::max(count, set->data().size());
-    }
     return count;
 }
 
@@ -95,9 +93,8 @@ void Layer::setYAxis(Axis* axis) {
 }
 
 TextBox* Layer::labelStyle(TextBox*& box, const TextLook& look) {
-    if (box == nullptr) {
+    if (box == nullptr)
         box = m_chart.own<TextBox>(m_chart);
-    }
     box->edit() = look;
     return box;
 }
@@ -138,9 +135,8 @@ DataRange Layer::xRange() const {
 
 DataRange Layer::yRange() const {
     DataRange range;
-    for (const DataSet* set : m_dataSets) {
+    for (const DataSet* set : m_dataSets)
         range.add(shown(set->data(), rows()));
-    }
     return range;
 }
 
@@ -157,11 +153,9 @@ DataRange Layer::percentRange(const DataRange& range) {
 void Layer::drawLabels(Canvas& /*canvas*/, const PlotFrame& /*frame*/) {}
 
 void Layer::collectKeys(std::vector<LegendKey>& keys) const {
-    for (const DataSet* set : m_dataSets) {
-        if (!set->name().empty()) {
+    for (const DataSet* set : m_dataSets)
+        if (!set->name().empty())
             keys.push_back(boxKey(set->name(), set->colour(), set->edge(m_borderColour)));
-        }
-    }
 }
 
 } // namespace chartdraw

@@ -30,19 +30,19 @@ Kind kindOf(LineLayer::Form form) {
 }
 
 void toPicture(std::vector<QPointF>& points, const PlotFrame& frame) {
-    for (QPointF& point : points) {
+    for (QPointF& point : points)
         point = frame.at(point.x(), point.y());
-    }
 }
 
 /// A thin line of level and upright pieces, without the smoothing that blurs its corners.
 void drawUpright(Canvas& canvas, std::span<const QPointF> points, Colour colour) {
-    forEachRun(points, [&](std::span<const QPointF> run) {
-        canvas.line(run.front(), run.front(), colour, 1);
-        for (std::size_t i = 1; i < run.size(); ++i) {
-            canvas.line(run[i - 1], run[i], colour, 1);
-        }
-    });
+    forEachRun(
+        points,
+        [&](std::span<const QPointF> run) {
+            canvas.line(run.front(), run.front(), colour, 1);
+            for (std::size_t i = 1; i < run.size(); ++i)
+                canvas.line(run[i - 1], run[i], colour, 1);
+        });
 }
 
 /// A missing size is none; sizes are limited to what a data set's symbol may have.
@@ -58,14 +58,12 @@ LineLayer::LineLayer(XYChart& chart, Form form, int depth)
 
 Line* LineLayer::line(int index) {
     DataSet* set = dataSet(index);
-    if (set == nullptr) {
+    if (set == nullptr)
         return nullptr;
-    }
     m_lines.resize(dataSets().size());
     SeriesLine*& line = m_lines[static_cast<std::size_t>(index)];
-    if (line == nullptr) {
+    if (line == nullptr)
         line = chart().own<SeriesLine>(chart(), *this, *set);
-    }
     return line;
 }
 
@@ -105,53 +103,46 @@ void LineLayer::drawLongLine(Canvas& canvas, const DataSet& set) const {
 }
 
 void LineLayer::drawLine(Canvas& canvas, const DataSet& set) const {
-    if (lineWidth() < 1 || canvas.colours().invisible(set.colour())) {
+    if (lineWidth() < 1 || canvas.colours().invisible(set.colour()))
         return;
-    }
     if (m_form == Form::Straight && m_frame.depth == 0 && set.colour() <= 0xffffff) {
         drawLongLine(canvas, set); // the colour is opaque, so the line may be drawn in parts
         return;
     }
     std::vector<QPointF> points = curve(set, m_frame);
     toPicture(points, m_frame);
-    if (m_frame.depth > 0) {
+    if (m_frame.depth > 0)
         drawRibbon(canvas, points, m_frame.depth, orDefault(set.shadow(), set.colour()));
-    }
-    if (m_form == Form::Steps && lineWidth() == 1 && set.colour() <= 0xffffff) {
+    if (m_form == Form::Steps && lineWidth() == 1 && set.colour() <= 0xffffff)
         drawUpright(canvas, points, set.colour());
-    } else {
+    else
         canvas.polyline(points, set.colour(), lineWidth());
-    }
 }
 
 QSize LineLayer::symbolSize(const DataSet& set, std::size_t row) const {
-    if (m_widths.empty() && m_heights.empty()) {
+    if (m_widths.empty() && m_heights.empty())
         return {set.symbol().size, set.symbol().size};
-    }
     return {wholeSize(m_widths.empty() ? m_heights : m_widths, row),
             wholeSize(m_heights.empty() ? m_widths : m_heights, row)};
 }
 
 void LineLayer::drawSymbols(Canvas& canvas, const DataSet& set) const {
     SymbolPainter symbols(canvas, set.symbol().resolved(set.colour()));
-    if (!symbols.visible()) {
+    if (!symbols.visible())
         return;
-    }
     const bool scaled = !m_widths.empty() || !m_heights.empty();
     const QRectF plot = QRectF(m_frame.plot).adjusted(-0.5, -0.5, -0.5, -0.5);
     const std::size_t end = std::min(rows().end, set.data().size());
     for (std::size_t row = rows().begin; row < end; ++row) {
         const double x = xValue(row);
-        if (!isValue(set.data()[row]) || !isValue(x)) {
+        if (!isValue(set.data()[row]) || !isValue(x))
             continue;
-        }
         const QPointF centre = m_frame.point(x, set.data()[row]);
         if (plot.contains(centre)) {
-            if (scaled) {
+            if (scaled)
                 symbols.draw(centre, symbolSize(set, row));
-            } else {
+            else
                 symbols.draw(centre);
-            }
         }
     }
 }
@@ -163,19 +154,16 @@ void LineLayer::draw(Canvas& canvas, const PlotFrame& frame) {
         const int reach = std::max(0, lineWidth() / 2);
         const QRect plot = frame.plot.adjusted(-reach, -reach - frame.depth, reach + frame.depth, reach);
         const ClipScope clip(canvas, plot);
-        for (const DataSet* set : dataSets()) {
+        for (const DataSet* set : dataSets())
             drawLine(canvas, *set);
-        }
     }
-    for (const DataSet* set : dataSets()) {
+    for (const DataSet* set : dataSets())
         drawSymbols(canvas, *set);
-    }
 }
 
 void LineLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
-    if (dataLabels() == nullptr) {
+    if (dataLabels() == nullptr)
         return;
-    }
     DataLabels labels(canvas, *this, frame, *dataLabels(), dataLabelFormat());
     for (const DataSet* set : dataSets()) {
         const std::span<const double> data = set->data();
@@ -185,9 +173,8 @@ void LineLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
         const std::size_t end = std::min(rows().end, data.size());
         for (std::size_t row = rows().begin; row < end; ++row) {
             const double x = xValue(row);
-            if (!isValue(data[row]) || !isValue(x)) {
+            if (!isValue(data[row]) || !isValue(x))
                 continue;
-            }
             // In a valley the line leaves room below.
             const bool valley =
                 lower(row, row - 1) && lower(row, row + 1) && data.size() > 1 && lineWidth() > 0;
@@ -203,17 +190,17 @@ void LineLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
 
 void LineLayer::collectKeys(std::vector<LegendKey>& keys) const {
     for (const DataSet* set : dataSets()) {
-        if (set->name().empty()) {
+        if (set->name().empty())
             continue;
-        }
         const auto mark = [set](Canvas& canvas, QPointF centre, double room) {
             DataSymbol symbol = set->symbol().resolved(set->colour());
             symbol.size = std::min(symbol.size, static_cast<int>(room));
             SymbolPainter(canvas, symbol).draw(centre);
         };
         if (lineWidth() > 0) {
-            keys.push_back(lineKey(set->name(), set->colour(), lineWidth(),
-                                   [mark](Canvas& canvas, QPointF centre) { mark(canvas, centre, 11); }));
+            keys.push_back(lineKey(
+                set->name(), set->colour(), lineWidth(),
+                [mark](Canvas& canvas, QPointF centre) { mark(canvas, centre, 11); }));
         } else {
             LegendKey key;
             key.fields = nameOnly(set->name());

@@ -31,13 +31,11 @@ LineReduction::LineReduction(const Layer& layer, std::span<const double> values,
     : m_frame(frame), m_x(layer.xData()), m_y(values), m_affine(frame.x.affine()) {
     const RowRange rows = layer.rows();
     m_end = std::min(rows.end, values.size());
-    if (layer.hasXData()) {
+    if (layer.hasXData())
         m_end = std::min(m_end, m_x.size());
-    }
     m_begin = std::min(rows.begin, m_end);
-    if (m_affine && !std::isfinite(m_affine->offset + m_affine->factor * 1e9)) {
+    if (m_affine && !std::isfinite(m_affine->offset + m_affine->factor * 1e9))
         m_affine.reset();
-    }
     m_next = m_begin;
 }
 
@@ -49,24 +47,20 @@ LineReduction::Run LineReduction::scan(std::size_t row, double half) const {
     // The x values between the borders of the half column.
     double low = m_frame.x.value((half - 1) / 2);
     double high = m_frame.x.value(half / 2);
-    if (low > high) {
+    if (low > high)
         std::swap(low, high);
-    }
     Run run{row, row + 1, row, row};
     double least = m_y[row], most = least;
     std::size_t stop = m_end;
-    if (m_x.empty() && high - xOf(row) < static_cast<double>(m_end - row)) {
+    if (m_x.empty() && high - xOf(row) < static_cast<double>(m_end - row))
         stop = std::min(m_end, m_begin + static_cast<std::size_t>(std::max(0.0, std::ceil(high))));
-    }
     std::size_t next = row + 1;
     for (; next < stop; ++next) {
-        if (!m_x.empty() && !(m_x[next] >= low && m_x[next] < high)) {
+        if (!m_x.empty() && !(m_x[next] >= low && m_x[next] < high))
             break;
-        }
         const double value = m_y[next];
-        if (!isValue(value)) {
+        if (!isValue(value))
             break;
-        }
         if (value < least) {
             least = value;
             run.lowest = next;
@@ -91,9 +85,8 @@ void LineReduction::appendColumn(std::vector<QPointF>& points) {
 
     const Run first = scan(m_next, half);
     Run second{first.end, first.end, first.end, first.end};
-    if (first.end < m_end && !isGap(first.end) && halfAt(first.end) == otherHalf) {
+    if (first.end < m_end && !isGap(first.end) && halfAt(first.end) == otherHalf)
         second = scan(first.end, otherHalf);
-    }
     Run whole{first.begin, second.end, first.lowest, first.highest};
     if (second.end > second.begin) {
         whole.lowest = m_y[second.lowest] < m_y[first.lowest] ? second.lowest : first.lowest;
@@ -102,19 +95,16 @@ void LineReduction::appendColumn(std::vector<QPointF>& points) {
     m_next = whole.end;
     m_joined = true;
     if (whole.end - whole.begin <= kKeptWhole) {
-        for (std::size_t row = whole.begin; row < whole.end; ++row) {
+        for (std::size_t row = whole.begin; row < whole.end; ++row)
             append(points, row);
-        }
         return;
     }
     const auto [early, late] = std::minmax(whole.lowest, whole.highest);
     const std::size_t last = whole.end - 1;
     append(points, whole.begin);
-    for (const std::size_t row : {early, late}) {
-        if (row != whole.begin && row != last) {
+    for (const std::size_t row : {early, late})
+        if (row != whole.begin && row != last)
             append(points, row);
-        }
-    }
     append(points, last);
     if (whole.end - whole.begin >= kDense && second.end > second.begin) {
         const double bottom = std::max(m_y[first.lowest], m_y[second.lowest]);
@@ -129,23 +119,20 @@ void LineReduction::appendColumn(std::vector<QPointF>& points) {
 
 bool LineReduction::more(std::vector<QPointF>& points, std::size_t most) {
     const std::size_t before = points.size();
-    if (m_joined && m_next < m_end && !isGap(m_next)) {
+    if (m_joined && m_next < m_end && !isGap(m_next))
         append(points, m_next - 1);
-    }
     while (m_next < m_end) {
         if (isGap(m_next)) {
-            if (m_joined) {
+            if (m_joined)
                 points.emplace_back(kGap, kGap);
-            }
             m_joined = false;
             ++m_next;
             continue;
         }
         appendColumn(points);
         // Not cut before a gap: what is left over would be a point by itself.
-        if (points.size() - before >= most && m_next < m_end && !isGap(m_next)) {
+        if (points.size() - before >= most && m_next < m_end && !isGap(m_next))
             break;
-        }
     }
     return points.size() > before;
 }

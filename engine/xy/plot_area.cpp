@@ -34,18 +34,16 @@ void PlotArea::setImage(std::string path, int alignment) {
 }
 
 void PlotArea::setQuadrants(const std::array<Colour, 4>& colours, Colour edge) {
-    for (std::size_t i = 0; i < colours.size(); ++i) {
+    for (std::size_t i = 0; i < colours.size(); ++i)
         m_quadrants[i] = orDefault(colours[i], m_quadrants[i]);
-    }
     m_edge = orDefault(edge, m_edge);
     m_hasQuadrants = true;
     m_chart.changed();
 }
 
 void PlotArea::setGridColours(const std::array<Colour, 4>& colours) {
-    for (std::size_t i = 0; i < colours.size(); ++i) {
+    for (std::size_t i = 0; i < colours.size(); ++i)
         m_grids[i].colour = orDefault(colours[i], m_grids[i].colour);
-    }
     m_chart.changed();
 }
 
@@ -56,9 +54,8 @@ void PlotArea::setFirstGrid(Colour horizontal, Colour vertical) {
 }
 
 void PlotArea::setGridWidths(const std::array<int, 4>& widths) {
-    for (std::size_t i = 0; i < widths.size(); ++i) {
+    for (std::size_t i = 0; i < widths.size(); ++i)
         m_grids[i].width = std::clamp(widths[i], 0, kMaxSide);
-    }
     m_chart.changed();
 }
 
@@ -81,32 +78,27 @@ void PlotArea::drawBackground(Canvas& canvas, QPoint offset, const Lines& lines)
         canvas.fillRect(frame, m_background);
         drawBands(canvas, frame, offset, lines);
     }
-    if (!m_imagePath.empty()) {
+    if (!m_imagePath.empty())
         drawImage(canvas, loadPicture(m_imagePath), frame, m_imageAlignment);
-    }
 }
 
 void PlotArea::drawBands(Canvas& canvas, const QRect& frame, QPoint offset, const Lines& lines) const {
-    if (m_alternate == kDefaultColour || m_alternate == m_background) {
+    if (m_alternate == kDefaultColour || m_alternate == m_background)
         return;
-    }
     // The band at the lower or left end has the background's colour, the next one the alternate, and so on.
     const bool upright = lines.bandsUpright;
     std::vector<int> borders = lines.bands;
-    for (int& border : borders) {
+    for (int& border : borders)
         border += upright ? offset.x() : offset.y();
-    }
     std::sort(borders.begin(), borders.end());
-    if (!upright) {
+    if (!upright)
         std::reverse(borders.begin(), borders.end());
-    }
     int begin = upright ? frame.left() : frame.bottom();
     borders.push_back(upright ? frame.right() : frame.top());
     bool alternate = false;
     for (const int border : borders) {
-        if (border == begin) {
+        if (border == begin)
             continue; // a tick on the frame's own line begins no band
-        }
         const int low = std::min(begin, border), high = std::max(begin, border) - 1;
         if (alternate) {
             canvas.fillRect(upright ? QRect(QPoint(low, frame.top()), QPoint(high, frame.bottom()))

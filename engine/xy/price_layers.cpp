@@ -60,16 +60,14 @@ Colour HLOCLayer::colourOf(std::size_t row) const {
 }
 
 void HLOCLayer::draw(Canvas& canvas, const PlotFrame& frame) {
-    if (m_byClose) {
+    if (m_byClose)
         m_falls = falls();
-    }
     PriceLayer::draw(canvas, frame);
 }
 
 void HLOCLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Place& place) const {
-    if (!shows(place.row) || lineWidth() < 1) {
+    if (!shows(place.row) || lineWidth() < 1)
         return;
-    }
     const Colour colour = colourOf(place.row);
     const auto line = [&](int x0, int x1, int y0, int y1) {
         drawAlong(canvas, pixelRect(frame, x0, x1, y0, y1), colour, lineWidth());
@@ -98,9 +96,8 @@ CandleStickLayer::CandleStickLayer(XYChart& chart, std::vector<std::vector<doubl
 }
 
 void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Place& place) const {
-    if (!shows(place.row)) {
+    if (!shows(place.row))
         return;
-    }
     const double open = at(Open, place.row), close = at(Close, place.row);
     const Colour edge = set().edge(borderColour());
     const int high = pixel(frame, at(High, place.row)), low = pixel(frame, at(Low, place.row));

@@ -63,9 +63,8 @@ double rowRoom(const Layer& layer, const PlotFrame& frame) {
         const RowRange rows = layer.rows();
         for (std::size_t row = rows.begin; row < rows.end; ++row) {
             const double position = frame.x.pixel(layer.xValue(row));
-            if (showsX(frame, position)) {
+            if (showsX(frame, position))
                 positions.push_back(position);
-            }
         }
         room = smallestStep(positions);
     }
@@ -75,15 +74,13 @@ double rowRoom(const Layer& layer, const PlotFrame& frame) {
 }
 
 DataRange widenedXRange(const Layer& layer, const DataRange& range) {
-    if (range.empty || !layer.hasXData()) {
+    if (range.empty || !layer.hasXData())
         return range; // rows have their room by the axis's indent
-    }
     const double half = smallestStep(shownXData(layer)) / 2;
     DataRange widened = range;
     widened.add(range.max + half);
-    if (range.min <= 0 || range.min - half > 0) { // not off the end of a log axis
+    if (range.min <= 0 || range.min - half > 0) // not off the end of a log axis
         widened.add(range.min - half);
-    }
     return widened;
 }
 

@@ -29,9 +29,8 @@ Axis* XYChart::makeAxis(int side, int offset, bool further) {
 }
 
 PlotArea* XYChart::setPlotArea(int x, int y, int width, int height) {
-    if (m_plotArea == nullptr) {
+    if (m_plotArea == nullptr)
         m_plotArea = own<PlotArea>(*this);
-    }
     m_plotArea->setRect(x, y, width, height);
     return m_plotArea;
 }
@@ -50,7 +49,8 @@ Axis* XYChart::addAxis(int side, int offset) {
 }
 
 bool XYChart::owns(const Axis* axis) const {
-    return std::any_of(m_axes.begin(), m_axes.end(), [=](const ChartAxis& own) { return own.axis == axis; });
+    return std::any_of(
+        m_axes.begin(), m_axes.end(), [=](const ChartAxis& own) { return own.axis == axis; });
 }
 
 void XYChart::swapXY(bool swap) {
@@ -87,15 +87,13 @@ RowTexts XYChart::rowTexts() const {
 }
 
 void XYChart::collectKeys(std::vector<LegendKey>& keys) const {
-    for (const Layer* layer : m_layers) {
+    for (const Layer* layer : m_layers)
         layer->collectKeys(keys);
-    }
 }
 
 void XYChart::drawBody(Canvas& canvas) {
-    if (m_plotArea != nullptr) {
+    if (m_plotArea != nullptr)
         drawFrame(canvas, *this);
-    }
 }
 
 } // namespace chartdraw

@@ -1,9 +1,9 @@
 // Colours, fonts and effects, and the numbers that the drawing library takes for them.
 
-#include "drawing/surface.h"
 #include "model/src/value_class.h"
 #include "platform/narrow_text.h"
 #include "resources/string_table.h"
+#include <chartdraw/surface.h>
 #include <charteditors/chart_color.h>
 #include <charteditors/chart_effect.h>
 #include <charteditors/chart_font.h>

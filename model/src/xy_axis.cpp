@@ -1,7 +1,7 @@
-#include "drawing/surface.h"
 #include "model/src/owned_list.h"
 #include "model/src/value_class.h"
 #include "resources/string_table.h"
+#include <chartdraw/surface.h>
 #include <charteditors/xy_axis.h>
 #include <chrono>
 #include <new>

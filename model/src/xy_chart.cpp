@@ -93,5 +93,6 @@ CXYChart& CXYChart::operator=(const CXYChart& other) {
 }
 
 void CXYChart::UpdateRelation() {
-    forEachRelation(*this, [&](CXYChartAxis*& axis) { axis = m_axes.SafeAxis(axis); });
+    forEachRelation(
+        *this, [&](CXYChartAxis*& axis) { axis = m_axes.SafeAxis(axis); });
 }

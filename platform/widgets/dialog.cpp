@@ -28,12 +28,10 @@ int CDialog::DoModal() {
         setParent(active, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
                               Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     }
-    if (!OnInitDialog()) {
+    if (!OnInitDialog())
         return kCancel;
-    }
-    if (layout() != nullptr) {
+    if (layout() != nullptr)
         layout()->setSizeConstraint(QLayout::SetFixedSize);
-    }
     const int result = exec();
     setParent(nullptr);
     return result == Accepted ? kOK : kCancel;
@@ -50,9 +48,8 @@ bool CDialog::UpdateData(bool read) {
 }
 
 void CDialog::OnFieldChanged(int key) {
-    if (m_controls != nullptr) {
+    if (m_controls != nullptr)
         m_controls->FieldChanged(key);
-    }
 }
 
 bool CDialog::DoDataExchange(bool read) {
@@ -60,23 +57,20 @@ bool CDialog::DoDataExchange(bool read) {
 }
 
 bool CDialog::OnInitDialog() {
-    if (m_controls != nullptr) {
+    if (m_controls != nullptr)
         m_controls->Start();
-    }
     return UpdateData(false);
 }
 
 void CDialog::OnOK() {
     const bool inEdit = m_controls != nullptr && m_controls->CommitFocused();
-    if (!inEdit && !m_hosted && UpdateData(true)) {
+    if (!inEdit && !m_hosted && UpdateData(true))
         done(Accepted);
-    }
 }
 
 void CDialog::OnCancel() {
-    if (!m_hosted) {
+    if (!m_hosted)
         done(Rejected);
-    }
 }
 
 QWidget* CDialog::MakeOkCancel() {
@@ -96,9 +90,8 @@ QWidget* CDialog::MakeOkCancel() {
     connect(ok, &QPushButton::pressed, ok, [ok] { ok->setDown(ok->window()->focusWidget() == ok); });
     connect(ok, &QPushButton::clicked, this, [this, ok] {
         ok->setFocus();
-        if (focusWidget() == ok) {
+        if (focusWidget() == ok)
             OnOK();
-        }
     });
     // Cancel does not care what stands in an edit.
     cancel->setFocusPolicy(Qt::TabFocus);
@@ -115,22 +108,20 @@ bool CDialog::event(QEvent* event) {
 }
 
 void CDialog::showEvent(QShowEvent* event) {
-    if (m_hosted) {
+    if (m_hosted)
         QWidget::showEvent(event); // its host has placed it
-    } else {
+    else
         QDialog::showEvent(event);
-    }
 }
 
 void CDialog::keyPressEvent(QKeyEvent* event) {
     const bool plain = (event->modifiers() & ~Qt::KeypadModifier) == Qt::NoModifier;
-    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)) {
+    if (plain && (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter))
         OnOK();
-    } else if (plain && event->key() == Qt::Key_Escape) {
+    else if (plain && event->key() == Qt::Key_Escape)
         OnCancel();
-    } else {
+    else
         QWidget::keyPressEvent(event);
-    }
 }
 
 void CDialog::closeEvent(QCloseEvent* event) {

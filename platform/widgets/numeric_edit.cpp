@@ -22,9 +22,8 @@ QString CNumericEdit::Text() const {
 }
 
 void CNumericEdit::SetText(const QString& text) {
-    if (text != lineEdit()->text()) {
+    if (text != lineEdit()->text())
         lineEdit()->setText(text);
-    }
     m_set = text;
 }
 
@@ -44,9 +43,8 @@ void CNumericEdit::SetDigits(int digits) {
 
 void CNumericEdit::stepBy(int steps) {
     const int direction = steps < 0 ? -1 : 1;
-    for (int i = 0; i < std::abs(steps); ++i) {
+    for (int i = 0; i < std::abs(steps); ++i)
         emit Pressed(direction);
-    }
 }
 
 QSize CNumericEdit::sizeHint() const {
@@ -64,11 +62,10 @@ QAbstractSpinBox::StepEnabled CNumericEdit::stepEnabled() const {
 
 void CNumericEdit::wheelEvent(QWheelEvent* event) {
     // A page that scrolls under the pointer must not change what it scrolls over.
-    if (hasFocus()) {
+    if (hasFocus())
         QAbstractSpinBox::wheelEvent(event);
-    } else {
+    else
         event->ignore();
-    }
 }
 
 void CNumericEdit::keyPressEvent(QKeyEvent* event) {

@@ -10,10 +10,9 @@ public:
 
 protected:
     void wheelEvent(QWheelEvent* event) override {
-        if (hasFocus()) {
+        if (hasFocus())
             QComboBox::wheelEvent(event);
-        } else {
+        else
             event->ignore();
-        }
     }
 };

@@ -39,12 +39,15 @@ CSimpleCombo::CSimpleCombo(QWidget* parent)
         m_edit->setAccessibleName(m_edit->objectName());
     });
 
-    connect(m_list, &QListWidget::currentRowChanged, this, [this](int row) {
-        ShowTextOf(row);
-        emit SelectionChanged(row);
-    });
-    connect(m_list, &QListWidget::itemDoubleClicked, this,
-            [this](QListWidgetItem* item) { emit DoubleClicked(m_list->row(item)); });
+    connect(
+        m_list, &QListWidget::currentRowChanged, this,
+        [this](int row) {
+            ShowTextOf(row);
+            emit SelectionChanged(row);
+        });
+    connect(
+        m_list, &QListWidget::itemDoubleClicked, this,
+        [this](QListWidgetItem* item) { emit DoubleClicked(m_list->row(item)); });
     connect(m_edit, &QLineEdit::textEdited, this, [this](const QString& text) {
         int row = -1;
         for (int i = 0; i < Count() && row < 0 && !text.isEmpty(); ++i) {

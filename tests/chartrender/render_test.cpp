@@ -1,12 +1,12 @@
 // Rendering with the host's data: the calls, the picture, and clear answers where there is none.
 
-#include "chartrender/chartrender.h"
-#include "drawing/pie.h"
-#include "drawing/sample_data.h"
+#include "render/pie.h"
+#include "render/sample_data.h"
 #include "tests/recorder/recorder.h"
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
+#include <chartrender/chartrender.h>
 #include <gmock/gmock.h>
 #include <limits>
 #include <thread>

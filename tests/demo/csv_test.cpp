@@ -41,9 +41,8 @@ TEST(Csv, ReadsWhatPeopleHave) {
         {",1\n", "=1 "},
         {"a,0\nb,1\n", "a=0 b=1 "},
     };
-    for (const auto& [bytes, expected] : cases) {
+    for (const auto& [bytes, expected] : cases)
         EXPECT_EQ(Read(bytes), expected) << bytes.toStdString();
-    }
 }
 
 TEST(Csv, SaysWhatIsWrongAndWhere) {
@@ -66,8 +65,7 @@ TEST(Csv, SaysWhatIsWrongAndWhere) {
         {QByteArray("a,1\n").repeated(1001), "Line 1001: more than 1000 rows."},
         {QByteArray(2 << 20, ' '), "The file is larger than a megabyte."},
     };
-    for (const auto& [bytes, expected] : cases) {
+    for (const auto& [bytes, expected] : cases)
         EXPECT_EQ(Read(bytes), expected) << bytes.left(40).toStdString();
-    }
     EXPECT_TRUE(ReadCsvFile(QTemporaryDir().path()).error.startsWith("The file cannot be read"));
 }

@@ -22,9 +22,8 @@ protected:
         static int count = 1;
         static char name[] = "demo";
         static char* arguments[] = {name, nullptr};
-        if (QCoreApplication::instance() == nullptr) {
+        if (QCoreApplication::instance() == nullptr)
             new QApplication(count, arguments); // to the end of the process
-        }
         m_window = std::make_unique<HostWindow>(ExampleCharts());
         m_window->show();
     }

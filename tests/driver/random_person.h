@@ -24,14 +24,12 @@ public:
         QTimer dismiss;
         QObject::connect(&dismiss, &QTimer::timeout, &dismiss, [this] {
             auto* over = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (over != nullptr && m_tried != nullptr && over != m_tried) {
+            if (over != nullptr && m_tried != nullptr && over != m_tried)
                 over->reject();
-            }
         });
         dismiss.start(0);
-        while (m_left > 0) {
+        while (m_left > 0)
             run();
-        }
     }
 
 private:
@@ -39,12 +37,10 @@ private:
 
     void Act() {
         QWidget* modal = QApplication::activeModalWidget();
-        if (modal == nullptr) {
+        if (modal == nullptr)
             return;
-        }
-        if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr && Below(3) == 0) {
+        if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr && Below(3) == 0)
             popup->close();
-        }
         if (m_left <= 0) {
             static_cast<QDialog*>(modal)->reject();
             return;
@@ -55,16 +51,13 @@ private:
         for (QWidget* widget : modal->findChildren<QWidget*>()) {
             const QString name = widget->objectName();
             if (widget->isVisible() && name != "OK" && name != "Cancel" && !name.startsWith("qt_") &&
-                (name != "ChooseImage" || Below(20) == 0)) {
+                (name != "ChooseImage" || Below(20) == 0))
                 controls += widget;
-            }
         }
-        for (int i = 0; i < 40 && m_left > 0 && QApplication::activeModalWidget() == modal; ++i, --m_left) {
+        for (int i = 0; i < 40 && m_left > 0 && QApplication::activeModalWidget() == modal; ++i, --m_left)
             Send(controls[Below(static_cast<int>(controls.size()))]);
-        }
-        if (Below(10) == 0 && QApplication::activeModalWidget() == modal) {
+        if (Below(10) == 0 && QApplication::activeModalWidget() == modal)
             QTest::mouseClick(modal->findChild<QWidget*>(Below(4) == 0 ? "Cancel" : "OK"), Qt::LeftButton);
-        }
         m_tried = nullptr;
     }
 
@@ -110,9 +103,8 @@ private:
         static constexpr char kTexts[] = "0123456789-.eA";
         static constexpr Qt::KeyboardModifier kHeld[] = {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
                                                          Qt::ControlModifier};
-        if (Below(4) == 0) {
+        if (Below(4) == 0)
             widget->setFocus();
-        }
         const bool text = Below(2) == 0;
         const char typed = kTexts[Below(static_cast<int>(sizeof kTexts) - 1)];
         const int key = text ? typed : static_cast<int>(kKeys[Below(static_cast<int>(std::size(kKeys)))]);

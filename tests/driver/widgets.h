@@ -37,9 +37,8 @@ Control* Find(QWidget& dialog, const char* name) {
     // Pages of one kind have controls of the same names; the one that shows is meant.
     for (QWidget* found : dialog.findChildren<QWidget*>(QString::fromUtf8(name))) {
         if (found->isVisible()) {
-            if (auto* control = dynamic_cast<Control*>(found)) {
+            if (auto* control = dynamic_cast<Control*>(found))
                 return control;
-            }
         }
     }
     ADD_FAILURE() << "no control " << name;
@@ -60,9 +59,8 @@ int RunModal(Dialog& dialog, Drive drive) {
     QTimer::singleShot(0, &dialog, [&] {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
         drive();
-        if (dialog.isVisible()) {
+        if (dialog.isVisible())
             dialog.reject();
-        }
     });
     return dialog.DoModal();
 }
@@ -74,9 +72,8 @@ public:
     Dismiss() {
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
             if (auto* box = qobject_cast<Box*>(QApplication::activeModalWidget())) {
-                if constexpr (requires { box->text(); }) {
+                if constexpr (requires { box->text(); })
                     m_text = box->text();
-                }
                 ++m_count;
                 box->reject();
             }

@@ -1,6 +1,6 @@
 // The protocol of the entry functions, with a dialog that answers by itself.
 
-#include "model/entry/run_editor.h"
+#include "editors/entry/run_editor.h"
 #include <QApplication>
 #include <charteditors/charteditors.h>
 #include <clocale>

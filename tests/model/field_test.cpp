@@ -38,9 +38,8 @@ TEST(Fields, HaveTheirDefaults) {
 TEST(Fields, StandInTheirOrder) {
     const FieldRow* last = nullptr;
     forEachField([&](const FieldRow& row) {
-        if (last && std::string(last->owner) == row.owner) {
+        if (last && std::string(last->owner) == row.owner)
             EXPECT_LT(last->offset(), row.offset());
-        }
         last = &row;
     });
 }

@@ -1,5 +1,5 @@
 #include "tests/model/surface_fake.h"
-#include "drawing/surface.h"
+#include <chartdraw/surface.h>
 #include <sstream>
 
 namespace model_test {

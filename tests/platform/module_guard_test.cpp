@@ -73,20 +73,25 @@ TEST(ModuleGuard, ClosingTheLastWindowDoesNotEndTheHost) {
     expectInOwnProcess([] {
         const QApplication host(s_count, s_arguments);
         bool closedInPeace = false;
-        QTimer::singleShot(0, [] {
-            const ModuleGuard outer;
-            {
-                const ModuleGuard inner;
-                QWidget window;
-                window.show();
-                window.close();
-            }
-        });
-        QTimer::singleShot(50, [&] {
-            closedInPeace = true;
-            QCoreApplication::quit();
-        });
-        QTimer::singleShot(5000, [] { std::_Exit(2); });
+        QTimer::singleShot(
+            0,
+            [] {
+                const ModuleGuard outer;
+                {
+                    const ModuleGuard inner;
+                    QWidget window;
+                    window.show();
+                    window.close();
+                }
+            });
+        QTimer::singleShot(
+            50,
+            [&] {
+                closedInPeace = true;
+                QCoreApplication::quit();
+            });
+        QTimer::singleShot(
+            5000, [] { std::_Exit(2); });
         QApplication::exec();
         return closedInPeace && QGuiApplication::quitOnLastWindowClosed();
     });

@@ -56,7 +56,7 @@ def body(result, name, arguments):
 def main(header, output):
     with open(header, encoding="utf-8") as file:
         operations = list(declarations(file.read()))
-    lines = ['#include "drawing/surface.h"', '#include "tests/recorder/recorder_core.h"', ""]
+    lines = ['#include <chartdraw/surface.h>', '#include "tests/recorder/recorder_core.h"', ""]
     lines.append(f"const int recorder::operationCount = {len(operations)};")
     lines.append('extern "C" {')
     for result, name, arguments in operations:

@@ -52,9 +52,9 @@ const std::vector<std::string>& Recording::Lines() const {
 }
 
 int Recording::Count(const std::string& operation) const {
-    return static_cast<int>(std::count_if(Lines().begin(), Lines().end(), [&](const std::string& line) {
-        return line.starts_with(operation + "(");
-    }));
+    return static_cast<int>(std::count_if(
+        Lines().begin(), Lines().end(),
+        [&](const std::string& line) { return line.starts_with(operation + "("); }));
 }
 
 void Recording::Clear() {
@@ -117,8 +117,8 @@ void number(const char* kind, const void* handle, const void* from) {
 }
 
 void forget(const void* handle) {
-    std::erase_if(log().names,
-                  [root = rootOf(handle)](const auto& entry) { return entry.second.root == root; });
+    std::erase_if(
+        log().names, [root = rootOf(handle)](const auto& entry) { return entry.second.root == root; });
 }
 
 } // namespace recorder

@@ -1,7 +1,7 @@
 // The recorder: lines in their one form, handles by kind and number, calls passed on to the library.
 
-#include "drawing/surface.h"
 #include "tests/recorder/recorder.h"
+#include <chartdraw/surface.h>
 #include <gmock/gmock.h>
 
 using recorder::Recording;

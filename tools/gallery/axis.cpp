@@ -18,17 +18,15 @@ double day(int year, int month, int dayOfMonth) {
 
 std::vector<double> times(int count, int monthStep, int dayStep) {
     std::vector<double> result;
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i)
         result.push_back(day(2004, 1 + i * monthStep, 1 + i * dayStep));
-    }
     return result;
 }
 
 std::vector<double> wave(int count, double middle, double height) {
     std::vector<double> result;
-    for (int i = 0; i < count; ++i) {
+    for (int i = 0; i < count; ++i)
         result.push_back(middle + height * std::sin(i * 0.1));
-    }
     return result;
 }
 
@@ -229,9 +227,8 @@ BaseChart* synced() {
 BaseChart* prices() {
     Frame f;
     std::vector<double> stamps;
-    for (int i = 0; i < 130; ++i) {
+    for (int i = 0; i < 130; ++i)
         stamps.push_back(day(2002, 9, 4 + i * 7 / 5));
-    }
     f.line(wave(130, 100, 10));
     CXYChart_setTrimData(f.chart, 30, 0x7fffffff);
     f.labels(stamps, nullptr);

@@ -2,7 +2,7 @@
 // The registry of the gallery: families of small charts, drawn through the flat surface alone. A source file
 // holds one family and registers it by a file-level `const gallery::Family`.
 
-#include "drawing/surface.h"
+#include <chartdraw/surface.h>
 
 #include <string>
 #include <vector>

@@ -30,9 +30,8 @@ struct Chart {
         CXYChart_setPlotArea(xy, 50, 35 + depth, width - 75 - depth, height - 70 - depth, -1, -1, -1, -1, -1);
         LegendBox* legend = CBaseChart_addLegend(base, 50, 8, false, nullptr, points(8));
         CBox_setBackground(TextBox2Box(LegendBox2TextBox(legend)), kClear, kClear, 0);
-        for (Axis* axis : {CXYChart_xAxis(xy), CXYChart_yAxis(xy)}) {
+        for (Axis* axis : {CXYChart_xAxis(xy), CXYChart_yAxis(xy)})
             CAxis_setLabelStyle(axis, nullptr, points(8), -1, 0);
-        }
     }
 };
 
@@ -137,9 +136,8 @@ BaseChart* shapes() {
     const int codes[] = {0, 2, 3, 4, 5, 6, 3, 7, 10};
     CXYChart_swapXY(chart.xy, lying);
     BarLayer* bar = CXYChart_addBarLayer(chart.xy, data, 9, -1, "Shapes", depth);
-    for (int i = 0; i < 9; ++i) {
+    for (int i = 0; i < 9; ++i)
         CBarLayer_setBarShape(bar, codes[i], -1, i);
-    }
     CLayer_setBorderColor(BarLayer2Layer(bar), 0x203040, 0);
     return chart.base;
 }
@@ -162,9 +160,8 @@ BaseChart* barsByDate() {
     Chart chart;
     double dates[kRows];
     const int days[] = {1, 4, 5, 9, 15, 16};
-    for (int i = 0; i < kRows; ++i) {
+    for (int i = 0; i < kRows; ++i)
         dates[kRows - 1 - i] = CChart_chartTime(2024, 3, days[i], 0, 0, 0);
-    }
     BarLayer* bar = CXYChart_addBarLayer(chart.xy, kMixed, kRows, -1, "Uneven dates, backwards", 0);
     CLayer_setXData(BarLayer2Layer(bar), dates, kRows);
     CAxis_setDateScale(CXYChart_xAxis(chart.xy), CChart_chartTime(2024, 3, 1, 0, 0, 0) - 43200,
@@ -185,9 +182,8 @@ BaseChart* symbolLines() {
     Chart chart(560, 320);
     for (int symbol = 1; symbol <= 9; ++symbol) {
         double data[kRows];
-        for (int i = 0; i < kRows; ++i) {
+        for (int i = 0; i < kRows; ++i)
             data[i] = symbol * 10 + std::sin(symbol + i * 1.3) * 4;
-        }
         char name[16];
         std::snprintf(name, sizeof name, "%d", symbol);
         LineLayer* line = CXYChart_addLineLayer(chart.xy, data, kRows, -1, name, 0);
@@ -206,9 +202,8 @@ BaseChart* threeForms() {
                            CXYChart_addSplineLayer(chart.xy, data, 13, 0xcc3300, "Spline"))),
                        LineLayer2Layer(StepLineLayer2LineLayer(
                            CXYChart_addStepLineLayer(chart.xy, data, 13, 0x0066cc, "Step line")))};
-    for (Layer* layer : layers) {
+    for (Layer* layer : layers)
         CLayer_setLineWidth(layer, 2);
-    }
     CDataSet_setDataSymbol(CLayer_getDataSet(layers[1], 0), CHART_CIRCLE_SYMBOL, 7, 0xffffff, 0xcc3300, 2);
     return chart.base;
 }
@@ -226,9 +221,8 @@ BaseChart* lineLabels() {
 BaseChart* crowdedLabels() {
     Chart chart;
     std::vector<double> data;
-    for (int i = 0; i < 80; ++i) {
+    for (int i = 0; i < 80; ++i)
         data.push_back(50 + 30 * std::sin(i * 0.17) + 6 * std::sin(i * 1.9));
-    }
     label(LineLayer2Layer(CXYChart_addLineLayer(chart.xy, data.data(), 80, -1, "80 labels", 0)), "{value|1}");
     label(LineLayer2Layer(CXYChart_addLineLayer(chart.xy, data.data() + 20, 60, -1, "60 more", 0)),
           "{value|1}");
@@ -319,9 +313,8 @@ BaseChart* between() {
 BaseChart* thresholds() {
     Chart chart(460);
     std::vector<double> data;
-    for (int i = 0; i < 100; ++i) {
+    for (int i = 0; i < 100; ++i)
         data.push_back(50 + 32 * std::sin(i * 0.15) + 10 * std::sin(i * 0.9));
-    }
     Axis* y = CXYChart_yAxis(chart.xy);
     LineLayer* line = CXYChart_addLineLayer(chart.xy, data.data(), 100, 0x800080, "RSI (14)", 0);
     Mark* top = CAxis_addMark(y, 70, 0xff6666, "70", nullptr, points(8));
@@ -341,9 +334,8 @@ struct Prices {
 
     explicit Prices(int count) : table(CRanTable_create(9, 5, count)), column(), rows(count) {
         CRanTable_setHLOCCols(table, 0, 50, -4, 4, 0, 1E+308);
-        for (int i = 0; i < 4; ++i) {
+        for (int i = 0; i < 4; ++i)
             CRanTable_getCol(table, i, &column[i], &rows);
-        }
     }
     ~Prices() { CRanTable_destroy(table); }
     Prices(const Prices&) = delete;

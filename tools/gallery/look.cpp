@@ -36,14 +36,12 @@ BaseChart* palette() {
 BaseChart* alpha() {
     BaseChart* chart = blank(460, 80);
     int board[100];
-    for (int i = 0; i < 100; ++i) {
+    for (int i = 0; i < 100; ++i)
         board[i] = (i % 10 < 5) == (i / 10 < 5) ? 0xffffff : 0xbbbbbb;
-    }
     CBaseChart_setBackground(chart, CBaseChart_patternColor(chart, board, 100, 10, 0, 0), CHART_TRANSPARENT,
                              0);
-    for (int i = 0; i < 8; ++i) {
+    for (int i = 0; i < 8; ++i)
         box(chart, 10 + i * 56, 10, 50, 60, i * 36 << 24 | 0x3366cc, 0);
-    }
     return chart;
 }
 

@@ -110,17 +110,14 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: chart-gallery DIR [FONT-SCALE]\n");
         return 2;
     }
-    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM")) {
+    if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
-    }
     const QGuiApplication application(argc, argv);
-    if (argc > 2) {
+    if (argc > 2)
         gallery::fontScale = std::clamp(QString::fromLocal8Bit(argv[2]).toDouble(), 0.1, 10.0);
-    }
     const QDir target(QString::fromLocal8Bit(argv[1]));
     bool good = target.mkpath(".");
-    for (const auto& [name, cases] : gallery::families()) {
+    for (const auto& [name, cases] : gallery::families())
         good = gallery::write(target, name, cases) && good;
-    }
     return good ? 0 : 1;
 }

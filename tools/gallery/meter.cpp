@@ -36,11 +36,10 @@ struct Linear {
     explicit Linear(int side = CHART_LEFT, bool reverse = false)
         : meter(create(side)), base(LinearMeter2BaseMeter(meter)), chart(BaseMeter2BaseChart(base)) {
         const bool upright = side == CHART_LEFT || side == CHART_RIGHT;
-        if (upright) {
+        if (upright)
             CLinearMeter_setMeter(meter, 65, 20, 40, 240, side, reverse);
-        } else {
+        else
             CLinearMeter_setMeter(meter, 20, 45, 240, 40, side, reverse);
-        }
         CBaseMeter_setLabelStyle(base, nullptr, points(8), -1, 0);
         CBaseMeter_setScale(base, 0, 100, 10, 5, 1);
     }
@@ -115,9 +114,8 @@ BaseChart* glassRings() {
     const auto glass = [](unsigned clear) { return static_cast<int>(clear << 24 | 0xffffff); };
     CAngularMeter_addRing(m.meter, 0, 130, CChart_metalColor(0x4a6fa5, 120), -1);
     CAngularMeter_addRing(m.meter, 122, 130, CChart_metalColor(0xe8b923, 45), 0x6b5410);
-    for (int r = 20; r < 100; r += 20) {
+    for (int r = 20; r < 100; r += 20)
         CAngularMeter_addRing(m.meter, 0, r, glass(0xd8), -1);
-    }
     CBaseMeter_setLabelStyle(m.base, "bold", points(8), 0xffffff, 0);
     m.pointer(30, 0x40ffffff, CHART_PENCIL_POINTER, 0.9);
     return m.chart;

@@ -75,9 +75,8 @@ BaseChart* explodedOne() {
 
 BaseChart* explodedAll() {
     Pie p;
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 7; ++i)
         CSector_setExplode(CPieChart_sector(p.pie, i), 10);
-    }
     CPieChart_setLabelLayout(p.pie, CHART_SIDE_LAYOUT, -1, -1, -1);
     return p.chart;
 }
@@ -97,9 +96,8 @@ BaseChart* solid() {
 BaseChart* solidExploded() {
     Pie p;
     CPieChart_set3D(p.pie, 25, 55, false);
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 7; ++i)
         CSector_setExplode(CPieChart_sector(p.pie, i), i == 0 ? 20 : 8);
-    }
     CPieChart_setLabelLayout(p.pie, CHART_SIDE_LAYOUT, -1, -1, -1);
     return p.chart;
 }
@@ -122,9 +120,8 @@ BaseChart* solidDonutExploded() {
     CPieChart_setDonutSize(p.pie, 180, 140, 45, 95);
     CPieChart_set3D(p.pie, 20, 40, false);
     CPieChart_setStartAngle(p.pie, 200, false);
-    for (int i = 0; i < 7; i += 2) {
+    for (int i = 0; i < 7; i += 2)
         CSector_setExplode(CPieChart_sector(p.pie, i), 18);
-    }
     return p.chart;
 }
 
@@ -148,9 +145,8 @@ BaseChart* metals() {
     Pie p;
     CPieChart_setLineColor(p.pie, 0x555555, -1);
     const int bases[] = {0xe8b923, 0xb0b4ba, 0xb87333, 0x7da7d9, 0x8fbf7f, 0xcc8899, 0x9988cc};
-    for (int i = 0; i < 7; ++i) {
+    for (int i = 0; i < 7; ++i)
         CSector_setColor(CPieChart_sector(p.pie, i), CChart_metalColor(bases[i], 45), -1, -1);
-    }
     CPieChart_set3D(p.pie, 20, 45, false);
     return p.chart;
 }

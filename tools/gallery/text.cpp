@@ -20,9 +20,8 @@ BaseChart* ninePlaces() {
     BaseChart* chart = blank();
     const char* const names[] = {"",       "bottom left", "bottom",   "bottom right", "left",
                                  "centre", "right",       "top left", "top",          "top right"};
-    for (int place = 1; place <= 9; ++place) {
+    for (int place = 1; place <= 9; ++place)
         CBaseChart_addTitle2(chart, place, names[place], "bold", points(9), -1, 0xe0ecff, 0x88aadd);
-    }
     return chart;
 }
 
@@ -69,9 +68,8 @@ BaseChart* faces() {
     const char* const files[] = {"DejaVuSerif.ttf", "LiberationMono-Regular.ttf",
                                  "LiberationSerif-Italic.ttf", "NotoSansCJK-Regular.ttc|1",
                                  "no-such-file.ttf"};
-    for (int i = 0; i < 5; ++i) {
+    for (int i = 0; i < 5; ++i)
         text(chart, 10, 10 + i * 36, files[i], files[i], 12);
-    }
     return chart;
 }
 
@@ -101,9 +99,8 @@ BaseChart* scripts() {
                                  "mixed: abc אבג 123 العربية end",
                                  "symbols: ☺ ★ → ≤ ∑ 🙂",
                                  "not UTF-8: \xff\xfe end"};
-    for (int i = 0; i < 10; ++i) {
+    for (int i = 0; i < 10; ++i)
         text(chart, 10, 8 + i * 26, lines[i], nullptr, 10);
-    }
     return chart;
 }
 

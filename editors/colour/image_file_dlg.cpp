@@ -1,0 +1,97 @@
+#include "editors/colour/image_file_dlg.h"
+
+#include "editors/framework/conventions.h"
+#include "editors/preview/chart_preview_view.h"
+#include "platform/widgets/dialog.h"
+#include "resources/string_table.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFileInfo>
+#include <QGridLayout>
+#include <QLabel>
+#include <QScreen>
+#include <QVBoxLayout>
+
+namespace {
+
+constexpr int kFilterText = 76;
+constexpr int kTitleText = 77;
+
+/// The text holds names and patterns in turn, each followed by a bar. The dialog takes the pattern from the
+/// last brackets of a filter, and does not show them.
+QStringList NameFilters() {
+    const QStringList parts = QString::fromUtf8(LoadChartString(kFilterText)).split(u'|', Qt::SkipEmptyParts);
+    QStringList filters;
+    for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
+        QString pattern = parts[i + 1];
+        if (pattern == QStringLiteral("*.*"))
+            pattern = QStringLiteral("*"); // a file needs no dot in its name
+        filters += QStringLiteral("%1 (%2)").arg(parts[i], pattern.replace(u';', u' '));
+    }
+    return filters;
+}
+
+} // namespace
+
+CImageFileDlg::CImageFileDlg() : m_preview(new CChartPreviewView(this)) {
+    setOptions(DontUseNativeDialog | HideNameFilterDetails);
+    setFileMode(ExistingFile);
+    setViewMode(List);
+    setWindowTitle(QString::fromUtf8(LoadChartString(kTitleText)));
+    setObjectName(windowTitle());
+    setNameFilters(NameFilters());
+    PlacePreview();
+    connect(this, &QFileDialog::currentChanged, this, [this](const QString& path) {
+        if (QFileInfo(path).isFile()) {
+            m_preview->SetSampleImage(ToModelText(path));
+            m_preview->RefreshPreview();
+        }
+    });
+}
+
+void CImageFileDlg::PlacePreview() {
+    m_preview->setObjectName(QStringLiteral("Preview"));
+    m_preview->setAccessibleName(QStringLiteral("Preview"));
+    m_preview->setFocusPolicy(Qt::NoFocus);
+    const int line = fontMetrics().height();
+    m_preview->setMinimumSize(line * 12, line * 12);
+    auto* pane = new QWidget(this);
+    auto* labelled = new QVBoxLayout(pane);
+    labelled->setContentsMargins(0, 0, 0, 0);
+    labelled->addWidget(new QLabel(QStringLiteral("Preview:"), pane));
+    labelled->addWidget(m_preview, 1);
+    // Beside the list of files and the rows below it, where the toolkit's own dialog keeps them in a grid.
+    if (auto* grid = qobject_cast<QGridLayout*>(layout())) {
+        const int column = grid->columnCount();
+        grid->addWidget(pane, 0, column, grid->rowCount(), 1);
+        grid->setColumnStretch(1, 2); // the files
+        grid->setColumnStretch(column, 1);
+    } else {
+        layout()->addWidget(pane);
+    }
+    resize(QSize(line * 48, line * 26).boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+void CImageFileDlg::SetInitialFile(const CChartString& path) {
+    if (path.empty())
+        return;
+    const QFileInfo file(FromModelText(path));
+    if (file.dir().exists())
+        setDirectory(file.dir());
+    selectFile(file.fileName());
+    m_preview->SetSampleImage(path);
+    m_preview->RefreshPreview();
+}
+
+int CImageFileDlg::DoModal() {
+    if (QWidget* active = QApplication::activeWindow(); active != nullptr && active != this)
+        setParent(active, windowFlags());
+    const int result = exec();
+    setParent(nullptr);
+    return result == Accepted ? CDialog::kOK : CDialog::kCancel;
+}
+
+CChartString CImageFileDlg::GetPathName() const {
+    return ToModelText(selectedFiles().value(0));
+}

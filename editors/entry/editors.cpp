@@ -1,0 +1,34 @@
+// The entry functions, one line each. A kind whose dialog is not built yet reads as cancelled at once: the
+// answer of a dialog that cannot be made. It becomes `return entry::RunEditor<CXYChartDlg>(chart, layout);`.
+
+#include "editors/entry/run_editor.h"
+#include "editors/pie/pie_chart_dlg.h"
+#include <charteditors/editors.h>
+
+bool ShowChartLayoutWnd(CChartLayout&) {
+    return false;
+}
+
+bool ShowXYChartWnd(CXYChart&, const CChartLayout&) {
+    return false;
+}
+
+bool ShowPieChartWnd(CPieChart& chart, const CChartLayout& layout) {
+    return entry::RunEditor<CPieChartDlg>(chart, layout);
+}
+
+bool ShowFinanceChartWnd(CFinanceChart&, const CChartLayout&) {
+    return false;
+}
+
+bool ShowAngularMeterWnd(CAngularMeter&, const CChartLayout&) {
+    return false;
+}
+
+bool ShowLinearMeterWnd(CLinearMeter&, const CChartLayout&) {
+    return false;
+}
+
+bool ShowPolarChartWnd(CPolarChart&, const CChartLayout&) {
+    return false;
+}

@@ -1,0 +1,64 @@
+#include "render/dressing.h"
+#include "render/utf8_text.h"
+#include "resources/string_table.h"
+
+// Where a call takes several colours they are resolved beforehand: a pattern is made by a call of its own,
+// and the order in which arguments are evaluated is the compiler's.
+
+void SetBoxBackground(BaseChart* chart, Box* box, const CChartColor& background, const CChartColor& edge,
+                      const CChartRaisedEffect& effect) {
+    const int backgroundColor = background.GetChartColor(chart);
+    const int edgeColor = edge.GetChartColor(chart);
+    CBox_setBackground(box, backgroundColor, edgeColor, effect.GetRaisedEffect());
+}
+
+void DrawChartBackground(BaseChart* chart, const CChartLayout& layout) {
+    const int backColor = layout.m_backColor.GetChartColor(chart);
+    const int edgeColor = layout.m_edgeColor.GetChartColor(chart);
+    CBaseChart_setBackground(chart, backColor, edgeColor, layout.m_effect.GetRaisedEffect());
+    if (layout.m_useWallPaper)
+        CBaseChart_setBgImage(chart, CUtf8Text(layout.m_wallPaperImage), CHART_CENTER);
+    if (layout.m_roundedFrame)
+        CBaseChart_setRoundedFrame(chart, 0xffffff, 10, -1, -1, -1);
+    const CUtf8Text font(layout.m_defaultFont.m_fileName);
+    CBaseChart_setDefaultFonts(chart, font, font, font, font);
+}
+
+static void DrawTitle(BaseChart* chart, const CChartTitle& title) {
+    const int fontColor = title.m_fontColor.GetChartColor(chart);
+    TextBox* textBox = CBaseChart_addTitle2(chart, title.m_alignment, CUtf8Text(title.m_text),
+                                            CUtf8Text(title.m_font.m_fileName), title.m_font.m_size,
+                                            fontColor, CHART_TRANSPARENT, CHART_TRANSPARENT);
+    Box* box = TextBox2Box(textBox);
+    SetBoxBackground(chart, box, title.m_backColor, title.m_edgeColor, title.m_effect);
+    CTextBox_setFontAngle(textBox, title.m_angle, title.m_vertical);
+    if (title.m_usePosition)
+        CBox_setPos(box, title.m_x, title.m_y);
+}
+
+void DrawChartTitles(BaseChart* chart, const CChartLayout& layout) {
+    for (int i = 0; i < layout.m_titles.size(); ++i)
+        if (layout.m_titles[i].m_show)
+            DrawTitle(chart, layout.m_titles[i]);
+}
+
+void DrawChartLegend(BaseChart* chart, const CChartLayout& layout, bool addSampleKey) {
+    if (!layout.m_showLegend)
+        return;
+    LegendBox* legend =
+        CBaseChart_addLegend(chart, layout.m_legendX, layout.m_legendY, layout.m_legendVertical,
+                             CUtf8Text(layout.m_legendFont.m_fileName), layout.m_legendFont.m_size);
+    TextBox* textBox = LegendBox2TextBox(legend);
+    Box* box = TextBox2Box(textBox);
+    CTextBox_setFontColor(textBox, layout.m_legendFontColor.GetChartColor(chart));
+    SetBoxBackground(chart, box, layout.m_legendBackColor, layout.m_legendEdgeColor, layout.m_legendEffect);
+    CTextBox_setText(textBox, CUtf8Text(layout.m_legendFormat));
+    if (addSampleKey)
+        CLegendBox_addKey(legend, LoadChartString(82), CHART_DEFAULT_COLOR, 0, nullptr);
+}
+
+void DressLabelBox(BaseChart* chart, const CChartLayout& layout, TextBox* textBox) {
+    SetBoxBackground(chart, TextBox2Box(textBox), layout.m_labelBackColor, layout.m_labelEdgeColor,
+                     layout.m_labelEffect);
+    CTextBox_setFontAngle(textBox, layout.m_labelAngle, layout.m_labelVertical);
+}

@@ -1,0 +1,371 @@
+#include <gtest/gtest.h>
+
+#include "editors/colour/color_dlg.h"
+#include "editors/colour/spectrum_ctrl.h"
+#include "editors/preview/chart_preview_view.h"
+#include "platform/widgets/numeric_edit.h"
+#include "tests/driver/widgets.h"
+
+#include <QAbstractButton>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMessageBox>
+
+namespace {
+
+class ColorDlg : public WidgetTest {
+protected:
+    ColorDlg() {
+        for (CChartColor& color : CCustomColorCtrl::Colors()) {
+            color = CChartColor();
+            color.m_color = 0xFFFFFF;
+        }
+    }
+    CNumericEdit* Number(const char* name) { return Find<CNumericEdit>(m_dialog, name); }
+    void TypeInto(const char* name, const char* text) {
+        Type(Number(name), text);
+        QTest::keyClick(Number(name), Qt::Key_Return);
+    }
+    void Click(const char* button) { QTest::mouseClick(Find(m_dialog, button), Qt::LeftButton); }
+    void ClickCell(const char* grid, GridShape shape, int index) {
+        QWidget* widget = Find(m_dialog, grid);
+        QTest::mouseClick(widget, Qt::LeftButton, {}, shape.CellRect(index, widget->size()).center());
+    }
+    void ClickPalette(int index) { ClickCell("PaletteColors", {8, 5}, index); }
+    void ClickCustom(int index) { ClickCell("CustomColors", {3, 6}, index); }
+    void Choose(const char* combo, int row) {
+        auto* box = Find<QComboBox>(m_dialog, combo);
+        box->setFocus();
+        QTest::keyClick(box, Qt::Key_Home);
+        for (int i = 0; i < row; ++i)
+            QTest::keyClick(box, Qt::Key_Down);
+    }
+    std::string Numbers() {
+        std::string all;
+        for (const char* name : {"R", "G", "B", "A"})
+            all += Number(name)->Text().toStdString() + ' ';
+        return all;
+    }
+    std::uint32_t Spectrum() { return Find<XColorSpectrumCtrl>(m_dialog, "ARGB")->GetRGB(); }
+    std::uint32_t Sample() { return m_dialog.findChild<CChartPreviewView*>("Sample")->m_sampleColor.m_color; }
+
+    CColorDlg m_dialog;
+};
+
+} // namespace
+
+TEST_F(ColorDlg, StartsWithDefaultsOfItsOwn) {
+    EXPECT_EQ(m_dialog.m_color.m_type, 0);
+    EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFFU);
+    EXPECT_EQ(m_dialog.m_color.m_direction, 90);
+    EXPECT_TRUE(m_dialog.m_color.m_patternFile.empty());
+}
+
+TEST_F(ColorDlg, ShowsEachTypeAndChangesNothingByItself) {
+    for (const int type : {0, 1, 2, 3, -1, 99}) {
+        CColorDlg dialog;
+        dialog.m_color.m_type = type;
+        dialog.m_color.m_color = 0x0A336699;
+        dialog.m_color.m_direction = 33;
+        dialog.m_color.m_patternFile = "a.png";
+        const int result = RunModal(dialog, [&] {
+            const bool numbers = type == 0 || type == 2;
+            int shown = 0;
+            for (const QWidget* edit : dialog.findChildren<CNumericEdit*>())
+                shown += edit->isVisible() ? 1 : 0;
+            EXPECT_EQ(shown, numbers ? (type == 2 ? 5 : 4) : 0) << type;
+            if (numbers) {
+                EXPECT_EQ(Find<CNumericEdit>(dialog, "R")->Text(), "51");
+                EXPECT_EQ(Find<CNumericEdit>(dialog, "G")->Text(), "102");
+                EXPECT_EQ(Find<CNumericEdit>(dialog, "B")->Text(), "153");
+                EXPECT_EQ(Find<CNumericEdit>(dialog, "A")->Text(), "10");
+                EXPECT_EQ(Find<XColorSpectrumCtrl>(dialog, "ARGB")->GetRGB(), 0x996633U);
+            }
+            if (type == 1)
+                EXPECT_EQ(Find<QLineEdit>(dialog, "Image")->text(), "a.png");
+            QTest::mouseClick(Find(dialog, "OK"), Qt::LeftButton);
+        });
+        EXPECT_EQ(result, CDialog::kOK);
+        EXPECT_EQ(dialog.m_color.m_type, type);
+        EXPECT_EQ(dialog.m_color.m_color, 0x0A336699U);
+        EXPECT_EQ(dialog.m_color.m_direction, 33);
+        EXPECT_STREQ(dialog.m_color.m_patternFile.data(), "a.png");
+    }
+}
+
+TEST_F(ColorDlg, ComposesTypedNumbers) {
+    struct Case {
+        const char *red, *green, *blue, *alpha;
+        std::uint32_t color;
+    };
+    const Case cases[] = {
+        {"10", "20", "30", "254", 0xFE0A141E},
+        {"10", "20", "30", "255", 0xFF000000}, // fully transparent has one form
+        {"10", "20", "30", "999", 0xFF000000},
+        {"300", "256", "255", "0", 0x00FFFFFF},
+        {"0", "0", "-1", "0", 0xFFFFFFFF}, // numbers are not limited from below
+    };
+    RunModal(m_dialog, [&] {
+        for (const Case& c : cases) {
+            TypeInto("A", c.alpha);
+            TypeInto("R", c.red);
+            TypeInto("G", c.green);
+            TypeInto("B", c.blue);
+            EXPECT_EQ(m_dialog.m_color.m_color, c.color) << c.alpha;
+            EXPECT_EQ(Sample(), c.color);
+        }
+        TypeInto("R", "1000");
+        EXPECT_EQ(Number("R")->Text(), "255");
+    });
+}
+
+TEST_F(ColorDlg, CommitsAnEditThatIsLeft) {
+    RunModal(m_dialog, [&] {
+        Type(Number("G"), "7");
+        EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFFU); // not while it is typed
+        QTest::keyClick(Number("G"), Qt::Key_Tab);
+        EXPECT_EQ(m_dialog.m_color.m_color, 0xFF07FFU);
+        EXPECT_EQ(Spectrum(), 0xFF07FFU);
+        Type(Number("R"), "18");
+        Click("AddToCustom"); // takes the focus first
+        EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_color, 0x1207FFU);
+        QTest::keyClick(Number("R"), Qt::Key_Escape);
+        EXPECT_TRUE(m_dialog.isVisible());
+        Type(Number("B"), "5");
+        Click("OK");
+        EXPECT_FALSE(m_dialog.isVisible());
+    });
+    EXPECT_EQ(m_dialog.m_color.m_color, 0x120705U);
+}
+
+TEST_F(ColorDlg, PutsTheLastNumberBackWhereTheTextIsNone) {
+    RunModal(
+        m_dialog,
+        [&] {
+            for (const char* text : {"", "x", "1.5", "99999999999"}) {
+                const Dismiss<QMessageBox> box;
+                TypeInto("B", text);
+                EXPECT_EQ(box.m_text, "\"B\" must be a whole number.");
+                EXPECT_EQ(box.m_count, 1);
+                EXPECT_EQ(Number("B")->Text(), "255");
+                EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFFU);
+            }
+            m_dialog.activateWindow();
+            ASSERT_TRUE(QTest::qWaitForWindowActive(&m_dialog));
+            const Dismiss<QMessageBox> box;
+            Type(Number("B"), "x");
+            QTest::keyClick(Number("B"), Qt::Key_Tab);
+            EXPECT_EQ(box.m_count, 1);
+            EXPECT_EQ(m_dialog.focusWidget(), Number("B"));
+            EXPECT_EQ(Number("B")->findChild<QLineEdit*>()->selectedText(), "255");
+        });
+}
+
+TEST_F(ColorDlg, CancelForgetsTheColourButNotTheCustomOnes) {
+    m_dialog.m_color.m_color = 0x102030;
+    const int result = RunModal(m_dialog, [&] {
+        TypeInto("R", "1");
+        Click("AddToCustom");
+        const Dismiss<QMessageBox> box;
+        Type(Number("R"), "bad");
+        Click("Cancel");
+        EXPECT_FALSE(m_dialog.isVisible());
+        EXPECT_EQ(box.m_count, 0); // nobody complains about a number that is thrown away
+    });
+    EXPECT_EQ(result, CDialog::kCancel);
+    EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_color, 0x012030U);
+}
+
+TEST_F(ColorDlg, ArrowsStepWithinTheBytes) {
+    m_dialog.m_color.m_color = 0x00FE0102;
+    RunModal(m_dialog, [&] {
+        Number("R")->setFocus();
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(Number("R"), Qt::Key_Up);
+        Number("G")->setFocus();
+        for (int i = 0; i < 3; ++i)
+            QTest::keyClick(Number("G"), Qt::Key_Down);
+        Number("A")->setFocus();
+        QTest::keyClick(Number("A"), Qt::Key_Up);
+        EXPECT_EQ(Numbers(), "255 0 2 1 ");
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x01FF0002U);
+        // The base of a step is the number, not the text that is being typed.
+        Type(Number("B"), "77");
+        QTest::keyClick(Number("B"), Qt::Key_Up);
+        EXPECT_EQ(Numbers(), "255 0 3 1 ");
+    });
+}
+
+TEST_F(ColorDlg, AngleSnapsWhenStepped) {
+    struct Case {
+        int from;
+        Qt::Key key;
+        int to;
+    };
+    // 145 and 55 lie nearer to 135 and 45.
+    const Case cases[] = {{100, Qt::Key_Up, 135}, {100, Qt::Key_Down, 45}, {0, Qt::Key_Down, 0},
+                          {360, Qt::Key_Up, 360}, {350, Qt::Key_Up, 360},  {-90, Qt::Key_Up, 0},
+                          {23, Qt::Key_Up, 90},   {22, Qt::Key_Up, 45},    {2147483647, Qt::Key_Up, 360}};
+    for (const Case& c : cases) {
+        CColorDlg dialog;
+        dialog.m_color.m_type = 2;
+        dialog.m_color.m_direction = c.from;
+        RunModal(dialog, [&] {
+            Find(dialog, "Angle")->setFocus();
+            QTest::keyClick(Find(dialog, "Angle"), c.key);
+        });
+        EXPECT_EQ(dialog.m_color.m_direction, c.to) << c.from;
+    }
+    m_dialog.m_color.m_type = 2;
+    RunModal(m_dialog, [&] {
+        TypeInto("Angle", "361");
+        EXPECT_EQ(m_dialog.m_color.m_direction, 360);
+        TypeInto("Angle", "-30");
+        EXPECT_EQ(m_dialog.m_color.m_direction, -30);
+        TypeInto("Angle", "100"); // typed angles do not snap
+        EXPECT_EQ(m_dialog.m_color.m_direction, 100);
+    });
+}
+
+TEST_F(ColorDlg, NumbersFromOutsideStayUntilTheyAreTouched) {
+    m_dialog.m_color.m_type = 2;
+    m_dialog.m_color.m_direction = 400;
+    RunModal(m_dialog, [&] {
+        TypeInto("R", "1");
+        EXPECT_EQ(m_dialog.m_color.m_direction, 400);
+        TypeInto("Angle", "401");
+        EXPECT_EQ(m_dialog.m_color.m_direction, 360);
+    });
+}
+
+TEST_F(ColorDlg, TypesShareTheNumbersTheyStartedWith) {
+    m_dialog.m_color.m_color = 0x05010203;
+    m_dialog.m_color.m_direction = 30;
+    RunModal(m_dialog, [&] {
+        TypeInto("R", "9");
+        Choose("Type", 2);
+        EXPECT_EQ(Numbers(), "1 2 3 5 ");
+        EXPECT_EQ(m_dialog.m_color.m_type, 2);
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x05010203U);
+        EXPECT_EQ(m_dialog.m_color.m_direction, 30);
+        Choose("Type", 1); // no path: taken as it is
+        EXPECT_EQ(m_dialog.m_color.m_type, 1);
+        Choose("Type", 0);
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x05090203U);
+        Choose("Type", 1);
+        Click("OK");
+    });
+    EXPECT_EQ(m_dialog.m_color.m_type, 1);
+    EXPECT_TRUE(m_dialog.m_color.m_patternFile.empty());
+}
+
+TEST_F(ColorDlg, PaletteNeedsACell) {
+    m_dialog.m_color.m_color = 0x05010203;
+    RunModal(m_dialog, [&] {
+        Choose("Palette", 2); // no cell is selected yet
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x05010203U);
+        EXPECT_EQ(Numbers(), "1 2 3 5 ");
+        ClickPalette(8);
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x80FF0000U);
+        EXPECT_EQ(Numbers(), "255 0 0 128 ");
+        EXPECT_EQ(Spectrum(), 0x0000FFU);
+        Choose("Palette", 1); // the same cell of another palette
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x00FF0000U);
+        TypeInto("R", "3");
+        ClickPalette(8); // selected as it is, it says nothing
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x00030000U);
+    });
+}
+
+TEST_F(ColorDlg, SpectrumLeavesTransparencyAlone) {
+    m_dialog.m_color.m_color = 0x400000FF;
+    RunModal(m_dialog, [&] {
+        QWidget* spectrum = Find(m_dialog, "ARGB");
+        spectrum->setFocus();
+        QTest::keyClick(spectrum, Qt::Key_Home); // hue 0
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x40FF0000U);
+        EXPECT_EQ(Numbers(), "255 0 0 64 ");
+        QTest::keyClick(spectrum, Qt::Key_Tab);
+        QTest::keyClick(spectrum, Qt::Key_End); // black
+        QTest::keyClick(spectrum, Qt::Key_Up);
+        QTest::keyClick(spectrum, Qt::Key_PageUp);
+        EXPECT_EQ(m_dialog.m_color.m_color, 0x40FFFFFFU);
+    });
+}
+
+TEST_F(ColorDlg, CustomColoursGoRoundAndComeBack) {
+    RunModal(m_dialog, [&] {
+        for (int i = 1; i <= 19; ++i) {
+            TypeInto("R", QByteArray::number(i).constData());
+            Click("AddToCustom");
+        }
+        EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_color, 0x13FFFFU);
+        EXPECT_EQ(CCustomColorCtrl::Colors()[1].m_color, 0x02FFFFU);
+        EXPECT_EQ(CCustomColorCtrl::Colors()[17].m_color, 0x12FFFFU);
+        CCustomColorCtrl::Colors()[5].m_type = 2;
+        CCustomColorCtrl::Colors()[5].m_direction = 45;
+        ClickCustom(5);
+        EXPECT_EQ(m_dialog.m_color.m_type, 2);
+        EXPECT_EQ(Find<QComboBox>(m_dialog, "Type")->currentIndex(), 0);
+        EXPECT_EQ(Numbers(), "19 255 255 0 ");
+        Click("OK");
+    });
+    EXPECT_EQ(m_dialog.m_color.m_type, 2);
+    EXPECT_EQ(m_dialog.m_color.m_color, 0x06FFFFU);
+    EXPECT_EQ(m_dialog.m_color.m_direction, 45);
+}
+
+TEST_F(ColorDlg, TouchingAPageTakesTheColourBackFromTheCustomOne) {
+    RunModal(
+        m_dialog,
+        [&] {
+            CCustomColorCtrl::Colors()[3].m_color = 0x123456;
+            ClickCustom(3);
+            Number("G")->setFocus(); // passing through is no touch
+            Number("B")->setFocus();
+            EXPECT_EQ(m_dialog.m_color.m_color, 0x123456U);
+            QTest::keyClick(Number("B"), Qt::Key_Down);
+            EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFEU);
+            Click("AddToCustom"); // to the cell that was clicked
+            EXPECT_EQ(CCustomColorCtrl::Colors()[3].m_color, 0xFFFFFEU);
+        });
+}
+
+TEST_F(ColorDlg, PatternTakesTheFileThatIsChosen) {
+    m_dialog.m_color.m_type = 1;
+    m_dialog.m_color.m_patternFile = "old.png";
+    RunModal(m_dialog, [&] {
+        const Dismiss<QFileDialog> files;
+        Click("ChooseImage");
+        EXPECT_EQ(files.m_count, 1);
+        EXPECT_STREQ(m_dialog.m_color.m_patternFile.data(), "old.png");
+        Click("AddToCustom");
+    });
+    EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_type, 1);
+    EXPECT_STREQ(CCustomColorCtrl::Colors()[0].m_patternFile.data(), "old.png");
+}
+
+TEST_F(ColorDlg, TabFollowsTheReadingOrder) {
+    m_dialog.m_color.m_type = 2;
+    RunModal(m_dialog, [&] {
+        QStringList names;
+        for (int i = 0; i < 14; ++i) {
+            names += m_dialog.focusWidget()->objectName();
+            QTest::keyClick(m_dialog.focusWidget(), Qt::Key_Tab);
+        }
+        // The spectrum counts twice: its two parts.
+        EXPECT_EQ(names.join(' ').toStdString(), "Type CustomColors Palette PaletteColors ARGB ARGB R G B A "
+                                                 "Angle AddToCustom OK Cancel");
+        for (const QWidget* widget : m_dialog.findChildren<QWidget*>()) {
+            if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus &&
+                widget->focusProxy() == nullptr) {
+                const auto* button = qobject_cast<const QAbstractButton*>(widget);
+                EXPECT_TRUE(!widget->accessibleName().isEmpty() ||
+                            (button != nullptr && !button->text().isEmpty()))
+                    << widget->objectName().toStdString();
+            }
+        }
+    });
+}

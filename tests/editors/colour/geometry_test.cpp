@@ -1,0 +1,94 @@
+#include "editors/colour/grid_geometry.h"
+#include "editors/colour/spectrum_geometry.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr GridShape kPalette{.columns = 8, .rows = 5};
+constexpr GridShape kCustom{.columns = 3, .rows = 6};
+
+} // namespace
+
+TEST(GridGeometry, CellsAreCutToWholePixels) {
+    // Worked by hand: (203 - 4 - 35) / 8 = 20.5, (100 - 4 - 20) / 5 = 15.2.
+    const QSize grid(203, 100);
+    EXPECT_EQ(kPalette.Cell(grid), QSize(20, 15));
+    EXPECT_EQ(kPalette.CellRect(0, grid), QRect(2, 2, 20, 15));
+    EXPECT_EQ(kPalette.CellRect(7, grid), QRect(177, 2, 20, 15));
+    EXPECT_EQ(kPalette.CellRect(39, grid), QRect(177, 82, 20, 15));
+    // (100 - 4 - 10) / 3 = 28.7, (150 - 4 - 25) / 6 = 20.2.
+    EXPECT_EQ(kCustom.CellRect(17, QSize(100, 150)), QRect(68, 127, 28, 20));
+}
+
+TEST(GridGeometry, HitsCellsButNoGaps) {
+    const QSize grid(203, 100);
+    for (int i = 0; i < kPalette.Count(); ++i) {
+        const QRect cell = kPalette.CellRect(i, grid);
+        EXPECT_EQ(kPalette.HitTest(cell.topLeft(), grid), i);
+        EXPECT_EQ(kPalette.HitTest(cell.bottomRight(), grid), i);
+        EXPECT_EQ(kPalette.HitTest(cell.bottomRight() + QPoint(1, 0), grid), -1);
+        EXPECT_EQ(kPalette.HitTest(cell.bottomRight() + QPoint(0, 1), grid), -1);
+        EXPECT_EQ(kPalette.HitTest(cell.topLeft() - QPoint(1, 0), grid), -1);
+        EXPECT_EQ(kPalette.HitTest(cell.topLeft() - QPoint(0, 1), grid), -1);
+    }
+    // Where a ninth column and a sixth row would be.
+    EXPECT_EQ(kPalette.HitTest({205, 5}, {400, 100}), 4);
+    EXPECT_EQ(kPalette.HitTest({202, 5}, grid), -1);
+    EXPECT_EQ(kPalette.HitTest({5, 102}, grid), -1);
+    EXPECT_EQ(kPalette.HitTest({-1, 5}, grid), -1);
+    for (const QSize none : {QSize(0, 0), QSize(10, 100), QSize(-5, -5)})
+        for (int x = -3; x < 50; ++x)
+            EXPECT_EQ(kPalette.HitTest({x, 5}, none), -1);
+}
+
+// A control of 275 x 254: the spectrum is 240 by 240 at (0, 7), so that one pixel is about one step.
+TEST(SpectrumGeometry, PlacesItsParts) {
+    const SpectrumGeometry geometry({275, 254});
+    EXPECT_EQ(geometry.spectrum, QRect(0, 7, 240, 240));
+    EXPECT_EQ(geometry.slider, QRect(246, 3, 27, 248));
+    EXPECT_EQ(geometry.bar, QRect(246, 7, 14, 240));
+    EXPECT_EQ(geometry.arrowLeft, 263);
+}
+
+TEST(SpectrumGeometry, GivesPlacesOfColours) {
+    const SpectrumGeometry geometry({275, 254});
+    EXPECT_EQ(geometry.Crosshair({.hue = 0, .sat = 240, .lum = 0}), QPoint(0, 7));
+    EXPECT_EQ(geometry.Crosshair({.hue = 239, .sat = 0, .lum = 0}), QPoint(239, 246));
+    EXPECT_EQ(geometry.Crosshair({.hue = 120, .sat = 120, .lum = 0}), QPoint(120, 127));
+    EXPECT_EQ(geometry.SliderPosition(240), 0);
+    EXPECT_EQ(geometry.SliderPosition(120), 120);
+    EXPECT_EQ(geometry.SliderPosition(0), 239);
+    EXPECT_EQ(geometry.Arrow(240), QPoint(263, 3));
+    EXPECT_EQ(geometry.Arrow(0), QPoint(263, 242)); // its point, 4 below, is on the last row of the bar
+}
+
+TEST(SpectrumGeometry, GivesColoursOfPlaces) {
+    const SpectrumGeometry geometry({275, 254});
+    EXPECT_EQ(geometry.HueAt(0), 0);
+    EXPECT_EQ(geometry.HueAt(100), 100);
+    EXPECT_EQ(geometry.HueAt(239), 239);
+    EXPECT_EQ(geometry.SatAt(7), 240);
+    EXPECT_EQ(geometry.SatAt(127), 119); // (240 - 127 + 6) * 240 / 239 = 119.5
+    EXPECT_EQ(geometry.SatAt(246), 0);
+    EXPECT_EQ(geometry.LumAt(7), 240);
+    EXPECT_EQ(geometry.LumAt(246), 0);
+    EXPECT_EQ(geometry.LumAt(-50), 240);
+    EXPECT_EQ(geometry.LumAt(1000), 0);
+}
+
+TEST(SpectrumGeometry, KeepsToTheScalesAtAnySize) {
+    for (const QSize size :
+         {QSize(0, 0), QSize(36, 15), QSize(37, 16), QSize(35, 14), QSize(1, 300), QSize(150, 90)}) {
+        const SpectrumGeometry geometry(size);
+        for (int at = -20; at < 320; ++at) {
+            EXPECT_TRUE(geometry.HueAt(at) >= 0 && geometry.HueAt(at) <= 239);
+            EXPECT_TRUE(geometry.SatAt(at) >= 0 && geometry.SatAt(at) <= 240);
+            EXPECT_TRUE(geometry.LumAt(at) >= 0 && geometry.LumAt(at) <= 240);
+        }
+        for (int step = 0; step <= 239; ++step) {
+            const QPoint at = geometry.Crosshair({.hue = step, .sat = step, .lum = 0});
+            EXPECT_TRUE(geometry.spectrum.isEmpty() || geometry.spectrum.contains(at));
+        }
+    }
+}

@@ -1,0 +1,169 @@
+#include <gtest/gtest.h>
+
+#include "editors/colour/palettes.h"
+#include "editors/colour/swatch_grids.h"
+#include "tests/driver/widgets.h"
+
+#include <QHelpEvent>
+#include <QToolTip>
+#include <algorithm>
+
+namespace {
+
+class Grids : public WidgetTest {
+protected:
+    Grids() {
+        m_log.resize(600, 300);
+        m_palette.setGeometry(0, 0, 300, 200);
+        m_custom.setGeometry(320, 0, 200, 200);
+        m_log.show();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&m_log));
+        for (CChartColor& color : CCustomColorCtrl::Colors()) {
+            color = CChartColor();
+            color.m_color = 0xFFFFFF;
+        }
+    }
+    static QPoint Place(GridShape shape, int index, const QWidget& grid) {
+        return shape.CellRect(index, grid.size()).center();
+    }
+    void ClickPalette(int index) {
+        QTest::mouseClick(&m_palette, Qt::LeftButton, {}, Place({8, 5}, index, m_palette));
+    }
+    void ClickCustom(int index) {
+        QTest::mouseClick(&m_custom, Qt::LeftButton, {}, Place({3, 6}, index, m_custom));
+    }
+    using Keys = std::vector<int>;
+
+    MessageLog m_log;
+    CColorPaletteCtrl m_palette{&m_log};
+    CCustomColorCtrl m_custom{&m_log};
+};
+
+} // namespace
+
+TEST_F(Grids, PaletteTellsOfNewChoicesOnly) {
+    EXPECT_EQ(m_palette.Selected(), -1);
+    EXPECT_EQ(m_palette.GetSelectedColor(), 0U);
+    ClickPalette(9);
+    EXPECT_EQ(m_palette.GetSelectedColor(), 0x0033FF33U);
+    ClickPalette(9);
+    ClickPalette(39);
+    EXPECT_EQ(m_palette.GetSelectedColor(), 0x00999999U);
+    EXPECT_EQ(m_log.m_keys, (Keys{0, 0}));
+
+    m_palette.SetPalette(2); // the selected cell of another palette
+    EXPECT_EQ(m_palette.GetSelectedColor(), 0x80999999U);
+    m_palette.SetPalette(3);
+    m_palette.SetPalette(-1);
+    EXPECT_EQ(m_palette.GetSelectedColor(), 0x80999999U);
+    EXPECT_EQ(m_log.m_keys, (Keys{0, 0}));
+
+    // A gap, the margin, another button, and a release outside choose nothing.
+    const QRect cell = GridShape{8, 5}.CellRect(0, m_palette.size());
+    QTest::mouseClick(&m_palette, Qt::LeftButton, {}, cell.topRight() + QPoint(2, 5));
+    QTest::mouseClick(&m_palette, Qt::LeftButton, {}, QPoint(1, 1));
+    QTest::mouseClick(&m_palette, Qt::RightButton, {}, cell.center());
+    QTest::mousePress(&m_palette, Qt::LeftButton, {}, cell.center());
+    QTest::mouseRelease(&m_palette, Qt::LeftButton, {}, QPoint(50, 900));
+    EXPECT_EQ(m_palette.Selected(), 39);
+}
+
+TEST_F(Grids, CustomTellsOfEveryChoice) {
+    ClickCustom(4);
+    ClickCustom(4);
+    EXPECT_EQ(m_custom.Selected(), 4);
+    EXPECT_EQ(m_log.m_keys, (Keys{2, 2}));
+    QTest::mouseClick(&m_custom, Qt::LeftButton, {}, QPoint(0, 0));
+    EXPECT_EQ(m_log.m_keys.size(), 2U);
+}
+
+TEST_F(Grids, CustomColoursFillFromTheChosenCellAndWrap) {
+    CChartColor red;
+    red.m_color = 0xFF0000;
+    auto& colors = CCustomColorCtrl::Colors();
+    m_custom.Keep(red);
+    EXPECT_EQ(colors[0].m_color, 0xFF0000U);
+    ClickCustom(16);
+    for (const std::uint32_t color : {1U, 2U, 3U}) {
+        red.m_color = color;
+        m_custom.Keep(red);
+    }
+    EXPECT_EQ(colors[16].m_color, 1U);
+    EXPECT_EQ(colors[17].m_color, 2U);
+    EXPECT_EQ(colors[0].m_color, 3U);
+    EXPECT_EQ(colors[1].m_color, 0xFFFFFFU);
+}
+
+TEST_F(Grids, KeysReachEveryCell) {
+    m_palette.setFocus();
+    struct Step {
+        int key;
+        int selected;
+    };
+    const Step steps[] = {
+        {Qt::Key_Right, 1}, {Qt::Key_Down, 9}, {Qt::Key_Left, 8}, {Qt::Key_Left, 8}, // kept at the edge
+        {Qt::Key_Up, 0},    {Qt::Key_Up, 0},   {Qt::Key_End, 39}, {Qt::Key_Right, 39},
+        {Qt::Key_Down, 39}, {Qt::Key_Home, 0},
+    };
+    for (const Step& step : steps) {
+        QTest::keyClick(&m_palette, static_cast<Qt::Key>(step.key));
+        QTest::keyClick(&m_palette, Qt::Key_Space);
+        EXPECT_EQ(m_palette.Selected(), step.selected) << step.key;
+    }
+    EXPECT_EQ(m_palette.accessibleDescription(), "R: 255, G: 255, B: 255, A: 0");
+
+    m_custom.setFocus();
+    QTest::keyClick(&m_custom, Qt::Key_Down);
+    QTest::keyClick(&m_custom, Qt::Key_Return);
+    EXPECT_EQ(m_custom.Selected(), 3);
+    // A click takes the keyboard's cell along.
+    ClickCustom(7);
+    QTest::keyClick(&m_custom, Qt::Key_Right);
+    QTest::keyClick(&m_custom, Qt::Key_Enter);
+    EXPECT_EQ(m_custom.Selected(), 8);
+}
+
+TEST_F(Grids, ShowSwatchesAndFrames) {
+    ClickPalette(8);
+    QTest::mouseMove(&m_palette, Place({8, 5}, 20, m_palette));
+    const QImage image = m_palette.grab().toImage();
+    const auto cell = [&](int i) { return GridShape{8, 5}.CellRect(i, m_palette.size()); };
+    for (const int i : {0, 1, 8, 20, 39})
+        EXPECT_EQ(image.pixel(cell(i).center()) & 0xFFFFFF, kPalettes[0][i]) << i;
+    EXPECT_EQ(image.pixel(cell(8).topLeft() - QPoint(2, 2)), 0xFF3F3F3F);
+    EXPECT_EQ(image.pixel(cell(8).bottomRight() + QPoint(2, 2)), 0xFF3F3F3F);
+    EXPECT_EQ(image.pixel(cell(20).topLeft() - QPoint(2, 2)), 0xFFA0A0A0);
+    EXPECT_EQ(image.pixel(cell(0).topLeft() - QPoint(2, 2)),
+              m_palette.palette().color(QPalette::Button).rgb());
+
+    // Half transparent red over the white and the black squares of the board.
+    m_palette.SetPalette(2);
+    const QImage over = m_palette.grab().toImage();
+    std::vector<int> greens;
+    for (int x = cell(8).left() + 2; x < cell(8).right() - 2; ++x)
+        greens.push_back(qGreen(over.pixel(x, cell(8).center().y())));
+    EXPECT_NEAR(*std::max_element(greens.begin(), greens.end()), 128, 2);
+    EXPECT_EQ(*std::min_element(greens.begin(), greens.end()), 0);
+}
+
+TEST_F(Grids, TellValuesInToolTips) {
+    const auto tipAt = [](QWidget& grid, const QPoint& place) {
+        QToolTip::hideText();
+        QHelpEvent event(QEvent::ToolTip, place, grid.mapToGlobal(place));
+        QApplication::sendEvent(&grid, &event);
+        return QToolTip::text();
+    };
+    m_palette.SetPalette(2);
+    EXPECT_EQ(tipAt(m_palette, Place({8, 5}, 8, m_palette)), "R: 255, G: 0, B: 0, A: 128");
+    CChartColor metal;
+    metal.m_type = 2;
+    metal.m_color = 0x010203;
+    metal.m_direction = 45;
+    m_custom.Keep(metal);
+    EXPECT_EQ(tipAt(m_custom, Place({3, 6}, 0, m_custom)), "Metal, R: 1, G: 2, B: 3, A: 0, Angle: 45");
+    CChartColor pattern;
+    pattern.m_type = 1;
+    pattern.m_patternFile = "brick.png";
+    m_custom.Keep(pattern);
+    EXPECT_EQ(tipAt(m_custom, Place({3, 6}, 1, m_custom)), "Pattern: brick.png");
+}

@@ -1,0 +1,116 @@
+#pragma once
+// What every window of the editors owes to those who use it: names for all that takes the focus, nothing cut
+// off, Tab in reading order, letters for Alt.
+
+#include <QAbstractButton>
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QTest>
+#include <gtest/gtest.h>
+
+namespace audit {
+
+inline std::string Describe(const QWidget& widget) {
+    return std::string(widget.metaObject()->className()) + " \"" + widget.objectName().toStdString() + '"';
+}
+
+/// The widgets of `window` that show and that the keyboard reaches.
+inline std::vector<QWidget*> Focusable(QWidget& window) {
+    std::vector<QWidget*> found;
+    for (QWidget* widget : window.findChildren<QWidget*>())
+        if (widget->isVisibleTo(&window) && widget->isEnabled() &&
+            (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr)
+            found.push_back(widget);
+    return found;
+}
+
+inline void EveryControlHasAName(QWidget& window) {
+    for (const QWidget* widget : Focusable(window)) {
+        if (qstrcmp(widget->metaObject()->className(), "QTabBar") != 0) {
+            EXPECT_FALSE(widget->accessibleName().isEmpty()) << Describe(*widget);
+            EXPECT_FALSE(widget->objectName().isEmpty()) << Describe(*widget);
+        }
+    }
+    for (const QGroupBox* box : window.findChildren<QGroupBox*>())
+        EXPECT_FALSE(box->objectName().isEmpty()) << box->title().toStdString();
+}
+
+inline void NothingIsCutOff(QWidget& window) {
+    const bool fixed = window.minimumSize() == window.maximumSize();
+    EXPECT_TRUE(!fixed || window.size() == window.sizeHint()) << Describe(window);
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisibleTo(&window))
+            continue;
+        const bool hasText = qobject_cast<const QLabel*>(widget) != nullptr ||
+                             qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                             qobject_cast<const QComboBox*>(widget) != nullptr ||
+                             qobject_cast<const QGroupBox*>(widget) != nullptr ||
+                             widget->inherits("QAbstractSpinBox");
+        // A text that may be of any length gives up its width of its own will.
+        const bool wide = widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored;
+        if (hasText && widget->minimumWidth() != widget->maximumWidth()) {
+            EXPECT_TRUE(!wide || widget->width() >= widget->sizeHint().width())
+                << Describe(*widget) << ' ' << widget->width() << " < " << widget->sizeHint().width();
+            EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << Describe(*widget);
+        }
+        const QWidget* parent = widget->parentWidget();
+        if (!widget->isWindow() && !parent->inherits("QAbstractScrollArea") &&
+            !parent->inherits("QAbstractItemView") && parent->objectName() != "qt_scrollarea_viewport") {
+            EXPECT_TRUE(parent->rect().contains(widget->geometry()))
+                << Describe(*widget) << " in " << Describe(*parent);
+        }
+    }
+}
+
+/// Tab goes on in the columns of a page from the top down, and from left to right in a line: never to a
+/// control that stands above in the same column.
+inline void TabFollowsReading(QWidget& window) {
+    QWidget* last = nullptr;
+    const auto order = Focusable(window);
+    for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
+        if (std::find(order.begin(), order.end(), next) == order.end())
+            continue;
+        if (last != nullptr) {
+            const QRect from(last->mapTo(&window, QPoint()), last->size());
+            const QRect to(next->mapTo(&window, QPoint()), next->size());
+            const bool below = to.top() > from.top();
+            const bool right = to.left() > from.left();
+            EXPECT_TRUE(below || right) << Describe(*last) << " -> " << Describe(*next);
+        }
+        last = next;
+    }
+}
+
+/// No two letters of what shows at once are the same.
+inline void LettersAreUnique(QWidget& window) {
+    QString letters;
+    const auto take = [&](const QString& text, const QWidget& widget) {
+        const qsizetype at = text.indexOf(u'&');
+        if (at >= 0) {
+            EXPECT_FALSE(letters.contains(text[at + 1], Qt::CaseInsensitive))
+                << Describe(widget) << text.toStdString();
+            letters += text[at + 1];
+        }
+    };
+    for (const QWidget* widget : window.findChildren<QWidget*>()) {
+        if (!widget->isVisibleTo(&window))
+            continue;
+        if (const auto* label = qobject_cast<const QLabel*>(widget);
+            label != nullptr && label->buddy() != nullptr)
+            take(label->text(), *label);
+        else if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
+            take(button->text(), *button);
+    }
+}
+
+inline void Everything(QWidget& window) {
+    EveryControlHasAName(window);
+    NothingIsCutOff(window);
+    TabFollowsReading(window);
+    LettersAreUnique(window);
+}
+
+} // namespace audit

@@ -1,0 +1,160 @@
+#include "platform/widgets/field_changed.h"
+#include "tests/editors/framework/test_editor.h"
+
+#include <QTabBar>
+
+namespace {
+
+using Dialogs = EditorTest;
+
+TEST_F(Dialogs, OpenOnTheFirstPageWithTheFocusOnTheDialog) {
+    Open();
+    EXPECT_EQ(editor.m_tabs.count(), 2);
+    EXPECT_TRUE(editor.m_valuesPage.isVisible());
+    EXPECT_FALSE(editor.m_itemsPage.isVisible());
+    EXPECT_TRUE(editor.hasFocus());
+    EXPECT_EQ(editor.minimumSize(), editor.maximumSize());
+
+    // A page fills what the tab control has for it, and nothing shows above or beside it.
+    const QRect page(editor.m_valuesPage.mapTo(&editor, QPoint()), editor.m_valuesPage.size());
+    const QRect tabs(editor.m_tabs.mapTo(&editor, QPoint()), editor.m_tabs.size());
+    EXPECT_TRUE(tabs.contains(page));
+    EXPECT_GT(page.width(), tabs.width() - 12);
+}
+
+TEST_F(Dialogs, ATabShowsItsPageAndKeepsTheOthers) {
+    Open();
+    person.Type("Free", "12");
+    QTest::mouseClick(editor.m_tabs.tabBar(), Qt::LeftButton, {},
+                      editor.m_tabs.tabBar()->tabRect(1).center());
+    EXPECT_EQ(values.m_free, 12); // left, and so committed
+    EXPECT_TRUE(editor.m_itemsPage.isVisible());
+    EXPECT_FALSE(editor.m_valuesPage.isVisible());
+    EXPECT_TRUE(editor.hasFocus());
+    editor.m_tabs.ShowPage(0);
+    EXPECT_EQ(person.TextOf("Free"), "12");
+    editor.m_tabs.ShowPage(7);
+    EXPECT_TRUE(editor.m_valuesPage.isVisible());
+    EXPECT_TRUE(editor.hasFocus());
+
+    // The arrow keys walk the tabs and stay on them.
+    editor.m_tabs.tabBar()->setFocus();
+    person.Key(Qt::Key_Right);
+    EXPECT_TRUE(editor.m_itemsPage.isVisible());
+    EXPECT_TRUE(editor.m_tabs.tabBar()->hasFocus());
+}
+
+TEST_F(Dialogs, PagesCanShareATab) {
+    CValuesPage other(values, editor);
+    Open();
+    editor.m_tabs.AttachPage(other);
+    editor.m_tabs.ShowPage(1);
+    EXPECT_TRUE(editor.m_itemsPage.isVisible());
+    editor.m_tabs.Choose(other);
+    EXPECT_FALSE(editor.m_itemsPage.isVisible());
+    EXPECT_TRUE(other.isVisible());
+    EXPECT_EQ(other.geometry(), editor.m_itemsPage.geometry());
+    EXPECT_EQ(editor.m_tabs.count(), 2);
+}
+
+TEST_F(Dialogs, EnterOnAPageCommitsOrDoesNothingAndEscDoesNothing) {
+    Open();
+    for (const char* name : {"Floored", "Text", "Label", "On", "Code", "Ring"}) {
+        person.Find(name).setFocus();
+        person.Key(Qt::Key_Escape);
+        person.Enter();
+        person.Key(Qt::Key_Enter);
+        EXPECT_TRUE(editor.isVisible()) << name;
+    }
+    person.Type("Floored", "31");
+    person.Key(Qt::Key_Escape);
+    EXPECT_EQ(values.m_floored, 5);
+    person.Enter();
+    EXPECT_EQ(values.m_floored, 31);
+    EXPECT_TRUE(editor.isVisible());
+}
+
+TEST_F(Dialogs, OkAndCancelEndTheDialog) {
+    struct Way {
+        const char* name;
+        std::function<void(CTestEditor&)> go;
+        int result;
+    };
+    const Way ways[] = {
+        {"OK", [](CTestEditor& open) { Person(open).Click("OK"); }, QDialog::Accepted},
+        {"Enter", [](CTestEditor& open) { QTest::keyClick(&open, Qt::Key_Return); }, QDialog::Accepted},
+        {"Alt", [](CTestEditor& open) { Person(open).Find<QPushButton>("OK").click(); }, QDialog::Accepted},
+        {"Cancel", [](CTestEditor& open) { Person(open).Click("Cancel"); }, QDialog::Rejected},
+        {"Esc", [](CTestEditor& open) { QTest::keyClick(&open, Qt::Key_Escape); }, QDialog::Rejected},
+        {"close box", [](CTestEditor& open) { open.close(); }, QDialog::Rejected},
+    };
+    for (const Way& way : ways) {
+        SCOPED_TRACE(way.name);
+        CTestEditor open;
+        open.Open();
+        Person(open).Type("Free", "12");
+        way.go(open);
+        EXPECT_FALSE(open.isVisible());
+        EXPECT_EQ(open.result(), way.result);
+        if (way.result == QDialog::Accepted)
+            EXPECT_EQ(open.m_values.m_free, 12);
+    }
+}
+
+/// A dialog whose edits stand in it, without pages.
+class CPlainDialog : public CDialog {
+public:
+    CPlainDialog() : CDialog(QStringLiteral("Plain")), m_form(*this, [this] { ++m_told; }) {
+        m_form.Integer("Free:", m_free);
+        m_form.Check("On", m_on);
+        m_form.Place(nullptr, *MakeOkCancel());
+    }
+    std::int32_t m_free = 1;
+    bool m_on = false;
+    int m_told = 0;
+
+private:
+    CForm m_form;
+};
+
+TEST_F(Dialogs, WithoutPagesEnterInAnEditCommitsAndElsewhereIsOk) {
+    CPlainDialog dialog;
+    QTimer::singleShot(0, &dialog, [&] {
+        const Person user(dialog);
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+        user.Type("Free", "5");
+        user.Enter();
+        EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(dialog.m_free, 5);
+        EXPECT_EQ(dialog.m_told, 1);
+        user.Type("Free", "6");
+        user.Find("On").setFocus();
+        user.Enter();
+        EXPECT_FALSE(dialog.isVisible());
+    });
+    EXPECT_EQ(dialog.DoModal(), CDialog::kOK);
+    EXPECT_EQ(dialog.m_free, 6);
+
+    QTimer::singleShot(0, &dialog,
+                       [&] { QTest::keyClick(dialog.findChild<QWidget*>("Free"), Qt::Key_Escape); });
+    EXPECT_EQ(dialog.DoModal(), CDialog::kCancel);
+}
+
+TEST_F(Dialogs, AChangeMarksThePreviewAndThePaintDrawsOnce) {
+    Open();
+    editor.m_preview.grab();
+    EXPECT_FALSE(editor.m_preview.m_dirty);
+    person.Press("Free", true);
+    EXPECT_TRUE(editor.m_preview.m_dirty);
+    editor.m_preview.grab();
+    EXPECT_FALSE(editor.m_preview.m_dirty);
+}
+
+TEST_F(Dialogs, AKeyThatThePageDoesNotKnowChangesNothingAndIsTold) {
+    editor.AddTitle("a");
+    OpenItems();
+    SendFieldChanged(&editor.m_itemsPage, 999);
+    EXPECT_EQ(editor.Told(), 1);
+}
+
+} // namespace

@@ -1,0 +1,233 @@
+// From the host's call to its return, on every way.
+
+#include "tests/editors/pie/person.h"
+
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <chrono>
+#include <clocale>
+#include <cstdlib>
+#include <limits>
+#include <new>
+#include <thread>
+
+using namespace pie_test;
+
+namespace {
+
+/// Larger blocks are not to be had.
+std::size_t largestBlock = std::numeric_limits<std::size_t>::max();
+
+} // namespace
+
+// For the whole process, the library included.
+void* operator new(std::size_t size) {
+    void* block = size <= largestBlock ? std::malloc(size) : nullptr;
+    if (block == nullptr)
+        throw std::bad_alloc();
+    return block;
+}
+void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
+    return size <= largestBlock ? std::malloc(size) : nullptr;
+}
+void operator delete(void* block) noexcept {
+    std::free(block);
+}
+void operator delete(void* block, std::size_t /*size*/) noexcept {
+    std::free(block);
+}
+
+namespace {
+
+void ChangeEverything(PieEditor& editor) {
+    for (const char* check :
+         {"Show 3D", "Shadow3D", "ClockWise", "Use DonutType", "Show Explode", "Use Distance"})
+        editor.Click(check);
+    for (const char* number : {"Depth", "Angle", "StartAngle", "Inner R(%)", "Position", "Distance"}) {
+        editor.Press(number, true);
+        editor.Type(number, "3");
+    }
+    QTest::keyClick(editor.Find<QComboBox>("Layout"), Qt::Key_Down);
+    for (const char* color : {"EdgeColor", "JoinLineColor", "Color"})
+        editor.ChooseMetal(color, true);
+    editor.Text()->setFocus();
+    QTest::keyClicks(editor.Text(), "typed");
+    editor.Click("Add");
+    editor.SelectRow(0);
+    editor.Click("Delete");
+}
+
+using WayOut = std::function<void(PieEditor&)>;
+
+} // namespace
+
+TEST(PieWaysOut, EveryCancelLeavesTheObjectAsItWas) {
+    const std::pair<const char*, WayOut> ways[] = {
+        {"Cancel", [](PieEditor& editor) { editor.Cancel(); }},
+        {"close box", [](PieEditor& editor) { editor.Window().close(); }},
+        {"Esc", [](PieEditor& editor) { QTest::keyClick(editor.Number("Depth"), Qt::Key_Escape); }},
+        {"Esc in the text", [](PieEditor& editor) { QTest::keyClick(editor.Text(), Qt::Key_Escape); }},
+    };
+    for (const auto& way : ways) {
+        SCOPED_TRACE(way.first);
+        CPieChart pie = UnusualPie();
+        const char* text = pie.m_sectors[0].m_text.data();
+        EXPECT_FALSE(Edit(pie, [&](PieEditor& editor) {
+            ChangeEverything(editor);
+            way.second(editor);
+        }));
+        EXPECT_EQ(Shown(pie), Shown(UnusualPie()));
+        EXPECT_EQ(pie.m_sectors[0].m_text.data(), text) << "pointers into the object stay good";
+    }
+}
+
+TEST(PieWaysOut, OkWithoutAnEditGivesBackTheSame) {
+    const std::pair<const char*, WayOut> ways[] = {
+        {"OK", [](PieEditor& editor) { editor.Ok(); }},
+        {"Enter on a check",
+         [](PieEditor& editor) { QTest::keyClick(editor.Find<QCheckBox>("Show 3D"), Qt::Key_Return); }},
+        {"a look at everything",
+         [](PieEditor& editor) {
+             for (int i = 0; i < 40; ++i)
+                 editor.Leave();
+             editor.SelectRow(2);
+             editor.SelectRow(0);
+             editor.Ok();
+         }},
+    };
+    for (const auto& [name, leave] : ways) {
+        CPieChart pie = UnusualPie();
+        EXPECT_TRUE(Edit(pie, leave)) << name;
+        EXPECT_EQ(Shown(pie), Shown(UnusualPie())) << name;
+    }
+}
+
+TEST(PieWaysOut, EnterInAnEditCommitsAndStays) {
+    CPieChart pie = PieOf({"a"});
+    EXPECT_TRUE(Edit(pie, [](PieEditor& editor) {
+        for (const char* name : {"Depth", "Angle", "StartAngle", "Inner R(%)", "Position", "Distance"}) {
+            editor.Type(name, "33");
+            const QImage before = editor.Preview();
+            QTest::keyClick(editor.Number(name), Qt::Key_Return);
+            EXPECT_TRUE(editor.Window().isVisible()) << name;
+        }
+        // What was typed last counts too: the press of OK takes the focus from its edit.
+        editor.Type("Depth", "44");
+        editor.Ok();
+    }));
+    EXPECT_EQ(pie.m_depth3D, 44);
+    EXPECT_EQ(pie.m_angle3D, 33);
+    EXPECT_EQ(pie.m_startAngle, 33);
+    EXPECT_EQ(pie.m_donutInnerRadius, 33);
+    EXPECT_EQ(pie.m_labelPosition, 33);
+    EXPECT_EQ(pie.m_sectors[0].m_distance, 33);
+}
+
+TEST(PieWaysOut, AHostsOwnModalDialogOwnsTheEditor) {
+    NeedApplication();
+    QDialog host;
+    host.setWindowTitle(QStringLiteral("host"));
+    CPieChart pie;
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+    {
+        const WhenModal work([&](QWidget& window) {
+            EXPECT_EQ(&window, &host);
+            EXPECT_TRUE(Edit(pie, [&](PieEditor& editor) {
+                EXPECT_EQ(editor.Window().parentWidget(), &host);
+                CPieChart inner;
+                EXPECT_TRUE(Edit(inner, [](PieEditor& second) { // a host may call from a timer of its own
+                    second.Click("Show 3D");
+                    second.Ok();
+                }));
+                EXPECT_TRUE(inner.m_show3D);
+                editor.Click("Shadow3D");
+                editor.Ok();
+            }));
+            EXPECT_EQ(QApplication::activeModalWidget(), &host);
+            host.accept();
+        });
+        EXPECT_EQ(host.exec(), QDialog::Accepted);
+    }
+    EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
+    EXPECT_TRUE(pie.m_shadow3D);
+    EXPECT_FALSE(pie.m_show3D);
+}
+
+TEST(PieWaysOut, AnExceptionPassesAndEverythingIsPutBack) {
+    NeedApplication();
+    CPieChart pie;
+    for (int i = 0; i < 10000; ++i)
+        pie.m_sectors.push_back(Sector("many"));
+    const std::string before = Shown(pie);
+    QGuiApplication::setQuitOnLastWindowClosed(true);
+    largestBlock = 100000; // bytes: the copy of the sectors, and nothing else, is larger
+    EXPECT_THROW(ShowPieChartWnd(pie, CChartLayout()), std::bad_alloc);
+    largestBlock = std::numeric_limits<std::size_t>::max();
+    EXPECT_TRUE(Shown(pie) == before);
+    EXPECT_EQ(QApplication::topLevelWidgets().size(), 0);
+    EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
+    EXPECT_TRUE(Edit(pie, [](PieEditor& editor) { editor.Ok(); })) << "and the next call works";
+}
+
+TEST(PieWaysOut, TenThousandSectorsAreNoTrouble) {
+    CPieChart pie;
+    for (int i = 0; i < 10000; ++i)
+        pie.m_sectors.push_back(Sector("many", static_cast<std::uint32_t>(i)));
+    QElapsedTimer clock;
+    clock.start();
+    EXPECT_TRUE(Edit(pie, [&](PieEditor& editor) {
+        EXPECT_EQ(editor.List()->count(), 10000);
+        QTest::keyClick(editor.List(), Qt::Key_End);
+        editor.Click("Delete");
+        EXPECT_EQ(editor.Rows().last(), "Sector 9999 ( many )");
+        editor.Ok();
+    }));
+    EXPECT_EQ(pie.m_sectors.size(), 9999);
+    EXPECT_EQ(pie.m_sectors[9998].m_color.m_color, 9998u);
+    EXPECT_LT(clock.elapsed(), 20000) << "milliseconds, also on a slow machine under the checkers";
+}
+
+// ---- Hosts that are no programs of the toolkit, or only half of one: each in a process of its own.
+
+class PieHosts : public testing::Test {
+protected:
+    PieHosts() { GTEST_FLAG_SET(death_test_style, "threadsafe"); }
+};
+
+TEST_F(PieHosts, NoApplicationObjectIsNeeded) {
+    const auto host = [] {
+        // The host knows no toolkit; the person is a thread that waits for the window.
+        std::thread person([] {
+            const auto present = [] { return QCoreApplication::instance() != nullptr; };
+            while (!present())
+                std::this_thread::sleep_for(std::chrono::milliseconds(1));
+            QMetaObject::invokeMethod(
+                qApp,
+                [] {
+                    PieEditor editor(*QApplication::activeModalWidget());
+                    editor.Click("Show 3D");
+                    editor.Ok();
+                },
+                Qt::QueuedConnection);
+        });
+        CPieChart pie;
+        const bool ok = ShowPieChartWnd(pie, CChartLayout());
+        person.join();
+        const bool localeKept = std::string(std::setlocale(LC_ALL, nullptr)) == "C";
+        std::exit(ok && pie.m_show3D && localeKept ? 0 : 1);
+    };
+    EXPECT_EXIT(host(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(PieHosts, AnApplicationObjectWithoutWindowsIsACancel) {
+    const auto host = [](QCoreApplication* /*application*/) {
+        CPieChart pie = UnusualPie();
+        const bool ok = ShowPieChartWnd(pie, CChartLayout());
+        std::exit(!ok && Shown(pie) == Shown(UnusualPie()) ? 0 : 1);
+    };
+    static int count = 1;
+    static char name[] = "host";
+    static char* arguments[] = {name, nullptr};
+    EXPECT_EXIT(host(new QCoreApplication(count, arguments)), testing::ExitedWithCode(0), "");
+    EXPECT_EXIT(host(new QGuiApplication(count, arguments)), testing::ExitedWithCode(0), "");
+}

@@ -1,0 +1,183 @@
+// When pictures are drawn, what a view shows that has none, and what is left of views that went.
+
+#include "editors/preview/draw_routines.h"
+#include "resources/preview_menu.h"
+#include "tests/editors/preview/test_view.h"
+#include "tests/recorder/recorder.h"
+#include <QScrollBar>
+#include <malloc.h>
+
+namespace {
+
+using recorder::Recording;
+
+TEST(Refresh, DrawsOnceAtTheNextPaint) {
+    TestView view({200, 150}, {400, 300});
+    const Recording recording;
+    const auto drawings = [&] { return recording.Count("CPieChart_create"); };
+    view.Pane(); // has its picture
+    view.ResizePane({210, 140});
+    view.Pane();
+    view.OnCommand(scrollModeCommand);
+    view.Pane();
+    view.verticalScrollBar()->setValue(50);
+    view.Pane();
+    view.hide();
+    view.show();
+    view.Pane();
+    EXPECT_EQ(drawings(), 0);
+    for (int i = 0; i < 5; ++i)
+        view.RefreshPreview();
+    EXPECT_EQ(drawings(), 0); // not before the paint
+    view.Pane();
+    view.Pane();
+    EXPECT_EQ(drawings(), 1);
+}
+
+TEST(Refresh, OfAHiddenViewWaitsForThePaint) {
+    CChartPreviewView view;
+    const Recording recording;
+    view.SetChart(CPieChart(), codedLayout({20, 20}));
+    view.RefreshPreview();
+    EXPECT_TRUE(view.m_dirty);
+    EXPECT_TRUE(recording.Lines().empty());
+    view.grab();
+    EXPECT_FALSE(view.m_dirty);
+    EXPECT_EQ(recording.Count("CPieChart_create"), 1);
+}
+
+TEST(Refresh, ShowsTheEditedWorkingCopy) {
+    TestView view({200, 150}, {100, 80});
+    view.m_ownLayout.m_useWallPaper = false;
+    view.m_ownLayout.m_backColor.m_color = 0x123456;
+    EXPECT_TRUE(showsNaturalSize(view.Pane(), {-50, -35}, {100, 80}));
+    view.RefreshPreview();
+    EXPECT_EQ(view.Pane().pixel(100, 75), 0xff123456);
+}
+
+TEST(Samples, PaintOverThePaneWithAFrame) {
+    TestView view({200, 150}, {400, 300});
+    CChartColor color;
+    color.m_color = 0x336699;
+    view.SetSampleColor(color);
+    view.RefreshPreview();
+    for (const QSize pane : {QSize(200, 150), QSize(90, 41)}) {
+        view.ResizePane(pane);
+        view.Pane();
+        const QImage shown = view.Pane();
+        ASSERT_EQ(shown.size(), pane);
+        for (int y = 0; y < pane.height(); ++y)
+            for (int x = 0; x < pane.width(); ++x) {
+                const bool frame = x == 0 || y == 0 || x == pane.width() - 1 || y == pane.height() - 1;
+                ASSERT_EQ(shown.pixel(x, y), frame ? 0xff000000 : 0xff336699) << x << ',' << y;
+            }
+    }
+    EXPECT_TRUE(view.m_picture.Empty());
+}
+
+TEST(Samples, AnImageIsFittedAndAnUnreadableOneIsEmpty) {
+    TestView view({200, 150}, {400, 300});
+    view.SetSampleImage(codedLayout({400, 300}).m_wallPaperImage);
+    EXPECT_FALSE(view.m_fitMode);
+    view.RefreshPreview();
+    EXPECT_EQ(shownRect(view.Pane()), QRect(7, 5, 187, 140));
+    EXPECT_TRUE(view.m_fitMode);
+    CChartString nowhere;
+    nowhere = "no such.png";
+    view.SetSampleImage(nowhere);
+    view.RefreshPreview();
+    view.Pane();
+    EXPECT_FALSE(view.m_fitMode);
+    EXPECT_EQ(view.Pane().pixel(100, 75), 0xffffffff);
+    EXPECT_EQ(view.ScrollRange(), QPoint(0, 0));
+}
+
+TEST(Views, WithNothingToDrawPaintNothing) {
+    CChartPreviewView view;
+    const Recording recording;
+    view.AttachChart(static_cast<CXYChart*>(nullptr), nullptr);
+    view.RefreshPreview();
+    view.grab();
+    view.AttachChart(static_cast<CPolarChart*>(nullptr), nullptr);
+    view.grab();
+    const CChartLayout layout;
+    view.AttachChart(static_cast<CXYChart*>(nullptr), &layout);
+    view.grab();
+    view.AttachChart(static_cast<CPolarChart*>(nullptr), &layout);
+    view.grab();
+    for (const int kind : {-1, 10, std::numeric_limits<int>::max()}) {
+        view.m_kind = kind;
+        view.grab();
+        EXPECT_EQ(FindDrawRoutine(kind), nullptr);
+    }
+    EXPECT_TRUE(recording.Lines().empty());
+}
+
+TEST(Views, SettersChooseTheKindAndPointToCopies) {
+    CChartPreviewView view;
+    const CChartLayout layout;
+    view.SetLayout(layout);
+    EXPECT_EQ(view.m_kind, PreviewLayout);
+    view.SetChart(CXYChart(), layout);
+    EXPECT_EQ(view.m_kind, PreviewXYChart);
+    EXPECT_EQ(view.m_chart, &view.m_ownXYChart);
+    EXPECT_EQ(view.m_layout, &view.m_ownLayout);
+
+    CXYChart chart;
+    CXYChartLayer* layer = CXYChartLayerMgr::CreateLayer(0);
+    view.AttachChart(&chart, &layout);
+    view.SetPreviewLayer(layer);
+    EXPECT_EQ(view.m_chart, &chart);
+    EXPECT_EQ(view.m_layout, &layout);
+    EXPECT_TRUE(view.m_singleLayerMode);
+    EXPECT_EQ(view.m_previewLayer, layer);
+    view.SetChart(chart, layout);
+    EXPECT_FALSE(view.m_singleLayerMode);
+    EXPECT_EQ(view.m_previewLayer, nullptr);
+    delete layer;
+
+    CPolarChart polar;
+    view.AttachChart(&polar, &layout);
+    EXPECT_EQ(view.m_kind, PreviewPolarChart);
+    EXPECT_EQ(view.m_polarChart, &polar);
+    EXPECT_TRUE(view.m_singleLayerMode);
+    view.SetChart(polar, layout);
+    EXPECT_EQ(view.m_polarChart, &view.m_ownPolarChart);
+    EXPECT_FALSE(view.m_singleLayerMode);
+
+    view.SetChart(CPieChart(), layout);
+    EXPECT_EQ(view.m_kind, PreviewPieChart);
+    view.SetChart(CFinanceChart(), layout);
+    EXPECT_EQ(view.m_kind, PreviewFinanceChart);
+    view.SetChart(CAngularMeter(), layout);
+    EXPECT_EQ(view.m_kind, PreviewAngularMeter);
+    view.SetChart(CLinearMeter(), layout);
+    EXPECT_EQ(view.m_kind, PreviewLinearMeter);
+    EXPECT_TRUE(view.m_fitMode);
+    view.SetSampleFont(CChartFont());
+    EXPECT_EQ(view.m_kind, PreviewFont);
+    EXPECT_FALSE(view.m_fitMode);
+}
+
+TEST(Views, LeaveNothingButTheLastPicture) {
+    const CChartLayout layout = codedLayout({300, 200});
+    const auto showAndGo = [&](int times) {
+        for (int i = 0; i < times; ++i) {
+            CChartPreviewView view;
+            view.SetChart(CPieChart(), layout);
+            view.RefreshPreview();
+            view.grab();
+            EXPECT_FALSE(view.m_picture.Empty());
+        }
+    };
+    showAndGo(10); // caches of the toolkit fill up
+    const int blocks = CPictureBlock::LeftBehind();
+    const auto before = mallinfo2().uordblks + mallinfo2().hblkhd;
+    showAndGo(1000);
+    EXPECT_EQ(CPictureBlock::LeftBehind(), blocks);
+    EXPECT_GE(blocks, 1);
+    const auto grown = static_cast<std::ptrdiff_t>(mallinfo2().uordblks + mallinfo2().hblkhd - before);
+    EXPECT_LT(grown, 300 * 200 * 3); // less than one picture in 1,000
+}
+
+} // namespace

@@ -1,0 +1,80 @@
+// Values and pixels, worked by hand.
+
+#include "tests/engine/axis/axis_fixture.h"
+
+namespace chartdraw {
+namespace {
+
+TEST(AxisMap, PutsValuesOnPixels) {
+    const AxisMap up(Scale::linear(0, 100), 250, 50); // 2 pixels a unit, upwards
+    EXPECT_DOUBLE_EQ(up.pixel(25), 200);
+    EXPECT_EQ(up.wholePixel(0.4), 249); // 249.2
+    EXPECT_EQ(up.wholePixel(0.2), 250); // 249.6
+    EXPECT_DOUBLE_EQ(up.value(200), 25);
+    EXPECT_TRUE(std::isnan(up.pixel(kNoValue)));
+    EXPECT_TRUE(std::isnan(up.pixel(NAN)));
+    EXPECT_LT(std::abs(up.pixel(1e300)), 1e9);
+
+    const AxisMap decades(Scale::log(1, 1000), 0, 300); // a decade is 100 pixels
+    EXPECT_NEAR(decades.pixel(10), 100, 1e-9);
+    EXPECT_NEAR(decades.value(200), 100, 1e-9);
+    EXPECT_LT(decades.pixel(-5), -1000);
+    EXPECT_FALSE(decades.affine());
+}
+
+TEST(AxisMap, TiedAxisMeasuresTheSamePlaceInItsOwnUnits) {
+    const AxisMap celsius(Scale::linear(0, 100), 250, 50);
+    const AxisMap fahrenheit = celsius.tied(1.8, 32);
+    EXPECT_DOUBLE_EQ(fahrenheit.pixel(212), 50);
+    EXPECT_DOUBLE_EQ(fahrenheit.pixel(32), 250);
+    EXPECT_DOUBLE_EQ(fahrenheit.value(150), 122);
+    EXPECT_DOUBLE_EQ(fahrenheit.lower(), 32);
+    EXPECT_DOUBLE_EQ(fahrenheit.upper(), 212);
+    EXPECT_DOUBLE_EQ(fahrenheit.clamp(0), 32);
+    EXPECT_TRUE(fahrenheit.contains(212));
+    EXPECT_FALSE(fahrenheit.contains(213));
+    const AxisMap falling = celsius.tied(-1, 0);
+    EXPECT_DOUBLE_EQ(falling.lower(), -100);
+    EXPECT_DOUBLE_EQ(falling.pixel(-100), 50);
+    EXPECT_EQ(celsius.tied(1e-300, 1e300).wholePixel(-1e300), 250 + 200 * 1000000); // far, not undefined
+}
+
+TEST(AxisMap, AffineFormAgreesWithTheMap) {
+    const AxisMap plain(Scale::linear(-3, 7), 350, 50);
+    for (const AxisMap& map : {plain, plain.tied(-2.5, 4), AxisMap(Scale::items(5, true), 50, 350)}) {
+        const auto affine = map.affine();
+        ASSERT_TRUE(affine);
+        for (const double value : {-2.0, 0.0, 1.7, 6.0})
+            EXPECT_NEAR(affine->offset + affine->factor * value, map.pixel(value), 1e-9);
+    }
+}
+
+TEST(AxisPlace, TakesMarginsOffTheEnds) {
+    struct Row {
+        int side, top, bottom;
+        bool reverse;
+        int lower, upper;
+    };
+    // The lines run from 50 to 350, upright ones from 50 to 250.
+    const Row rows[] = {
+        {2, 0, 0, false, 50, 350},        {2, 30, 10, false, 60, 320}, // top is the right end
+        {4, 30, 10, false, 240, 80},                                   //
+        {4, 30, 10, true, 80, 240},       // reversal changes the values' way, not the room
+        {6, 0, 0, true, 50, 250},         //
+        {4, 199, 0, false, 250, 249},     // a pixel is left between the ends
+        {4, 3000, 1000, false, 201, 199}, // too much shrinks in proportion: 149 and 49 of 199
+    };
+    for (const Row& row : rows) {
+        ScaleSettings scale;
+        scale.marginTop = row.top;
+        scale.marginBottom = row.bottom;
+        scale.reverse = row.reverse;
+        AxisPlace place = placeAt(row.side);
+        place.setScaleEnds(scale);
+        EXPECT_EQ(place.lower, row.lower) << row.side << ' ' << row.top;
+        EXPECT_EQ(place.upper, row.upper) << row.side << ' ' << row.top;
+    }
+}
+
+} // namespace
+} // namespace chartdraw

@@ -1,0 +1,141 @@
+// Legends: which keys, in which order, with which texts, and how they flow.
+
+#include "engine/pie/pie_chart.h"
+#include "tests/engine/chart/picture.h"
+
+#include <gmock/gmock.h>
+#include <vector>
+
+namespace {
+
+constexpr unsigned kWhite = 0xffffff;
+constexpr int kEdge = 0x123456;
+const unsigned kKeys[] = {0xff0000, 0x00ff00, 0x0000ff, 0xff00ff};
+
+/// A chart of 300 x 200 without a pie, and a legend with an edge at (20, 10).
+struct Chart {
+    PieChart* pie = CPieChart_create(300, 200, kWhite, CHART_TRANSPARENT, 0);
+    BaseChart* chart = PieChart2BaseChart(pie);
+    LegendBox* legend;
+
+    explicit Chart(bool vertical) {
+        CPieChart_setPieSize(pie, 0, 0, 0);
+        legend = CBaseChart_addLegend(chart, 20, 10, vertical, nullptr, 8);
+        CBox_setBackground(TextBox2Box(LegendBox2TextBox(legend)), CHART_TRANSPARENT, kEdge, 0);
+    }
+    void addKeys(int count, const char* text, int lineWidth = 0) {
+        for (int i = 0; i < count; ++i)
+            CLegendBox_addKey(legend, text, static_cast<int>(kKeys[i]), lineWidth, nullptr);
+    }
+    QImage picture() { return pictures::of(chart, false); }
+    ~Chart() { CBaseChart_destroy(chart); }
+};
+
+TEST(Legend, FlowsInARow) {
+    Chart chart(false);
+    chart.addKeys(3, "Key");
+    const QImage image = chart.picture();
+    const QRect box = pictures::boundsOf(image, kEdge);
+    EXPECT_EQ(box.topLeft(), QPoint(20, 10));
+    QRect before;
+    for (int i = 0; i < 3; ++i) {
+        const QRect key = pictures::boundsOf(image, kKeys[i]);
+        EXPECT_TRUE(box.contains(key)) << i;
+        EXPECT_EQ(key.width(), key.height()) << "a square";
+        EXPECT_GE(key.width(), 6);
+        if (i > 0) {
+            EXPECT_EQ(key.top(), before.top());
+            EXPECT_GT(key.left(), before.right() + 15) << "room for the text of the one before";
+        }
+        before = key;
+    }
+}
+
+TEST(Legend, StandsInAColumn) {
+    Chart chart(true);
+    chart.addKeys(4, "Key");
+    const QImage image = chart.picture();
+    for (int i = 1; i < 4; ++i) {
+        EXPECT_EQ(pictures::boundsOf(image, kKeys[i]).left(), pictures::boundsOf(image, kKeys[0]).left());
+        EXPECT_GT(pictures::boundsOf(image, kKeys[i]).top(),
+                  pictures::boundsOf(image, kKeys[i - 1]).bottom());
+    }
+    const QRect box = pictures::boundsOf(image, kEdge);
+    EXPECT_EQ(box.height(), CBox_getHeight(TextBox2Box(LegendBox2TextBox(chart.legend))));
+    EXPECT_LT(box.width(), 80);
+}
+
+TEST(Legend, WrapsInsideTheChartAndTheBox) {
+    Chart chart(false);
+    chart.addKeys(4, "A longish text in a key"); // each over 100 pixels: two a row in the 280 that there are
+    QImage image = chart.picture();
+    EXPECT_LE(pictures::boundsOf(image, kEdge).right(), 299);
+    EXPECT_EQ(pictures::boundsOf(image, kKeys[1]).top(), pictures::boundsOf(image, kKeys[0]).top());
+    EXPECT_GT(pictures::boundsOf(image, kKeys[2]).top(), pictures::boundsOf(image, kKeys[0]).bottom());
+    EXPECT_EQ(pictures::boundsOf(image, kKeys[2]).left(), pictures::boundsOf(image, kKeys[0]).left());
+    const int rows = pictures::boundsOf(image, kEdge).height();
+
+    CBox_setSize(TextBox2Box(LegendBox2TextBox(chart.legend)), 150, 0); // room for one a row
+    image = chart.picture();
+    EXPECT_EQ(pictures::boundsOf(image, kEdge).width(), 150);
+    EXPECT_GT(pictures::boundsOf(image, kEdge).height(), rows);
+    EXPECT_GT(pictures::boundsOf(image, kKeys[1]).top(), pictures::boundsOf(image, kKeys[0]).bottom());
+}
+
+TEST(Legend, DrawsLineKeysAsLinesAndNothingWithoutKeys) {
+    Chart chart(false);
+    EXPECT_EQ(pictures::inked(chart.picture(), kWhite), 0) << "no box around nothing";
+    EXPECT_EQ(CBox_getHeight(TextBox2Box(LegendBox2TextBox(chart.legend))), 0);
+    chart.addKeys(1, "Line", 2);
+    const QRect line = pictures::boundsOf(chart.picture(), kKeys[0]);
+    EXPECT_EQ(line.height(), 2);
+    EXPECT_GT(line.width(), 12);
+}
+
+TEST(Legend, GivesKeysWithoutAColourTheNextOfTheSeries) {
+    Chart chart(true);
+    chart.addKeys(1, "first");
+    CLegendBox_addKey(chart.legend, "second", -1, 0, nullptr);
+    const QImage image = chart.picture();
+    const QRect first = pictures::boundsOf(image, kKeys[0]);
+    // What entry 9 of the palette, the second series colour, looks like in a box of its own.
+    TextBox* sample = CBaseChart_addText(chart.chart, 200, 150, "", nullptr, 8, 0, CHART_TOP_LEFT, 0, false);
+    CBox_setSize(TextBox2Box(sample), 10, 10);
+    CBox_setBackground(TextBox2Box(sample), CHART_DATA_COLOR + 1, CHART_TRANSPARENT, 0);
+    const unsigned expected = pictures::at(chart.picture(), 205, 155);
+    EXPECT_EQ(pictures::boundsOf(image, expected).size(), first.size());
+}
+
+TEST(Legend, MovesWhenAddedAgain) {
+    Chart chart(false);
+    chart.addKeys(1, "Key");
+    EXPECT_EQ(CBaseChart_addLegend(chart.chart, 100, 150, true, nullptr, 8), chart.legend);
+    EXPECT_EQ(CBaseChart_getLegend(chart.chart), chart.legend);
+    EXPECT_EQ(pictures::boundsOf(chart.picture(), kKeys[0]).top() > 150, true);
+}
+
+TEST(Legend, TakesThePieceOfAPieAsItsFields) {
+    chartdraw::PieChart pie(100, 100, chartdraw::kBackgroundColour, chartdraw::kTransparent, 0);
+    pie.setData({1, 3, 4}, {"one", "", "four"});
+    std::vector<chartdraw::LegendKey> keys;
+    pie.collectKeys(keys);
+    ASSERT_EQ(keys.size(), 2u) << "a sector without a name has no key";
+    const chartdraw::Format format("{dataSetName} {label} {value} {percent|1} {sector} {other}");
+    EXPECT_EQ(format.apply(*keys[0].fields), "one one 1 12.5 0 {other}");
+    EXPECT_EQ(format.apply(*keys[1].fields), "four four 4 50.0 2 {other}");
+}
+
+TEST(Legend, ShowsTheColoursOfThePieInOrder) {
+    Chart chart(false);
+    const double values[] = {1, 2, 3};
+    const char* const names[] = {"a", "b", "c"};
+    CPieChart_setData(chart.pie, values, 3, names, 3);
+    CSector_setColor(CPieChart_sector(chart.pie, 1), static_cast<int>(kKeys[1]), -1, -1);
+    CSector_setColor(CPieChart_sector(chart.pie, 0), static_cast<int>(kKeys[0]), -1, -1);
+    chart.addKeys(4, "own"); // keys by hand come after; the first two have the same colours
+    const QImage image = chart.picture();
+    EXPECT_LT(pictures::boundsOf(image, kKeys[0]).left(), pictures::boundsOf(image, kKeys[1]).left());
+    EXPECT_LT(pictures::boundsOf(image, kKeys[1]).left(), pictures::boundsOf(image, kKeys[2]).left());
+}
+
+} // namespace

@@ -1,0 +1,59 @@
+#pragma once
+// Looking at round charts: pixels by angle and distance, and patches of ink as boxes.
+
+#include "tests/engine/chart/picture.h"
+
+#include <cmath>
+#include <numbers>
+#include <vector>
+
+namespace pictures {
+
+/// The pixel at an angle (degrees clockwise from the top) and a distance from the middle of a pixel.
+inline QPoint roundPoint(QPoint centre, double degrees, double distance) {
+    const double angle = degrees * std::numbers::pi / 180;
+    return {static_cast<int>(std::lround(centre.x() + distance * std::sin(angle))),
+            static_cast<int>(std::lround(centre.y() - distance * std::cos(angle)))};
+}
+
+inline unsigned roundAt(const QImage& image, QPoint centre, double degrees, double distance) {
+    const QPoint point = roundPoint(centre, degrees, distance);
+    return at(image, point.x(), point.y());
+}
+
+/// The bounds of each connected patch of pixels unlike `background`.
+inline std::vector<QRect> patches(QImage image, unsigned background) {
+    std::vector<QRect> found;
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            if (at(image, x, y) == background)
+                continue;
+            QRect bounds(x, y, 1, 1);
+            std::vector<QPoint> open = {{x, y}};
+            image.setPixel(x, y, background);
+            while (!open.empty()) {
+                const QPoint point = open.back();
+                open.pop_back();
+                bounds |= QRect(point, QSize(1, 1));
+                for (const QPoint& step : {QPoint(1, 0), QPoint(-1, 0), QPoint(0, 1), QPoint(0, -1)}) {
+                    const QPoint next = point + step;
+                    if (image.rect().contains(next) && at(image, next.x(), next.y()) != background) {
+                        image.setPixel(next, background);
+                        open.push_back(next);
+                    }
+                }
+            }
+            found.push_back(bounds);
+        }
+    }
+    return found;
+}
+
+/// How far the nearest pixel of a rectangle is from a point, in pixels.
+inline double nearestOf(const QRect& rect, QPoint point) {
+    const int dx = std::max({0, rect.left() - point.x(), point.x() - rect.right()});
+    const int dy = std::max({0, rect.top() - point.y(), point.y() - rect.bottom()});
+    return std::hypot(dx, dy);
+}
+
+} // namespace pictures

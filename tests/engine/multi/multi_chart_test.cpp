@@ -1,0 +1,212 @@
+// Charts on a chart: where they stand, in which order, and what happens when they change or end.
+
+#include "tests/engine/chart/picture.h"
+
+#include <QColor>
+#include <climits>
+
+namespace {
+
+constexpr unsigned kWhite = 0xffffff;
+constexpr int kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff;
+
+/// A chart that is nothing but its background.
+BaseChart* plain(int width, int height, int background) {
+    return PieChart2BaseChart(CPieChart_create(width, height, background, CHART_TRANSPARENT, 0));
+}
+
+struct Multi {
+    MultiChart* multi;
+    BaseChart* chart;
+
+    Multi(int width = 100, int height = 100)
+        : multi(CMultiChart_create(width, height, kWhite, CHART_TRANSPARENT, 0)),
+          chart(MultiChart2BaseChart(multi)) {}
+    ~Multi() { CBaseChart_destroy(chart); }
+    Multi(const Multi&) = delete;
+    Multi& operator=(const Multi&) = delete;
+
+    QImage picture() { return pictures::of(chart, false); }
+};
+
+TEST(MultiChart, ShowsChartsAtTheirPlacesInTheOrderAdded) {
+    BaseChart* red = plain(40, 30, kRed);
+    BaseChart* blue = plain(40, 30, kBlue);
+    {
+        Multi m;
+        CMultiChart_addChart(m.multi, 10, 20, red);
+        CMultiChart_addChart(m.multi, 30, 40, blue);
+        QImage image = m.picture();
+        EXPECT_EQ(pictures::boundsOf(image, kRed), QRect(10, 20, 40, 30));
+        EXPECT_EQ(pictures::boundsOf(image, kBlue), QRect(30, 40, 40, 30));
+        EXPECT_EQ(pictures::at(image, 40, 45), static_cast<unsigned>(kBlue)) << "the later one covers";
+
+        CMultiChart_addChart(m.multi, 50, 60, red); // again: it moves, and is the last one now
+        image = m.picture();
+        EXPECT_EQ(pictures::boundsOf(image, kRed), QRect(50, 60, 40, 30));
+        EXPECT_EQ(pictures::at(image, 15, 25), kWhite);
+    }
+    CBaseChart_destroy(red);
+    CBaseChart_destroy(blue);
+}
+
+TEST(MultiChart, CutsChartsOffAtItsSides) {
+    BaseChart* red = plain(80, 80, kRed);
+    Multi m;
+    const struct {
+        QPoint at;
+        QRect seen;
+    } rows[] = {
+        {{-30, -50}, {0, 0, 50, 30}},
+        {{60, 70}, {60, 70, 40, 30}},
+        {{-79, 99}, {0, 99, 1, 1}},
+        {{100, 0}, {}},
+        {{-80, 0}, {}},
+        {{INT_MAX, INT_MIN}, {}},
+    };
+    for (const auto& row : rows) {
+        CMultiChart_addChart(m.multi, row.at.x(), row.at.y(), red);
+        EXPECT_EQ(pictures::boundsOf(m.picture(), kRed), row.seen) << row.at.x() << ", " << row.at.y();
+    }
+    CBaseChart_destroy(red);
+}
+
+TEST(MultiChart, BlendsTranslucentBackgroundsInOrder) {
+    BaseChart* red = plain(60, 60, static_cast<int>(0x80000000) | kRed);
+    BaseChart* blue = plain(60, 60, static_cast<int>(0x80000000) | kBlue);
+    BaseChart* clear = plain(100, 100, CHART_TRANSPARENT);
+    Multi m;
+    CMultiChart_addChart(m.multi, 0, 0, red);
+    CMultiChart_addChart(m.multi, 40, 40, blue);
+    CMultiChart_addChart(m.multi, 0, 0, clear);
+    const QImage image = m.picture();
+    // Half of red over white, half of blue over that, and half of blue over white.
+    const struct {
+        int x, y, red, green, blue;
+    } rows[] = {{20, 20, 255, 128, 128}, {50, 50, 128, 64, 191}, {80, 80, 128, 128, 255}};
+    for (const auto& row : rows) {
+        const QColor colour(image.pixel(row.x, row.y));
+        EXPECT_NEAR(colour.red(), row.red, 2) << row.x;
+        EXPECT_NEAR(colour.green(), row.green, 2) << row.x;
+        EXPECT_NEAR(colour.blue(), row.blue, 2) << row.x;
+    }
+    for (BaseChart* chart : {red, blue, clear})
+        CBaseChart_destroy(chart);
+}
+
+TEST(MultiChart, FollowsChangesOfItsChartsAndItsSize) {
+    BaseChart* chart = plain(40, 30, kRed);
+    Multi m(100, 1);
+    CMultiChart_addChart(m.multi, 0, 50, chart);
+    EXPECT_EQ(pictures::inked(m.picture(), kWhite), 0);
+    CBaseChart_setSize(m.chart, 100, 100);
+    EXPECT_EQ(pictures::boundsOf(m.picture(), kRed), QRect(0, 50, 40, 30));
+    CBaseChart_setSize(chart, 20, 20);
+    EXPECT_EQ(pictures::boundsOf(m.picture(), kRed), QRect(0, 50, 20, 20));
+    CBaseChart_setBackground(chart, kGreen, -1, 0);
+    EXPECT_EQ(pictures::boundsOf(m.picture(), kGreen), QRect(0, 50, 20, 20));
+    CBaseChart_setSize(chart, 0, -3);
+    EXPECT_EQ(pictures::inked(m.picture(), kWhite), 0);
+    CBaseChart_setSize(chart, INT_MAX, 1 << 20);
+    EXPECT_EQ(pictures::inked(m.picture(), kWhite), 0) << "too large for a picture of its own";
+    CBaseChart_destroy(chart);
+}
+
+TEST(MultiChart, DropsAChartThatEndsAndOutlivedOnesStay) {
+    BaseChart* red = plain(40, 30, kRed);
+    BaseChart* blue = plain(40, 30, kBlue);
+    {
+        Multi m;
+        CMultiChart_addChart(m.multi, 0, 0, red);
+        CMultiChart_addChart(m.multi, 50, 50, blue);
+        CMultiChart_setMainChart(m.multi, red);
+        EXPECT_EQ(pictures::boundsOf(m.picture(), kRed), QRect(0, 0, 40, 30));
+        CBaseChart_destroy(red);
+        const QImage image = m.picture();
+        EXPECT_TRUE(pictures::boundsOf(image, kRed).isEmpty());
+        EXPECT_EQ(pictures::boundsOf(image, kBlue), QRect(50, 50, 40, 30));
+    }
+    CBaseChart_setBackground(blue, kGreen, -1, 0); // its multi-chart is gone
+    EXPECT_EQ(pictures::boundsOf(pictures::of(blue), kGreen), QRect(0, 0, 40, 30));
+}
+
+TEST(MultiChart, RefusesCirclesOfCharts) {
+    Multi outer, middle, inner;
+    BaseChart* red = plain(10, 10, kRed);
+    CMultiChart_addChart(outer.multi, 10, 0, middle.chart);
+    CMultiChart_addChart(middle.multi, 20, 0, inner.chart);
+    CMultiChart_addChart(inner.multi, 30, 0, red);
+    CMultiChart_addChart(outer.multi, 0, 0, outer.chart);
+    CMultiChart_addChart(inner.multi, 0, 0, outer.chart);
+    CMultiChart_addChart(middle.multi, 0, 0, outer.chart);
+    CMultiChart_addChart(outer.multi, 0, 0, nullptr);
+    EXPECT_EQ(pictures::boundsOf(outer.picture(), kRed), QRect(60, 0, 10, 10)) << "charts within charts";
+    CBaseChart_destroy(red);
+}
+
+TEST(MultiChart, DrawsEachChartWithItsOwnColoursAndSmoothness) {
+    LinearMeter* meter = CLinearMeter_create(50, 50, CHART_TRANSPARENT, CHART_TRANSPARENT, 0);
+    BaseMeter* base = LinearMeter2BaseMeter(meter);
+    BaseChart* chart = BaseMeter2BaseChart(base);
+    CLinearMeter_setMeter(meter, 0, 0, 50, 50, CHART_LEFT, false);
+    CBaseMeter_setLabelStyle(base, nullptr, 8, CHART_TRANSPARENT, 0);
+    CBaseMeter_setLineWidth(base, 0, 0, 0, 0);
+    const int pixels[] = {kRed, kBlue};
+    CLinearMeter_addZone(meter, 0, 50, CBaseChart_patternColor(chart, pixels, 2, 1, 0, 0), nullptr);
+    CBaseChart_setAntiAlias(chart, false, 0);
+    CBaseMeter_addPointer(base, 75, kGreen, -1);
+    Multi m;
+    CMultiChart_addChart(m.multi, 40, 40, chart);
+    const QImage image = m.picture();
+    EXPECT_EQ(pictures::at(image, 40, 80), static_cast<unsigned>(kRed))
+        << "patterns begin at the chart's corner";
+    EXPECT_EQ(pictures::at(image, 41, 80), static_cast<unsigned>(kBlue));
+    const QImage pointer = image.copy(40, 40, 50, 25);
+    for (int y = 0; y < pointer.height(); ++y) {
+        for (int x = 0; x < pointer.width(); ++x) {
+            const unsigned colour = pictures::at(pointer, x, y);
+            ASSERT_TRUE(colour == kWhite || colour == static_cast<unsigned>(kGreen)) << x << ", " << y;
+        }
+    }
+    CBaseChart_destroy(chart);
+}
+
+TEST(MultiChart, ListsTheKeysOfTheMainChartInItsLegend) {
+    const double values[] = {1, 2};
+    const char* const names[] = {"one", "two"};
+    const int colours[] = {kRed, kGreen, kBlue};
+    BaseChart* charts[3];
+    for (int i = 0; i < 3; ++i) {
+        PieChart* pie = CPieChart_create(10, 10, CHART_TRANSPARENT, CHART_TRANSPARENT, 0);
+        CPieChart_setData(pie, values, 2, names, i == 0 ? 1 : 2);
+        CSector_setColor(CPieChart_sector(pie, 0), colours[i], -1, -1);
+        CPieChart_setPieSize(pie, 0, 0, 0);
+        charts[i] = PieChart2BaseChart(pie);
+    }
+    Multi m(200, 100);
+    CBaseChart_addLegend(m.chart, 10, 10, true, nullptr, 8);
+    CMultiChart_addChart(m.multi, 0, 0, charts[0]);
+    CMultiChart_addChart(m.multi, 0, 0, charts[1]);
+    const auto shown = [&] {
+        const QImage image = m.picture();
+        for (int i = 0; i < 3; ++i)
+            if (!pictures::boundsOf(image, static_cast<unsigned>(colours[i])).isEmpty())
+                return i;
+        return -1;
+    };
+    EXPECT_EQ(shown(), 0) << "the first one if none is named";
+    CMultiChart_setMainChart(m.multi, charts[1]);
+    EXPECT_EQ(shown(), 1);
+    CMultiChart_setMainChart(m.multi, charts[2]); // not added: ignored
+    CMultiChart_setMainChart(m.multi, nullptr);
+    EXPECT_EQ(shown(), 1);
+    CBaseChart_addLegend(charts[1], 50, 50, true, nullptr, 8); // beyond that chart's own 10 pixels
+    EXPECT_EQ(shown(), -1) << "a chart that shows a legend speaks for itself";
+    CBaseChart_destroy(charts[1]);
+    EXPECT_EQ(shown(), 0);
+    CBaseChart_destroy(charts[0]);
+    EXPECT_EQ(shown(), -1);
+    CBaseChart_destroy(charts[2]);
+}
+
+} // namespace

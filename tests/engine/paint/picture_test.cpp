@@ -1,0 +1,186 @@
+#include "engine/paint/picture.h"
+
+#include <QBuffer>
+#include <QColor>
+#include <QDir>
+#include <QFile>
+#include <QGuiApplication>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+#include <map>
+#include <sys/stat.h>
+
+namespace chartdraw {
+namespace {
+
+// 6 x 4: the left half red, the right half blue.
+QImage sample() {
+    QImage image(6, 4, QImage::Format_RGB32);
+    for (int y = 0; y < 4; ++y)
+        for (int x = 0; x < 6; ++x)
+            image.setPixel(x, y, x < 3 ? 0xffff0000 : 0xff0000ff);
+    return image;
+}
+
+QByteArray encoded(const QImage& image, const char* format) {
+    QBuffer buffer;
+    buffer.open(QIODevice::WriteOnly);
+    EXPECT_TRUE(image.save(&buffer, format, 95));
+    return buffer.data();
+}
+
+template <std::size_t N>
+QByteArray bytes(const unsigned char (&values)[N]) {
+    return {reinterpret_cast<const char*>(values), N};
+}
+
+// By hand: 2 x 1 pixels, a palette of red and blue; the codes clear, 0, 1, end of 3 bits each, lowest first.
+QByteArray gif() {
+    return bytes({'G',  'I',  'F', '8', '9', 'a', 2, 0, 1, 0, 0x80, 0, 0, 0xff, 0,    0, 0,   0,
+                  0xff, 0x2c, 0,   0,   0,   0,   2, 0, 1, 0, 0,    2, 2, 0x44, 0x0a, 0, 0x3b});
+}
+
+// By hand: type 0, 9 x 2 pixels, a bit each from the top, 1 white, rows padded to bytes.
+QByteArray wbmp() {
+    return bytes({0, 0, 9, 2, 0xff, 0x80, 0x00, 0x80});
+}
+
+std::map<std::string, QByteArray> files() {
+    return {{"png", encoded(sample(), "png")},
+            {"jpeg", encoded(sample().scaled(32, 32), "jpeg")},
+            {"bmp", encoded(sample(), "bmp")},
+            {"gif", gif()},
+            {"wbmp", wbmp()}};
+}
+
+TEST(Picture, ReadsFiveFormatsWithoutAnApplicationObject) {
+    ASSERT_EQ(QCoreApplication::instance(), nullptr);
+    for (const auto& [format, content] : files()) {
+        const QImage image = decodePicture(content);
+        ASSERT_FALSE(image.isNull()) << format;
+        EXPECT_EQ(image.format(), QImage::Format_ARGB32_Premultiplied);
+        if (format == "wbmp") {
+            EXPECT_EQ(image.size(), QSize(9, 2));
+            EXPECT_EQ(image.pixel(0, 0), 0xffffffff);
+            EXPECT_EQ(image.pixel(0, 1), 0xff000000);
+            EXPECT_EQ(image.pixel(8, 1), 0xffffffff);
+            continue;
+        }
+        EXPECT_GT(qRed(image.pixel(0, 0)), 240) << format;
+        EXPECT_LT(qBlue(image.pixel(0, 0)), 15) << format;
+        EXPECT_GT(qBlue(image.pixel(image.width() - 1, 0)), 240) << format;
+    }
+    EXPECT_EQ(decodePicture(gif()).size(), QSize(2, 1));
+}
+
+TEST(Picture, EveryTruncationIsQuiet) {
+    for (const auto& [format, content] : files()) {
+        const QSize size = decodePicture(content).size();
+        for (qsizetype length = 0; length < content.size(); ++length) {
+            const QImage image = decodePicture(content.left(length));
+            EXPECT_TRUE(image.isNull() || image.size() == size) << format << ' ' << length;
+        }
+        EXPECT_TRUE(decodePicture(content.left(content.size() / 4)).isNull()) << format;
+    }
+}
+
+TEST(Picture, OtherFormatsAndOversizeAreNot) {
+    EXPECT_TRUE(decodePicture("<svg xmlns='http://www.w3.org/2000/svg' width='4' height='4'/>").isNull());
+    EXPECT_TRUE(decodePicture("P3 1 1 255 1 2 3").isNull());
+    // A bitmap that claims 16385 x 1 pixels, then 2^31 - 1 a side.
+    for (const quint32 side : {16385U, 0x7fffffffU}) {
+        QByteArray hostile = encoded(sample(), "bmp");
+        for (int i = 0; i < 4; ++i)
+            hostile[18 + i] = static_cast<char>(side >> (8 * i));
+        EXPECT_TRUE(decodePicture(hostile).isNull());
+    }
+    // A GIF whose frame is 2 x 1 but whose screen is 20481 high.
+    QByteArray tall = gif();
+    tall[9] = 0x50;
+    EXPECT_TRUE(decodePicture(tall).isNull());
+    // A WBMP of 2^28 - 1 pixels a side, in numbers of seven bits.
+    EXPECT_TRUE(decodePicture(bytes({0, 0, 0xff, 0xff, 0xff, 0x7f, 0xff, 0xff, 0xff, 0x7f, 1})).isNull());
+}
+
+class PictureFile : public testing::Test {
+protected:
+    std::string path(const QString& name) const { return m_folder.filePath(name).toStdString(); }
+    std::string write(const QString& name, const QByteArray& content) const {
+        QFile file(m_folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(content);
+        return path(name);
+    }
+    QTemporaryDir m_folder;
+};
+
+TEST_F(PictureFile, NamedInUtf8WithAnySuffix) {
+    const std::string korean = "\xea\xb7\xb8\xeb\xa6\xbc.txt"; // a Korean name
+    const std::string file = write(QString::fromStdString(korean), encoded(sample(), "png"));
+    EXPECT_EQ(loadPicture(file).size(), QSize(6, 4));
+    EXPECT_TRUE(loadPicture("file:" + file).isNull());
+    const QString before = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(m_folder.path()));
+    EXPECT_EQ(loadPicture(korean).size(), QSize(6, 4));
+    QDir::setCurrent(before);
+}
+
+TEST_F(PictureFile, WhatIsNoFileIsNull) {
+    const std::string pipe = path("pipe");
+    ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0); // reading it would wait for ever
+    for (const std::string& name : {pipe, path("missing.png"), path(""), std::string(),
+                                    std::string("\xff\xfe"), std::string("/dev/zero"), write("empty", "")})
+        EXPECT_TRUE(loadPicture(name).isNull()) << name;
+}
+
+TEST_F(PictureFile, TheCacheFollowsTheFile) {
+    const std::string file = write("a.png", encoded(sample(), "png"));
+    const QImage first = loadPicture(file);
+    EXPECT_EQ(loadPicture(file).constBits(), first.constBits()); // shared, not read again
+    for (int i = 0; i < 20; ++i)
+        EXPECT_FALSE(loadPicture(write(QString::number(i), encoded(sample(), "bmp"))).isNull());
+    write("a.png", encoded(sample().scaled(3, 2), "png"));
+    EXPECT_EQ(loadPicture(file).size(), QSize(3, 2));
+    QFile::remove(QString::fromStdString(file));
+    EXPECT_TRUE(loadPicture(file).isNull());
+}
+
+int at(const QByteArray& file, int offset, int count) {
+    int value = 0;
+    for (int i = 0; i < count; ++i)
+        value |= static_cast<uchar>(file[offset + i]) << (8 * i);
+    return value;
+}
+
+TEST(BitmapFile, BytesByHand) {
+    QImage image(3, 2, QImage::Format_ARGB32_Premultiplied);
+    image.fill(QColor(1, 2, 3));
+    image.setPixelColor(0, 0, QColor(10, 20, 30));
+    image.setPixelColor(1, 0, QColor(0, 0, 0, 0));
+    image.setPixelColor(2, 0, QColor(0, 0, 0, 128));
+    const QByteArray file = bitmapFile(image);
+    ASSERT_EQ(file.size(), 54 + 2 * 12); // 9 bytes a row, padded to 12
+    EXPECT_EQ(file.left(2), "BM");
+    const std::array<int, 3> fields[] = {{2, 4, 78},    {6, 4, 0},     {10, 4, 54}, {14, 4, 40}, {18, 4, 3},
+                                         {22, 4, 2},    {26, 2, 1},    {28, 2, 24}, {30, 4, 0},  {34, 4, 24},
+                                         {38, 4, 3780}, {42, 4, 3780}, {46, 4, 0},  {50, 4, 0}};
+    for (const auto& [offset, count, value] : fields)
+        EXPECT_EQ(at(file, offset, count), value) << offset;
+    // The bottom row first, blue before red; what is clear is white paper.
+    EXPECT_EQ(file.mid(54, 12), QByteArray("\3\2\1\3\2\1\3\2\1\0\0\0", 12));
+    EXPECT_EQ(file.mid(66, 12), QByteArray("\x1e\x14\x0a\xff\xff\xff\x7f\x7f\x7f\0\0\0", 12));
+}
+
+TEST(BitmapFile, IsReadBackBySize) {
+    for (const int width : {1, 2, 3, 4, 5, 500}) {
+        const QImage image = sample().scaled(width, 7);
+        const QImage back = QImage::fromData(bitmapFile(image), "bmp");
+        EXPECT_EQ(back.convertToFormat(QImage::Format_RGB32), image.convertToFormat(QImage::Format_RGB32));
+    }
+    EXPECT_TRUE(bitmapFile({}).isEmpty());
+    EXPECT_TRUE(bitmapFile(QImage(kMaxSide + 1, 1, QImage::Format_RGB32)).isEmpty());
+    EXPECT_FALSE(bitmapFile(QImage(1, kMaxSide, QImage::Format_RGB32)).isEmpty());
+}
+
+} // namespace
+} // namespace chartdraw

@@ -1,0 +1,252 @@
+// What the picture of a pie shows, by pixels whose place is worked out by hand.
+
+#include "tests/engine/chart/picture.h"
+
+#include <QColor>
+#include <cmath>
+#include <functional>
+#include <numbers>
+#include <vector>
+
+namespace {
+
+constexpr unsigned kWhite = 0xffffff;
+constexpr int kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff;
+constexpr int kColours[] = {kRed, kGreen, kBlue};
+
+/// A pie of 200 x 200 about (100, 100) with radius 80, without edges and labels: red, green, blue.
+struct Pie {
+    PieChart* pie = CPieChart_create(200, 200, kWhite, CHART_TRANSPARENT, 0);
+    BaseChart* chart = PieChart2BaseChart(pie);
+
+    explicit Pie(const std::vector<double>& values) {
+        const char* const names[] = {"one", "two", "three"};
+        CPieChart_setPieSize(pie, 100, 100, 80);
+        CPieChart_setData(pie, values.data(), static_cast<int>(values.size()), names, 3);
+        CPieChart_setLabelFormat(pie, " ");
+        CPieChart_setLineColor(pie, CHART_TRANSPARENT, CHART_TRANSPARENT);
+        for (int i = 0; i < 3; ++i)
+            CSector_setColor(CPieChart_sector(pie, i), kColours[i], -1, -1);
+    }
+    QImage picture() { return pictures::of(chart); }
+};
+
+/// The pixel at an angle (degrees clockwise from the top) and a distance from (100, 100).
+unsigned polar(const QImage& image, double degrees, double distance) {
+    const double angle = degrees * std::numbers::pi / 180;
+    return pictures::at(image, static_cast<int>(std::floor(100 + distance * std::sin(angle))),
+                        static_cast<int>(std::floor(100 - distance * std::cos(angle))));
+}
+
+TEST(PiePicture, ShowsEachSectorAtItsAngles) {
+    const struct {
+        const char* what;
+        std::vector<double> values;
+        double start;
+        bool clockwise;
+        double middles[3]; // degrees; of values 1, 1, 2: quarter, quarter, half
+    } rows[] = {
+        {"clockwise from the top", {1, 1, 2}, 0, true, {45, 135, 270}},
+        {"from 30 degrees", {1, 1, 2}, 30, true, {75, 165, 300}},
+        {"anticlockwise", {1, 1, 2}, 0, false, {315, 225, 90}},
+        {"beyond a turn", {1, 1, 2}, 360 + 90, true, {135, 225, 0}},
+    };
+    for (const auto& row : rows) {
+        Pie pie(row.values);
+        CPieChart_setStartAngle(pie.pie, row.start, row.clockwise);
+        const QImage image = pie.picture();
+        for (int i = 0; i < 3; ++i) {
+            const double half = i < 2 ? 45 : 90;
+            for (const double off : {-half + 3, 0.0, half - 3}) {
+                for (const double distance : {40.0, 77.0}) {
+                    EXPECT_EQ(polar(image, row.middles[i] + off, distance),
+                              static_cast<unsigned>(kColours[i]))
+                        << row.what << ", sector " << i << ", " << off << " off its middle";
+                }
+            }
+            EXPECT_EQ(polar(image, row.middles[i], 83), kWhite) << row.what;
+        }
+    }
+}
+
+TEST(PiePicture, LetsNoBackgroundThroughBetweenNeighbours) {
+    for (const bool solid : {false, true}) {
+        Pie pie({3, 4, 5});
+        for (int i = 0; i < 3; ++i)
+            CSector_setColor(CPieChart_sector(pie.pie, i), kRed, -1, -1);
+        if (solid)
+            CPieChart_set3D(pie.pie, 20, 45, false);
+        const QImage image = pie.picture();
+        for (int y = 0; y < 200; ++y) {
+            for (int x = 0; x < 200; ++x) {
+                const double away =
+                    std::hypot(x + 0.5 - 100, (y + 0.5 - 100) * (solid ? std::numbers::sqrt2 : 1));
+                if (away < 77) {
+                    ASSERT_EQ(pictures::at(image, x, y), static_cast<unsigned>(kRed)) << x << ", " << y;
+                } else if (solid && away < 82 && y > 120) {
+                    // Where the face meets its wall: red, more or less dark.
+                    ASSERT_LT(qGreen(image.pixel(x, y)), 16) << x << ", " << y;
+                }
+            }
+        }
+    }
+}
+
+TEST(PiePicture, TakesHardValues) {
+    const double none = CHART_NO_VALUE;
+    const struct {
+        const char* what;
+        std::vector<double> values;
+        unsigned left, right; // colour to the left and right of the centre
+    } rows[] = {
+        {"one value alone", {5}, kRed, kRed},
+        {"zeros take no room", {0, 7, 0}, kGreen, kGreen},
+        {"negative and missing ones neither", {-3, 7, none}, kGreen, kGreen},
+        {"no numbers neither", {NAN, 7, INFINITY}, kGreen, kGreen},
+        {"huge ones", {1.6e308, 1.6e308}, kGreen, kRed},
+        {"sum zero is an outline", {0, 0}, kWhite, kWhite},
+        {"only negative is an outline", {-1, -2}, kWhite, kWhite},
+    };
+    for (const auto& row : rows) {
+        Pie pie(row.values);
+        const QImage image = pie.picture();
+        EXPECT_EQ(polar(image, 270, 40), row.left) << row.what;
+        EXPECT_EQ(polar(image, 90, 40), row.right) << row.what;
+        // Something stands at the rim, be it an outline.
+        const QRect ink = pictures::boundsOf(image, kWhite);
+        EXPECT_EQ(ink, image.rect());
+        EXPECT_NE(pictures::at(image, 180, 100) & pictures::at(image, 179, 100), kWhite) << row.what;
+    }
+}
+
+TEST(PiePicture, MovesAnExplodedSectorOutwards) {
+    Pie pie({1, 1, 2});
+    CSector_setExplode(CPieChart_sector(pie.pie, 0), 14);
+    const QImage image = pie.picture();
+    EXPECT_EQ(polar(image, 45, 10), kWhite);
+    EXPECT_EQ(polar(image, 45, 17), static_cast<unsigned>(kRed));
+    EXPECT_EQ(polar(image, 45, 80 + 12), static_cast<unsigned>(kRed));
+    EXPECT_EQ(polar(image, 45, 80 + 16), kWhite);
+    EXPECT_EQ(polar(image, 135, 10), static_cast<unsigned>(kGreen)) << "the others stay";
+
+    Pie automatic({1, 1, 2});
+    CSector_setExplode(CPieChart_sector(automatic.pie, 0), -1);
+    EXPECT_EQ(polar(automatic.picture(), 45, 80 + 6), static_cast<unsigned>(kRed)) << "a visible distance";
+}
+
+TEST(PiePicture, LeavesTheHoleOfADonutFree) {
+    for (const bool swapped : {false, true}) {
+        Pie pie({1, 1, 2});
+        CPieChart_setDonutSize(pie.pie, 100, 100, swapped ? 80 : 40, swapped ? 40 : 80);
+        const QImage image = pie.picture();
+        EXPECT_EQ(polar(image, 45, 37), kWhite);
+        EXPECT_EQ(polar(image, 45, 43), static_cast<unsigned>(kRed));
+        EXPECT_EQ(polar(image, 270, 77), static_cast<unsigned>(kBlue));
+    }
+}
+
+TEST(PiePicture, StandsOnItsWallsInThreeDimensions) {
+    Pie tilted({1});
+    CPieChart_set3D(tilted.pie, 20, 60, false); // the face is half as high as wide
+    QImage image = tilted.picture();
+    EXPECT_EQ(pictures::at(image, 100, 63), static_cast<unsigned>(kRed)) << "face";
+    EXPECT_EQ(pictures::at(image, 100, 137), static_cast<unsigned>(kRed)) << "face";
+    const QColor wall(image.pixel(100, 150));
+    EXPECT_EQ(wall.green(), 0) << "the wall has the sector's hue";
+    EXPECT_LT(wall.red(), 240) << "and is darker";
+    EXPECT_NE(pictures::at(image, 100, 158), kWhite);
+    EXPECT_EQ(pictures::at(image, 100, 162), kWhite) << "20 pixels below the face it ends";
+    EXPECT_EQ(pictures::at(image, 100, 57), kWhite) << "no wall above";
+
+    Pie oblique({1});
+    CPieChart_set3D(oblique.pie, 20, 45, true); // the face stays round, the body lies 14, 14 aside
+    image = oblique.picture();
+    EXPECT_EQ(polar(image, 0, 77), static_cast<unsigned>(kRed));
+    EXPECT_EQ(polar(image, 315, 77), static_cast<unsigned>(kRed));
+    EXPECT_NE(polar(image, 135, 97), kWhite);
+    EXPECT_NE(polar(image, 135, 97), static_cast<unsigned>(kRed));
+    EXPECT_EQ(polar(image, 135, 104), kWhite);
+    EXPECT_EQ(polar(image, 315, 83), kWhite);
+
+    Pie plain({1});
+    CPieChart_set3D(plain.pie, -1, -1, false); // both automatic: tilted and deep enough to be seen
+    image = plain.picture();
+    EXPECT_EQ(pictures::at(image, 100, 25), kWhite);
+    EXPECT_NE(pictures::at(image, 100, 100 + 57 + 6), kWhite);
+    EXPECT_LT(QColor(image.pixel(100, 100 + 57 + 6)).red(), 240);
+}
+
+TEST(PiePicture, ShowsInnerAndCutWalls) {
+    Pie donut({1});
+    CPieChart_setDonutSize(donut.pie, 100, 100, 50, 80);
+    CPieChart_set3D(donut.pie, 15, 60, false);
+    QImage image = donut.picture();
+    // The hole reaches from row 75 to 125; the inner wall hangs 15 pixels from its far edge.
+    EXPECT_LT(QColor(image.pixel(100, 82)).red(), 240);
+    EXPECT_EQ(qGreen(image.pixel(100, 82)), 0);
+    EXPECT_EQ(pictures::at(image, 100, 95), kWhite);
+    EXPECT_EQ(pictures::at(image, 100, 122), kWhite) << "the near edge hides its wall";
+
+    // Halves pulled apart, one in front: the rear one shows its cut, the front one not.
+    Pie halves({1, 1});
+    CPieChart_setStartAngle(halves.pie, 90, true); // red in front
+    CPieChart_set3D(halves.pie, 12, 45, false);
+    CSector_setExplode(CPieChart_sector(halves.pie, 0), 40);
+    image = halves.picture();
+    EXPECT_EQ(qRed(image.pixel(100, 106)), 0);
+    EXPECT_LT(QColor(image.pixel(100, 106)).green(), 240);
+    EXPECT_EQ(pictures::at(image, 100, 118), kWhite);
+    EXPECT_EQ(pictures::at(image, 100, 131), static_cast<unsigned>(kRed))
+        << "the near one begins with its face";
+}
+
+TEST(PiePicture, DrawsEdgesAndOwnColours) {
+    Pie pie({1, 1, 2});
+    CPieChart_setLineColor(pie.pie, 0x000000, CHART_TRANSPARENT);
+    CSector_setColor(CPieChart_sector(pie.pie, 2), -1, 0xffff00, -1);
+    const QImage image = pie.picture();
+    EXPECT_LT(QColor(image.pixel(140, 100)).lightness(), 128) << "edge between the first two";
+    EXPECT_EQ(polar(image, 270, 40), static_cast<unsigned>(kBlue)) << "-1 keeps the fill";
+    EXPECT_GT(qRed(image.pixel(20, 100)) + qRed(image.pixel(19, 100)), 100)
+        << "the third has an edge of its own";
+}
+
+TEST(PiePicture, HasOneSectorObjectAnIndex) {
+    const double values[] = {1, 2};
+    PieChart* pie = CPieChart_create(100, 100, -1, -1, 0);
+    EXPECT_EQ(CPieChart_sector(pie, 0), nullptr) << "no data yet";
+    CPieChart_setData(pie, values, 2, nullptr, 0);
+    EXPECT_NE(CPieChart_sector(pie, 0), nullptr);
+    EXPECT_EQ(CPieChart_sector(pie, 0), CPieChart_sector(pie, 0));
+    EXPECT_NE(CPieChart_sector(pie, 0), CPieChart_sector(pie, 1));
+    EXPECT_EQ(CPieChart_sector(pie, 2), nullptr);
+    EXPECT_EQ(CPieChart_sector(pie, -1), nullptr);
+    CBaseChart_destroy(PieChart2BaseChart(pie));
+}
+
+TEST(PiePicture, ShowsPatternsAndMetalsOnFaceAndWall) {
+    Pie pattern({1});
+    const int pixels[] = {0xff0000, 0x0000ff};
+    CSector_setColor(CPieChart_sector(pattern.pie, 0),
+                     CBaseChart_patternColor(pattern.chart, pixels, 2, 1, 0, 0), -1, -1);
+    CPieChart_set3D(pattern.pie, 20, 60, false);
+    QImage image = pattern.picture();
+    EXPECT_EQ(pictures::at(image, 100, 100), static_cast<unsigned>(kRed));
+    EXPECT_EQ(pictures::at(image, 101, 100), static_cast<unsigned>(kBlue));
+    EXPECT_GT(qRed(image.pixel(100, 150)), 2 * qBlue(image.pixel(100, 150)) + 50)
+        << "stripes go on down the wall";
+    EXPECT_LT(qRed(image.pixel(100, 150)), 240);
+    EXPECT_GT(qBlue(image.pixel(101, 150)), 2 * qRed(image.pixel(101, 150)) + 50);
+
+    Pie metal({1});
+    CSector_setColor(CPieChart_sector(metal.pie, 0), CChart_metalColor(0x808080, 0), -1, -1);
+    image = metal.picture();
+    int darkest = 255, lightest = 0;
+    for (int x = 30; x < 170; ++x) {
+        darkest = std::min(darkest, qGray(image.pixel(x, 100)));
+        lightest = std::max(lightest, qGray(image.pixel(x, 100)));
+    }
+    EXPECT_GT(lightest - darkest, 40) << "a gradient across the pie";
+}
+
+} // namespace

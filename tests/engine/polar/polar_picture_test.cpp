@@ -1,0 +1,411 @@
+// Polar charts by their pixels: plot area, grid, zones, layers and labels, at places worked out by hand.
+
+#include "tests/engine/chart/round.h"
+
+#include <QColor>
+#include <cmath>
+#include <limits>
+#include <string>
+
+namespace {
+
+constexpr unsigned kWhite = 0xffffff;
+constexpr int kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff;
+const QPoint kCentre(150, 150);
+
+/// A chart of 300 x 300, radius 100 for 0 to 100 about (150, 150), without grid, axis and labels.
+struct Polar {
+    PolarChart* polar = CPolarChart_create(300, 300, kWhite, CHART_TRANSPARENT, 0);
+    BaseChart* chart = PolarChart2BaseChart(polar);
+    Axis* radial = CPolarChart_radialAxis(polar);
+    AngularAxis* angular = CPolarChart_angularAxis(polar);
+
+    Polar() {
+        CPolarChart_setPlotArea(polar, kCentre.x(), kCentre.y(), 100, -1, -1, 1);
+        CPolarChart_setGridColor(polar, CHART_TRANSPARENT, 0, CHART_TRANSPARENT, 0);
+        CAxis_setLinearScale(radial, 0, 100, 25, 0);
+        CAxis_setColors(radial, CHART_TRANSPARENT, CHART_TRANSPARENT, -1, -1);
+        CAngularAxis_setLabelStyle(angular, nullptr, 8, CHART_TRANSPARENT, 0);
+    }
+    PolarLineLayer* line(const std::vector<double>& data, const std::vector<double>& angles, int colour,
+                         int width = 3) {
+        PolarLineLayer* layer =
+            CPolarChart_addLineLayer(polar, data.data(), static_cast<int>(data.size()), colour, "line");
+        CPolarLayer_setAngles(PolarLineLayer2PolarLayer(layer), angles.data(),
+                              static_cast<int>(angles.size()));
+        CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(layer), width);
+        return layer;
+    }
+    void everyQuarterLabelled() {
+        const char* const labels[] = {"N", "E", "S", "W"};
+        CAngularAxis_setLabels(angular, labels, 4);
+    }
+    QImage picture() { return pictures::of(chart); }
+};
+
+unsigned at(const QImage& image, double degrees, double distance) {
+    return pictures::roundAt(image, kCentre, degrees, distance);
+}
+
+bool dark(const QImage& image, double degrees, double distance) {
+    return QColor(image.pixel(pictures::roundPoint(kCentre, degrees, distance))).lightness() < 200;
+}
+
+TEST(PolarChart, FillsItsPlotAreaAndDrawsItsEdge) {
+    Polar p;
+    CPolarChart_setPlotArea(p.polar, 150, 150, 100, kGreen, kBlue, 5);
+    QImage image = pictures::of(p.chart, false);
+    for (const double degrees : {10.0, 100.0, 215.0, 340.0}) {
+        EXPECT_EQ(at(image, degrees, 5), static_cast<unsigned>(kGreen));
+        EXPECT_EQ(at(image, degrees, 96), static_cast<unsigned>(kGreen));
+        EXPECT_EQ(at(image, degrees, 100), static_cast<unsigned>(kBlue));
+        EXPECT_EQ(at(image, degrees, 104), kWhite);
+    }
+    p.everyQuarterLabelled();
+    CPolarChart_setGridStyle(p.polar, true, true);
+    image = p.picture();
+    EXPECT_EQ(at(image, 90, 95), static_cast<unsigned>(kGreen));
+    EXPECT_EQ(at(image, 45, 66), static_cast<unsigned>(kGreen)) << "a square on its corner reaches 70.7 here";
+    EXPECT_EQ(at(image, 45, 75), kWhite);
+}
+
+TEST(PolarChart, DrawsRingsAndSpokesAboveOrBelowTheLayers) {
+    Polar p;
+    CPolarChart_setGridColor(p.polar, kRed, 1, kBlue, 3);
+    CAngularAxis_setLinearScale(p.angular, 0, 360, 45, 15);
+    const QImage image = pictures::of(p.chart, false);
+    for (const double distance : {25.0, 50.0, 75.0, 100.0}) {
+        EXPECT_TRUE(dark(image, 20, distance)) << distance;
+        EXPECT_FALSE(dark(image, 20, distance - 4)) << distance;
+    }
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_EQ(at(image, i * 45, 60), static_cast<unsigned>(kBlue)) << i;
+        EXPECT_EQ(at(image, i * 45 + 20, 60), kWhite) << i;
+        EXPECT_EQ(at(image, i * 45 + 15, 97), static_cast<unsigned>(kBlue)) << "minor mark, " << i;
+        EXPECT_EQ(at(image, i * 45 + 15, 90), kWhite) << "minor mark, " << i;
+    }
+    const double ones[] = {100, 100, 100, 100, 100, 100, 100, 100};
+    CPolarChart_addAreaLayer(p.polar, ones, 8, kGreen, nullptr);
+    EXPECT_EQ(at(pictures::of(p.chart, false), 45, 60), static_cast<unsigned>(kBlue)) << "on top by default";
+    CPolarChart_setGridStyle(p.polar, false, false);
+    EXPECT_EQ(at(p.picture(), 45, 60), static_cast<unsigned>(kGreen));
+}
+
+TEST(PolarChart, LaysATranslucentGridOnOnce) {
+    Polar p;
+    const int half = static_cast<int>(0x80000000);
+    CPolarChart_setGridColor(p.polar, half, 3, half, 3);
+    const QImage image = p.picture();
+    EXPECT_NEAR(qRed(image.pixel(150, 150)), 127, 2) << "where all spokes meet";
+    for (const double degrees : {0.0, 90.0, 180.0, 270.0}) {
+        for (const double distance : {40.0, 50.0}) { // on a spoke, and where it meets a ring
+            const QPoint point = pictures::roundPoint(kCentre, degrees, distance);
+            EXPECT_NEAR(qRed(image.pixel(point)), 127, 2) << degrees << ", " << distance;
+        }
+    }
+    EXPECT_NEAR(qRed(image.pixel(pictures::roundPoint(kCentre, 45, 50))), 127, 2) << "on a ring";
+}
+
+TEST(PolarChart, AlternatesRingsAndSectors) {
+    Polar p;
+    p.everyQuarterLabelled();
+    CPolarChart_setPlotAreaBg(p.polar, kRed, kBlue, true);
+    QImage image = pictures::of(p.chart, false);
+    const unsigned rings[] = {kRed, kBlue, kRed, kBlue};
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(at(image, 70, i * 25 + 3), rings[i]) << i;
+        EXPECT_EQ(at(image, 70, i * 25 + 22), rings[i]) << i;
+    }
+    EXPECT_EQ(at(image, 70, 103), kWhite);
+    CPolarChart_setPlotAreaBg(p.polar, kRed, kBlue, false);
+    image = pictures::of(p.chart, false);
+    for (int i = 0; i < 4; ++i) {
+        EXPECT_EQ(at(image, i * 90 + 4, 60), rings[i]) << i;
+        EXPECT_EQ(at(image, i * 90 + 86, 60), rings[i]) << i;
+    }
+    CPolarChart_setGridStyle(p.polar, true, true);
+    CPolarChart_setPlotAreaBg(p.polar, kRed, -1, true); // the second is the background: none
+    image = p.picture();
+    EXPECT_EQ(at(image, 45, 15), static_cast<unsigned>(kRed)) << "the inner square reaches 17.7 here";
+    EXPECT_EQ(at(image, 45, 21), kWhite);
+}
+
+TEST(PolarChart, ShowsZonesAsRingsAndSectors) {
+    Polar p;
+    CAxis_addZone(p.radial, 80, 60, kRed);
+    CAxis_addZone(p.radial, 90, 1e9, kBlue);
+    CAngularAxis_addZone2(p.angular, 30, 60, kGreen, CHART_TRANSPARENT);
+    CAngularAxis_addZone2(p.angular, 350, 10, kGreen, -1);
+    CAngularAxis_addZone2(p.angular, NAN, 10, kBlue, kBlue);
+    const QImage image = p.picture();
+    const struct {
+        double degrees, distance;
+        unsigned colour;
+    } rows[] = {
+        {200, 58, kWhite},  {200, 62, kRed},  {200, 78, kRed},  {200, 82, kWhite}, {200, 92, kBlue},
+        {200, 102, kWhite}, {27, 50, kWhite}, {33, 50, kGreen}, {57, 70, kGreen},  {63, 50, kWhite},
+        {353, 95, kGreen},  {7, 95, kGreen},  {13, 50, kWhite}, {347, 50, kWhite},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(at(image, row.degrees, row.distance), row.colour) << row.degrees << ", " << row.distance;
+}
+
+TEST(PolarChart, DrawsLinesThroughTheirPoints) {
+    Polar p;
+    PolarLineLayer* layer = p.line({80, 80, 80}, {0, 90, 180}, kRed);
+    QImage image = pictures::of(p.chart, false);
+    // Straight from point to point: half way between two at a right angle the line is 56.6 from the centre.
+    EXPECT_EQ(at(image, 45, 56.6), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(image, 135, 56.6), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(image, 0, 40), static_cast<unsigned>(kRed)) << "closed by default";
+    CPolarLineLayer_setCloseLoop(layer, false);
+    image = pictures::of(p.chart, false);
+    EXPECT_EQ(at(image, 0, 40), kWhite);
+    EXPECT_EQ(at(image, 45, 56.6), static_cast<unsigned>(kRed));
+    CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(layer), 0);
+    EXPECT_EQ(pictures::inked(p.picture(), kWhite), 0);
+}
+
+TEST(PolarChart, SpreadsRowsEvenlyWithoutAngles) {
+    Polar p;
+    p.line({80, 40, 80, 40}, {}, kRed);
+    const QImage image = pictures::of(p.chart, false);
+    for (const auto& [degrees, distance] : {std::pair{0, 80}, {90, 40}, {180, 80}, {270, 40}})
+        EXPECT_EQ(at(image, degrees, distance), static_cast<unsigned>(kRed)) << degrees;
+    // With labels, a row a label: four rows of eight fill half a turn.
+    const char* const labels[] = {"1", "2", "3", "4", "5", "6", "7", "8"};
+    CAngularAxis_setLabels(p.angular, labels, 8);
+    const QImage half = p.picture();
+    EXPECT_EQ(at(half, 90, 80), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(half, 135, 40), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(half, 200, 40), kWhite);
+}
+
+TEST(PolarChart, TakesGapsRepeatedAnglesAndValuesBeyondTheScale) {
+    Polar p;
+    const double gap = CHART_NO_VALUE;
+    PolarLineLayer* layer = p.line({80, 80, gap, 80, 80}, {0, 45, 90, 135, 180}, kRed);
+    QImage image = pictures::of(p.chart, false);
+    EXPECT_EQ(at(image, 22.5, 73.9), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(image, 157.5, 73.9), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(image, 90, 56.6), kWhite) << "broken at the gap";
+    EXPECT_EQ(at(image, 0, 40), static_cast<unsigned>(kRed)) << "closed nevertheless";
+    CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(layer), 0);
+
+    // A negative radius is at the centre, one beyond the scale is cut off, an angle goes on round, and one
+    // angle twice is a line along it. Rows without an angle are left out.
+    p.line({-500, 50, 1000, 30, 60, 99}, {30, 60 + 720, 60 - 360, 240, 240}, kBlue);
+    image = p.picture();
+    EXPECT_EQ(at(image, 60, 25), static_cast<unsigned>(kBlue)) << "from the centre";
+    EXPECT_EQ(at(image, 60, 97), static_cast<unsigned>(kBlue));
+    EXPECT_EQ(at(image, 60, 105), kWhite);
+    EXPECT_EQ(at(image, 240, 45), static_cast<unsigned>(kBlue));
+    EXPECT_EQ(at(image, 240, 70), kWhite);
+}
+
+TEST(PolarChart, PutsNegativeRadiiOnAScaleOfTheirOwn) {
+    Polar p;
+    CAxis_setAutoScale(p.radial, 0, 0, 0);
+    p.line({-100, 0, 100, 0}, {0, 90, 180, 270}, kRed);
+    const QImage image = p.picture();
+    EXPECT_EQ(at(image, 180, 99), static_cast<unsigned>(kRed)) << "the largest is at the rim";
+    EXPECT_EQ(at(image, 90, 50), static_cast<unsigned>(kRed)) << "zero halfway";
+    EXPECT_EQ(at(image, 0, 1), static_cast<unsigned>(kRed)) << "the smallest at the centre";
+}
+
+TEST(PolarChart, FillsAreasAndSmoothsCurves) {
+    Polar p;
+    const double data[] = {80, 80, CHART_NO_VALUE, 80, 80};
+    PolarAreaLayer* area = CPolarChart_addAreaLayer(p.polar, data, 5, kGreen, nullptr);
+    const double angles[] = {0, 90, 100, 180, 270};
+    CPolarLayer_setAngles(PolarAreaLayer2PolarLayer(area), angles, 5);
+    QImage image = pictures::of(p.chart, false);
+    EXPECT_EQ(at(image, 45, 54), static_cast<unsigned>(kGreen));
+    EXPECT_EQ(at(image, 45, 60), kWhite) << "straight from point to point";
+    EXPECT_EQ(at(image, 135, 54), static_cast<unsigned>(kGreen)) << "a gap is passed over";
+
+    PolarSplineAreaLayer* smooth = CPolarChart_addSplineAreaLayer(p.polar, data, 5, kRed, nullptr);
+    CPolarLayer_setAngles(PolarAreaLayer2PolarLayer(PolarSplineAreaLayer2PolarAreaLayer(smooth)), angles, 5);
+    image = pictures::of(p.chart, false);
+    for (const double degrees : {45.0, 135.0, 225.0, 315.0}) {
+        EXPECT_EQ(at(image, degrees, 70), static_cast<unsigned>(kRed)) << "nearly a circle";
+        EXPECT_EQ(at(image, degrees, 85), kWhite);
+    }
+    const double even[] = {80, 80, 80, 80};
+    PolarLineLayer* line =
+        PolarSplineLineLayer2PolarLineLayer(CPolarChart_addSplineLineLayer(p.polar, even, 4, kBlue, nullptr));
+    CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(line), 9);
+    EXPECT_EQ(at(pictures::of(p.chart, false), 315, 71), static_cast<unsigned>(kBlue));
+    CPolarLineLayer_setCloseLoop(line, false);
+    image = p.picture();
+    EXPECT_NE(at(image, 315, 71), static_cast<unsigned>(kBlue));
+    EXPECT_EQ(at(image, 135, 71), static_cast<unsigned>(kBlue));
+}
+
+TEST(PolarChart, DrawsSymbolsOfGivenAndScaledSizes) {
+    Polar p;
+    PolarLayer* layer = PolarLineLayer2PolarLayer(p.line({60, 60, 60, 130}, {0, 90, 180, 270}, kRed, 0));
+    CPolarLayer_setDataSymbol(layer, CHART_SQUARE_SYMBOL, 11, kBlue, -1, 1);
+    QImage image = pictures::of(p.chart, false);
+    auto patches = pictures::patches(image, kWhite);
+    ASSERT_EQ(patches.size(), 3u) << "none beyond the scale";
+    EXPECT_EQ(patches[0], QRect(145, 85, 11, 11));
+    EXPECT_EQ(patches[1], QRect(205, 145, 11, 11));
+
+    const double sizes[] = {21, CHART_NO_VALUE};
+    CPolarLayer_setSymbolScale(layer, sizes, 2, CHART_SCALE_PIXELS);
+    image = pictures::of(p.chart, false);
+    patches = pictures::patches(image, kWhite);
+    ASSERT_EQ(patches.size(), 2u) << "a size that is missing draws none";
+    EXPECT_EQ(patches[0], QRect(140, 80, 21, 21));
+    EXPECT_EQ(patches[1], QRect(145, 205, 11, 11)) << "past the end the usual size";
+    for (int shape = CHART_DIAMOND_SYMBOL; shape <= CHART_CROSS2_SYMBOL; ++shape) {
+        CPolarLayer_setDataSymbol(layer, shape, 11, kBlue, kRed, 2);
+        const QRect bounds = pictures::patches(pictures::of(p.chart, false), kWhite).at(0);
+        EXPECT_NEAR(bounds.width(), 21, 2) << shape;
+        EXPECT_NEAR(bounds.height(), 21, 2) << shape;
+    }
+    CPolarLayer_setDataSymbol(layer, CHART_NO_SYMBOL, 11, kBlue, -1, 1);
+    EXPECT_EQ(pictures::inked(p.picture(), kWhite), 0);
+}
+
+/// Labels of the angles as boxes of one colour: patches that are full rectangles do not overlap.
+TEST(PolarChart, KeepsAngularLabelsOutsideThePlotInsideThePictureAndApart) {
+    for (const int count : {3, 8, 12, 24, 60, 500}) {
+        for (const double size : {8.0, 12.0}) {
+            Polar p;
+            std::vector<std::string> texts;
+            std::vector<const char*> labels;
+            for (int i = 0; i < count; ++i)
+                texts.push_back("No. " + std::to_string(i));
+            for (const std::string& text : texts)
+                labels.push_back(text.c_str());
+            CAngularAxis_setLabels(p.angular, labels.data(), count);
+            TextBox* style = CAngularAxis_setLabelStyle(p.angular, nullptr, size, kRed, 0);
+            CBox_setBackground(TextBox2Box(style), kRed, CHART_TRANSPARENT, 0);
+            const QImage image = p.picture();
+            const auto boxes = pictures::patches(image, kWhite);
+            EXPECT_GE(boxes.size(), static_cast<std::size_t>(std::min(count, 8)));
+            for (const QRect& box : boxes) {
+                EXPECT_GE(pictures::nearestOf(box, kCentre), 101) << count << ' ' << box;
+                EXPECT_TRUE(QRect(2, 2, 296, 296).contains(box)) << count << ' ' << box;
+                EXPECT_EQ(pictures::inked(image.copy(box), kWhite), box.width() * box.height())
+                    << count << ' ' << box << " is two labels in one";
+            }
+        }
+    }
+}
+
+TEST(PolarChart, BreaksLongLabelsAndKeepsThemInThePicture) {
+    Polar p;
+    const char* const labels[] = {"Top", "A label of many words that goes on", "Below",
+                                  "Another one that is long"};
+    CAngularAxis_setLabels(p.angular, labels, 4);
+    TextBox* style = CAngularAxis_setLabelStyle(p.angular, nullptr, 8, kRed, 0);
+    CBox_setBackground(TextBox2Box(style), kRed, CHART_TRANSPARENT, 0);
+    const auto boxes = pictures::patches(p.picture(), kWhite);
+    ASSERT_EQ(boxes.size(), 4u);
+    for (const QRect& box : boxes)
+        EXPECT_TRUE(QRect(2, 2, 296, 296).contains(box)) << box;
+}
+
+TEST(PolarChart, ShowsTheRadialAxisUpwardsFromTheCentre) {
+    Polar p;
+    CAxis_setColors(p.radial, kBlue, CHART_TRANSPARENT, -1, kRed);
+    QImage image = pictures::of(p.chart, false);
+    EXPECT_EQ(pictures::boundsOf(image, kBlue), QRect(150, 50, 1, 101));
+    EXPECT_EQ(pictures::boundsOf(image, kRed).left(), 146) << "ticks of 4 pixels on the left";
+    TextBox* style = CAxis_setLabelStyle(p.radial, nullptr, 8, kGreen, 0);
+    CBox_setBackground(TextBox2Box(style), kGreen, CHART_TRANSPARENT, 0);
+    image = pictures::of(p.chart, false);
+    const QRect labels = pictures::boundsOf(image, kGreen);
+    EXPECT_LT(labels.right(), 146);
+    EXPECT_GE(labels.top(), 50) << "the outermost stays below the rim";
+    EXPECT_NEAR(labels.bottom(), 156, 4);
+    CAxis_addMark(p.radial, 60, 0x123456, "limit", nullptr, 8);
+    CAxis_addMark(p.radial, 600, kRed, "unseen", nullptr, 8);
+    CAxis_setReverse(p.radial, true);
+    image = p.picture();
+    EXPECT_LT(QColor(image.pixel(pictures::roundPoint(kCentre, 135, 40))).lightness(), 160)
+        << "reversed, 60 is 40 from the centre";
+}
+
+TEST(PolarChart, PlacesDataLabelsBesideTheirPointsAndApart) {
+    Polar p;
+    std::vector<double> data, angles;
+    for (int i = 0; i < 40; ++i) {
+        data.push_back(20 + i * 37 % 80);
+        angles.push_back(i * 360.0 / 40);
+    }
+    PolarLayer* layer = PolarLineLayer2PolarLayer(p.line(data, angles, kRed, 0));
+    TextBox* style = CPolarLayer_setDataLabelStyle(layer, nullptr, 8, kBlue, 0);
+    CBox_setBackground(TextBox2Box(style), kBlue, CHART_TRANSPARENT, 0);
+    CPolarLayer_setDataLabelFormat(layer, "{value}");
+    const QImage image = p.picture();
+    const auto boxes = pictures::patches(image, kWhite);
+    EXPECT_GE(boxes.size(), 20u);
+    int together = 0;
+    for (const QRect& box : boxes) {
+        EXPECT_TRUE(image.rect().contains(box)) << box;
+        together += box.height() > 20 || box.width() > 45 ? 1 : 0; // two that touch are one patch
+        double nearest = 1000;
+        for (std::size_t i = 0; i < data.size(); ++i) {
+            nearest = std::min(nearest,
+                               pictures::nearestOf(box, pictures::roundPoint(kCentre, angles[i], data[i])));
+        }
+        EXPECT_LE(nearest, 4) << box;
+    }
+    EXPECT_LE(together, 6);
+
+    Polar format;
+    layer = PolarLineLayer2PolarLayer(format.line({60}, {90}, kRed, 0));
+    CPolarLayer_setDataLabelStyle(layer, nullptr, 8, kBlue, 0);
+    CPolarLayer_setDataLabelFormat(layer, " ");
+    EXPECT_EQ(pictures::inked(format.picture(), kWhite), 0);
+}
+
+TEST(PolarChart, GivesTheLegendItsNamedLayers) {
+    Polar p;
+    p.line({60, 70}, {0, 90}, kRed, 0);
+    const double data[] = {50};
+    CPolarChart_addAreaLayer(p.polar, data, 1, kGreen, "area");
+    CPolarChart_addAreaLayer(p.polar, data, 1, kBlue, nullptr);
+    CBaseChart_addLegend(p.chart, 5, 5, true, nullptr, 8);
+    CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(p.line({60, 70}, {0, 90}, kBlue, 3)), 3);
+    const QImage legend = p.picture().copy(0, 0, 90, 60);
+    EXPECT_FALSE(pictures::boundsOf(legend, kGreen).isEmpty());
+    EXPECT_GE(pictures::boundsOf(legend, kGreen).width(), 5);
+    EXPECT_TRUE(pictures::boundsOf(legend, kRed).isEmpty()) << "no line, no symbol";
+    EXPECT_EQ(pictures::boundsOf(legend, kBlue).height(), 3) << "the line's key is as wide as the line";
+}
+
+TEST(PolarChart, TakesAnyDataAndGeometry) {
+    constexpr int far = std::numeric_limits<int>::max();
+    const double inf = std::numeric_limits<double>::infinity();
+    const std::vector<double> data = {1e308, -1e308, NAN, inf, -inf, CHART_NO_VALUE, 0, 1e-320};
+    const struct {
+        int x, y, radius;
+    } rows[] = {{0, 0, 0}, {150, 150, -5}, {far, -far - 1, far}, {150, 150, 1}, {150, 150, far}};
+    for (const auto& row : rows) {
+        for (const bool polygon : {false, true}) {
+            Polar p;
+            CPolarChart_setPlotArea(p.polar, row.x, row.y, row.radius, kGreen, kBlue, far);
+            CPolarChart_setGridStyle(p.polar, polygon, true);
+            CPolarChart_setGridColor(p.polar, kRed, far, kBlue, -far);
+            CPolarChart_setPlotAreaBg(p.polar, kRed, kBlue, polygon);
+            CAxis_setAutoScale(p.radial, inf, -5, NAN);
+            CAxis_setMargin(p.radial, far, far);
+            CAxis_setLabelStyle(p.radial, nullptr, 1000, kRed, 37);
+            CAngularAxis_setLabelStyle(p.angular, nullptr, 500, kRed, 12);
+            CAngularAxis_addZone2(p.angular, -1e308, 1e308, kRed, kBlue);
+            PolarLayer* layer = PolarLineLayer2PolarLayer(p.line(data, data, kRed, far));
+            CPolarLayer_setDataSymbol(layer, CHART_CIRCLE_SYMBOL, far, -1, kBlue, far);
+            CPolarLayer_setSymbolScale(layer, data.data(), static_cast<int>(data.size()), 99);
+            CPolarLayer_setDataLabelStyle(layer, nullptr, 300, -1, 45);
+            CPolarChart_addSplineAreaLayer(p.polar, data.data(), static_cast<int>(data.size()), -1, "a");
+            EXPECT_EQ(p.picture().size(), QSize(300, 300));
+        }
+    }
+}
+
+} // namespace

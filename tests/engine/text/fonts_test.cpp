@@ -1,0 +1,219 @@
+#include "engine/text/fonts.h"
+
+#include "engine/text/font_files.h"
+#include "tests/engine/text/ink.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+namespace chartdraw {
+
+namespace {
+
+// A screen of another resolution must not change a picture, so the tests run with one.
+const bool s_otherResolution = qputenv("QT_FONT_DPI", "144");
+
+TextLook lookOf(const std::string& font, double size = 24) {
+    TextLook look;
+    look.font = font;
+    look.size = size;
+    return look;
+}
+
+int widthOf(const TextLook& look, std::string_view text, const FontSet& fonts = {}) {
+    return TextBlock(look, text, fonts).boxSize().width();
+}
+
+} // namespace
+
+TEST(Fonts, FileNames) {
+    const struct {
+        const char* name;
+        const char* file;
+        int face;
+    } cases[] = {
+        {"a.ttf", "a.ttf", 0},
+        {"a.ttc|2", "a.ttc", 2},
+        {"a.ttc|", "a.ttc|", 0},
+        {"a|b.ttf", "a|b.ttf", 0},
+        {"a.ttc|-1", "a.ttc", -1},
+        {"|3", "", 3},
+        {"/x/a.ttc|10", "/x/a.ttc", 10},
+        {"", "", 0},
+        {"a|99999999999", "a|99999999999", 0},
+    };
+    for (const auto& c : cases) {
+        const FontName name = splitFontName(c.name);
+        EXPECT_EQ(name.file, c.file) << c.name;
+        EXPECT_EQ(name.face, c.face) << c.name;
+    }
+    const QString path = findFontFile("LiberationMono-Bold.ttf");
+    EXPECT_TRUE(QFileInfo(path).isFile());
+    EXPECT_EQ(findFontFile("liberationmono-BOLD.TTF"), path);
+    EXPECT_EQ(findFontFile(path.toStdString()), path);
+    EXPECT_EQ(findFontFile(path.toStdString() + "x"), QString());
+    EXPECT_EQ(findFontFile("/dev/zero"), QString());
+    EXPECT_EQ(findFontFile("no such file.ttf"), QString());
+}
+
+TEST(Fonts, StyleWords) {
+    const FontSet own;
+    EXPECT_EQ(own.resolve(""), "normal");
+    EXPECT_EQ(own.resolve("boldItalic"), "boldItalic");
+    EXPECT_EQ(own.resolve("a.ttf"), "a.ttf");
+    const FontSet set{{"n.ttf", "b.ttf", "", "bi.ttf"}};
+    EXPECT_EQ(set.resolve(""), "n.ttf");
+    EXPECT_EQ(set.resolve("normal"), "n.ttf");
+    EXPECT_EQ(set.resolve("bold"), "b.ttf");
+    EXPECT_EQ(set.resolve("italic"), "italic");
+    EXPECT_EQ(set.resolve("boldItalic"), "bi.ttf");
+    // A set whose entries are style words means the library's own.
+    EXPECT_EQ(widthOf(lookOf("normal"), "iiiii", {{"bold", "normal", "", ""}}),
+              widthOf(lookOf("bold"), "iiiii"));
+}
+
+// Widths of letters in thousandths of the size, as published for the metrics that these faces share with the
+// classic sans, serif and typewriter faces.
+TEST(Fonts, TheFileNamedIsTheFaceDrawn) {
+    const std::string serif = findFontFile("LiberationSerif-Regular.ttf").toStdString();
+    const struct {
+        std::string font;
+        char letter;
+        int width;
+    } cases[] = {
+        {"", 'i', 222},
+        {"normal", 'x', 500},
+        {"bold", 'i', 278},
+        {"bold", 'x', 556},
+        {"italic", 'i', 222},
+        {"boldItalic", 'i', 278},
+        {"LiberationSans-Regular.ttf", 'W', 944},
+        {"liberationsans-bold.TTF", 'i', 278},
+        {"LiberationMono-Regular.ttf", 'i', 600},
+        {"LiberationMono-Bold.ttf|0", 'W', 600},
+        {serif, 'i', 278},
+        {"LiberationSerif-Bold.ttf", 'x', 500},
+        {"NotoSansCJK-Regular.ttc|5", 'i', 500},
+        {"NotoSansCJK-Bold.ttc|7", 'W', 500},
+        // Missing files, missing faces of a file and files that are no font give the sans face, in the style
+        // that the name tells.
+        {"missing.ttf", 'i', 222},
+        {"missingbd.ttf", 'i', 278},
+        {"timesbi.ttf", 'i', 278},
+        {"gulim.ttc", 'x', 500},
+        {"LiberationMono-Regular.ttf|1", 'i', 222},
+        {"NotoSansCJK-Regular.ttc|10", 'i', 222},
+        {"NotoSansCJK-Regular.ttc|-1", 'i', 222},
+        {"/etc/passwd", 'i', 222},
+        {"/", 'i', 222},
+        {"\xff\xfe", 'i', 222},
+    };
+    for (const auto& c : cases) {
+        // 72 points are 96 pixels. The difference of two texts leaves out what the last letter leans over.
+        const TextLook look = lookOf(c.font, 72);
+        const int width = widthOf(look, std::string(20, c.letter)) - widthOf(look, std::string(10, c.letter));
+        EXPECT_NEAR(width, 10 * c.width * 0.096, 1.5) << c.font << c.letter;
+    }
+}
+
+TEST(Fonts, ABoldFaceIsNotMadeBolder) {
+    // Ten bars, each a tenth of the size high and as wide as the letter's stem: a made-up bold would be
+    // wider.
+    const double regular = darkness(drawn(lookOf("normal", 36), "lllllll"));
+    const double bold = darkness(drawn(lookOf("bold", 36), "lllllll"));
+    // Stems of 180 and 281 of 2048 units, as the outlines of the two files have them.
+    EXPECT_NEAR(bold / regular, 281.0 / 180, 0.06);
+}
+
+TEST(Fonts, ADamagedFileGivesTheSansFace) {
+    QTemporaryDir folder;
+    QFile font(findFontFile("LiberationMono-Regular.ttf"));
+    ASSERT_TRUE(font.open(QIODevice::ReadOnly));
+    const QByteArray whole = font.readAll();
+    const auto write = [&](const char* name, const QByteArray& bytes) {
+        QFile file(folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+        return folder.filePath(name).toStdString();
+    };
+    const int mono = widthOf(lookOf("LiberationMono-Regular.ttf"), "iiiiiiiiii");
+    const int sans = widthOf(lookOf(""), "iiiiiiiiii");
+    EXPECT_EQ(widthOf(lookOf(write("whole.ttf", whole)), "iiiiiiiiii"), mono);
+    EXPECT_EQ(widthOf(lookOf(write("half.ttf", whole.first(whole.size() / 2))), "iiiiiiiiii"), sans);
+    EXPECT_EQ(widthOf(lookOf(write("empty.ttf", {})), "iiiiiiiiii"), sans);
+    QByteArray noOutlines = whole;
+    noOutlines.replace("glyf", "gone").replace("loca", "lost");
+    EXPECT_GT(widthOf(lookOf(write("outlines.ttf", noOutlines)), "iiiiiiiiii"), 0);
+}
+
+TEST(Fonts, MissingGlyphsComeFromAnInstalledFace) {
+    // U+0378 is assigned to no character: it shows what a missing glyph looks like.
+    const QImage missing = drawn(lookOf(""), "\u0378");
+    const char* pairs[][2] = {
+        {"\u0434", "\u0436"}, {"\u05d0", "\u05d1"},         {"\u0628", "\u0633"}, {"\ud55c", "\uad6d"},
+        {"\u3042", "\u304d"}, {"\u6f22", "\u5b57"},         {"\u0e01", "\u0e02"}, {"\u0915", "\u0916"},
+        {"\u2264", "\u2211"}, {"\U0001f600", "\U0001f389"}, {"\u2600", "\u2614"},
+    };
+    for (const auto& pair : pairs) {
+        for (const char* font : {"", "LiberationMono-Regular.ttf", "gulim.ttc", "bold"}) {
+            const QImage first = drawn(lookOf(font), pair[0]), second = drawn(lookOf(font), pair[1]);
+            EXPECT_FALSE(ink(first).isEmpty()) << pair[0] << font;
+            EXPECT_NE(first, missing) << pair[0] << font;
+            EXPECT_NE(second, missing) << pair[1] << font;
+            EXPECT_NE(first, second) << pair[0] << font;
+        }
+    }
+}
+
+TEST(Fonts, EmojiAreOutlinesInTheColourOfTheText) {
+    TextLook look = lookOf("");
+    look.colour = 0xff0000;
+    const QImage image = drawn(look, "\U0001f600\U0001f389");
+    ASSERT_FALSE(ink(image).isEmpty());
+    for (int y = 0; y < image.height(); ++y) {
+        for (int x = 0; x < image.width(); ++x) {
+            const QRgb pixel = image.pixel(x, y);
+            ASSERT_EQ(qRed(pixel), 255) << x << ',' << y;
+            ASSERT_EQ(qGreen(pixel), qBlue(pixel)) << x << ',' << y;
+        }
+    }
+}
+
+TEST(Fonts, RealShaping) {
+    // Lam and alef join to one glyph, so they take less room than apart.
+    EXPECT_LT(widthOf(lookOf(""), "\u0644\u0627"), widthOf(lookOf(""), "\u0644\u200c\u0627"));
+    // Right to left: the first letter of the text, a bet with a wide foot, stands at the right end.
+    const QImage word = drawn(lookOf(""), "\u05d1\u05d9"); // bet, yod
+    const QRect bounds = ink(word);
+    const QImage right = word.copy(bounds.center().x(), 0, 100, word.height());
+    EXPECT_GT(darkness(right), 0.6 * darkness(word));
+    // A combining accent takes no room.
+    EXPECT_EQ(widthOf(lookOf(""), "e\u0301e\u0301"), widthOf(lookOf(""), "\u00e9\u00e9"));
+}
+
+TEST(Fonts, Sizes) {
+    int last = 0;
+    for (const double size : {4.0, 6.0, 7.5, 8.25, 9.0, 10.0, 10.5, 12.0, 24.0, 100.0, 1000.0}) {
+        const int width = widthOf(lookOf("", size), "Sphinx of black quartz");
+        EXPECT_GT(width, last) << size;
+        last = width;
+    }
+    const int usual = widthOf(lookOf("", 8), "Text");
+    for (const double size : {0.0, -1.0, -1e308, std::nan("")})
+        EXPECT_EQ(widthOf(lookOf("", size), "Text"), usual) << size;
+    EXPECT_EQ(widthOf(lookOf("", INFINITY), "i"), widthOf(lookOf("", kMaxFontSize), "i"));
+    // 72 points are 96 pixels: ascent and descent of the face are 0.905 and 0.212 of it.
+    EXPECT_NEAR(TextBlock(lookOf("", 72), "x", {}).boxSize().height(), 0.905 * 96 + 0.212 * 96, 2);
+
+    TextLook wide = lookOf("", 12);
+    wide.widthSize = 24;
+    EXPECT_NEAR(widthOf(wide, "Wide text"), widthOf(lookOf("", 24), "Wide text"), 2);
+    EXPECT_EQ(TextBlock(wide, "x", {}).boxSize().height(),
+              TextBlock(lookOf("", 12), "x", {}).boxSize().height());
+    wide.widthSize = 1e300;
+    EXPECT_GT(widthOf(wide, "W"), 0);
+}
+
+} // namespace chartdraw

@@ -1,0 +1,373 @@
+#include "tests/engine/text/ink.h"
+
+#include <QCoreApplication>
+#include <QGuiApplication>
+#include <QTransform>
+#include <atomic>
+#include <chrono>
+#include <cmath>
+#include <gtest/gtest.h>
+#include <random>
+#include <thread>
+
+namespace chartdraw {
+
+namespace {
+
+const FontSet kFonts;
+
+QSize boxOf(const TextLook& look, std::string_view text) {
+    return TextBlock(look, text, kFonts).boxSize();
+}
+
+TextLook sized(double points) {
+    TextLook look;
+    look.size = points;
+    return look;
+}
+
+const int kAllAlignments[] = {TopLeft, TopCenter,  TopRight,     Left,       Center,
+                              Right,   BottomLeft, BottomCenter, BottomRight};
+
+} // namespace
+
+TEST(TextBlock, LinesStackAndTheLongestSetsTheWidth) {
+    const TextLook look = sized(10);
+    const QSize one = boxOf(look, "Longest line");
+    EXPECT_EQ(boxOf(look, "a\nLongest line\nb"), QSize(one.width(), 3 * one.height()));
+    EXPECT_EQ(boxOf(look, "a<*br*>Longest line"), QSize(one.width(), 2 * one.height()));
+    EXPECT_EQ(boxOf(look, "Longest line\n"), QSize(one.width(), 2 * one.height()));
+    EXPECT_EQ(boxOf(look, ""), QSize(0, 0));
+    EXPECT_GT(boxOf(look, "a ").width(), boxOf(look, "a").width());
+    EXPECT_TRUE(TextBlock(look, " \n", kFonts).empty());
+    EXPECT_FALSE(TextBlock(look, " x", kFonts).empty());
+}
+
+TEST(TextBlock, MarkupChangesMeasures) {
+    const TextLook look = sized(10);
+    const QSize plain = boxOf(look, "Text");
+    EXPECT_EQ(boxOf(look, "Te<*color=ff0000*>xt"), plain);
+    EXPECT_EQ(boxOf(look, "<*size=20*>Text"), boxOf(sized(20), "Text"));
+    EXPECT_EQ(boxOf(look, "<*size=20*>T<*/*>ext").height(), boxOf(sized(20), "Text").height());
+    TextLook bold = look;
+    bold.font = "bold";
+    EXPECT_EQ(boxOf(look, "<*font=bold*>Text"), boxOf(bold, "Text"));
+    EXPECT_LT(boxOf(look, "x<*super*>Text").width(), boxOf(look, "xText").width());
+    EXPECT_GE(boxOf(look, "x<*sub*>Text").height(), plain.height());
+}
+
+TEST(TextBlock, MarkupShows) {
+    TextLook look = sized(20);
+    look.colour = 0x000000;
+    const QRect plain = ink(drawn(look, "xx"));
+    const QRect super = ink(drawn(look, "x<*super*>x")), sub = ink(drawn(look, "x<*sub*>x"));
+    EXPECT_LT(super.top(), plain.top());
+    EXPECT_GT(sub.height(), plain.height());
+    // The underline of a text without descenders is what lies below the base line, as wide as the text.
+    const QImage underlined = drawn(look, "<*underline*>xx");
+    const QRect line = ink(underlined.copy(0, plain.bottom() + 2, underlined.width(), 30));
+    EXPECT_NEAR(line.width(), boxOf(look, "xx").width(), 1);
+    EXPECT_LE(line.height(), 3);
+    // The right half red, the left half black.
+    const QImage twoColours = drawn(look, "HH<*color=ff0000*>HH");
+    int red = 0, black = 0;
+    for (int y = 0; y < twoColours.height(); ++y) {
+        for (int x = 0; x < twoColours.width(); ++x) {
+            const QRgb pixel = twoColours.pixel(x, y);
+            red += pixel == 0xffff0000;
+            black += pixel == 0xff000000;
+            if (x < twoColours.width() / 2)
+                EXPECT_EQ(qRed(pixel), qGreen(pixel));
+            else
+                EXPECT_EQ(qRed(pixel), 255);
+        }
+    }
+    EXPECT_GT(red, 50);
+    EXPECT_NEAR(red, black, black / 2.0);
+}
+
+TEST(TextBlock, AlignmentInAFixedBox) {
+    TextLook look = sized(12);
+    look.width = 120;
+    look.height = 80;
+    look.setMargins(10, 20, 5, 15);
+    EXPECT_EQ(boxOf(look, "HH"), QSize(120, 80));
+    const TextLook fitted = sized(12);
+    const QSize text = boxOf(fitted, "HH");
+    TextLook fittedTopLeft = fitted;
+    const QRect inText = ink(drawn(fittedTopLeft, "HH", TopLeft)).translated(-150, -100);
+    for (const int alignment : kAllAlignments) {
+        look.alignment = alignment;
+        const QRect seen = ink(drawn(look, "HH", TopLeft)).translated(-150, -100);
+        // Room for the text: 90 by 60 pixels from (10, 5).
+        const int x = 10 + (90 - text.width()) * (horizontalOf(alignment) + 1) / 2;
+        const int y = 5 + (60 - text.height()) * (verticalOf(alignment) + 1) / 2;
+        EXPECT_EQ(seen, inText.translated(x, y)) << alignment;
+    }
+    // The lines of a text follow the column of the alignment too.
+    look = sized(12);
+    for (const int alignment : {Left, Center, Right}) {
+        look.alignment = alignment;
+        const QImage image = drawn(look, "HHHHHHHH\nH", TopLeft);
+        const int lineHeight = boxOf(look, "H").height();
+        const QRect first = ink(image.copy(0, 0, 300, 100 + lineHeight));
+        const QRect second = ink(image.copy(0, 100 + lineHeight, 300, lineHeight));
+        if (alignment == Left)
+            EXPECT_EQ(first.left(), second.left());
+        else if (alignment == Right)
+            EXPECT_NEAR(first.right(), second.right(), 1);
+        else
+            EXPECT_NEAR(first.center().x(), second.center().x(), 1);
+    }
+}
+
+TEST(TextBlock, MarginsAndBox) {
+    TextLook look = sized(10);
+    const QSize bare = boxOf(look, "Text");
+    look.setMargins(3, 4, 5, 6);
+    EXPECT_EQ(boxOf(look, "Text"), bare + QSize(7, 11));
+    look.background = 0xffff00;
+    look.edge = 0x0000ff;
+    const QImage image = drawn(look, "Text", TopLeft);
+    const QRect box(QPoint(150, 100), bare + QSize(7, 11));
+    EXPECT_EQ(ink(image), box);
+    for (const QPoint corner : {box.topLeft(), box.topRight(), box.bottomLeft(), box.bottomRight()})
+        EXPECT_EQ(image.pixel(corner), 0xff0000ff);
+    EXPECT_EQ(image.pixel(box.topLeft() + QPoint(1, 1)), 0xffffff00);
+    // Margins without sense leave no box.
+    look.setMargins(-1'000'000'000, INT_MIN, INT_MAX, INT_MAX);
+    EXPECT_GE(boxOf(look, "Text").width(), 0);
+    drawn(look, "Text");
+}
+
+TEST(TextBlock, TextWiderThanItsBoxIsDrawnWhole) {
+    TextLook look = sized(12);
+    const QRect whole = ink(drawn(look, "A long text", Center));
+    look.width = 10;
+    look.height = 5;
+    EXPECT_EQ(boxOf(look, "A long text"), QSize(10, 5));
+    const QRect seen = ink(drawn(look, "A long text", Center));
+    EXPECT_EQ(seen.size(), whole.size());
+    EXPECT_NEAR(seen.center().x(), whole.center().x(), 1);
+    EXPECT_NEAR(seen.center().y(), whole.center().y(), 1);
+}
+
+TEST(TextBlock, WrapsAtWords) {
+    TextLook look = sized(10);
+    const int lineHeight = boxOf(look, "x").height();
+    look.wrapWidth = boxOf(look, "several words").width();
+    EXPECT_EQ(boxOf(look, "several words").height(), lineHeight);
+    EXPECT_EQ(boxOf(look, "several words several words several").height(), 3 * lineHeight);
+    EXPECT_LE(boxOf(look, "many words that go on and on").width(), look.wrapWidth);
+    EXPECT_EQ(boxOf(look, "averyveryverylongsingleword").height(), lineHeight);
+    EXPECT_EQ(boxOf(look, "several <*color=ff*>words<*/*> several words").height(), 2 * lineHeight);
+}
+
+TEST(TextBlock, BoundsOfTurnedBoxes) {
+    TextLook look = sized(10);
+    look.width = 100;
+    look.height = 20;
+    const double r = std::sqrt(0.5);
+    const struct {
+        double angle;
+        double width, height; ///< worked by hand
+    } cases[] = {
+        {0, 100, 20},
+        {90, 20, 100},
+        {180, 100, 20},
+        {-90, 20, 100},
+        {450, 20, 100},
+        {360, 100, 20},
+        {-360, 100, 20},
+        {45, 120 * r, 120 * r},
+        {-45, 120 * r, 120 * r},
+        {30, 100 * std::sqrt(0.75) + 10, 50 + 20 * std::sqrt(0.75)},
+        {std::nan(""), 100, 20},
+        {INFINITY, 100, 20},
+    };
+    for (const auto& c : cases) {
+        look.angle = c.angle;
+        const TextBlock block(look, "Text", kFonts);
+        EXPECT_EQ(block.boxSize(), QSize(100, 20));
+        EXPECT_EQ(block.size(), QSize(qCeil(c.width), qCeil(c.height))) << c.angle;
+    }
+    look.angle = 90;
+    const TextBlock block(look, "Text", kFonts);
+    EXPECT_EQ(block.boundsAt({50, 60}, TopLeft), QRectF(50, 60, 20, 100));
+    EXPECT_EQ(block.boundsAt({50, 60}, BottomCenter), QRectF(40, -40, 20, 100));
+    EXPECT_EQ(block.boundsAt({50, 60}, TopRight2), QRectF(30, 60, 20, 100));
+    EXPECT_EQ(block.boundsAt({50, 60}, 99), QRectF(40, 10, 20, 100));
+}
+
+TEST(TextBlock, DrawsInsideItsBounds) {
+    for (const double angle : {0.0, 17.0, 45.0, 90.0, 135.0, 180.0, 222.0, 270.0, 315.0}) {
+        for (const bool vertical : {false, true}) {
+            for (const int alignment : kAllAlignments) {
+                TextLook look = sized(9);
+                look.angle = angle;
+                look.vertical = vertical;
+                look.background = 0xe0e0ff;
+                const TextBlock block(look, "Turned", kFonts);
+                const QRectF bounds = block.boundsAt({150, 100}, alignment);
+                const QRect seen = ink(drawn(look, "Turned", alignment));
+                EXPECT_TRUE(bounds.contains(QRectF(seen))) << angle << ' ' << alignment;
+                EXPECT_NEAR(seen.width(), bounds.width(), 2) << angle;
+                EXPECT_NEAR(seen.height(), bounds.height(), 2) << angle;
+            }
+        }
+    }
+}
+
+TEST(TextBlock, QuarterTurnsAreAsSharpAsUprightText) {
+    TextLook look = sized(8);
+    const QImage upright = drawn(look, "Sharp 8pt text", TopLeft);
+    const QSize size = boxOf(look, "Sharp 8pt text");
+    for (const int quarters : {1, 2, 3}) {
+        look.angle = 90 * quarters;
+        const QImage turned = drawn(look, "Sharp 8pt text", TopLeft);
+        const QSize turnedSize = quarters % 2 ? size.transposed() : size;
+        // Turned back clockwise it is the upright picture to the pixel.
+        const QImage back =
+            turned.copy(QRect({150, 100}, turnedSize)).transformed(QTransform().rotate(90 * quarters));
+        EXPECT_EQ(back, upright.copy(QRect({150, 100}, size))) << quarters;
+    }
+}
+
+TEST(TextBlock, CounterClockwiseReading) {
+    TextLook look = sized(12);
+    // "i......" has its darkest letter first. Read upwards at 90 degrees, so it stands at the bottom.
+    look.angle = 90;
+    const QImage image = drawn(look, "MMM...");
+    const QRect bounds = ink(image);
+    const QImage lower = image.copy(0, bounds.center().y(), 300, 200);
+    EXPECT_GT(darkness(lower), 0.8 * darkness(image));
+}
+
+TEST(TextBlock, PivotKeepsItsPointOnTheAnchor) {
+    TextLook look = sized(9);
+    look.width = 60;
+    look.height = 20;
+    look.angle = 30;
+    const TextBlock block(look, "Label", kFonts);
+    const QPointF anchor(150.5, 100.25);
+    // Corners clockwise from the top left of the upright box.
+    const QPolygonF byRight = block.pivotOutlineAt(anchor, TopRight);
+    EXPECT_NEAR(QLineF(byRight[1], anchor).length(), 0, 1e-9);
+    EXPECT_NEAR(byRight[0].x(), anchor.x() - 60 * std::cos(M_PI / 6), 1e-9);
+    EXPECT_NEAR(byRight[0].y(), anchor.y() + 60 * std::sin(M_PI / 6), 1e-9);
+    const QPolygonF byLeft = block.pivotOutlineAt(anchor, Left);
+    EXPECT_NEAR(QLineF((byLeft[0] + byLeft[3]) / 2, anchor).length(), 0, 1e-9);
+    EXPECT_EQ(block.pivotBoundsAt(anchor, Left), byLeft.boundingRect());
+    const QRect seen = ink(drawn(look, "Label", TopRight, true));
+    EXPECT_TRUE(block.pivotBoundsAt({150, 100}, TopRight).toAlignedRect().contains(seen));
+    // Upright it is the same as without a pivot.
+    look.angle = 0;
+    EXPECT_EQ(drawn(look, "Label", BottomRight, true), drawn(look, "Label", BottomRight));
+    EXPECT_EQ(TextBlock(look, "Label", kFonts).pivotBoundsAt({10.4, 20.6}, TopLeft), QRectF(10, 21, 60, 20));
+}
+
+TEST(TextBlock, StackedLetters) {
+    TextLook look = sized(12);
+    const QSize letter = boxOf(look, "W");
+    look.vertical = true;
+    EXPECT_EQ(boxOf(look, "WWWW"), QSize(letter.width(), 4 * letter.height()));
+    // A letter and its accent share a place.
+    EXPECT_LT(boxOf(look, "We\u0301").height(), 3 * letter.height());
+    EXPECT_GT(boxOf(look, "WW\nWWW").width(), 2 * letter.width());
+    EXPECT_EQ(boxOf(look, "WW\nWWW").height(), 3 * letter.height());
+    // Narrow letters stand in the middle of the column.
+    const QImage image = drawn(look, "WI", TopLeft);
+    const QRect wide = ink(image.copy(0, 0, 300, 100 + letter.height()));
+    const QRect narrow = ink(image.copy(0, 100 + letter.height(), 300, letter.height()));
+    EXPECT_NEAR(wide.center().x(), narrow.center().x(), 1);
+    // Ideographs stay upright: a stacked one is drawn as a lone one is.
+    TextLook flat = sized(12);
+    const QImage stacked = drawn(look, "\u6f22\u6f22", TopLeft);
+    EXPECT_EQ(stacked.copy(150, 100, 30, 20), drawn(flat, "\u6f22", TopLeft).copy(150, 100, 30, 20));
+}
+
+TEST(TextBlock, HostileText) {
+    std::mt19937 random(7);
+    std::string noise(1'000'000, '\0'), markup, controls;
+    for (char& c : noise)
+        c = static_cast<char>(random());
+    while (markup.size() < 1'000'000)
+        markup += "<*size=" + std::to_string(random() % 2000) + "*>a<*color=ff*>\xd7\x90<*super*>";
+    for (int i = 0; i < 0x300; ++i)
+        controls += QString(QChar(i)).toStdString();
+    controls += "\u2028\u2029\u202e\u2067\ufffc\ufeff\U000e0041";
+    std::string arabic, words;
+    while (arabic.size() < 1'000'000)
+        arabic += "\u0644\u0627\u0300";
+    while (words.size() < 1'000'000)
+        words += "word ";
+    const auto start = std::chrono::steady_clock::now();
+    for (const std::string& text : {noise, markup, controls, arabic, words, std::string(1'000'000, '\n'),
+                                    std::string(1'000'000, 'x'), std::string("<*font=")}) {
+        for (const double angle : {0.0, 90.0, 33.0}) {
+            for (const bool vertical : {false, true}) {
+                TextLook look;
+                look.angle = angle;
+                look.vertical = vertical;
+                look.wrapWidth = vertical ? 0 : 50;
+                EXPECT_GT(boxOf(look, text).height(), 0);
+                drawn(look, text);
+            }
+        }
+        drawn({}, text);
+    }
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::seconds(60));
+    // Each byte that is no UTF-8 shows.
+    EXPECT_GT(boxOf({}, "a\xff\xff").width(), boxOf({}, "a").width());
+    // Anchors and sizes without sense.
+    TextLook absurd;
+    absurd.width = absurd.height = INT_MAX;
+    absurd.wrapWidth = INT_MAX;
+    absurd.background = 0xff0000;
+    absurd.corners = {INT_MAX, -5, INT_MIN, 7};
+    QImage image = whitePicture();
+    ColourTable colours;
+    Canvas canvas(image, colours);
+    for (const double angle : {0.0, 90.0, 10.0}) {
+        absurd.angle = angle;
+        const TextBlock block(absurd, "Text", kFonts);
+        for (const double v : {std::nan(""), double(INFINITY), -1e308, 1e308}) {
+            block.drawAt(canvas, {v, v}, Center);
+            block.drawPivotAt(canvas, {v, 0}, TopRight);
+        }
+    }
+}
+
+TEST(TextBlock, ThreadsDoNotDisturbEachOther) {
+    const std::pair<const char*, const char*> texts[] = {
+        {"", "Plain"},
+        {"bold", "<*size=14*>Bold<*sub*>2"},
+        {"LiberationMono-Bold.ttf", "Mono"},
+        {"NotoSansCJK-Regular.ttc|1", "\ud55c\uad6d"},
+        {"missing.ttf", "\u0634 \u05d0 \U0001f600"},
+    };
+    const auto picture = [](const auto& text, double angle) {
+        TextLook look;
+        look.font = text.first;
+        look.angle = angle;
+        return drawn(look, text.second);
+    };
+    std::atomic<int> differences = 0;
+    const auto work = [&] {
+        for (int round = 0; round < 40; ++round)
+            for (const auto& text : texts)
+                differences += picture(text, 30 * (round % 4)) != picture(text, 30 * (round % 4));
+    };
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 3; ++i)
+        threads.emplace_back(work);
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_EQ(differences, 0);
+    const QImage here = picture(texts[3], 45);
+    QImage there;
+    std::thread([&] { there = picture(texts[3], 45); }).join();
+    EXPECT_EQ(here, there);
+}
+
+} // namespace chartdraw

@@ -1,0 +1,225 @@
+// Bars by their pixels. Expected places are worked out by hand from layers.h: a row has 50 pixels, of which
+// its bars take 40 by default, from 20 left of its middle on.
+
+#include "tests/engine/xy/layers.h"
+
+#include <functional>
+
+namespace {
+
+using namespace layers;
+using pictures::at;
+using pictures::boundsOf;
+
+constexpr double kRest = 0; // fills up to six rows without a bar
+
+std::vector<double> six(double first) {
+    return {first, kGap, NAN, kRest, INFINITY, kGap};
+}
+
+TEST(BarLayer, StandsOnTheBaseLineAndEndsAtItsValue) {
+    const struct {
+        const char* what;
+        int combine;
+        double lower, upper;
+        std::vector<double> values; // of the first row, a data set each
+        std::vector<QRect> places;  // of red, green, blue
+    } rows[] = {
+        {"one", CHART_COMBINE_SIDE, 0, 100, {25}, {QRect(55, 180, 40, 50)}},
+        {"side by side",
+         CHART_COMBINE_SIDE,
+         0,
+         100,
+         {25, 50},
+         {QRect(55, 180, 20, 50), QRect(75, 130, 20, 100)}},
+        {"stack", CHART_COMBINE_STACK, 0, 100, {25, 12}, {QRect(55, 180, 40, 50), QRect(55, 156, 40, 24)}},
+        {"a gap in a stack",
+         CHART_COMBINE_STACK,
+         0,
+         100,
+         {25, kGap, 12},
+         {QRect(55, 180, 40, 50), QRect(), QRect(55, 156, 40, 24)}},
+        {"overlay",
+         CHART_COMBINE_OVERLAY,
+         0,
+         100,
+         {50, 25},
+         {QRect(55, 130, 40, 50), QRect(55, 180, 40, 50)}},
+        {"percentage",
+         CHART_COMBINE_PERCENTAGE,
+         0,
+         200,
+         {1, 3},
+         {QRect(55, 205, 40, 25), QRect(55, 130, 40, 75)}},
+        {"negative", CHART_COMBINE_SIDE, -50, 50, {-20}, {QRect(55, 131, 40, 40)}},
+        {"stacks down and up",
+         CHART_COMBINE_STACK,
+         -50,
+         50,
+         {20, -10, -15},
+         {QRect(55, 90, 40, 40), QRect(55, 131, 40, 20), QRect(55, 151, 40, 30)}},
+        {"parts of the sizes",
+         CHART_COMBINE_PERCENTAGE,
+         -100,
+         100,
+         {30, -10},
+         {QRect(55, 55, 40, 75), QRect(55, 131, 40, 25)}},
+        {"zero out of sight", CHART_COMBINE_SIDE, 20, 70, {45}, {QRect(55, 130, 40, 100)}},
+        {"past the axis", CHART_COMBINE_SIDE, 0, 100, {300}, {QRect(55, 31, 40, 199)}},
+        {"however low", CHART_COMBINE_SIDE, 0, 100, {0.01}, {QRect(55, 229, 40, 1)}},
+    };
+    for (const auto& row : rows) {
+        Chart chart(row.lower, row.upper);
+        std::vector<std::vector<double>> sets;
+        for (const double value : row.values)
+            sets.push_back(six(value));
+        bars(chart, row.combine, sets);
+        const QImage image = chart.picture();
+        const unsigned colours[] = {kRed, kGreen, kBlue};
+        for (std::size_t i = 0; i < row.places.size(); ++i)
+            EXPECT_EQ(boundsOf(image, colours[i]), row.places[i]) << row.what << ", set " << i;
+        EXPECT_EQ(pictures::inked(image.copy(96, 0, 250, 300), kWhite), 0) << row.what << ": other rows";
+    }
+}
+
+TEST(BarLayer, KeepsTheGapsAndOverlapsAskedFor) {
+    const struct {
+        const char* what;
+        std::function<void(BarLayer*)> set;
+        QRect red, green; // of two bars of 50
+    } rows[] = {
+        {"gaps", [](BarLayer* bar) { CBarLayer_setBarGap(bar, 0.4, 0.3); }, // 30 = 2 * 12.35 + 5.29
+         QRect(60, 130, 12, 100), QRect(78, 130, 12, 100)},
+        {"no gap", [](BarLayer* bar) { CBarLayer_setBarGap(bar, 0, 0); }, QRect(51, 130, 25, 100),
+         QRect(76, 130, 25, 100)},
+        {"all gap", [](BarLayer* bar) { CBarLayer_setBarGap(bar, 1, 0); }, QRect(75, 130, 1, 100), QRect()},
+        {"overlap", [](BarLayer* bar) { CBarLayer_setOverlapRatio(bar, 0.5, false); }, // 40 = 26.67 + 13.33
+         QRect(55, 130, 13, 100), QRect(68, 130, 27, 100)},
+        {"first on top", [](BarLayer* bar) { CBarLayer_setOverlapRatio(bar, 0.5, true); },
+         QRect(55, 130, 27, 100), QRect(82, 130, 13, 100)},
+        {"all over each other", [](BarLayer* bar) { CBarLayer_setOverlapRatio(bar, 1, true); },
+         QRect(55, 130, 40, 100), QRect()},
+    };
+    for (const auto& row : rows) {
+        Chart chart;
+        BarLayer* bar = CXYChart_addBarLayer2(chart.xy, CHART_COMBINE_SIDE, 0);
+        const std::vector<double> data = six(50);
+        CLayer_addDataSet(BarLayer2Layer(bar), data.data(), 6, kRed, nullptr);
+        CLayer_addDataSet(BarLayer2Layer(bar), data.data(), 6, kGreen, nullptr);
+        row.set(bar);
+        const QImage image = chart.picture();
+        EXPECT_EQ(boundsOf(image, kRed), row.red) << row.what;
+        if (!row.green.isNull())
+            EXPECT_EQ(boundsOf(image, kGreen), row.green) << row.what;
+    }
+}
+
+TEST(BarLayer, TurnsWithTheAxes) {
+    // Four rows of 50 pixels from row 230 upwards, values from column 50 on by 3 pixels.
+    Chart chart;
+    CXYChart_swapXY(chart.xy, true);
+    bars(chart, CHART_COMBINE_SIDE, {{25, kGap, kGap, kGap}, {10, kGap, kGap, kGap}});
+    const QImage image = chart.picture();
+    EXPECT_EQ(boundsOf(image, kRed), QRect(51, 205, 75, 20)); // the first one is nearer to the origin
+    EXPECT_EQ(boundsOf(image, kGreen), QRect(51, 185, 30, 20));
+}
+
+TEST(BarLayer, TakesXValuesInAnyOrder) {
+    // The nearest two are 1 apart: on 0 to 10 by 30 pixels a unit, bars take 24 pixels.
+    Chart chart;
+    CAxis_setLinearScale(CXYChart_xAxis(chart.xy), 0, 10, 0, 0);
+    Layer* layer = bars(chart, CHART_COMBINE_SIDE, {{50, 25, 100, 75}});
+    const double x[] = {8, 2, NAN, 7};
+    CLayer_setXData(layer, x, 4);
+    const QImage image = chart.picture();
+    EXPECT_EQ(boundsOf(image.copy(0, 0, 200, 300), kRed), QRect(98, 180, 24, 50)); // 2: column 110
+    EXPECT_EQ(boundsOf(image.copy(248, 0, 24, 300), kRed), QRect(0, 80, 24, 150));
+    EXPECT_EQ(boundsOf(image.copy(278, 0, 60, 300), kRed), QRect(0, 130, 24, 100));
+}
+
+TEST(BarLayer, ShapesKeepWithinTheBarAndPointToTheTip) {
+    struct Expected {
+        int shape;
+        bool topLeft, topMiddle, bottomLeft, bottomMiddle, leftMiddle, rightMiddle; // inside the shape
+    };
+    const Expected rows[] = {
+        {CHART_NO_SHAPE, true, true, true, true, true, true},
+        {CHART_DIAMOND_SHAPE, false, true, false, true, true, true},
+        {CHART_TRIANGLE_SHAPE, false, true, true, true, false, false},
+        {CHART_INVERTED_TRIANGLE_SHAPE, true, true, false, true, false, false},
+        {CHART_RIGHT_TRIANGLE_SHAPE, true, false, true, false, true, true},
+        {CHART_LEFT_TRIANGLE_SHAPE, false, false, false, false, true, true},
+        {CHART_CIRCLE_SHAPE, false, true, false, true, true, true},
+        {CHART_CIRCLE_SHAPE_NO_SHADING, false, true, false, true, true, true},
+        {8, true, true, true, true, true, true}, // no code of a shape
+    };
+    for (const Expected& row : rows) {
+        for (const bool negative : {false, true}) {
+            Chart chart(-100, 100);
+            BarLayer* bar =
+                CXYChart_addBarLayer(chart.xy, six(negative ? -80 : 80).data(), 6, kRed, nullptr, 0);
+            CBarLayer_setBarShape(bar, row.shape, -1, -1);
+            const QImage image = chart.picture();
+            // Rows 50 to 129 up, 131 to 210 down; columns 55 to 94.
+            const bool mirrored =
+                negative && (row.shape == CHART_TRIANGLE_SHAPE || row.shape == CHART_INVERTED_TRIANGLE_SHAPE);
+            const int top = negative ? 132 : 51, bottom = negative ? 209 : 128, middle = (top + bottom) / 2;
+            const int head = mirrored ? bottom : top, foot = mirrored ? top : bottom;
+            const auto inside = [&](int x, int y) { return at(image, x, y) != kWhite; };
+            EXPECT_EQ(inside(56, head), row.topLeft) << row.shape << negative;
+            EXPECT_EQ(inside(56, foot), row.bottomLeft) << row.shape << negative;
+            EXPECT_EQ(inside(74, head), row.topMiddle) << row.shape << negative;
+            EXPECT_EQ(inside(74, foot), row.bottomMiddle) << row.shape << negative;
+            EXPECT_EQ(inside(57, middle), row.leftMiddle) << row.shape << negative;
+            EXPECT_EQ(inside(92, middle), row.rightMiddle || row.shape == CHART_LEFT_TRIANGLE_SHAPE)
+                << row.shape << negative;
+            EXPECT_EQ(pictures::inked(image.copy(0, 0, 55, 300), kWhite), 0) << row.shape;
+            EXPECT_EQ(pictures::inked(image.copy(95, 0, 40, 300), kWhite), 0) << row.shape;
+        }
+    }
+}
+
+TEST(BarLayer, ShadesOnlyTheCylinderThatHasShading) {
+    for (const int shape : {CHART_CIRCLE_SHAPE, CHART_CIRCLE_SHAPE_NO_SHADING}) {
+        Chart chart;
+        BarLayer* bar = CXYChart_addBarLayer(chart.xy, six(90).data(), 6, 0x4080c0, nullptr, 0);
+        CBarLayer_setBarShape(bar, shape, 0, 0);
+        const QImage image = chart.picture();
+        const bool shaded = shape == CHART_CIRCLE_SHAPE;
+        EXPECT_EQ(at(image, 92, 150) < at(image, 70, 150), shaded);
+        EXPECT_EQ(at(image, 92, 150) == 0x4080c0u, !shaded);
+    }
+}
+
+TEST(BarLayer, EdgesLieWithinTheBarAndStacksShareThem) {
+    Chart chart;
+    Layer* layer = bars(chart, CHART_COMBINE_STACK, {six(25), six(25)});
+    CLayer_setBorderColor(layer, 0x123456, 0);
+    const QImage image = chart.picture();
+    for (const int y : {130, 180, 229}) // the upper end, the line between, the foot
+        EXPECT_EQ(at(image, 75, y), 0x123456u) << y;
+    EXPECT_EQ(at(image, 75, 131), static_cast<unsigned>(kGreen));
+    EXPECT_EQ(at(image, 75, 179), static_cast<unsigned>(kGreen));
+    EXPECT_EQ(at(image, 75, 181), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(image, 55, 150), 0x123456u);
+    EXPECT_EQ(at(image, 94, 150), 0x123456u);
+    EXPECT_EQ(at(image, 95, 150), kWhite);
+}
+
+TEST(BarLayer, BodiesReachBackByTheirDepthAndAreDarkerAtTheSides) {
+    Chart chart;
+    bars(chart, CHART_COMBINE_SIDE, {six(50)}, 10);
+    const QImage image = chart.picture();
+    const QRect front = boundsOf(image, kRed);
+    EXPECT_EQ(front.top(), 130);
+    const auto red = [&](QPoint p) { return qRed(image.pixel(p)); };
+    const QPoint top(front.center().x() + 5, front.top() - 5),
+        side(front.right() + 5, front.center().y() - 5);
+    EXPECT_LT(red(top), 255);
+    EXPECT_LT(red(side), red(top)); // light falls from above
+    EXPECT_EQ(qGreen(image.pixel(side)), 0);
+    EXPECT_EQ(at(image, front.right() + 12, front.center().y()), kWhite);
+    EXPECT_EQ(at(image, front.center().x(), front.top() - 12), kWhite);
+}
+
+} // namespace

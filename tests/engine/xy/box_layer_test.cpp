@@ -1,0 +1,162 @@
+// Boxes, candles, price bars and areas by their pixels, worked out by hand from layers.h: a row has 50
+// pixels, of which a box takes 25 by default, about its middle.
+
+#include "tests/engine/xy/layers.h"
+
+namespace {
+
+using namespace layers;
+using pictures::at;
+using pictures::boundsOf;
+
+constexpr int kBlack = 0x000000;
+
+struct Prices {
+    std::vector<double> high, low, open, close;
+};
+
+CandleStickLayer* candles(Chart& chart, const Prices& p) {
+    return CXYChart_addCandleStickLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low),
+                                        p.open.data(), size(p.open), p.close.data(), size(p.close), kGreen,
+                                        kRed, kBlack);
+}
+
+TEST(CandleStickLayer, BodyWickAndColoursTellThePrices) {
+    Chart chart;
+    candles(chart, {{50, 60, 50, kGap, 50, 40},
+                    {10, 20, 10, 10, 10, 40},
+                    {20, 45, kGap, 20, 30, 40},
+                    {40, 30, 40, 30, 30, 40}});
+    const QImage image = chart.picture();
+    EXPECT_EQ(boundsOf(image, kGreen), QRect(64, 151, 23, 39)); // the first row's body within its edge
+    EXPECT_EQ(at(image, 63, 170), 0u);
+    EXPECT_EQ(at(image, 87, 170), 0u);
+    EXPECT_EQ(at(image, 88, 170), kWhite);
+    EXPECT_EQ(boundsOf(image.copy(75, 0, 1, 150), 0), QRect(0, 130, 1, 20));    // wick from high to body
+    EXPECT_EQ(boundsOf(image.copy(75, 190, 1, 110), 0), QRect(0, 0, 1, 21));    // and from body to low
+    EXPECT_EQ(boundsOf(image, kRed), QRect(114, 141, 23, 29));                  // 45 down to 30
+    EXPECT_EQ(boundsOf(image.copy(160, 0, 31, 300), 0), QRect(15, 130, 1, 81)); // no open: wick alone
+    EXPECT_EQ(pictures::inked(image.copy(205, 0, 45, 300), kWhite), 0);         // no high: a gap
+    EXPECT_EQ(boundsOf(image.copy(250, 170, 50, 1), 0), QRect(13, 0, 25, 1));   // unchanged: a line
+    EXPECT_EQ(pictures::inked(image.copy(300, 0, 50, 300), kWhite), 25);        // all equal: nothing else
+}
+
+TEST(CandleStickLayer, WidthComesFromTheGapOrInPixels) {
+    const struct {
+        double gap;
+        int width, first, last;
+    } rows[] = {{0.5, 0, 63, 87}, {0, 0, 51, 99}, {1, 0, 75, 75}, {0.5, 5, 73, 77}, {0, 1, 75, 75}};
+    for (const auto& row : rows) {
+        Chart chart;
+        BaseBoxLayer* box = CandleStickLayer2BaseBoxLayer(
+            candles(chart, {{50, kGap, kGap, kGap, kGap, kGap}, {10}, {20}, {40}}));
+        CBaseBoxLayer_setDataGap(box, row.gap);
+        CBaseBoxLayer_setDataWidth(box, row.width);
+        const QRect body = [&] {
+            QRect bounds;
+            const QImage image = chart.picture();
+            for (int x = 0; x < 400; ++x)
+                bounds |= at(image, x, 170) != kWhite ? QRect(x, 0, 1, 1) : QRect();
+            return bounds;
+        }();
+        EXPECT_EQ(body.left(), row.first) << row.gap << ", " << row.width;
+        EXPECT_EQ(body.right(), row.last) << row.gap << ", " << row.width;
+    }
+}
+
+TEST(HLOCLayer, TicksStandAtOpenAndCloseAndColoursComeFromTheCloseBefore) {
+    const struct {
+        double lead;
+        unsigned first;
+    } rows[] = {{-1.7E+308, kGreen}, {25, kRed}, {20, kGreen}, {NAN, kGreen}};
+    for (const auto& row : rows) {
+        Chart chart;
+        const std::vector<double> high(6, 60), low(6, 10), open(6, 50);
+        const std::vector<double> close = {20, 30, 25, 25, kGap, 24};
+        HLOCLayer* layer = CXYChart_addHLOCLayer(chart.xy, high.data(), 6, low.data(), 6, open.data(), 6,
+                                                 close.data(), 6, kBlue);
+        CHLOCLayer_setColorMethod(layer, CHART_UP_DOWN, kGreen, kRed, row.lead);
+        const QImage image = chart.picture();
+        const unsigned colours[] = {row.first, kGreen, kRed, kGreen, kGreen, kRed};
+        for (int i = 0; i < 6; ++i)
+            EXPECT_EQ(at(image, 75 + 50 * i, 120), colours[i]) << row.lead << ", row " << i;
+        EXPECT_EQ(boundsOf(image.copy(75, 0, 1, 300), row.first), QRect(0, 110, 1, 101));
+        EXPECT_EQ(boundsOf(image.copy(50, 130, 50, 1), row.first), QRect(13, 0, 13, 1)); // open, to the left
+        EXPECT_EQ(boundsOf(image.copy(50, 190, 50, 1), row.first),
+                  QRect(25, 0, 13, 1)); // close, to the right
+    }
+}
+
+TEST(HLOCLayer, TrimmedRowsStillTellTheCloseBefore) {
+    Chart chart;
+    const std::vector<double> high = {60, 60}, low = {10, 10}, close = {40, 30};
+    HLOCLayer* layer =
+        CXYChart_addHLOCLayer(chart.xy, high.data(), 2, low.data(), 2, nullptr, 0, close.data(), 2, kBlue);
+    CHLOCLayer_setColorMethod(layer, CHART_UP_DOWN, kGreen, kRed, -1.7E+308);
+    CXYChart_setTrimData(chart.xy, 1, 100);
+    EXPECT_EQ(at(chart.picture(), 200, 120), static_cast<unsigned>(kRed));
+}
+
+TEST(BoxWhiskerLayer, DrawsWhatIsThere) {
+    Chart chart;
+    const std::vector<double> top = {40, 20, kGap}, bottom = {20, 40, kGap, 30, kGap, kGap},
+                              most = {60, kGap, 60}, least = {10, 5, 20}, middle = {30};
+    CXYChart_addBoxWhiskerLayer(chart.xy, top.data(), 3, bottom.data(), 6, most.data(), 3, least.data(), 3,
+                                middle.data(), 1, kGreen, kBlue, kBlack);
+    const QImage image = chart.picture();
+    for (const int x : {64, 114}) // top and bottom may change places
+        EXPECT_EQ(boundsOf(image.copy(x - 1, 0, 25, 300), kGreen), QRect(1, 151, 23, 39)) << x;
+    EXPECT_EQ(boundsOf(image.copy(50, 0, 50, 150), kBlue), QRect(19, 110, 13, 40)); // with its end of 13
+    EXPECT_EQ(boundsOf(image.copy(75, 191, 1, 109), kBlue), QRect(0, 0, 1, 20));
+    EXPECT_EQ(boundsOf(image.copy(63, 170, 25, 1), kBlue), QRect(0, 0, 25, 1));
+    EXPECT_EQ(boundsOf(image.copy(175, 0, 1, 300), kBlue), QRect(0, 110, 1, 81)); // no box: from end to end
+    EXPECT_EQ(pictures::inked(image.copy(200, 0, 200, 300), kWhite), 0);
+}
+
+TEST(BoxWhiskerLayer, BoxesHaveTheirOwnColoursInTurnAndNamesInTheLegend) {
+    Chart chart;
+    const std::vector<double> top(6, 60), bottom(6, 20);
+    BoxWhiskerLayer* layer =
+        CXYChart_addBoxLayer(chart.xy, top.data(), 6, bottom.data(), 6, 0x80c0ff, "Not shown");
+    const int colours[] = {kRed, kGreen, -1};
+    const char* const names[] = {"", "Second", nullptr};
+    CBoxWhiskerLayer_setBoxColors(layer, colours, 3, names, 3);
+    CBaseChart_addLegend(chart.base, 0, 250, false, nullptr, 8);
+    const QImage image = chart.picture();
+    const unsigned expected[] = {kRed, kGreen, 0x80c0ff, kRed, kGreen, 0x80c0ff};
+    for (int i = 0; i < 6; ++i)
+        EXPECT_EQ(at(image, 75 + 50 * i, 150), expected[i]) << i;
+    const QImage legend = image.copy(0, 240, 400, 60);
+    EXPECT_FALSE(boundsOf(legend, kGreen).isEmpty());
+    EXPECT_TRUE(boundsOf(legend, kRed).isEmpty());
+    EXPECT_TRUE(boundsOf(legend, 0x80c0ff).isEmpty());
+}
+
+TEST(AreaLayer, StacksFromTheBaseLineAndBreaksAtGaps) {
+    Chart chart;
+    Layer* layer = AreaLayer2Layer(CXYChart_addAreaLayer2(chart.xy, CHART_COMBINE_STACK, 0));
+    const std::vector<double> a = {20, 20, kGap, 20}, b = {30, 30, 30, 30};
+    CLayer_addDataSet(layer, a.data(), 4, kRed, nullptr);
+    CLayer_addDataSet(layer, b.data(), 4, kGreen, nullptr);
+    const QImage image = chart.picture();
+    EXPECT_EQ(boundsOf(image.copy(60, 0, 1, 300), kRed), QRect(0, 191, 1, 39)); // from the middle of row 190
+    EXPECT_EQ(boundsOf(image.copy(60, 0, 1, 300), kGreen), QRect(0, 131, 1, 60));
+    EXPECT_EQ(boundsOf(image.copy(250, 0, 1, 300), kRed), QRect()); // the gap
+    EXPECT_EQ(boundsOf(image.copy(250, 0, 1, 300), kGreen).bottom(), 229);
+    EXPECT_EQ(boundsOf(image, kRed).right(), 150); // up to the row before the gap
+}
+
+TEST(AreaLayer, PartsOfAHundredFillTheWhole) {
+    Chart chart(0, 200);
+    Layer* layer = AreaLayer2Layer(CXYChart_addAreaLayer2(chart.xy, CHART_COMBINE_PERCENTAGE, 0));
+    const double a[] = {1, 10}, b[] = {3, 30};
+    CLayer_addDataSet(layer, a, 2, kRed, nullptr);
+    CLayer_addDataSet(layer, b, 2, kGreen, nullptr);
+    const QImage image = chart.picture();
+    for (const int x : {60, 200, 340}) { // 25 of 100 at one pixel each
+        EXPECT_EQ(boundsOf(image.copy(x, 0, 1, 300), kRed), QRect(0, 206, 1, 24)) << x;
+        EXPECT_EQ(boundsOf(image.copy(x, 0, 1, 300), kGreen), QRect(0, 131, 1, 75)) << x;
+    }
+}
+
+} // namespace

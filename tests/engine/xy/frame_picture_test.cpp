@@ -1,0 +1,194 @@
+// The frame by its pixels, through the flat surface.
+
+#include "tests/engine/chart/picture.h"
+#include "tests/engine/xy/probe.h"
+
+#include <initializer_list>
+
+namespace {
+
+using pictures::at;
+
+constexpr int kNone = CHART_TRANSPARENT;
+constexpr unsigned kWhite = 0xffffff, kGrid = 0xcccccc, kEdge = 0x111111, kPaper = 0xeeeeff;
+
+/// 400 x 300, frame lines on columns 50 and 350, rows 30 and 230; 0 to 6 in steps of 2, 0 to 100 by 25; no
+/// labels, so that every pixel is known.
+struct Frame {
+    XYChart* xy = CXYChart_create(400, 300, static_cast<int>(kWhite), kNone, 0);
+    BaseChart* base = XYChart2BaseChart(xy);
+    PlotArea* area = CXYChart_setPlotArea(xy, 50, 30, 300, 200, static_cast<int>(kPaper), -1,
+                                          static_cast<int>(kEdge), static_cast<int>(kGrid), kNone);
+    Axis* x = CXYChart_xAxis(xy);
+    Axis* y = CXYChart_yAxis(xy);
+
+    Frame() {
+        CAxis_setLinearScale(x, 0, 6, 2, 1);
+        CAxis_setLinearScale(y, 0, 100, 25, 5);
+        for (Axis* axis : {x, y})
+            CAxis_setColors(axis, 0, kNone, -1, -1);
+    }
+    QImage picture() const { return pictures::of(base); }
+};
+
+TEST(FramePicture, NothingIsDrawnBeforeThereIsAPlotArea) {
+    XYChart* xy = CXYChart_create(100, 80, static_cast<int>(kWhite), kNone, 0);
+    const double data[] = {1, 2, 3};
+    CAxis_setTitle(CXYChart_xAxis2(xy), "Title", nullptr, 10, 0);
+    CAxis_setLabels2(CXYChart_xAxis(xy), data, 3, nullptr);
+    EXPECT_EQ(pictures::inked(pictures::of(XYChart2BaseChart(xy)), kWhite), 0);
+}
+
+TEST(FramePicture, LinesAndGridLieOnWholePixels) {
+    const QImage image = Frame().picture();
+    for (const int y : {30, 80, 130, 180, 230}) {
+        EXPECT_EQ(at(image, 50, y), 0u); // axis line
+        EXPECT_EQ(at(image, 46, y), 0u); // tick of 4 pixels
+        EXPECT_EQ(at(image, 45, y), kWhite);
+        EXPECT_EQ(at(image, 46, y + 1), kWhite);
+    }
+    EXPECT_EQ(at(image, 48, 220), 0u); // minor tick of 2 pixels at 5
+    EXPECT_EQ(at(image, 47, 220), kWhite);
+    for (const int y : {80, 130, 180}) {
+        EXPECT_EQ(at(image, 200, y), kGrid);
+        EXPECT_EQ(at(image, 200, y - 1), kPaper);
+        EXPECT_EQ(at(image, 200, y + 1), kPaper);
+    }
+    EXPECT_EQ(at(image, 150, 100), kPaper); // no vertical grid
+    EXPECT_EQ(at(image, 350, 100), kEdge);  // the frame's far lines
+    EXPECT_EQ(at(image, 200, 30), kEdge);
+    EXPECT_EQ(at(image, 351, 100), kWhite);
+    EXPECT_EQ(at(image, 200, 29), kWhite);
+    EXPECT_EQ(at(image, 150, 234), 0u); // tick of the x axis
+    EXPECT_EQ(at(image, 150, 235), kWhite);
+}
+
+TEST(FramePicture, GridsHaveColoursAndWidthsOfTheirOwn) {
+    Frame frame;
+    CPlotArea_setGridColor(frame.area, 0xaa0000, 0x00aa00, 0x0000aa, 0xaa00aa);
+    CPlotArea_setGridWidth(frame.area, 3, 1, 0, 1);
+    QImage image = frame.picture();
+    for (const int y : {179, 180, 181})
+        EXPECT_EQ(at(image, 120, y), 0xaa0000u);
+    EXPECT_EQ(at(image, 120, 182), kPaper);
+    EXPECT_EQ(at(image, 150, 100), 0x00aa00u);
+    EXPECT_EQ(at(image, 120, 220), kPaper); // the minor horizontal one has no width
+    EXPECT_EQ(at(image, 100, 100), 0xaa00aau);
+
+    Frame swapped; // horizontal lines stay horizontal, now at the values of x
+    CPlotArea_setGridColor(swapped.area, 0xaa0000, -1, -1, -1);
+    CXYChart_swapXY(swapped.xy, true);
+    image = swapped.picture();
+    EXPECT_EQ(at(image, 120, 163), 0xaa0000u); // x 2 of 6: 230 - 66.7
+    EXPECT_EQ(at(image, 120, 180), kPaper);
+}
+
+TEST(FramePicture, BackgroundsOfThePlotArea) {
+    struct Row {
+        const char* name;
+        void (*apply)(Frame&);
+        unsigned rightUp, leftUp, leftDown, rightDown; // at the middles of the quadrants about (200, 130)
+        unsigned edge;
+    };
+    const Row rows[] = {
+        {"plain", [](Frame& f) { CPlotArea_setBackground(f.area, 0x101010, -1, 0x202020); }, 0x101010,
+         0x101010, 0x101010, 0x101010, 0x202020},
+        {"none", [](Frame& f) { CPlotArea_setBackground(f.area, kNone, -1, kNone); }, kWhite, kWhite, kWhite,
+         kWhite, kWhite},
+        {"bands", // of 25: 230 to 180, 180 to 130, ... from below, first the background
+         [](Frame& f) {
+             CPlotArea_setBackground(f.area, 0x101010, 0x303030, 0x202020);
+             CAxis_setLinearScale(f.y, 0, 100, 50, 0);
+         },
+         0x303030, 0x303030, 0x101010, 0x101010, 0x202020},
+        {"quadrants",
+         [](Frame& f) {
+             CPlotArea_set4QBgColor(f.area, 0x100000, 0x200000, 0x300000, 0x400000, -1);
+             CAxis_setLinearScale(f.x, -6, 6, 1, 0);
+             CAxis_setLinearScale(f.y, -100, 100, 10, 0);
+         },
+         0x100000, 0x200000, 0x300000, 0x400000, kEdge},
+    };
+    for (const Row& row : rows) {
+        Frame frame;
+        row.apply(frame);
+        const QImage image = frame.picture();
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(at(image, 273, 77), row.rightUp);
+        EXPECT_EQ(at(image, 123, 77), row.leftUp);
+        EXPECT_EQ(at(image, 123, 187), row.leftDown);
+        EXPECT_EQ(at(image, 273, 187), row.rightDown);
+        EXPECT_EQ(at(image, 350, 100), row.edge);
+    }
+}
+
+TEST(FramePicture, ZonesLieUnderTheGridAndTurnWithTheAxes) {
+    Frame frame;
+    CAxis_addZone(frame.y, 75, 25, 0x99ff99); // in either order
+    CAxis_addZone(frame.x, 4, 1e308, 0xff9999);
+    CAxis_addZone(frame.x, 0, std::nan(""), 0xff0000);
+    QImage image = frame.picture();
+    EXPECT_EQ(at(image, 100, 81), 0x99ff99u);
+    EXPECT_EQ(at(image, 100, 179), 0x99ff99u);
+    EXPECT_EQ(at(image, 100, 181), kPaper);
+    EXPECT_EQ(at(image, 100, 79), kPaper);
+    EXPECT_EQ(at(image, 100, 130), kGrid);
+    EXPECT_EQ(at(image, 349, 100), 0x99ff99u); // axes in their order: x, then y
+    EXPECT_EQ(at(image, 349, 200), 0xff9999u);
+    EXPECT_EQ(at(image, 249, 200), kPaper);
+    EXPECT_EQ(at(image, 250, 200), 0xff9999u);
+
+    Frame turned;
+    CXYChart_swapXY(turned.xy, true);
+    CAxis_addZone(turned.y, 25, 75, 0x99ff99);
+    image = turned.picture();
+    EXPECT_EQ(at(image, 200, 100), 0x99ff99u);
+    EXPECT_EQ(at(image, 100, 100), kPaper);
+}
+
+TEST(FramePicture, MarksCrossThePlotAreaWithTheirLabelBesideTheAxis) {
+    Frame frame;
+    Mark* mark = CAxis_addMark(frame.y, 60, 0xff0000, "Goal", nullptr, 9);
+    CAxis_addMark(frame.y, 101, 0x00ff00, "Out", nullptr, 9);
+    EXPECT_NE(CMark_getLine(mark), nullptr);
+    EXPECT_EQ(CMark_getLine(nullptr), nullptr);
+    const QImage image = frame.picture();
+    EXPECT_EQ(at(image, 50, 110), 0xff0000u); // 230 - 120
+    EXPECT_EQ(at(image, 350, 110), 0xff0000u);
+    EXPECT_EQ(at(image, 200, 111), kPaper);
+    EXPECT_EQ(pictures::boundsOf(image, 0x00ff00), QRect());
+    int ink = 0;
+    for (int y = 100; y < 122; ++y)
+        for (int x = 0; x < 44; ++x)
+            ink += at(image, x, y) != kWhite ? 1 : 0;
+    EXPECT_GT(ink, 30); // letters of the label
+}
+
+TEST(FramePicture, LayersAreDrawnOverTheAxesInTheirOrder) {
+    Frame frame;
+    auto* chart = chartdraw::object<chartdraw::XYChart>(frame.xy);
+    for (const unsigned colour : {0xff0000u, 0x00ff00u}) {
+        auto* layer =
+            chart->addLayer<chartdraw::Probe>(chartdraw::Probe::Form::Polyline, std::vector<double>{0, 0, 0});
+        layer->dataSet(0)->setColours(colour, colour, colour, colour);
+    }
+    const QImage image = frame.picture();
+    EXPECT_EQ(at(image, 100, 230), 0x00ff00u); // on the axis line, the last one on top
+    EXPECT_EQ(at(image, 100, 229), kPaper);    // 2 pixels wide: this row and the one below
+    EXPECT_EQ(at(image, 300, 230), 0u);        // rows 0 to 2 of an axis to 6
+}
+
+TEST(FramePicture, WallsStandBehindAFrontThatKeepsItsPlace) {
+    Frame frame;
+    auto* chart = chartdraw::object<chartdraw::XYChart>(frame.xy);
+    chart->addLayer<chartdraw::Probe>(chartdraw::Probe::Form::Polyline, std::vector<double>{})->set3D(20, 0);
+    const QImage image = frame.picture();
+    EXPECT_EQ(at(image, 370, 100), kEdge); // the back wall's right line, 20 to the right
+    EXPECT_EQ(at(image, 220, 160), kGrid); // the grid of 25 on the back wall, 20 up
+    EXPECT_EQ(at(image, 220, 10), kEdge);
+    EXPECT_EQ(at(image, 50, 100), 0u);     // the axis in front
+    EXPECT_NE(at(image, 58, 200), kPaper); // the side wall is a shade darker
+    EXPECT_NE(at(image, 58, 200), kWhite);
+}
+
+} // namespace

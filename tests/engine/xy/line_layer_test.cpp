@@ -1,0 +1,234 @@
+// Lines and symbols by their pixels, and the points that are kept of long lines. Places are worked out by
+// hand from layers.h; rows without bars run from column 50 to column 350.
+
+#include "engine/chart/chart.h"
+#include "engine/xy/curves.h"
+#include "engine/xy/line_layer.h"
+#include "engine/xy/xy_chart.h"
+#include "tests/engine/xy/layers.h"
+
+#include <algorithm>
+#include <random>
+
+namespace {
+
+using namespace layers;
+using pictures::at;
+using pictures::boundsOf;
+
+TEST(LineLayer, RunsOnWholePixelsThroughItsValuesAndBreaksAtGaps) {
+    const struct {
+        const char* what;
+        std::vector<double> data;
+        int width;
+        std::vector<QRect> pieces; // all that is drawn, no piece touching another
+    } rows[] = {
+        {"level", {50, 50}, 1, {QRect(50, 130, 301, 1)}},
+        {"level between pixels", {50.2, 50.2}, 1, {QRect(50, 130, 301, 1)}},
+        {"gaps of every sort",
+         {50, kGap, 50, 50, NAN, INFINITY, 25},
+         1,
+         {QRect(50, 130, 1, 1), QRect(150, 130, 51, 1), QRect(350, 180, 1, 1)}},
+        {"one row", {25}, 1, {QRect(200, 180, 1, 1)}},
+        {"nothing", {}, 1, {}},
+        {"nothing but gaps", {kGap, NAN}, 1, {}},
+        {"no width", {50, 50}, 0, {}},
+    };
+    for (const auto& row : rows) {
+        Chart chart;
+        line(chart, row.data, kRed, row.width);
+        const QImage image = chart.picture();
+        int pixels = 0;
+        for (const QRect& piece : row.pieces) {
+            EXPECT_EQ(boundsOf(image.copy(piece), kRed), QRect(QPoint(), piece.size())) << row.what;
+            pixels += piece.width() * piece.height();
+        }
+        EXPECT_EQ(pictures::inked(image, kWhite), pixels) << row.what;
+    }
+}
+
+TEST(LineLayer, IsNotCutInHalfAtTheFrameButEndsThere) {
+    Chart chart;
+    LineLayer* layer = line(chart, {100, 100, 300, 300}, kRed, 5);
+    CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(layer), 0), CHART_SQUARE_SYMBOL, 9, kBlue, kBlue,
+                           1);
+    const QImage image = chart.picture();
+    EXPECT_EQ(boundsOf(image, kBlue).top(), 26); // both symbols whole, none at 300
+    EXPECT_EQ(boundsOf(image, kBlue), QRect(46, 26, 109, 9));
+    EXPECT_EQ(boundsOf(image.copy(80, 0, 50, 300), kRed), QRect(0, 28, 50, 5));
+    EXPECT_EQ(pictures::inked(image.copy(0, 0, 400, 26), kWhite), 0);
+}
+
+TEST(LineLayer, StepsKeepTheValueUntilTheNextRow) {
+    Chart chart;
+    const double data[] = {10, 40, 40};
+    CXYChart_addStepLineLayer(chart.xy, data, 3, kRed, nullptr);
+    const QImage image = chart.picture();
+    EXPECT_EQ(boundsOf(image.copy(50, 0, 150, 300), kRed), QRect(0, 210, 150, 1));
+    EXPECT_EQ(boundsOf(image.copy(200, 0, 1, 300), kRed), QRect(0, 150, 1, 61));
+    EXPECT_EQ(boundsOf(image.copy(201, 0, 200, 300), kRed), QRect(0, 150, 150, 1));
+}
+
+TEST(LineLayer, CurvesGoThroughTheirPointsAndShowNoOtherPeak) {
+    const struct {
+        const char* what;
+        std::vector<QPointF> points;
+    } rows[] = {
+        {"equal neighbours", {{0, 10}, {10, 10}, {20, 90}, {30, 90}, {40, 5}}},
+        {"uneven", {{0, 0}, {1, 50}, {40, 55}, {41, 0}, {80, 1}}},
+        {"backwards", {{80, 0}, {60, 40}, {59, 41}, {10, 40}}},
+        {"two", {{0, 0}, {50, 50}}},
+        {"one", {{3, 4}}},
+    };
+    for (const auto& row : rows) {
+        const std::vector<QPointF> curve = chartdraw::smoothCurve(row.points);
+        auto next = curve.begin();
+        for (std::size_t i = 0; i < row.points.size(); ++i) {
+            const auto found = std::find(next, curve.end(), row.points[i]);
+            ASSERT_NE(found, curve.end()) << row.what << ", point " << i;
+            for (auto p = next; i > 0 && p != found; ++p) {
+                const auto [low, high] = std::minmax({row.points[i - 1].y(), row.points[i].y()});
+                EXPECT_GE(p->y(), low - 1e-9) << row.what;
+                EXPECT_LE(p->y(), high + 1e-9) << row.what;
+            }
+            next = found;
+        }
+    }
+}
+
+TEST(LineLayer, AllNineSymbolsShowFillAndEdgeInTheirSize) {
+    for (int symbol = 0; symbol <= 10; ++symbol) {
+        Chart chart;
+        LineLayer* layer = line(chart, {50}, kNone);
+        CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(layer), 0), symbol, 21, kGreen, kBlue, 1);
+        const QImage image = chart.picture();
+        if (symbol == 0 || symbol == 10) {
+            EXPECT_EQ(pictures::inked(image, kWhite), 0) << symbol;
+            continue;
+        }
+        EXPECT_EQ(at(image, 200, 130), static_cast<unsigned>(kGreen)) << symbol;
+        const int outside =
+            pictures::inked(image, kWhite) - pictures::inked(image.copy(QRect(190, 120, 21, 21)), kWhite);
+        EXPECT_EQ(outside, 0) << symbol;
+        int edge = 0;
+        for (int y = 119; y < 142; ++y)
+            for (int x = 189; x < 212; ++x)
+                edge += qBlue(image.pixel(x, y)) > 150 && qGreen(image.pixel(x, y)) < 150 ? 1 : 0;
+        EXPECT_GT(edge, 20) << symbol;
+    }
+}
+
+TEST(LineLayer, BubblesHaveTheirSizesInPixels) {
+    Chart chart;
+    CAxis_setLinearScale(CXYChart_xAxis(chart.xy), 0, 6, 0, 0);
+    const double x[] = {1, 3, 5, 2}, y[] = {50, 50, 50, 50}, sizes[] = {11, 31, kGap};
+    LineLayer* layer =
+        CXYChart_addScatterLayer(chart.xy, x, 4, y, 3, nullptr, CHART_SQUARE_SYMBOL, 9, kRed, kRed);
+    CLineLayer_setSymbolScale(layer, sizes, 3, CHART_SCALE_PIXELS, nullptr, 0, CHART_SCALE_PIXELS);
+    const QImage image = chart.picture();
+    EXPECT_EQ(boundsOf(image.copy(50, 0, 100, 300), kRed), QRect(45, 125, 11, 11)); // about column 100
+    EXPECT_EQ(boundsOf(image.copy(150, 0, 100, 300), kRed), QRect(35, 115, 31, 31));
+    EXPECT_EQ(pictures::inked(image.copy(250, 0, 150, 300), kWhite), 0); // no size, and no y
+}
+
+TEST(LineLayer, SymbolsThatShowThroughAddUp) {
+    Chart chart;
+    CAxis_setLinearScale(CXYChart_xAxis(chart.xy), 0, 6, 0, 0);
+    const std::vector<double> x(3, 3.0), y(3, 50.0);
+    CXYChart_addScatterLayer(chart.xy, x.data(), 3, y.data(), 3, nullptr, CHART_SQUARE_SYMBOL, 9,
+                             static_cast<int>(0x80000000u), kNone);
+    // Three times half of what is left: white 255 * (128 / 255)^3 = 32.3.
+    EXPECT_NEAR(qRed(chart.picture().pixel(200, 130)), 32, 2);
+}
+
+/// A line that is drawn four times as large without smoothing, all of its points, and then made smaller: what
+/// any way to draw it must come near to.
+class WholeLine : public chartdraw::LineLayer {
+public:
+    using LineLayer::LineLayer;
+    void draw(chartdraw::Canvas& canvas, const chartdraw::PlotFrame& frame) override {
+        constexpr int kTimes = 4;
+        QImage large(400 * kTimes, 300 * kTimes, QImage::Format_RGB32);
+        large.fill(Qt::white);
+        QPainter painter(&large);
+        painter.scale(kTimes, kTimes);
+        painter.translate(0.5, 0.5);
+        painter.setClipRect(QRectF(frame.plot).adjusted(-1.5, -1.5, 0.5, 0.5));
+        painter.setPen(QPen(Qt::black, lineWidth(), Qt::SolidLine, Qt::RoundCap));
+        const auto data = dataSets()[0]->data();
+        for (std::size_t row = rows().begin + 1; row < rows().end; ++row) {
+            painter.drawLine(frame.point(xValue(row - 1), data[row - 1]),
+                             frame.point(xValue(row), data[row]));
+        }
+        painter.end();
+        canvas.painter().drawImage(QRect(0, 0, 400, 300),
+                                   large.scaled(400, 300, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
+    }
+};
+
+template <class L>
+QImage longLine(const std::vector<double>& x, const std::vector<double>& y, int width) {
+    Chart chart;
+    auto* xy = chartdraw::object<chartdraw::XYChart>(chart.xy);
+    auto* layer = xy->addLayer<L>(chartdraw::LineLayer::Form::Straight, 0);
+    layer->addDataSet(y, 0, {});
+    layer->setXData(x);
+    layer->setLineWidth(width);
+    return chart.picture();
+}
+
+/// Mean difference of the pixels of either line, in levels of grey.
+double unlike(const QImage& a, const QImage& b) {
+    double sum = 0;
+    int count = 0;
+    for (int y = 0; y < a.height(); ++y) {
+        for (int x = 0; x < a.width(); ++x) {
+            const int p = qRed(a.pixel(x, y)), q = qRed(b.pixel(x, y));
+            if (p < 255 || q < 255) {
+                sum += std::abs(p - q);
+                ++count;
+            }
+        }
+    }
+    return count > 0 ? sum / count : 255;
+}
+
+// Where lines cross often the plain painter is some 20 levels off itself, as the rows of which all points are
+// kept show.
+TEST(LineLayer, LongLinesLookAsIfAllPointsWereDrawn) {
+    std::mt19937 random(3);
+    std::uniform_real_distribution<double> part(0, 1);
+    const auto made = [](std::size_t count, const auto& value) {
+        std::vector<double> values(count);
+        for (std::size_t i = 0; i < count; ++i)
+            values[i] = value(static_cast<double>(i) / static_cast<double>(count));
+        return values;
+    };
+    const struct {
+        const char* what;
+        std::vector<double> x, y;
+        double most;
+    } rows[] = {
+        {"noise", {}, made(6000, [&](double) { return 20 + 60 * part(random); }), 16},
+        {"noise on a wave",
+         {},
+         made(12000, [&](double t) { return 50 + 30 * std::sin(t * 20) + 8 * part(random); }),
+         16},
+        {"a smooth wave", {}, made(6000, [](double t) { return 50 + 40 * std::sin(t * 30); }), 14},
+        {"a steep zigzag", {}, made(3000, [](double t) { return 50 + 45 * std::sin(t * 900); }), 28},
+        {"few rows a column", {}, made(1000, [&](double) { return 100 * part(random); }), 22},
+        {"x in no order", made(5000, [&](double) { return part(random); }),
+         made(5000, [&](double) { return 100 * part(random); }), 4},
+        {"x backwards", made(6000, [](double t) { return 1 - t; }),
+         made(6000, [&](double t) { return 50 + 30 * t * part(random); }), 14},
+    };
+    for (const auto& row : rows) {
+        for (const int width : {1, 3}) {
+            const double difference = unlike(longLine<chartdraw::LineLayer>(row.x, row.y, width),
+                                             longLine<WholeLine>(row.x, row.y, width));
+            EXPECT_LE(difference, row.most) << row.what << ", width " << width;
+        }
+    }
+}
+
+} // namespace
