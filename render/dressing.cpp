@@ -54,7 +54,7 @@ void DrawChartLegend(BaseChart* chart, const CChartLayout& layout, bool addSampl
     SetBoxBackground(chart, box, layout.m_legendBackColor, layout.m_legendEdgeColor, layout.m_legendEffect);
     CTextBox_setText(textBox, CUtf8Text(layout.m_legendFormat));
     if (addSampleKey)
-        CLegendBox_addKey(legend, LoadChartString(82), CHART_DEFAULT_COLOR, 0, nullptr);
+        CLegendBox_addKey(legend, LoadChartString(ChartText::SampleLegend), CHART_DEFAULT_COLOR, 0, nullptr);
 }
 
 void DressLabelBox(BaseChart* chart, const CChartLayout& layout, TextBox* textBox) {

@@ -2,6 +2,7 @@
 #include "render/dressing.h"
 #include "render/sample_data.h"
 #include "render/utf8_text.h"
+#include "resources/string_table.h"
 
 static void DrawLabels(const PieHolder& holder, const CPieChart& look, const CChartLayout& layout) {
     if (!layout.m_showLabel) {
@@ -69,7 +70,7 @@ static std::vector<std::string> SampleLabels(const CPieChart& look) {
     for (int i = 0; i < look.m_sectors.size(); ++i)
         labels.emplace_back(CUtf8Text(look.m_sectors[i].m_text));
     for (int i = 0; look.m_sectors.empty() && i < 5; ++i)
-        labels.push_back(FormatChartString(118, i + 1));
+        labels.push_back(FormatChartString(ChartText::SampleSector, i + 1));
     return labels;
 }
 

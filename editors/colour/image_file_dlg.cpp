@@ -15,13 +15,11 @@
 
 namespace {
 
-constexpr int kFilterText = 76;
-constexpr int kTitleText = 77;
-
 /// The text holds names and patterns in turn, each followed by a bar. The dialog takes the pattern from the
 /// last brackets of a filter, and does not show them.
 QStringList NameFilters() {
-    const QStringList parts = QString::fromUtf8(LoadChartString(kFilterText)).split(u'|', Qt::SkipEmptyParts);
+    const QStringList parts =
+        QString::fromUtf8(LoadChartString(ChartText::ImageFilter)).split(u'|', Qt::SkipEmptyParts);
     QStringList filters;
     for (qsizetype i = 0; i + 1 < parts.size(); i += 2) {
         QString pattern = parts[i + 1];
@@ -38,7 +36,7 @@ CImageFileDlg::CImageFileDlg() : m_preview(new CChartPreviewView(this)) {
     setOptions(DontUseNativeDialog | HideNameFilterDetails);
     setFileMode(ExistingFile);
     setViewMode(List);
-    setWindowTitle(QString::fromUtf8(LoadChartString(kTitleText)));
+    setWindowTitle(QString::fromUtf8(LoadChartString(ChartText::SelectImageFile)));
     setObjectName(windowTitle());
     setNameFilters(NameFilters());
     PlacePreview();

@@ -10,10 +10,10 @@
 
 CChartColorField::CChartColorField()
     : m_preview(new CChartPreviewView(this)), m_type(new QLabel(this)),
-      m_typeText(QString::fromUtf8(LoadChartString(1))) {
+      m_typeText(QString::fromUtf8(LoadChartString(ChartText::TypeArgb))) {
     // Room for each of the kinds, so that a choice does not move the page.
     int width = 0;
-    for (const int kind : {1, 2, 3}) {
+    for (const int kind : {ChartText::TypeArgb, ChartText::TypeMetal, ChartText::TypePattern}) {
         m_type->setText(QString::fromUtf8(LoadChartString(kind)));
         width = std::max(width, m_type->sizeHint().width());
     }
@@ -24,7 +24,7 @@ CChartColorField::CChartColorField()
 void CChartColorField::SetValueAndShow(const CChartColor& color) {
     m_color = color;
     if (color.m_type >= 0 && color.m_type <= 2) {
-        constexpr int kTexts[] = {1, 3, 2}; // General, Pattern, Metal
+        constexpr int kTexts[] = {ChartText::TypeArgb, ChartText::TypePattern, ChartText::TypeMetal};
         m_typeText = QString::fromUtf8(LoadChartString(kTexts[color.m_type]));
     }
     UpdateData(false);

@@ -14,8 +14,6 @@ bool g_fontCatalogueLoaded = false;
 namespace {
 
 constexpr unsigned kNameLength = 512; // bytes
-constexpr int kDefaultFaceText = 26;
-constexpr int kDefaultFileText = 121;
 
 void Enter(const std::string& fileKey, const char* face) {
     g_fontFileToFace[fileKey] = face;
@@ -45,7 +43,7 @@ void LoadFontCatalogue() {
 
 const char* GetFontFileName(const char* face) {
     LoadFontCatalogue();
-    if (std::strcmp(face, LoadChartString(kDefaultFaceText)) == 0)
-        return LoadChartString(kDefaultFileText);
+    if (std::strcmp(face, LoadChartString(ChartText::DefaultFace)) == 0)
+        return LoadChartString(ChartText::DefaultFile);
     return g_fontFaceToFile[face].c_str();
 }

@@ -17,7 +17,6 @@
 
 namespace {
 
-constexpr int kDefaultFaceText = 26;
 constexpr int kSizes[] = {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 48, 72};
 
 /// The first row that begins with a text, whatever its case; -1 for none.
@@ -114,7 +113,7 @@ bool CFontDlg::OnInitDialog() {
 }
 
 void CFontDlg::FillLists() {
-    QStringList faces{QString::fromUtf8(LoadChartString(kDefaultFaceText))};
+    QStringList faces{QString::fromUtf8(LoadChartString(ChartText::DefaultFace))};
     LoadFontCatalogue();
     for (const auto& [file, face] : g_fontFileToFace)
         faces += QString::fromStdString(platform::NarrowToUtf8(face));

@@ -303,7 +303,7 @@ void CForm::LoadRows(const void* owner) {
 int CForm::SelectedOrWarn(CSimpleCombo& list, const char* message) {
     const int row = list.Selected();
     if (row < 0) {
-        WarnBox(&m_page, QString::fromUtf8(message), QString::fromUtf8(LoadChartString(29)));
+        WarnBox(&m_page, QString::fromUtf8(message), QString::fromUtf8(LoadChartString(ChartText::Warning)));
         list.Select(list.Count() > 0 ? 0 : -1);
     }
     return row;

@@ -10,7 +10,7 @@
 //
 // A list and the values of its selected item:
 //
-//     auto& texts = m_form.List(meter.m_texts, "Text %d ( %s )", LoadChartString(27));
+//     auto& texts = m_form.List(meter.m_texts, "Text %d ( %s )", LoadChartString(ChartText::SelectText));
 //     m_form.Lines("Text:", texts.Caption(&CChartTextBox::m_text));
 //     m_form.Integer("X:", texts[&CChartTextBox::m_x]).Step(10);
 

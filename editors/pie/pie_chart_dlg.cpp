@@ -59,7 +59,10 @@ void CPieChartDlg::TableOfChart(CPieChart& chart) {
 void CPieChartDlg::TableOfSectors(CPieChart& chart) {
     m_form.Band();
     m_form.Group("Sector:");
-    auto& sectors = m_form.List(chart.m_sectors, LoadChartString(122), LoadChartString(89)).New(NewSector);
+    auto& sectors = m_form
+                        .List(chart.m_sectors, LoadChartString(ChartText::SectorRow),
+                              LoadChartString(ChartText::SelectItem))
+                        .New(NewSector);
     m_form.Part();
     m_form.Lines("Text:", sectors.Caption(&CPieChartSector::m_text));
     m_form.Check("Show Explode", sectors[&CPieChartSector::m_showExplode]);

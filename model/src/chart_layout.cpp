@@ -22,11 +22,11 @@ DEFINE_RECORD(CLinearMeterPA)
 CChartLayout::CChartLayout() {
     m_backColor.m_color = 0xFFFFFF;
     m_edgeColor.m_color = 0x33808080;
-    m_toolTipFormat = LoadChartString(7);
-    m_labelFormat = LoadChartString(114);
+    m_toolTipFormat = LoadChartString(ChartText::ToolTipFormat);
+    m_labelFormat = LoadChartString(ChartText::ValueFormat);
     m_labelBackColor.m_color = model::leftToLibrary;
     m_labelEdgeColor.m_color = model::leftToLibrary;
-    m_legendFormat = LoadChartString(116);
+    m_legendFormat = LoadChartString(ChartText::DataSetNameFormat);
     m_legendBackColor.m_color = model::leftToLibrary;
     SetChartSize(500, 550);
 }

@@ -27,8 +27,8 @@ int CChartColor::GetChartColor(BaseChart* chart) const {
 }
 
 CChartFont::CChartFont() {
-    m_faceName = LoadChartString(26);
-    m_fileName = LoadChartString(121);
+    m_faceName = LoadChartString(ChartText::DefaultFace);
+    m_fileName = LoadChartString(ChartText::DefaultFile);
 }
 DEFINE_VALUE_CLASS(CChartFont)
 

@@ -30,7 +30,7 @@ CXYChartAxis::CXYChartAxis() {
     const chrono::year_month_day today(chrono::floor<chrono::days>(chrono::system_clock::now()));
     m_dateLowerLimit = midnightOf(today, 0);
     m_dateUpperLimit = midnightOf(today, 1);
-    m_labelFormat = LoadChartString(114);
+    m_labelFormat = LoadChartString(ChartText::ValueFormat);
     m_labelBackColor.m_color = model::leftToLibrary;
     m_labelEdgeColor.m_color = model::leftToLibrary;
     m_filter1 = m_filter2 = CChart_encodeFilter(8, 0, 0);
