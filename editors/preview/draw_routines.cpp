@@ -1,18 +1,19 @@
 #include "editors/preview/draw_routines.h"
+#include "render/finance/draw_finance.h"
 #include "render/pie.h"
 #include "render/samples.h"
 
 static constexpr DrawRoutine routines[] = {
-    DrawColorSample, // PreviewColor
-    DrawFontSample,  // PreviewFont
-    DrawImageSample, // PreviewImage
-    nullptr,         // PreviewLayout
-    nullptr,         // PreviewXYChart
-    DrawPieChart,    // PreviewPieChart
-    nullptr,         // PreviewFinanceChart
-    nullptr,         // PreviewAngularMeter
-    nullptr,         // PreviewLinearMeter
-    nullptr,         // PreviewPolarChart
+    DrawColorSample,  // PreviewColor
+    DrawFontSample,   // PreviewFont
+    DrawImageSample,  // PreviewImage
+    nullptr,          // PreviewLayout
+    nullptr,          // PreviewXYChart
+    DrawPieChart,     // PreviewPieChart
+    DrawFinanceChart, // PreviewFinanceChart
+    nullptr,          // PreviewAngularMeter
+    nullptr,          // PreviewLinearMeter
+    nullptr,          // PreviewPolarChart
 };
 
 DrawRoutine FindDrawRoutine(int kind) {
