@@ -7,8 +7,10 @@
 #include <chartdraw/surface.h>
 
 using chartdraw::Chart;
+using chartdraw::edit;
 using chartdraw::handle;
 using chartdraw::object;
+using chartdraw::read;
 using chartdraw::toColour;
 using chartdraw::toText;
 
@@ -27,7 +29,7 @@ chartdraw::TextLook titleLook(const char* font, double size, int fontColor, int 
 
 TextBox* addTitle(BaseChart* base, int alignment, const char* title, const chartdraw::TextLook& look,
                   bool strip) {
-    auto* chart = object<Chart>(base);
+    auto* chart = edit<Chart>(base);
     return chart != nullptr ? handle<TextBox>(chart->addTitle(alignment, toText(title), look, strip))
                             : nullptr;
 }
@@ -41,22 +43,22 @@ void CBaseChart_destroy(BaseChart* base) {
 }
 
 void CBaseChart_setSize(BaseChart* base, int width, int height) {
-    if (auto* chart = object<Chart>(base))
+    if (auto* chart = edit<Chart>(base))
         chart->setSize(width, height);
 }
 
 void CBaseChart_setBackground(BaseChart* base, int background, int edge, int raisedEffect) {
-    if (auto* chart = object<Chart>(base))
+    if (auto* chart = edit<Chart>(base))
         chart->setBackground(toColour(background), toColour(edge), raisedEffect);
 }
 
 void CBaseChart_setBgImage(BaseChart* base, const char* file, int alignment) {
-    if (auto* chart = object<Chart>(base))
+    if (auto* chart = edit<Chart>(base))
         chart->setBackgroundImage(toText(file), alignment);
 }
 
 void CBaseChart_setRoundedFrame(BaseChart* base, int exterior, int r1, int r2, int r3, int r4) {
-    if (auto* chart = object<Chart>(base)) {
+    if (auto* chart = edit<Chart>(base)) {
         const int first = r1 < 0 ? 10 : r1;
         const auto corner = [&](int radius) { return radius < 0 ? first : radius; };
         chart->setRoundedFrame(toColour(exterior), {first, corner(r2), corner(r3), corner(r4)});
@@ -65,12 +67,12 @@ void CBaseChart_setRoundedFrame(BaseChart* base, int exterior, int r1, int r2, i
 
 void CBaseChart_setDefaultFonts(BaseChart* base, const char* normal, const char* bold, const char* italic,
                                 const char* boldItalic) {
-    if (auto* chart = object<Chart>(base))
+    if (auto* chart = edit<Chart>(base))
         chart->setDefaultFonts({{toText(normal), toText(bold), toText(italic), toText(boldItalic)}});
 }
 
 void CBaseChart_setAntiAlias(BaseChart* base, bool shapes, int textMode) {
-    if (auto* chart = object<Chart>(base))
+    if (auto* chart = edit<Chart>(base))
         chart->setAntiAlias(shapes, textMode);
 }
 
@@ -88,7 +90,7 @@ TextBox* CBaseChart_addTitle2(BaseChart* base, int alignment, const char* title,
 
 TextBox* CBaseChart_addText(BaseChart* base, int x, int y, const char* text, const char* font, double size,
                             int fontColor, int alignment, double angle, bool vertical) {
-    auto* chart = object<Chart>(base);
+    auto* chart = edit<Chart>(base);
     if (chart == nullptr)
         return nullptr;
     chartdraw::TextLook look = chartdraw::toLook(font, size, fontColor, angle);
@@ -98,13 +100,13 @@ TextBox* CBaseChart_addText(BaseChart* base, int x, int y, const char* text, con
 }
 
 Line* CBaseChart_addLine(BaseChart* base, int x1, int y1, int x2, int y2, int color, int width) {
-    auto* chart = object<Chart>(base);
+    auto* chart = edit<Chart>(base);
     return chart != nullptr ? handle<Line>(chart->addLine({x1, y1}, {x2, y2}, toColour(color), width))
                             : nullptr;
 }
 
 LegendBox* CBaseChart_addLegend(BaseChart* base, int x, int y, bool vertical, const char* font, double size) {
-    auto* chart = object<Chart>(base);
+    auto* chart = edit<Chart>(base);
     if (chart == nullptr)
         return nullptr;
     chartdraw::TextLook look = chartdraw::toLook(font, size, -1);
@@ -113,7 +115,7 @@ LegendBox* CBaseChart_addLegend(BaseChart* base, int x, int y, bool vertical, co
 }
 
 LegendBox* CBaseChart_getLegend(BaseChart* base) {
-    auto* chart = object<Chart>(base);
+    const auto* chart = read<Chart>(base);
     return chart != nullptr ? handle<LegendBox>(chart->legend()) : nullptr;
 }
 
@@ -136,7 +138,7 @@ bool CBaseChart_makeChart2(BaseChart* base, int format, const char** data, int* 
 
 int CBaseChart_patternColor(BaseChart* base, const int* pixels, int count, int height, int startX,
                             int startY) {
-    auto* chart = object<Chart>(base);
+    auto* chart = edit<Chart>(base);
     if (chart == nullptr || pixels == nullptr || height <= 0 || count < height)
         return static_cast<int>(chartdraw::kTransparent);
     const int width = count / height;
@@ -150,7 +152,7 @@ int CBaseChart_patternColor(BaseChart* base, const int* pixels, int count, int h
 }
 
 int CBaseChart_patternColor2(BaseChart* base, const char* file, int startX, int startY) {
-    auto* chart = object<Chart>(base);
+    auto* chart = edit<Chart>(base);
     return static_cast<int>(
         chart != nullptr ? chart->colours().addPattern(chartdraw::loadPicture(toText(file)), startX, startY)
                          : chartdraw::kTransparent);
@@ -162,24 +164,24 @@ const char* CBaseChart_formatValue(BaseChart* base, double value, const char* fo
 }
 
 void CDrawArea_destroy(DrawArea* area) {
-    auto* object = chartdraw::object<chartdraw::DrawArea>(area);
-    if (object != nullptr && !object->ownedByChart())
-        delete object;
+    auto* target = object<chartdraw::DrawArea>(area);
+    if (target != nullptr && !target->ownedByChart())
+        delete target;
 }
 
 int CDrawArea_getWidth(DrawArea* area) {
-    auto* object = chartdraw::object<chartdraw::DrawArea>(area);
-    return object != nullptr ? object->size().width() : 0;
+    const auto* source = read<chartdraw::DrawArea>(area);
+    return source != nullptr ? source->size().width() : 0;
 }
 
 int CDrawArea_getHeight(DrawArea* area) {
-    auto* object = chartdraw::object<chartdraw::DrawArea>(area);
-    return object != nullptr ? object->size().height() : 0;
+    const auto* source = read<chartdraw::DrawArea>(area);
+    return source != nullptr ? source->size().height() : 0;
 }
 
 bool CDrawArea_load(DrawArea* area, const char* file) {
-    auto* object = chartdraw::object<chartdraw::DrawArea>(area);
-    return object != nullptr && object->load(toText(file));
+    auto* target = edit<chartdraw::DrawArea>(area);
+    return target != nullptr && target->load(toText(file));
 }
 
 } // extern "C"

@@ -7,8 +7,10 @@
 #include "engine/data/ran_table.h"
 #include <chartdraw/surface.h>
 
+using chartdraw::edit;
 using chartdraw::handle;
 using chartdraw::object;
+using chartdraw::read;
 using chartdraw::toSpan;
 
 namespace {
@@ -45,23 +47,23 @@ void CRanTable_destroy(RanTable* table) {
 }
 
 void CRanTable_setCol(RanTable* table, int column, double minimum, double maximum) {
-    if (auto* target = object<chartdraw::RanTable>(table))
+    if (auto* target = edit<chartdraw::RanTable>(table))
         target->setCol(column, minimum, maximum);
 }
 
 void CRanTable_setDateCol(RanTable* table, int column, double start, double step, bool weekdaysOnly) {
-    if (auto* target = object<chartdraw::RanTable>(table))
+    if (auto* target = edit<chartdraw::RanTable>(table))
         target->setDateCol(column, start, step, weekdaysOnly);
 }
 
 void CRanTable_setHLOCCols(RanTable* table, int firstColumn, double start, double minimumDelta,
                            double maximumDelta, double lower, double upper) {
-    if (auto* target = object<chartdraw::RanTable>(table))
+    if (auto* target = edit<chartdraw::RanTable>(table))
         target->setHLOCCols(firstColumn, start, minimumDelta, maximumDelta, lower, upper);
 }
 
 void CRanTable_getCol(RanTable* table, int column, const double** data, int* count) {
-    const auto* source = object<chartdraw::RanTable>(table);
+    const auto* source = read<chartdraw::RanTable>(table);
     giveOut(source != nullptr ? source->column(column) : std::span<const double>(), data, count);
 }
 
@@ -74,87 +76,87 @@ void CArrayMath_destroy(ArrayMath* array) {
 }
 
 void CArrayMath_result(ArrayMath* array, const double** data, int* count) {
-    const auto* source = object<chartdraw::ArrayMath>(array);
+    const auto* source = read<chartdraw::ArrayMath>(array);
     giveOut(source != nullptr ? source->result() : std::span<const double>(), data, count);
 }
 
 void CArrayMath_add(ArrayMath* array, const double* data, int count) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->add(toSpan(data, count));
 }
 
 void CArrayMath_sub(ArrayMath* array, const double* data, int count) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->sub(toSpan(data, count));
 }
 
 void CArrayMath_mul2(ArrayMath* array, double factor) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->mul(factor);
 }
 
 void CArrayMath_div2(ArrayMath* array, double divisor) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->div(divisor);
 }
 
 void CArrayMath_financeDiv(ArrayMath* array, const double* divisor, int count, double zeroByZero) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->financeDiv(toSpan(divisor, count), zeroByZero);
 }
 
 void CArrayMath_abs(ArrayMath* array) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->abs();
 }
 
 void CArrayMath_delta(ArrayMath* array, int offset) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->delta(offset);
 }
 
 void CArrayMath_movAvg(ArrayMath* array, int interval) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->movAvg(interval);
 }
 
 void CArrayMath_movMax(ArrayMath* array, int interval) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->movMax(interval);
 }
 
 void CArrayMath_movMin(ArrayMath* array, int interval) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->movMin(interval);
 }
 
 void CArrayMath_movStdDev(ArrayMath* array, int interval) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->movStdDev(interval);
 }
 
 void CArrayMath_expAvg(ArrayMath* array, double smoothing) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->expAvg(smoothing);
 }
 
 void CArrayMath_selectGTZ(ArrayMath* array, const double* data, int count, double fill) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->selectGTZ(toSpan(data, count), fill);
 }
 
 void CArrayMath_selectLTZ(ArrayMath* array, const double* data, int count, double fill) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->selectLTZ(toSpan(data, count), fill);
 }
 
 void CArrayMath_selectEQZ(ArrayMath* array, const double* data, int count, double fill) {
-    if (auto* target = object<chartdraw::ArrayMath>(array))
+    if (auto* target = edit<chartdraw::ArrayMath>(array))
         target->selectEQZ(toSpan(data, count), fill);
 }
 
 double CArrayMath_max(ArrayMath* array) {
-    const auto* source = object<chartdraw::ArrayMath>(array);
+    const auto* source = read<chartdraw::ArrayMath>(array);
     return source != nullptr ? source->max() : 0;
 }
 

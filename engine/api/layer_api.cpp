@@ -13,8 +13,10 @@
 #include <algorithm>
 #include <utility>
 
+using chartdraw::edit;
 using chartdraw::handle;
 using chartdraw::object;
+using chartdraw::read;
 using chartdraw::toColour;
 using chartdraw::toDoubles;
 using chartdraw::toText;
@@ -46,7 +48,7 @@ bool isBarShape(int shape) {
 template <class Handle>
 Handle* addLine(XYChart* chart, Form form, const double* data, int count, int color, const char* name,
                 int depth) {
-    auto* target = object<Chart>(chart);
+    auto* target = edit<Chart>(chart);
     if (target == nullptr)
         return nullptr;
     auto* layer = target->addLayer<chartdraw::LineLayer>(form, depth);
@@ -66,7 +68,7 @@ BarLayer* CXYChart_addBarLayer(XYChart* chart, const double* data, int count, in
 }
 
 BarLayer* CXYChart_addBarLayer2(XYChart* chart, int combine, int depth) {
-    auto* target = object<Chart>(chart);
+    auto* target = edit<Chart>(chart);
     return target != nullptr
                ? handle<BarLayer>(target->addLayer<chartdraw::BarLayer>(toCombine(combine), depth))
                : nullptr;
@@ -88,7 +90,7 @@ StepLineLayer* CXYChart_addStepLineLayer(XYChart* chart, const double* data, int
 }
 
 AreaLayer* CXYChart_addAreaLayer2(XYChart* chart, int combine, int depth) {
-    auto* target = object<Chart>(chart);
+    auto* target = edit<Chart>(chart);
     return target != nullptr ? handle<AreaLayer>(target->addLayer<chartdraw::AreaLayer>(
                                    combine == CHART_COMBINE_PERCENTAGE, depth))
                              : nullptr;
@@ -96,7 +98,7 @@ AreaLayer* CXYChart_addAreaLayer2(XYChart* chart, int combine, int depth) {
 
 LineLayer* CXYChart_addScatterLayer(XYChart* chart, const double* x, int xCount, const double* y, int yCount,
                                     const char* name, int symbol, int size, int fill, int edge) {
-    auto* target = object<Chart>(chart);
+    auto* target = edit<Chart>(chart);
     if (target == nullptr)
         return nullptr;
     const int count = std::min(x != nullptr ? xCount : 0, y != nullptr ? yCount : 0);
@@ -114,7 +116,7 @@ BoxWhiskerLayer* CXYChart_addBoxWhiskerLayer(XYChart* chart, const double* top, 
                                              int maximumCount, const double* minimum, int minimumCount,
                                              const double* middle, int middleCount, int fill, int whisker,
                                              int edge) {
-    auto* target = object<Chart>(chart);
+    auto* target = edit<Chart>(chart);
     if (target == nullptr)
         return nullptr;
     std::vector<std::vector<double>> series = {
@@ -135,7 +137,7 @@ BoxWhiskerLayer* CXYChart_addBoxLayer(XYChart* chart, const double* top, int top
 HLOCLayer* CXYChart_addHLOCLayer(XYChart* chart, const double* high, int highCount, const double* low,
                                  int lowCount, const double* open, int openCount, const double* close,
                                  int closeCount, int color) {
-    auto* target = object<Chart>(chart);
+    auto* target = edit<Chart>(chart);
     if (target == nullptr)
         return nullptr;
     std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
@@ -147,7 +149,7 @@ CandleStickLayer* CXYChart_addCandleStickLayer(XYChart* chart, const double* hig
                                                const double* low, int lowCount, const double* open,
                                                int openCount, const double* close, int closeCount, int rise,
                                                int fall, int edge) {
-    auto* target = object<Chart>(chart);
+    auto* target = edit<Chart>(chart);
     if (target == nullptr)
         return nullptr;
     std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
@@ -157,7 +159,7 @@ CandleStickLayer* CXYChart_addCandleStickLayer(XYChart* chart, const double* hig
 }
 
 InterLineLayer* CXYChart_addInterLineLayer(XYChart* chart, Line* first, Line* second, int above, int below) {
-    auto* target = object<Chart>(chart);
+    auto* target = edit<Chart>(chart);
     return target != nullptr ? handle<InterLineLayer>(chartdraw::InterLineLayer::add(
                                    *target, object<chartdraw::Line>(first), object<chartdraw::Line>(second),
                                    toColour(above), toColour(below)))
@@ -165,137 +167,137 @@ InterLineLayer* CXYChart_addInterLineLayer(XYChart* chart, Line* first, Line* se
 }
 
 DataSet* CLayer_addDataSet(Layer* layer, const double* data, int count, int color, const char* name) {
-    auto* target = object<chartdraw::Layer>(layer);
+    auto* target = edit<chartdraw::Layer>(layer);
     return target != nullptr
                ? handle<DataSet>(target->addDataSet(toDoubles(data, count), toColour(color), toText(name)))
                : nullptr;
 }
 
 DataSet* CLayer_getDataSet(Layer* layer, int index) {
-    auto* target = object<chartdraw::Layer>(layer);
+    const auto* target = read<chartdraw::Layer>(layer);
     return target != nullptr ? handle<DataSet>(target->dataSet(index)) : nullptr;
 }
 
 void CLayer_set3D(Layer* layer, int depth, int zGap) {
-    if (auto* target = object<chartdraw::Layer>(layer))
+    if (auto* target = edit<chartdraw::Layer>(layer))
         target->set3D(depth, zGap);
 }
 
 void CLayer_setLineWidth(Layer* layer, int width) {
-    if (auto* target = object<chartdraw::Layer>(layer))
+    if (auto* target = edit<chartdraw::Layer>(layer))
         target->setLineWidth(width);
 }
 
 void CLayer_setBorderColor(Layer* layer, int color, int effect) {
-    if (auto* target = object<chartdraw::Layer>(layer))
+    if (auto* target = edit<chartdraw::Layer>(layer))
         target->setBorder(toColour(color), effect);
 }
 
 void CLayer_setXData(Layer* layer, const double* data, int count) {
-    if (auto* target = object<chartdraw::Layer>(layer))
+    if (auto* target = edit<chartdraw::Layer>(layer))
         target->setXData(toDoubles(data, count));
 }
 
 void CLayer_setUseYAxis(Layer* layer, Axis* axis) {
-    if (auto* target = object<chartdraw::Layer>(layer)) {
+    if (auto* target = edit<chartdraw::Layer>(layer)) {
         if (auto* wanted = object<chartdraw::Axis>(axis))
             target->setYAxis(wanted);
     }
 }
 
 void CLayer_setUseYAxis2(Layer* layer, bool second) {
-    if (auto* target = object<chartdraw::Layer>(layer))
+    if (auto* target = edit<chartdraw::Layer>(layer))
         target->setYAxis(second ? target->chart().yAxis2() : target->chart().yAxis());
 }
 
 TextBox* CLayer_setDataLabelStyle(Layer* layer, const char* font, double size, int color, double angle) {
-    auto* target = object<chartdraw::Layer>(layer);
+    auto* target = edit<chartdraw::Layer>(layer);
     return target != nullptr
                ? handle<TextBox>(target->setDataLabelStyle(chartdraw::toLook(font, size, color, angle)))
                : nullptr;
 }
 
 void CLayer_setDataLabelFormat(Layer* layer, const char* format) {
-    if (auto* target = object<chartdraw::Layer>(layer))
+    if (auto* target = edit<chartdraw::Layer>(layer))
         target->setDataLabelFormat(toText(format));
 }
 
 TextBox* CLayer_setAggregateLabelStyle(Layer* layer, const char* font, double size, int color, double angle) {
-    auto* target = object<chartdraw::Layer>(layer);
+    auto* target = edit<chartdraw::Layer>(layer);
     return target != nullptr
                ? handle<TextBox>(target->setAggregateLabelStyle(chartdraw::toLook(font, size, color, angle)))
                : nullptr;
 }
 
 void CLayer_setAggregateLabelFormat(Layer* layer, const char* format) {
-    if (auto* target = object<chartdraw::Layer>(layer))
+    if (auto* target = edit<chartdraw::Layer>(layer))
         target->setAggregateLabelFormat(toText(format));
 }
 
 void CLayer_setHTMLImageMap(Layer* layer, const char* url, const char* query, const char* extraAttributes) {
-    if (auto* target = object<chartdraw::Layer>(layer))
+    if (auto* target = edit<chartdraw::Layer>(layer))
         target->setImageMap(toText(url), toText(query), toText(extraAttributes));
 }
 
 void CDataSet_setDataName(DataSet* dataSet, const char* name) {
-    if (auto* target = object<chartdraw::DataSet>(dataSet))
+    if (auto* target = edit<chartdraw::DataSet>(dataSet))
         target->setName(toText(name));
 }
 
 void CDataSet_setDataColor(DataSet* dataSet, int data, int edge, int shadow, int shadowEdge) {
-    if (auto* target = object<chartdraw::DataSet>(dataSet))
+    if (auto* target = edit<chartdraw::DataSet>(dataSet))
         target->setColours(toColour(data), toColour(edge), toColour(shadow), toColour(shadowEdge));
 }
 
 void CDataSet_setDataSymbol(DataSet* dataSet, int symbol, int size, int fill, int edge, int lineWidth) {
-    if (auto* target = object<chartdraw::DataSet>(dataSet))
+    if (auto* target = edit<chartdraw::DataSet>(dataSet))
         target->setSymbol({symbol, size, toColour(fill), toColour(edge), lineWidth});
 }
 
 void CBarLayer_setBarShape(BarLayer* layer, int shape, int dataGroup, int dataItem) {
-    if (auto* target = object<chartdraw::BarLayer>(layer))
+    if (auto* target = edit<chartdraw::BarLayer>(layer))
         target->setShape(isBarShape(shape) ? shape : CHART_NO_SHAPE, dataGroup, dataItem);
 }
 
 void CBarLayer_setOverlapRatio(BarLayer* layer, double ratio, bool firstOnTop) {
-    if (auto* target = object<chartdraw::BarLayer>(layer))
+    if (auto* target = edit<chartdraw::BarLayer>(layer))
         target->setOverlap(ratio, firstOnTop);
 }
 
 void CBarLayer_setBarGap(BarLayer* layer, double gap, double subGap) {
-    if (auto* target = object<chartdraw::BarLayer>(layer))
+    if (auto* target = edit<chartdraw::BarLayer>(layer))
         target->setGap(gap, subGap);
 }
 
 Line* CLineLayer_getLine(LineLayer* layer, int dataSet) {
-    auto* target = object<chartdraw::LineLayer>(layer);
+    auto* target = edit<chartdraw::LineLayer>(layer);
     return target != nullptr ? handle<Line>(target->line(dataSet)) : nullptr;
 }
 
 void CLineLayer_setSymbolScale(LineLayer* layer, const double* xScale, int xCount, int /*xScaleType*/,
                                const double* yScale, int yCount, int /*yScaleType*/) {
-    if (auto* target = object<chartdraw::LineLayer>(layer))
+    if (auto* target = edit<chartdraw::LineLayer>(layer))
         target->setSymbolSizes(toDoubles(xScale, xCount), toDoubles(yScale, yCount));
 }
 
 void CBaseBoxLayer_setDataGap(BaseBoxLayer* layer, double gap) {
-    if (auto* target = object<chartdraw::BaseBoxLayer>(layer))
+    if (auto* target = edit<chartdraw::BaseBoxLayer>(layer))
         target->setDataGap(gap);
 }
 
 void CBaseBoxLayer_setDataWidth(BaseBoxLayer* layer, int width) {
-    if (auto* target = object<chartdraw::BaseBoxLayer>(layer))
+    if (auto* target = edit<chartdraw::BaseBoxLayer>(layer))
         target->setDataWidth(width);
 }
 
 void CBoxWhiskerLayer_setBoxColors(BoxWhiskerLayer* layer, const int* colors, int colorCount,
                                    const char* const* names, int nameCount) {
-    if (auto* target = object<chartdraw::BoxWhiskerLayer>(layer))
+    if (auto* target = edit<chartdraw::BoxWhiskerLayer>(layer))
         target->setBoxColours(chartdraw::toColours(colors, colorCount), chartdraw::toTexts(names, nameCount));
 }
 
 void CHLOCLayer_setColorMethod(HLOCLayer* layer, int method, int rise, int fall, double leadValue) {
-    if (auto* target = object<chartdraw::HLOCLayer>(layer))
+    if (auto* target = edit<chartdraw::HLOCLayer>(layer))
         target->setColourMethod(method == CHART_UP_DOWN, toColour(rise), toColour(fall), leadValue);
 }
 

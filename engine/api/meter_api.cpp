@@ -7,10 +7,10 @@
 
 #include <array>
 
+using chartdraw::edit;
 using chartdraw::handle;
 using chartdraw::kBackgroundColour;
 using chartdraw::kTransparent;
-using chartdraw::object;
 using chartdraw::orDefault;
 using chartdraw::toColour;
 
@@ -42,58 +42,58 @@ LinearMeter* CLinearMeter_create(int width, int height, int background, int edge
 
 void CBaseMeter_setScale(BaseMeter* meter, double lower, double upper, double major, double minor,
                          double micro) {
-    if (auto* target = object<chartdraw::BaseMeter>(meter))
+    if (auto* target = edit<chartdraw::BaseMeter>(meter))
         target->setScale(lower, upper, {major, minor, micro});
 }
 
 TextBox* CBaseMeter_setLabelStyle(BaseMeter* meter, const char* font, double size, int color, double angle) {
-    auto* target = object<chartdraw::BaseMeter>(meter);
+    auto* target = edit<chartdraw::BaseMeter>(meter);
     return target != nullptr
                ? handle<TextBox>(target->setLabelStyle(chartdraw::toLook(font, size, color, angle)))
                : nullptr;
 }
 
 void CBaseMeter_setLineWidth(BaseMeter* meter, int axis, int majorTick, int minorTick, int microTick) {
-    if (auto* target = object<chartdraw::BaseMeter>(meter))
+    if (auto* target = edit<chartdraw::BaseMeter>(meter))
         target->setLineWidths(axis, majorTick, minorTick, microTick);
 }
 
 MeterPointer* CBaseMeter_addPointer(BaseMeter* meter, double value, int color, int edge) {
-    auto* target = object<chartdraw::BaseMeter>(meter);
+    auto* target = edit<chartdraw::BaseMeter>(meter);
     return target != nullptr
                ? handle<MeterPointer>(target->addPointer(value, toColour(color), toColour(edge)))
                : nullptr;
 }
 
 void CMeterPointer_setShape(MeterPointer* pointer, int shape, double lengthRatio, double widthRatio) {
-    if (auto* target = object<chartdraw::MeterPointer>(pointer))
+    if (auto* target = edit<chartdraw::MeterPointer>(pointer))
         target->setShape(shapeOf(shape), lengthRatio, widthRatio);
 }
 
 void CAngularMeter_setMeter(AngularMeter* meter, int x, int y, int radius, double startAngle,
                             double endAngle) {
-    if (auto* target = object<chartdraw::AngularMeter>(meter))
+    if (auto* target = edit<chartdraw::AngularMeter>(meter))
         target->setMeter({x, y}, radius, startAngle, endAngle);
 }
 
 void CAngularMeter_addRing(AngularMeter* meter, int startRadius, int endRadius, int fill, int edge) {
-    if (auto* target = object<chartdraw::AngularMeter>(meter))
+    if (auto* target = edit<chartdraw::AngularMeter>(meter))
         target->addRing(startRadius, endRadius, toColour(fill), toColour(edge));
 }
 
 void CAngularMeter_addZone2(AngularMeter* meter, double start, double end, int fill, int edge) {
-    if (auto* target = object<chartdraw::AngularMeter>(meter))
+    if (auto* target = edit<chartdraw::AngularMeter>(meter))
         target->addZone(start, end, toColour(fill), toColour(edge));
 }
 
 void CLinearMeter_setMeter(LinearMeter* meter, int left, int top, int width, int height, int axisPosition,
                            bool reverse) {
-    if (auto* target = object<chartdraw::LinearMeter>(meter))
+    if (auto* target = edit<chartdraw::LinearMeter>(meter))
         target->setMeter({left, top}, {width, height}, axisPosition, reverse);
 }
 
 TextBox* CLinearMeter_addZone(LinearMeter* meter, double start, double end, int color, const char* label) {
-    auto* target = object<chartdraw::LinearMeter>(meter);
+    auto* target = edit<chartdraw::LinearMeter>(meter);
     return target != nullptr
                ? handle<TextBox>(target->addZone(start, end, toColour(color), chartdraw::toText(label)))
                : nullptr;

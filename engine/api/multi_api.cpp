@@ -4,6 +4,7 @@
 #include "engine/multi/multi_chart.h"
 #include <chartdraw/surface.h>
 
+using chartdraw::edit;
 using chartdraw::handle;
 using chartdraw::object;
 using chartdraw::toColour;
@@ -17,14 +18,14 @@ MultiChart* CMultiChart_create(int width, int height, int background, int edge, 
 }
 
 void CMultiChart_addChart(MultiChart* multi, int x, int y, BaseChart* chart) {
-    auto* target = object<chartdraw::MultiChart>(multi);
+    auto* target = edit<chartdraw::MultiChart>(multi);
     auto* added = object<chartdraw::Chart>(chart);
     if (target != nullptr && added != nullptr)
         target->addChart({x, y}, *added);
 }
 
 void CMultiChart_setMainChart(MultiChart* multi, BaseChart* chart) {
-    if (auto* target = object<chartdraw::MultiChart>(multi))
+    if (auto* target = edit<chartdraw::MultiChart>(multi))
         target->setMainChart(object<chartdraw::Chart>(chart));
 }
 

@@ -35,42 +35,34 @@ double naturalAngle(bool upright) {
 } // namespace
 
 Axis::Axis(Chart& chart, Direction direction)
-    : Object(Kind::Axis), m_chart(chart), m_direction(direction), m_labelBox(chart.own<TextBox>(chart)),
+    : Part(Kind::Axis, chart), m_direction(direction), m_labelBox(chart.own<TextBox>(chart)),
       m_title(chart.own<TextBox>(chart)) {
-    m_title->edit().font = "bold";
-    m_title->edit().angle = naturalAngle(direction == Direction::Y);
-}
-
-void Axis::changed() {
-    m_chart.changed();
+    m_title->look().font = "bold";
+    m_title->look().angle = naturalAngle(direction == Direction::Y);
 }
 
 void Axis::setReverse(bool reverse) {
     m_scale.reverse = reverse;
-    changed();
 }
 
 void Axis::setWidth(int pixels) {
     m_width = limited(pixels);
-    changed();
 }
 
 void Axis::setColours(Colour axis, Colour label, Colour title, Colour tick) {
     m_colour = orDefault(axis, m_colour);
     m_tickColour = orDefault(tick, m_tickColour);
-    m_labelBox->edit().colour = orDefault(label, m_labelBox->look().colour);
-    m_title->edit().colour = orDefault(title, m_title->look().colour);
+    m_labelBox->look().colour = orDefault(label, m_labelBox->look().colour);
+    m_title->look().colour = orDefault(title, m_title->look().colour);
 }
 
 void Axis::setMargin(int top, int bottom) {
     m_scale.marginTop = limited(top);
     m_scale.marginBottom = limited(bottom);
-    changed();
 }
 
 void Axis::setIndent(bool indent) {
     m_scale.indent = indent ? ScaleSettings::Indent::Yes : ScaleSettings::Indent::No;
-    changed();
 }
 
 void Axis::setLabelStep(int major, int minor, int majorOffset, int minorOffset) {
@@ -78,19 +70,16 @@ void Axis::setLabelStep(int major, int minor, int majorOffset, int minorOffset) 
     m_ticks.minorStep = std::clamp(minor, 0, kMostRows);
     m_ticks.majorOffset = std::clamp(majorOffset, 0, kMostRows);
     m_ticks.minorOffset = std::clamp(minorOffset, 0, kMostRows);
-    changed();
 }
 
 void Axis::setTickLength(int major, int minor) {
     m_ticks.majorLength = limited(major, -kMostPixels);
     m_ticks.minorLength = limited(minor, -kMostPixels);
-    changed();
 }
 
 void Axis::setTickDensity(int majorSpacing, int minorSpacing) {
     m_scale.majorSpacing = limited(majorSpacing);
     m_scale.minorSpacing = minorSpacing < 1 ? -1 : limited(minorSpacing);
-    changed();
 }
 
 void Axis::setAutoScale(double topExtension, double bottomExtension, double zeroAffinity) {
@@ -102,7 +91,6 @@ void Axis::setAutoScale(double topExtension, double bottomExtension, double zero
     m_scale.increments = {};
     if (m_scale.type == ScaleSettings::Type::Linear)
         m_scale.type = ScaleSettings::Type::Automatic;
-    changed();
 }
 
 void Axis::setLimits(ScaleSettings::Type type, double lower, double upper, const Increments& increments) {
@@ -111,7 +99,6 @@ void Axis::setLimits(ScaleSettings::Type type, double lower, double upper, const
     if (m_scale.limitsGiven)
         std::tie(m_scale.lower, m_scale.upper) = std::minmax(lower, upper);
     m_scale.increments = increments;
-    changed();
 }
 
 void Axis::setScaleFromData(ScaleSettings::Type type, std::string format) {
@@ -120,7 +107,6 @@ void Axis::setScaleFromData(ScaleSettings::Type type, std::string format) {
     m_scale.increments = {};
     if (!format.empty())
         m_ticks.labelFormat = std::move(format);
-    changed();
 }
 
 TextBox* Axis::setLabels(std::vector<double> values, std::string format) {
@@ -128,27 +114,23 @@ TextBox* Axis::setLabels(std::vector<double> values, std::string format) {
     m_scale.labels = std::move(values);
     if (!format.empty())
         m_ticks.labelFormat = std::move(format);
-    changed();
     return m_labelBox;
 }
 
 void Axis::setRules(std::vector<FormatRule> rules) {
     m_ticks.rules = std::move(rules);
-    changed();
 }
 
 void Axis::addRule(FormatRule rule) {
     m_ticks.rules.push_back(std::move(rule));
-    changed();
 }
 
 void Axis::setLabelFormat(std::string format) {
     m_ticks.labelFormat = std::move(format);
-    changed();
 }
 
 TextBox* Axis::setLabelStyle(std::string font, double size, Colour colour, double angle) {
-    TextLook& look = m_labelBox->edit();
+    TextLook& look = m_labelBox->look();
     setFont(look, std::move(font), size, kDefaultFontSize);
     look.colour = orDefault(colour, look.colour);
     look.angle = std::isfinite(angle) ? std::fmod(angle, 360.0) : 0;
@@ -157,7 +139,7 @@ TextBox* Axis::setLabelStyle(std::string font, double size, Colour colour, doubl
 
 TextBox* Axis::setTitle(std::string text, std::string font, double size, Colour colour) {
     m_title->setText(std::move(text));
-    TextLook& look = m_title->edit();
+    TextLook& look = m_title->look();
     setFont(look, font.empty() ? "bold" : std::move(font), size, kDefaultFontSize);
     look.colour = orDefault(colour, look.colour);
     return m_title;
@@ -166,18 +148,16 @@ TextBox* Axis::setTitle(std::string text, std::string font, double size, Colour 
 void Axis::setTitlePos(int alignment, int gap) {
     m_titleAlignment = alignment;
     m_titleGap = limited(gap, -kMostPixels);
-    changed();
 }
 
 Mark* Axis::addMark(double value, Colour colour, std::string label, const TextLook& look) {
-    Mark* mark = m_chart.own<Mark>(m_chart, *this, value, colour, std::move(label), look);
+    Mark* mark = chart().own<Mark>(chart(), *this, value, colour, std::move(label), look);
     m_marks.push_back(mark);
     return mark;
 }
 
 void Axis::addZone(double start, double end, Colour colour) {
     m_zones.push_back({start, end, colour});
-    changed();
 }
 
 void Axis::copyFrom(const Axis& source) {
@@ -188,14 +168,14 @@ void Axis::copyFrom(const Axis& source) {
     m_width = source.m_width;
     m_colour = source.m_colour;
     m_tickColour = source.m_tickColour;
-    m_labelBox->edit() = source.m_labelBox->look();
+    m_labelBox->look() = source.m_labelBox->look();
     m_syncedTo = nullptr;
     if (source.m_syncedTo != nullptr)
         syncTo(source.m_syncedTo, source.m_syncSlope, source.m_syncIntercept);
 }
 
 void Axis::syncTo(const Axis* other, double slope, double intercept) {
-    if (other == nullptr || &other->m_chart != &m_chart || !isValue(slope) || slope == 0 ||
+    if (other == nullptr || &other->chart() != &chart() || !isValue(slope) || slope == 0 ||
         !isValue(intercept))
         return;
     for (const Axis* link = other; link != nullptr; link = link->m_syncedTo)
@@ -204,7 +184,6 @@ void Axis::syncTo(const Axis* other, double slope, double intercept) {
     m_syncedTo = other;
     m_syncSlope = slope;
     m_syncIntercept = intercept;
-    changed();
 }
 
 TextLook Axis::titleLook(bool upright) const {

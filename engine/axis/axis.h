@@ -60,13 +60,12 @@ struct Zone {
     Colour colour = kTransparent;
 };
 
-class Axis : public Object {
+class Axis : public Part {
 public:
     static constexpr Kind kKind = Kind::Axis;
 
     Axis(Chart& chart, Direction direction);
 
-    Chart& chart() const { return m_chart; }
     Direction direction() const { return m_direction; }
 
     void setReverse(bool reverse);
@@ -122,9 +121,6 @@ public:
     double syncIntercept() const { return m_syncIntercept; }
 
 private:
-    void changed();
-
-    Chart& m_chart;
     Direction m_direction;
     ScaleSettings m_scale;
     TickSettings m_ticks;

@@ -17,6 +17,11 @@ bool DrawArea::load(const std::string& path) {
     return true;
 }
 
+void DrawArea::changed() {
+    if (m_chart != nullptr)
+        m_chart->changed();
+}
+
 QSize DrawArea::size() const {
     return m_chart != nullptr ? QSize(m_chart->width(), m_chart->height()) : m_image.size();
 }
@@ -35,40 +40,34 @@ Chart::~Chart() {
 void Chart::setSize(int width, int height) {
     m_width = width;
     m_height = height;
-    changed();
 }
 
 void Chart::setBackground(Colour background, Colour edge, int effect) {
     m_background = orDefault(background, m_background);
     m_edge = orDefault(edge, m_edge);
     m_effect = effect;
-    changed();
 }
 
 void Chart::setBackgroundImage(std::string path, int alignment) {
     m_imagePath = std::move(path);
     m_imageAlignment = alignment;
-    changed();
 }
 
 void Chart::setRoundedFrame(Colour exterior, const Corners& corners) {
     m_rounded = true;
     m_exterior = orDefault(exterior, 0xffffff);
     m_corners = corners;
-    changed();
 }
 
 void Chart::setDefaultFonts(FontSet fonts) {
     for (std::size_t i = 0; i < fonts.files.size(); ++i)
         if (!fonts.files[i].empty())
             m_fonts.files[i] = std::move(fonts.files[i]);
-    changed();
 }
 
 void Chart::setAntiAlias(bool shapes, int textMode) {
     m_smoothShapes = shapes;
     m_textMode = textMode;
-    changed();
 }
 
 TextBox* Chart::addTitle(int alignment, std::string text, const TextLook& look, bool strip) {
@@ -90,14 +89,9 @@ Line* Chart::addLine(QPoint from, QPoint to, Colour colour, int width) {
 }
 
 LegendBox* Chart::addLegend(QPoint at, bool vertical, const TextLook& look) {
-    LegendBox* box = legend();
-    box->show(at, vertical, look);
-    return box;
-}
-
-LegendBox* Chart::legend() {
     if (m_legend == nullptr)
         m_legend = own<LegendBox>(*this);
+    m_legend->show(at, vertical, look);
     return m_legend;
 }
 

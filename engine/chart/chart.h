@@ -28,6 +28,7 @@ public:
     QSize size() const;
     const QImage& image() const { return m_image; }
     bool ownedByChart() const { return m_chart != nullptr; }
+    void changed() override;
 
 private:
     Chart* m_chart;
@@ -57,10 +58,9 @@ public:
     TextBox* addTitle(int alignment, std::string text, const TextLook& look, bool strip);
     TextBox* addText(std::string text, const TextLook& look, QPoint at, int alignment);
     Line* addLine(QPoint from, QPoint to, Colour colour, int width);
+    /// One legend a chart: a second call moves it.
     LegendBox* addLegend(QPoint at, bool vertical, const TextLook& look);
-    /// One legend a chart, not shown before addLegend.
-    LegendBox* legend();
-    bool showsLegend() const { return m_legend != nullptr && m_legend->isShown(); }
+    LegendBox* legend() const { return m_legend; }
     DrawArea* drawArea() { return &m_drawArea; }
     /// A text that lives as long as the chart; equal texts are kept once.
     const char* keepText(std::string text);
@@ -71,12 +71,11 @@ public:
         auto made = std::make_unique<T>(std::forward<Args>(args)...);
         T* result = made.get();
         m_owned.push_back(std::move(made));
-        changed();
         return result;
     }
 
     /// Marks the picture stale, here and in every chart that shows this one.
-    void changed();
+    void changed() override;
 
     /// The picture as a 24-bit bitmap file; false and no bytes when it has no area or is too large. The bytes
     /// stay valid until the next picture is made; without a change in between they are the same.

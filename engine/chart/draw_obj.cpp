@@ -6,22 +6,12 @@
 
 namespace chartdraw {
 
-void DrawObj::changed() {
-    m_chart.changed();
-}
-
 void DrawObj::draw(Canvas& /*canvas*/) {}
-
-TextLook& Box::edit() {
-    changed();
-    return m_look;
-}
 
 void Box::setPos(int x, int y) {
     // Far enough outside any picture; what is added to a position later cannot overflow.
     constexpr int kFar = 1000000;
     m_pos = QPoint(std::clamp(x, -kFar, kFar), std::clamp(y, -kFar, kFar));
-    changed();
 }
 
 TextBox::TextBox(Chart& chart, std::string text, const TextLook& look)
@@ -29,12 +19,11 @@ TextBox::TextBox(Chart& chart, std::string text, const TextLook& look)
 
 TextBox::TextBox(Kind kind, Chart& chart, std::string text, const TextLook& look)
     : Box(kind, chart), m_text(std::move(text)) {
-    edit() = look;
+    this->look() = look;
 }
 
 void TextBox::setText(std::string text) {
     m_text = std::move(text);
-    changed();
 }
 
 TextBlock TextBox::block(std::string_view text) const {

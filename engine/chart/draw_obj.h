@@ -1,8 +1,8 @@
 #pragma once
 // Things that stand on a chart and can be addressed by a handle: boxes, texts, lines. They belong to their
-// chart, are drawn by it, and tell it of every change.
+// chart and are drawn by it.
 
-#include "engine/object/object.h"
+#include "engine/chart/part.h"
 #include "engine/text/text_block.h"
 
 #include <QRect>
@@ -11,34 +11,24 @@
 
 namespace chartdraw {
 
-class Chart;
-
-class DrawObj : public Object {
+class DrawObj : public Part {
 public:
     static constexpr Kind kKind = Kind::DrawObj;
-
-    Chart& chart() const { return m_chart; }
-    /// Marks the chart's picture stale; every setter ends with it.
-    void changed();
 
     /// Draws the object where it stands. Objects that are only a style (label looks) draw nothing.
     virtual void draw(Canvas& canvas);
 
 protected:
-    DrawObj(Kind kind, Chart& chart) : Object(kind), m_chart(chart) {}
-
-private:
-    Chart& m_chart;
+    using Part::Part;
 };
 
-/// Anything with a frame. `look` is edited by the Box and TextBox operations alike.
+/// Anything with a frame. `look` is what the Box and TextBox operations alike change.
 class Box : public DrawObj {
 public:
     static constexpr Kind kKind = Kind::Box;
 
     const TextLook& look() const { return m_look; }
-    /// The look to change; the chart's picture is stale from here on.
-    TextLook& edit();
+    TextLook& look() { return m_look; }
 
     /// A position given by hand replaces the automatic place.
     void setPos(int x, int y);

@@ -72,15 +72,13 @@ LegendBox::LegendBox(Chart& chart) : TextBox(Kind::LegendBox, chart, "{dataSetNa
 }
 
 void LegendBox::show(QPoint at, bool vertical, const TextLook& look) {
-    m_shown = true;
     m_vertical = vertical;
-    edit() = look;
+    this->look() = look;
     setPos(at.x(), at.y());
 }
 
 void LegendBox::addKey(std::string text, Colour colour, int lineWidth, const DrawArea* symbol) {
     m_keys.push_back({std::move(text), colour, lineWidth, symbol != nullptr ? symbol->image() : QImage()});
-    changed();
 }
 
 LegendKey LegendBox::keyOf(const OwnKey& own, Colour next) {
@@ -150,8 +148,6 @@ LegendBox::Plan LegendBox::plan() const {
 }
 
 void LegendBox::draw(Canvas& canvas) {
-    if (!m_shown)
-        return;
     const Plan plan = this->plan();
     if (plan.placed.empty())
         return;

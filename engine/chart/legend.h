@@ -37,9 +37,8 @@ public:
 
     explicit LegendBox(Chart& chart);
 
-    /// Places and styles the legend; without this call it is not drawn.
+    /// Places and styles the legend.
     void show(QPoint at, bool vertical, const TextLook& look);
-    bool isShown() const { return m_shown; }
 
     /// A key by hand, behind the automatic ones. Width 0 draws a filled box, more a line. The picture of
     /// `symbol` is copied; null: none.
@@ -60,7 +59,6 @@ private:
     static LegendKey keyOf(const OwnKey& own, Colour next);
     Plan plan() const;
 
-    bool m_shown = false;
     bool m_vertical = false;
     std::vector<OwnKey> m_keys;
 };

@@ -38,19 +38,16 @@ void AngularMeter::setMeter(QPoint centre, int radius, double startAngle, double
     const double turn = std::min(360.0, std::abs(end - start));
     m_start = std::fmod(start, 360);
     m_end = m_start + (turn == 0 ? 360 : turn) * (anticlockwise ? -1 : 1);
-    changed();
 }
 
 void AngularMeter::addRing(int startRadius, int endRadius, Colour fill, Colour edge) {
     const int a = std::max(0, limited(startRadius)), b = std::max(0, limited(endRadius));
     m_rings.push_back(
         {std::min(a, b), std::max(a, b), orDefault(fill, kTransparent), orDefault(edge, kTransparent)});
-    changed();
 }
 
 void AngularMeter::addZone(double start, double end, Colour fill, Colour edge) {
     m_zones.push_back({start, end, orDefault(fill, kTransparent), edge});
-    changed();
 }
 
 QRectF AngularMeter::circle(double radius) const {

@@ -42,12 +42,11 @@ void BaseMeter::setScale(double lower, double upper, const Increments& increment
     m_scale = usable ? Scale::linear(lower, upper) : Scale::linear(0, 100);
     m_falling = usable && lower > upper;
     m_increments = increments;
-    changed();
 }
 
 TextBox* BaseMeter::setLabelStyle(const TextLook& look) {
-    m_labelStyle->edit() = look;
-    m_labelStyle->edit().setMargins(kLabelMargin, kLabelMargin, 0, 0);
+    m_labelStyle->look() = look;
+    m_labelStyle->look().setMargins(kLabelMargin, kLabelMargin, 0, 0);
     return m_labelStyle;
 }
 
@@ -57,7 +56,6 @@ void BaseMeter::setLineWidths(int axis, int major, int minor, int micro) {
     m_majorWidth = width(major);
     m_minorWidth = width(minor);
     m_microWidth = width(micro);
-    changed();
 }
 
 MeterPointer* BaseMeter::addPointer(double value, Colour fill, Colour edge) {

@@ -37,7 +37,6 @@ void LinearMeter::setMeter(QPoint corner, QSize size, int side, bool reverse) {
                   std::max(0, limited(size.height())));
     m_side = side == Right || side == TopCenter || side == BottomCenter ? side : Left;
     m_reverse = reverse;
-    changed();
 }
 
 TextBox* LinearMeter::addZone(double start, double end, Colour colour, std::string label) {

@@ -52,7 +52,6 @@ void MeterPointer::setShape(PointerShape shape, double lengthRatio, double width
     m_shape = shape;
     m_lengthRatio = ratio(lengthRatio, m_lengthRatio);
     m_widthRatio = ratio(widthRatio, m_widthRatio);
-    changed();
 }
 
 } // namespace chartdraw

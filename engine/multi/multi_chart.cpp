@@ -22,14 +22,11 @@ void MultiChart::addChart(QPoint at, Chart& chart) {
     constexpr int kFar = 2 * kMaxSide;
     m_shown.push_back({&chart, {std::clamp(at.x(), -kFar, kFar), std::clamp(at.y(), -kFar, kFar)}});
     chart.addHost(this);
-    changed();
 }
 
 void MultiChart::setMainChart(Chart* chart) {
-    if (shows(chart)) {
+    if (shows(chart))
         m_main = chart;
-        changed();
-    }
 }
 
 bool MultiChart::shows(const Chart* chart) const {
@@ -43,7 +40,7 @@ Chart* MultiChart::mainChart() const {
 
 void MultiChart::collectKeys(std::vector<LegendKey>& keys) const {
     const Chart* main = mainChart();
-    if (main == nullptr || main->showsLegend())
+    if (main == nullptr || main->legend() != nullptr)
         return;
     std::vector<LegendKey> own;
     main->collectKeys(own);

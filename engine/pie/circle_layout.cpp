@@ -14,7 +14,7 @@ constexpr double kPassing = 9;   ///< room for a join line beside a label
 constexpr double kJoinFrom = 14; ///< a label farther than this from its sector gets a join line
 
 /// The box of a label that just touches the ellipse widened by `distance`, in the label's direction.
-QRectF touching(const LabelSpot& spot, double distance) {
+QRectF touching(const SectorLabel& spot, double distance) {
     const double rx = std::max(1e-6, spot.rx + distance);
     const double ry = std::max(1e-6, spot.ry + distance);
     const QPointF way(direction(spot.angle).x() * rx, direction(spot.angle).y() * ry);
@@ -36,7 +36,7 @@ QRectF touching(const LabelSpot& spot, double distance) {
 /// One half of the circle, its labels from top to bottom.
 class Half {
 public:
-    Half(std::span<const LabelSpot> spots, const QRectF& room, double distance, bool right, bool crowded)
+    Half(std::span<const SectorLabel> spots, const QRectF& room, double distance, bool right, bool crowded)
         : m_spots(spots), m_room(room), m_distance(distance), m_right(right), m_crowded(crowded) {}
 
     void add(std::size_t spot) { m_items.push_back({spot, touching(m_spots[spot], m_distance), {}}); }
@@ -102,7 +102,7 @@ private:
 
     /// Where a box must begin to stay clear of the pie at a height.
     double leftAt(const Item& item, double top) const {
-        const LabelSpot& spot = m_spots[item.spot];
+        const SectorLabel& spot = m_spots[item.spot];
         const double moved = std::abs(top - item.wish.top());
         const double side = m_right ? 1 : -1;
         const auto edge = [&](double near) { return m_right ? near : near - item.wish.width(); };
@@ -148,7 +148,7 @@ private:
         }));
     }
 
-    std::span<const LabelSpot> m_spots;
+    std::span<const SectorLabel> m_spots;
     const QRectF& m_room;
     double m_distance;
     bool m_right, m_crowded;
@@ -157,7 +157,7 @@ private:
 };
 
 /// Join lines for the labels that stand away from their sectors.
-void addJoins(std::span<const LabelSpot> spots, std::vector<PlacedLabel>& labels) {
+void addJoins(std::span<const SectorLabel> spots, std::vector<PlacedLabel>& labels) {
     for (std::size_t i = 0; i < spots.size(); ++i) {
         const QRectF& box = labels[i].box;
         const QPointF near(std::clamp(spots[i].rim.x(), box.left(), box.right()),
@@ -191,7 +191,7 @@ bool anyConflict(const std::vector<PlacedLabel>& labels) {
 }
 
 /// A label inside its sector, centred at a distance from the rim, moved into the picture if need be.
-QRectF insideBox(const LabelSpot& spot, const QRectF& room, double distance) {
+QRectF insideBox(const SectorLabel& spot, const QRectF& room, double distance) {
     const double rx = std::max(0.0, spot.rx + distance);
     const double ry = rx * (spot.rx > 0 ? spot.ry / spot.rx : 1);
     const QPointF way(direction(spot.angle).x() * rx, direction(spot.angle).y() * ry);
@@ -204,7 +204,8 @@ QRectF insideBox(const LabelSpot& spot, const QRectF& room, double distance) {
 
 } // namespace
 
-std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const QRectF& room, double distance) {
+std::vector<PlacedLabel> circleLayout(std::span<const SectorLabel> spots, const QRectF& room,
+                                      double distance) {
     std::vector<PlacedLabel> result;
     const auto kept = heaviest(spots, kMostLabels);
     if (distance < 0) {

@@ -12,7 +12,7 @@
 namespace chartdraw {
 
 /// What a label has to say about its place.
-struct LabelSpot {
+struct SectorLabel {
     double angle = 0; ///< of the sector's middle, radians clockwise from the top
     QPointF centre;   ///< of the ellipse that the label must stay clear of
     double rx = 0;    ///< half axes of that ellipse
@@ -30,11 +30,12 @@ struct PlacedLabel {
 
 /// Labels around the pie, inside `room`. `distance` is counted from the rim outwards; below 0 the labels are
 /// centred that far inside the rim and have no join lines.
-std::vector<PlacedLabel> circleLayout(std::span<const LabelSpot> spots, const QRectF& room, double distance);
+std::vector<PlacedLabel> circleLayout(std::span<const SectorLabel> spots, const QRectF& room,
+                                      double distance);
 
 /// Labels in two columns inside `room`, `distance` beside the pie, joined to their sectors by lines that bend
 /// once.
-std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const QRectF& room, double distance);
+std::vector<PlacedLabel> sideLayout(std::span<const SectorLabel> spots, const QRectF& room, double distance);
 
 /// Moves intervals of the given lengths apart, keeping their order and staying as near to the wished starts
 /// as possible (least squares), all of them between `low` and `high`. They must fit in there together.

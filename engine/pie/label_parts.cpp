@@ -15,7 +15,7 @@ constexpr double kOutwards = 10; ///< how far a join line leaves the rim before 
 constexpr double kLastPart = 5;  ///< the least length of the part beside the label
 
 /// Whether a line from the rim outwards cuts through the ellipse.
-bool cutsThrough(const LabelSpot& spot, QPointF from, QPointF to) {
+bool cutsThrough(const SectorLabel& spot, QPointF from, QPointF to) {
     if (spot.rx <= 0 || spot.ry <= 0)
         return false;
     const auto scaled = [&](QPointF point) {
@@ -32,7 +32,7 @@ bool cutsThrough(const LabelSpot& spot, QPointF from, QPointF to) {
 
 } // namespace
 
-std::vector<std::size_t> heaviest(std::span<const LabelSpot> spots, std::size_t most) {
+std::vector<std::size_t> heaviest(std::span<const SectorLabel> spots, std::size_t most) {
     std::vector<std::size_t> order(spots.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     if (order.size() > most) {
@@ -44,7 +44,7 @@ std::vector<std::size_t> heaviest(std::span<const LabelSpot> spots, std::size_t 
     return order;
 }
 
-void hideOverlaps(std::span<const LabelSpot> spots, std::vector<PlacedLabel>& labels) {
+void hideOverlaps(std::span<const SectorLabel> spots, std::vector<PlacedLabel>& labels) {
     for (std::size_t i = 0; i < labels.size(); ++i) {
         for (std::size_t k = 0; k < i && labels[i].shown; ++k)
             if (labels[k].shown && labels[i].box.intersects(labels[k].box))
@@ -52,7 +52,7 @@ void hideOverlaps(std::span<const LabelSpot> spots, std::vector<PlacedLabel>& la
     }
 }
 
-std::vector<QPointF> joinLine(const LabelSpot& spot, const QRectF& box) {
+std::vector<QPointF> joinLine(const SectorLabel& spot, const QRectF& box) {
     const double side = box.center().x() >= spot.centre.x() ? 1 : -1; // of the pie on which the label stands
     const double nearX = side > 0 ? box.left() - kLineGap : box.right() + kLineGap;
     const double middle = std::floor(box.center().y()); // the level part covers one row of pixels

@@ -24,12 +24,10 @@ void Sector::setColour(Colour fill, Colour edge, Colour joinLine) {
     m_fill = orDefault(fill, m_fill);
     m_edge = orDefault(edge, m_edge);
     m_joinLine = orDefault(joinLine, m_joinLine);
-    m_chart.changed();
 }
 
 void Sector::setExplode(int distance) {
     m_explode = distance == -1 ? -1 : std::clamp(distance, 0, kFarthest);
-    m_chart.changed();
 }
 
 PieChart::PieChart(int width, int height, Colour background, Colour edge, int effect)
@@ -43,24 +41,21 @@ void PieChart::setSize(QPoint centre, int radius, int inner) {
     m_centre = {limited(centre.x()), limited(centre.y())};
     m_radius = limited(radius);
     m_inner = std::max(0, limited(inner));
-    changed();
 }
 
 void PieChart::setData(std::vector<double> values, std::vector<std::string> labels) {
     m_values = std::move(values);
     m_labels = std::move(labels);
     m_labels.resize(m_values.size());
-    changed();
 }
 
 void PieChart::setLabelFormat(std::string_view format) {
     m_format = Format(format.empty() ? kDefaultFormat : format);
-    changed();
 }
 
 TextBox* PieChart::setLabelStyle(const TextLook& look) {
-    m_labelStyle->edit() = look;
-    m_labelStyle->edit().setMargins(2, 2, 1, 1);
+    m_labelStyle->look() = look;
+    m_labelStyle->look().setMargins(2, 2, 1, 1);
     return m_labelStyle;
 }
 
@@ -69,24 +64,20 @@ void PieChart::setLabelLayout(bool inColumns, int distance, int top, int bottom)
     m_labelDistance = limited(distance);
     m_labelTop = limited(top);
     m_labelBottom = limited(bottom);
-    changed();
 }
 
 void PieChart::setLineColour(Colour edge, Colour joinLine) {
     m_edge = orDefault(edge, m_edge);
     m_joinLine = orDefault(joinLine, m_joinLine);
-    changed();
 }
 
 void PieChart::setStartAngle(double degrees, bool clockwise) {
     m_startAngle = degrees;
     m_clockwise = clockwise;
-    changed();
 }
 
 void PieChart::set3D(int depth, double degrees, bool oblique) {
     m_view = View3D{std::clamp(depth, -1, kFarthest), degrees, oblique};
-    changed();
 }
 
 Sector* PieChart::sector(int index) {

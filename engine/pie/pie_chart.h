@@ -11,14 +11,12 @@
 
 namespace chartdraw {
 
-class PieChart;
-
 /// What is particular to one sector. Made when it is first asked for.
-class Sector : public Object {
+class Sector : public Part {
 public:
     static constexpr Kind kKind = Kind::Sector;
 
-    explicit Sector(PieChart& chart) : Object(Kind::Sector), m_chart(chart) {}
+    explicit Sector(Chart& chart) : Part(Kind::Sector, chart) {}
 
     /// kDefaultColour keeps what was there.
     void setColour(Colour fill, Colour edge, Colour joinLine);
@@ -31,7 +29,6 @@ public:
     int explode() const { return m_explode; }
 
 private:
-    PieChart& m_chart;
     Colour m_fill = kDefaultColour;
     Colour m_edge = kDefaultColour;
     Colour m_joinLine = kDefaultColour;

@@ -44,7 +44,7 @@ private:
 
 struct PieChart::Label {
     std::size_t sector;
-    LabelSpot spot;
+    SectorLabel spot;
     TextBlock text;
 };
 
@@ -82,7 +82,7 @@ int PieChart::widthBeside(const PieBody& body, QPointF about, double angle) cons
 
 std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span<const double> shares,
                                                   std::span<const SectorSpan> spans) const {
-    std::vector<LabelSpot> weights(shares.size());
+    std::vector<SectorLabel> weights(shares.size());
     for (std::size_t i = 0; i < shares.size(); ++i)
         weights[i].weight = shares[i];
     TextLook look = m_labelStyle->look();
@@ -103,13 +103,13 @@ std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span
             continue;
         const QPointF lowered =
             body.depth * body.facing(angle); // in front, the label stays clear of the wall
-        const LabelSpot spot{angle,
-                             about + lowered,
-                             body.radius,
-                             body.radius * body.flatness,
-                             body.at(about, angle, body.radius) + lowered,
-                             QSizeF(block.size()),
-                             shares[i]};
+        const SectorLabel spot{angle,
+                               about + lowered,
+                               body.radius,
+                               body.radius * body.flatness,
+                               body.at(about, angle, body.radius) + lowered,
+                               QSizeF(block.size()),
+                               shares[i]};
         labels.push_back({i, spot, std::move(block)});
     }
     return labels;
@@ -118,7 +118,7 @@ std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span
 void PieChart::drawLabels(Canvas& canvas, const PieBody& body, std::span<const double> shares,
                           std::span<const SectorSpan> spans) const {
     const std::vector<Label> labels = makeLabels(body, shares, spans);
-    std::vector<LabelSpot> spots;
+    std::vector<SectorLabel> spots;
     for (const Label& label : labels)
         spots.push_back(label.spot);
     QRectF room = QRectF(0, 0, width(), height()).adjusted(kMargin, kMargin, -kMargin, -kMargin);

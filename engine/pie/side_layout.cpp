@@ -13,20 +13,20 @@ constexpr double kNearAxis = 0.25; ///< sine of the angle up to which a label ma
 
 using Column = std::vector<std::size_t>;
 
-double heightOf(std::span<const LabelSpot> spots, const Column& column) {
+double heightOf(std::span<const SectorLabel> spots, const Column& column) {
     double sum = 0;
     for (std::size_t i : column)
         sum += spots[i].size.height() + kRowGap;
     return sum;
 }
 
-double wishedTop(const LabelSpot& spot, double distance) {
+double wishedTop(const SectorLabel& spot, double distance) {
     return spot.centre.y() + direction(spot.angle).y() * (spot.ry + distance / 2) - spot.size.height() / 2;
 }
 
 /// Hands the labels nearest to the top or bottom over to the other column while that helps: around there
 /// either side is as good.
-void balance(std::span<const LabelSpot> spots, Column& from, Column& to, double height) {
+void balance(std::span<const SectorLabel> spots, Column& from, Column& to, double height) {
     const auto leaning = [&](std::size_t i) { return std::abs(direction(spots[i].angle).x()); };
     while (heightOf(spots, from) > height && from.size() > 1) {
         const auto next = leaning(from.front()) < leaning(from.back()) ? from.begin() : from.end() - 1;
@@ -38,7 +38,7 @@ void balance(std::span<const LabelSpot> spots, Column& from, Column& to, double 
     }
 }
 
-void dropLightest(std::span<const LabelSpot> spots, Column& column, double height) {
+void dropLightest(std::span<const SectorLabel> spots, Column& column, double height) {
     while (!column.empty() && heightOf(spots, column) > height + kRowGap) {
         column.erase(std::min_element(
             column.begin(), column.end(),
@@ -48,11 +48,11 @@ void dropLightest(std::span<const LabelSpot> spots, Column& column, double heigh
 
 } // namespace
 
-std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const QRectF& room, double distance) {
+std::vector<PlacedLabel> sideLayout(std::span<const SectorLabel> spots, const QRectF& room, double distance) {
     std::vector<PlacedLabel> result(spots.size());
     Column columns[2]; // left, right
     double edges[2] = {room.right(), room.left()};
-    for (const LabelSpot& spot : spots) {
+    for (const SectorLabel& spot : spots) {
         edges[0] = std::min(edges[0], spot.centre.x() - spot.rx);
         edges[1] = std::max(edges[1], spot.centre.x() + spot.rx);
     }
@@ -78,7 +78,7 @@ std::vector<PlacedLabel> sideLayout(std::span<const LabelSpot> spots, const QRec
         }
         const auto tops = stackApart(wished, lengths, room.top(), room.bottom() + kRowGap);
         for (std::size_t k = 0; k < column.size(); ++k) {
-            const LabelSpot& spot = spots[column[k]];
+            const SectorLabel& spot = spots[column[k]];
             const double width = spot.size.width();
             const double x = side == 0 ? std::max(room.left(), edges[0] - distance - width)
                                        : std::min(room.right() - width, edges[1] + distance);

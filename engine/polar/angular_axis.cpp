@@ -26,12 +26,8 @@ double automaticStep(double range) {
 } // namespace
 
 AngularAxis::AngularAxis(Chart& chart)
-    : Object(Kind::AngularAxis), m_chart(chart), m_labelBox(chart.own<TextBox>(chart)) {
+    : Part(Kind::AngularAxis, chart), m_labelBox(chart.own<TextBox>(chart)) {
     setLabelStyle({});
-}
-
-void AngularAxis::changed() {
-    m_chart.changed();
 }
 
 void AngularAxis::setLinearScale(double lower, double upper, const Increments& increments) {
@@ -39,23 +35,20 @@ void AngularAxis::setLinearScale(double lower, double upper, const Increments& i
     m_scale = usable ? Scale::linear(lower, upper) : Scale::linear(0, 360);
     m_falling = usable && lower > upper;
     m_increments = increments;
-    changed();
 }
 
 void AngularAxis::setLabels(std::vector<std::string> labels) {
     m_labels = std::move(labels);
-    changed();
 }
 
 TextBox* AngularAxis::setLabelStyle(const TextLook& look) {
-    m_labelBox->edit() = look;
-    m_labelBox->edit().setMargins(2, 2, 0, 0);
+    m_labelBox->look() = look;
+    m_labelBox->look().setMargins(2, 2, 0, 0);
     return m_labelBox;
 }
 
 void AngularAxis::addZone(double start, double end, Colour fill, Colour edge) {
     m_zones.push_back({start, end, orDefault(fill, kTransparent), orDefault(edge, kTransparent)});
-    changed();
 }
 
 double AngularAxis::turn(double value) const {

@@ -23,7 +23,7 @@ struct AngularTicks {
     std::vector<double> minor; ///< parts of the turn of the marks between them
 };
 
-class AngularAxis : public Object {
+class AngularAxis : public Part {
 public:
     static constexpr Kind kKind = Kind::AngularAxis;
 
@@ -59,9 +59,6 @@ public:
     AngularTicks ticks(double circumference) const;
 
 private:
-    void changed();
-
-    Chart& m_chart;
     Scale m_scale = Scale::linear(0, 360);
     bool m_falling = false;
     Increments m_increments;

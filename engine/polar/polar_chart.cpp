@@ -33,14 +33,12 @@ void PolarChart::setPlotArea(QPoint centre, int radius, Colour background, Colou
     m_background = orDefault(background, kTransparent);
     m_edge = orDefault(edge, kTransparent);
     m_edgeWidth = std::clamp(edgeWidth, 0, kWidestLine);
-    changed();
 }
 
 void PolarChart::setAlternatingColours(Colour first, Colour second, bool rings) {
     m_first = first;
     m_second = second;
     m_alternateRings = rings;
-    changed();
 }
 
 void PolarChart::setGrid(Colour rings, int ringWidth, Colour spokes, int spokeWidth) {
@@ -48,13 +46,11 @@ void PolarChart::setGrid(Colour rings, int ringWidth, Colour spokes, int spokeWi
     m_ringWidth = std::clamp(ringWidth, 0, kWidestLine);
     m_spokeColour = orDefault(spokes, m_spokeColour);
     m_spokeWidth = std::clamp(spokeWidth, 0, kWidestLine);
-    changed();
 }
 
 void PolarChart::setGridStyle(bool polygon, bool onTop) {
     m_polygon = polygon;
     m_gridOnTop = onTop;
-    changed();
 }
 
 PolarLayer* PolarChart::addLayer(Kind kind, std::vector<double> data, Colour colour, std::string name) {

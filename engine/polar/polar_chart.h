@@ -21,8 +21,8 @@ public:
     /// Of the rings and of the spokes; -1 keeps a colour.
     void setGrid(Colour rings, int ringWidth, Colour spokes, int spokeWidth);
     void setGridStyle(bool polygon, bool onTop);
-    AngularAxis* angularAxis() { return m_angular; }
-    Axis* radialAxis() { return m_radial; }
+    AngularAxis* angularAxis() const { return m_angular; }
+    Axis* radialAxis() const { return m_radial; }
     /// -1 is the next series colour.
     PolarLayer* addLayer(Kind kind, std::vector<double> data, Colour colour, std::string name);
 

@@ -48,49 +48,39 @@ private:
 } // namespace
 
 PolarLayer::PolarLayer(Kind kind, Chart& chart, std::vector<double> data, Colour colour, std::string name)
-    : Object(kind), m_chart(chart), m_data(std::move(data)), m_colour(colour), m_name(std::move(name)),
+    : Part(kind, chart), m_data(std::move(data)), m_colour(colour), m_name(std::move(name)),
       m_labelFormat(kDefaultFormat) {}
-
-void PolarLayer::changed() {
-    m_chart.changed();
-}
 
 void PolarLayer::setAngles(std::vector<double> angles) {
     m_angles = std::move(angles);
-    changed();
 }
 
 TextBox* PolarLayer::setDataLabelStyle(const TextLook& look) {
     if (m_labelStyle == nullptr)
-        m_labelStyle = m_chart.own<TextBox>(m_chart);
-    m_labelStyle->edit() = look;
-    m_labelStyle->edit().setMargins(2, 2, 0, 0);
+        m_labelStyle = chart().own<TextBox>(chart());
+    m_labelStyle->look() = look;
+    m_labelStyle->look().setMargins(2, 2, 0, 0);
     return m_labelStyle;
 }
 
 void PolarLayer::setDataLabelFormat(std::string_view format) {
     m_labelFormat = Format(format.empty() ? kDefaultFormat : format);
-    changed();
 }
 
 void PolarLayer::setSymbol(const DataSymbol& symbol) {
     m_symbol = symbol;
-    changed();
 }
 
 void PolarLayer::setLineWidth(int width) {
     m_lineWidth = std::clamp(width, 0, kWidestLine);
-    changed();
 }
 
 void PolarLayer::setSymbolScale(std::vector<double> sizes) {
     m_symbolSizes = std::move(sizes);
-    changed();
 }
 
 void PolarLineLayer::setCloseLoop(bool close) {
     m_closed = close;
-    changed();
 }
 
 DataRange PolarLayer::range() const {

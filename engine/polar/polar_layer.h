@@ -15,7 +15,7 @@
 
 namespace chartdraw {
 
-class PolarLayer : public Object {
+class PolarLayer : public Part {
 public:
     static constexpr Kind kKind = Kind::PolarLayer;
 
@@ -40,8 +40,6 @@ public:
     void collectKeys(std::vector<LegendKey>& keys) const;
 
 protected:
-    void changed();
-
     bool m_closed = true; ///< the last point is joined to the first
 
 private:
@@ -62,7 +60,6 @@ private:
     void drawSymbols(Canvas& canvas, const PolarFrame& frame,
                      const std::vector<std::optional<Point>>& points) const;
 
-    Chart& m_chart;
     std::vector<double> m_data;
     Colour m_colour;
     std::string m_name;

@@ -84,7 +84,6 @@ void BarLayer::setShape(int shape, int dataSet, int row) {
         return (dataSet == -1 || dataSet == entry.first.first) && (row == -1 || row == entry.first.second);
     });
     m_shapes[{dataSet, row}] = shape;
-    changed();
 }
 
 void BarLayer::setOverlap(double ratio, bool firstOnTop) {
@@ -92,13 +91,11 @@ void BarLayer::setOverlap(double ratio, bool firstOnTop) {
     const double limited = std::isnan(ratio) ? 0 : std::clamp(ratio, 0.0, 0.999999);
     m_subGap = -limited / (1 - limited);
     m_firstOnTop = firstOnTop;
-    changed();
 }
 
 void BarLayer::setGap(double gap, double subGap) {
     m_gap = std::isnan(gap) ? m_gap : std::clamp(gap, 0.0, 1.0);
     m_subGap = std::isnan(subGap) ? m_subGap : std::clamp(subGap, -1e6, 1.0);
-    changed();
 }
 
 int BarLayer::shapeOf(std::size_t set, std::size_t row) const {

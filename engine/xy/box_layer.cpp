@@ -30,12 +30,10 @@ BaseBoxLayer::BaseBoxLayer(Kind kind, XYChart& chart, std::vector<std::vector<do
 
 void BaseBoxLayer::setDataGap(double gap) {
     m_gap = std::isnan(gap) ? m_gap : std::clamp(gap, 0.0, 1.0);
-    changed();
 }
 
 void BaseBoxLayer::setDataWidth(int pixels) {
     m_width = std::clamp(pixels, 0, kMaxSymbolSize);
-    changed();
 }
 
 double BaseBoxLayer::at(std::size_t series, std::size_t row) const {
@@ -122,7 +120,6 @@ BoxWhiskerLayer::BoxWhiskerLayer(XYChart& chart, std::vector<std::vector<double>
 void BoxWhiskerLayer::setBoxColours(std::vector<Colour> colours, std::vector<std::string> names) {
     m_colours = std::move(colours);
     m_names = std::move(names);
-    changed();
 }
 
 Colour BoxWhiskerLayer::fillOf(std::size_t row) const {

@@ -8,8 +8,7 @@
 namespace chartdraw {
 
 DataSet::DataSet(Chart& chart, std::vector<double> data, Colour colour, std::string name)
-    : Object(Kind::DataSet), m_chart(chart), m_data(std::move(data)), m_colour(colour),
-      m_name(std::move(name)) {}
+    : Part(Kind::DataSet, chart), m_data(std::move(data)), m_colour(colour), m_name(std::move(name)) {}
 
 Colour DataSet::edge(Colour layerBorder) const {
     return orDefault(m_edge, orDefault(layerBorder, kTransparent));
@@ -17,7 +16,6 @@ Colour DataSet::edge(Colour layerBorder) const {
 
 void DataSet::setName(std::string name) {
     m_name = std::move(name);
-    m_chart.changed();
 }
 
 void DataSet::setColours(Colour data, Colour edge, Colour shadow, Colour shadowEdge) {
@@ -25,14 +23,12 @@ void DataSet::setColours(Colour data, Colour edge, Colour shadow, Colour shadowE
     m_edge = edge;
     m_shadow = shadow;
     m_shadowEdge = shadowEdge;
-    m_chart.changed();
 }
 
 void DataSet::setSymbol(const DataSymbol& symbol) {
     m_symbol = symbol;
     m_symbol.size = std::clamp(symbol.size, 0, kMaxSymbolSize);
     m_symbol.lineWidth = std::clamp(symbol.lineWidth, 0, kMaxSymbolSize);
-    m_chart.changed();
 }
 
 } // namespace chartdraw

@@ -2,7 +2,7 @@
 // One series of a layer: its numbers, its name and its looks.
 
 #include "engine/chart/data_symbol.h"
-#include "engine/object/object.h"
+#include "engine/chart/part.h"
 
 #include <span>
 #include <string>
@@ -10,10 +10,8 @@
 
 namespace chartdraw {
 
-class Chart;
-
 /// Colours are resolved: the functions below never give kDefaultColour.
-class DataSet : public Object {
+class DataSet : public Part {
 public:
     static constexpr Kind kKind = Kind::DataSet;
 
@@ -42,7 +40,6 @@ public:
     void setSymbol(const DataSymbol& symbol);
 
 private:
-    Chart& m_chart;
     std::vector<double> m_data;
     Colour m_colour;
     Colour m_edge = kDefaultColour, m_shadow = kDefaultColour, m_shadowEdge = kDefaultColour;

@@ -26,12 +26,9 @@ double PlotFrame::baseLine() const {
     return y.scale().kind() == ScaleKind::Log ? y.lowerPixel() : y.pixel(y.clamp(0));
 }
 
-Layer::Layer(Kind kind, XYChart& chart, int depth) : Object(kind), m_chart(chart), m_yAxis(chart.yAxis()) {
+Layer::Layer(Kind kind, XYChart& chart, int depth)
+    : Part(kind, chart), m_chart(chart), m_yAxis(chart.yAxis()) {
     set3D(depth, 0);
-}
-
-void Layer::changed() {
-    m_chart.changed();
 }
 
 DataSet* Layer::addDataSet(std::vector<double> data, Colour colour, std::string name) {
@@ -48,7 +45,6 @@ DataSet* Layer::dataSet(int index) const {
 
 void Layer::setXData(std::vector<double> data) {
     m_xData = std::move(data);
-    changed();
 }
 
 double Layer::xValue(std::size_t row) const {
@@ -71,31 +67,26 @@ RowRange Layer::rows() const {
 void Layer::set3D(int depth, int zGap) {
     m_depth = std::clamp(depth, -1, kMaxDepth);
     m_zGap = std::clamp(zGap, 0, kMaxDepth);
-    changed();
 }
 
 void Layer::setLineWidth(int width) {
     m_lineWidth = std::clamp(width, 0, kMaxDepth);
-    changed();
 }
 
 void Layer::setBorder(Colour colour, int effect) {
     m_borderColour = orDefault(colour, m_borderColour);
     m_borderEffect = effect;
-    changed();
 }
 
 void Layer::setYAxis(Axis* axis) {
-    if (m_chart.owns(axis) && axis->direction() == Direction::Y) {
+    if (m_chart.owns(axis) && axis->direction() == Direction::Y)
         m_yAxis = axis;
-        changed();
-    }
 }
 
 TextBox* Layer::labelStyle(TextBox*& box, const TextLook& look) {
     if (box == nullptr)
         box = m_chart.own<TextBox>(m_chart);
-    box->edit() = look;
+    box->look() = look;
     return box;
 }
 
@@ -109,12 +100,10 @@ TextBox* Layer::setAggregateLabelStyle(const TextLook& look) {
 
 void Layer::setDataLabelFormat(std::string format) {
     m_dataLabelFormat = format.empty() ? "{value}" : std::move(format);
-    changed();
 }
 
 void Layer::setAggregateLabelFormat(std::string format) {
     m_aggregateLabelFormat = format.empty() ? "{value}" : std::move(format);
-    changed();
 }
 
 void Layer::setImageMap(std::string url, std::string query, std::string attributes) {

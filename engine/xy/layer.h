@@ -62,7 +62,7 @@ struct PlotFrame {
     double baseLine() const;
 };
 
-class Layer : public Object {
+class Layer : public Part {
 public:
     static constexpr Kind kKind = Kind::Layer;
 
@@ -135,7 +135,6 @@ protected:
 
     /// Pixels of depth where -1 was asked for.
     virtual int automaticDepth() const { return 10; }
-    void changed();
     /// The whole range of percentages of which some of `range` are shown.
     static DataRange percentRange(const DataRange& range);
 

@@ -70,7 +70,6 @@ Line* LineLayer::line(int index) {
 void LineLayer::setSymbolSizes(std::vector<double> widths, std::vector<double> heights) {
     m_widths = std::move(widths);
     m_heights = std::move(heights);
-    changed();
 }
 
 std::vector<QPointF> LineLayer::curve(const DataSet& set, const PlotFrame& frame) const {

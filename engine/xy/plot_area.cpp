@@ -16,7 +16,6 @@ constexpr Colour kLightGrey = 0xc0c0c0;
 void PlotArea::setRect(int x, int y, int width, int height) {
     const auto limited = [](int value, int least) { return std::clamp(value, least, kMaxSide); };
     m_rect = QRect(limited(x, -kMaxSide), limited(y, -kMaxSide), limited(width, 0), limited(height, 0));
-    m_chart.changed();
 }
 
 void PlotArea::setBackground(Colour background, Colour alternate, Colour edge) {
@@ -24,13 +23,11 @@ void PlotArea::setBackground(Colour background, Colour alternate, Colour edge) {
     m_alternate = alternate;
     m_edge = orDefault(edge, kLineColour);
     m_hasQuadrants = false;
-    m_chart.changed();
 }
 
 void PlotArea::setImage(std::string path, int alignment) {
     m_imagePath = std::move(path);
     m_imageAlignment = alignment;
-    m_chart.changed();
 }
 
 void PlotArea::setQuadrants(const std::array<Colour, 4>& colours, Colour edge) {
@@ -38,25 +35,21 @@ void PlotArea::setQuadrants(const std::array<Colour, 4>& colours, Colour edge) {
         m_quadrants[i] = orDefault(colours[i], m_quadrants[i]);
     m_edge = orDefault(edge, m_edge);
     m_hasQuadrants = true;
-    m_chart.changed();
 }
 
 void PlotArea::setGridColours(const std::array<Colour, 4>& colours) {
     for (std::size_t i = 0; i < colours.size(); ++i)
         m_grids[i].colour = orDefault(colours[i], m_grids[i].colour);
-    m_chart.changed();
 }
 
 void PlotArea::setFirstGrid(Colour horizontal, Colour vertical) {
     m_grids[MajorHorizontal].colour = orDefault(horizontal, kLightGrey);
     m_grids[MajorVertical].colour = orDefault(vertical, kTransparent);
-    m_chart.changed();
 }
 
 void PlotArea::setGridWidths(const std::array<int, 4>& widths) {
     for (std::size_t i = 0; i < widths.size(); ++i)
         m_grids[i].width = std::clamp(widths[i], 0, kMaxSide);
-    m_chart.changed();
 }
 
 void PlotArea::drawBackground(Canvas& canvas, QPoint offset, const Lines& lines) const {

@@ -3,7 +3,7 @@
 // frame lines run on the pixel columns left and left + width and on the rows top and top + height, which is
 // where the limits of axes without margins stand.
 
-#include "engine/object/object.h"
+#include "engine/chart/part.h"
 #include "engine/paint/colour.h"
 
 #include <QPoint>
@@ -15,7 +15,6 @@
 namespace chartdraw {
 
 class Canvas;
-class Chart;
 
 /// How the grid lines of one sort look. Invisible with a width below 1 or a transparent colour.
 struct GridLook {
@@ -23,13 +22,13 @@ struct GridLook {
     int width = 1; ///< pixels
 };
 
-class PlotArea : public Object {
+class PlotArea : public Part {
 public:
     static constexpr Kind kKind = Kind::PlotArea;
 
     enum Grid { MajorHorizontal, MajorVertical, MinorHorizontal, MinorVertical };
 
-    explicit PlotArea(Chart& chart) : Object(Kind::PlotArea), m_chart(chart) {}
+    explicit PlotArea(Chart& chart) : Part(Kind::PlotArea, chart) {}
 
     void setRect(int x, int y, int width, int height);
     void setBackground(Colour background, Colour alternate, Colour edge);
@@ -60,7 +59,6 @@ public:
 private:
     void drawBands(Canvas& canvas, const QRect& frame, QPoint offset, const Lines& lines) const;
 
-    Chart& m_chart;
     QRect m_rect;
     Colour m_background = kTransparent;
     Colour m_alternate = kDefaultColour; ///< as the background

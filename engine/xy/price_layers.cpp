@@ -39,7 +39,6 @@ void HLOCLayer::setColourMethod(bool byClose, Colour rise, Colour fall, double l
     m_rise = rise;
     m_fall = fall;
     m_leadValue = leadValue;
-    changed();
 }
 
 std::vector<bool> HLOCLayer::falls() const {

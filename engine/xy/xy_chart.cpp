@@ -55,24 +55,20 @@ bool XYChart::owns(const Axis* axis) const {
 
 void XYChart::swapXY(bool swap) {
     m_swapped = swap;
-    changed();
 }
 
 void XYChart::setAxisAtOrigin(int mode, int flags) {
     m_originMode = mode;
     m_symmetry = flags;
-    changed();
 }
 
 void XYChart::setYAxisOnRight(bool right) {
     m_yOnRight = right;
-    changed();
 }
 
 void XYChart::setTrimData(int start, int length) {
     m_trimStart = static_cast<std::size_t>(std::max(start, 0));
     m_trimLength = static_cast<std::size_t>(std::max(length, 0));
-    changed();
 }
 
 RowRange XYChart::rows(std::size_t count) const {

@@ -21,16 +21,16 @@ constexpr double kRadius = 140;
 
 enum class Layout { Circle, Side };
 
-std::vector<PlacedLabel> place(Layout layout, const std::vector<LabelSpot>& spots, double distance = 10) {
+std::vector<PlacedLabel> place(Layout layout, const std::vector<SectorLabel>& spots, double distance = 10) {
     return layout == Layout::Circle ? circleLayout(spots, kRoom, distance)
                                     : sideLayout(spots, kRoom, distance);
 }
 
-LabelSpot spotAt(double angle, double weight, QSizeF size) {
+SectorLabel spotAt(double angle, double weight, QSizeF size) {
     return {angle, kCentre, kRadius, kRadius, kCentre + direction(angle) * kRadius, size, weight};
 }
 
-std::vector<LabelSpot> randomSpots(int count, unsigned seed) {
+std::vector<SectorLabel> randomSpots(int count, unsigned seed) {
     std::mt19937 random(seed);
     std::vector<double> values;
     for (int i = 0; i < count; ++i) {
@@ -40,7 +40,7 @@ std::vector<LabelSpot> randomSpots(int count, unsigned seed) {
     values[0] += 0.1;
     const auto parts = shares(values);
     const auto spans = sectorSpans(parts, static_cast<double>(random() % 360), seed % 3 != 0);
-    std::vector<LabelSpot> spots;
+    std::vector<SectorLabel> spots;
     for (std::size_t i = 0; i < parts.size(); ++i) {
         const QSizeF size(20 + static_cast<double>(random() % 60), random() % 4 == 0 ? 27 : 14);
         spots.push_back(spotAt(spans[i].middle(), parts[i], size));
@@ -107,7 +107,7 @@ TEST_P(BothLayouts, ShowAllLabelsWhereThereIsRoom) {
 }
 
 TEST_P(BothLayouts, GiveUpTheSmallestFirst) {
-    std::vector<LabelSpot> spots;
+    std::vector<SectorLabel> spots;
     for (int i = 0; i < 100; ++i)
         spots.push_back(spotAt(i * std::numbers::pi / 50, i % 2 == 0 ? 2 : 1, {50, 25}));
     const auto labels = place(GetParam(), spots);
@@ -147,7 +147,7 @@ TEST_P(BothLayouts, JoinLinesBelongToTheirLabels) {
 }
 
 TEST(SideLayout, StandsInTwoColumnsThatAlign) {
-    std::vector<LabelSpot> spots;
+    std::vector<SectorLabel> spots;
     for (int i = 0; i < 8; ++i)
         spots.push_back(spotAt((i + 0.5) * std::numbers::pi / 4, 1, QSizeF(30 + 5 * i, 14)));
     const auto labels = place(Layout::Side, spots, 25);
@@ -160,7 +160,7 @@ TEST(SideLayout, StandsInTwoColumnsThatAlign) {
 
 TEST(CircleLayout, TouchesTheWidenedCircleInEveryDirection) {
     for (int degrees = 0; degrees < 360; degrees += 5) {
-        const LabelSpot spot = spotAt(degrees * std::numbers::pi / 180, 1, {60, 14});
+        const SectorLabel spot = spotAt(degrees * std::numbers::pi / 180, 1, {60, 14});
         const QRectF box = place(Layout::Circle, {spot}, 10)[0].box;
         const double dx = std::max({0.0, box.left() - kCentre.x(), kCentre.x() - box.right()});
         const double dy = std::max({0.0, box.top() - kCentre.y(), kCentre.y() - box.bottom()});
