@@ -3,6 +3,7 @@
 // A family of layers: what the managers' static factories do by the number of a kind. The numbers are the
 // positions of `Kinds`.
 
+#include "model/src/owned_list.h"
 #include <memory>
 #include <new>
 
@@ -58,3 +59,44 @@ private:
 };
 
 } // namespace model
+
+/// The operations that both managers of layers have, on their member `m_layers`.
+#define DEFINE_LAYER_MANAGER(Manager, Layer, Family)                                                         \
+    Manager::Manager() : m_layers(nullptr) {}                                                                \
+    Manager::Manager(const Manager& other) : Manager() {                                                     \
+        *this = other;                                                                                       \
+    }                                                                                                        \
+    Manager& Manager::operator=(const Manager& other) {                                                      \
+        model::assignObjects<Layer>(m_layers, other.m_layers, Family::clone);                                \
+        return *this;                                                                                        \
+    }                                                                                                        \
+    Manager::~Manager() {                                                                                    \
+        model::freeObjects<Layer>(m_layers);                                                                 \
+    }                                                                                                        \
+    void Manager::DeleteContents() {                                                                         \
+        model::clearObjects<Layer>(m_layers);                                                                \
+    }                                                                                                        \
+    int Manager::GetLayerCount() const {                                                                     \
+        return model::countOf<Layer*>(m_layers);                                                             \
+    }                                                                                                        \
+    Layer* Manager::GetLayer(int index) const {                                                              \
+        return model::objectAt<Layer>(m_layers, index);                                                      \
+    }                                                                                                        \
+    int Manager::AddLayer(Layer* layer) {                                                                    \
+        return model::addObject(m_layers, layer);                                                            \
+    }                                                                                                        \
+    void Manager::InsertLayer(Layer* layer, int index) {                                                     \
+        model::insertObject(m_layers, layer, index);                                                         \
+    }                                                                                                        \
+    void Manager::DeleteLayer(int index) {                                                                   \
+        model::deleteObject<Layer>(m_layers, index);                                                         \
+    }                                                                                                        \
+    Layer* Manager::CreateLayer(int type) {                                                                  \
+        return Family::orNull([&] { return Family::create(type); });                                         \
+    }                                                                                                        \
+    int Manager::CopyLayer(Layer* from, Layer* to) {                                                         \
+        return from && to && Family::copy(*from, *to) ? 1 : 0;                                               \
+    }                                                                                                        \
+    Layer* Manager::CloneLayer(Layer* layer) {                                                               \
+        return layer ? Family::orNull([&] { return Family::clone(*layer); }) : nullptr;                      \
+    }

@@ -1,5 +1,4 @@
 #include "model/src/layer_family.h"
-#include "model/src/owned_list.h"
 #include "model/src/value_class.h"
 #include <charteditors/polar_chart.h>
 #include <cstdlib>
@@ -45,53 +44,4 @@ CPolarSplineAreaLayer::CPolarSplineAreaLayer() {
 }
 DEFINE_VALUE_CLASS(CPolarSplineAreaLayer)
 
-CPolarLayerMgr::CPolarLayerMgr() : m_layers(nullptr) {}
-
-CPolarLayerMgr::CPolarLayerMgr(const CPolarLayerMgr& other) : CPolarLayerMgr() {
-    *this = other;
-}
-
-CPolarLayerMgr& CPolarLayerMgr::operator=(const CPolarLayerMgr& other) {
-    model::assignObjects<CPolarLayer>(m_layers, other.m_layers, Family::clone);
-    return *this;
-}
-
-CPolarLayerMgr::~CPolarLayerMgr() {
-    model::freeObjects<CPolarLayer>(m_layers);
-}
-
-void CPolarLayerMgr::DeleteContents() {
-    model::clearObjects<CPolarLayer>(m_layers);
-}
-
-int CPolarLayerMgr::GetLayerCount() const {
-    return model::countOf<CPolarLayer*>(m_layers);
-}
-
-CPolarLayer* CPolarLayerMgr::GetLayer(int index) const {
-    return model::objectAt<CPolarLayer>(m_layers, index);
-}
-
-int CPolarLayerMgr::AddLayer(CPolarLayer* layer) {
-    return model::addObject(m_layers, layer);
-}
-
-void CPolarLayerMgr::InsertLayer(CPolarLayer* layer, int index) {
-    model::insertObject(m_layers, layer, index);
-}
-
-void CPolarLayerMgr::DeleteLayer(int index) {
-    model::deleteObject<CPolarLayer>(m_layers, index);
-}
-
-CPolarLayer* CPolarLayerMgr::CreateLayer(int type) {
-    return Family::orNull([&] { return Family::create(type); });
-}
-
-int CPolarLayerMgr::CopyLayer(CPolarLayer* from, CPolarLayer* to) {
-    return from && to && Family::copy(*from, *to) ? 1 : 0;
-}
-
-CPolarLayer* CPolarLayerMgr::CloneLayer(CPolarLayer* layer) {
-    return layer ? Family::orNull([&] { return Family::clone(*layer); }) : nullptr;
-}
+DEFINE_LAYER_MANAGER(CPolarLayerMgr, CPolarLayer, Family)

@@ -1,5 +1,4 @@
 #include "model/src/layer_family.h"
-#include "model/src/owned_list.h"
 #include "model/src/value_class.h"
 #include <charteditors/xy_layer.h>
 #include <cstdlib>
@@ -82,61 +81,12 @@ CXYCandleStickLayer::CXYCandleStickLayer() {
 }
 DEFINE_VALUE_CLASS(CXYCandleStickLayer)
 
-CXYChartLayerMgr::CXYChartLayerMgr() : m_layers(nullptr) {}
-
-CXYChartLayerMgr::CXYChartLayerMgr(const CXYChartLayerMgr& other) : CXYChartLayerMgr() {
-    *this = other;
-}
-
-CXYChartLayerMgr& CXYChartLayerMgr::operator=(const CXYChartLayerMgr& other) {
-    model::assignObjects<CXYChartLayer>(m_layers, other.m_layers, Family::clone);
-    return *this;
-}
-
-CXYChartLayerMgr::~CXYChartLayerMgr() {
-    model::freeObjects<CXYChartLayer>(m_layers);
-}
-
-void CXYChartLayerMgr::DeleteContents() {
-    model::clearObjects<CXYChartLayer>(m_layers);
-}
-
-int CXYChartLayerMgr::GetLayerCount() const {
-    return model::countOf<CXYChartLayer*>(m_layers);
-}
+DEFINE_LAYER_MANAGER(CXYChartLayerMgr, CXYChartLayer, Family)
 
 bool CXYChartLayerMgr::empty() const {
     return GetLayerCount() == 0;
 }
 
-CXYChartLayer* CXYChartLayerMgr::GetLayer(int index) const {
-    return model::objectAt<CXYChartLayer>(m_layers, index);
-}
-
-int CXYChartLayerMgr::AddLayer(CXYChartLayer* layer) {
-    return model::addObject(m_layers, layer);
-}
-
-void CXYChartLayerMgr::InsertLayer(CXYChartLayer* layer, int index) {
-    model::insertObject(m_layers, layer, index);
-}
-
 void CXYChartLayerMgr::SetLayer(CXYChartLayer* layer, int index) {
     model::setObject(m_layers, layer, index);
-}
-
-void CXYChartLayerMgr::DeleteLayer(int index) {
-    model::deleteObject<CXYChartLayer>(m_layers, index);
-}
-
-CXYChartLayer* CXYChartLayerMgr::CreateLayer(int type) {
-    return Family::orNull([&] { return Family::create(type); });
-}
-
-int CXYChartLayerMgr::CopyLayer(CXYChartLayer* from, CXYChartLayer* to) {
-    return from && to && Family::copy(*from, *to) ? 1 : 0;
-}
-
-CXYChartLayer* CXYChartLayerMgr::CloneLayer(CXYChartLayer* layer) {
-    return layer ? Family::orNull([&] { return Family::clone(*layer); }) : nullptr;
 }

@@ -1,8 +1,9 @@
 // The ten containers behave as one: the same cases run over each.
 
-#include "tests/model/field_rows.h"
 #include "tests/model/memory_probe.h"
+#include <charteditors/charteditors.h>
 #include <gtest/gtest.h>
+#include <string>
 
 namespace {
 
