@@ -2,13 +2,14 @@
 #include "render/finance/draw_finance.h"
 #include "render/pie.h"
 #include "render/samples.h"
+#include "render/xy_frame.h"
 
 static constexpr DrawRoutine routines[] = {
     DrawColorSample,  // PreviewColor
     DrawFontSample,   // PreviewFont
     DrawImageSample,  // PreviewImage
     nullptr,          // PreviewLayout
-    nullptr,          // PreviewXYChart
+    DrawXYChart,      // PreviewXYChart
     DrawPieChart,     // PreviewPieChart
     DrawFinanceChart, // PreviewFinanceChart
     nullptr,          // PreviewAngularMeter
