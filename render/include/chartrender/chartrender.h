@@ -13,5 +13,6 @@
 /// What the editors preview is what is rendered here. Texts are narrow, in the locale's encoding, as those of
 /// the model. Nothing throws. Different threads may render at once.
 
+#include <chartrender/finance.h>
 #include <chartrender/picture.h>
 #include <chartrender/pie.h>

@@ -18,7 +18,7 @@
 /// How rendering went. With every other result than Ok the picture is empty.
 enum class ChartRenderResult {
     Ok,
-    BadData,  ///< A negative count, or no values where the count says there are.
+    BadData,  ///< The data break a rule of their structure, such as a negative count.
     NoPicture ///< The layout's width or height is below 1 or above 16384 pixels, or there is no memory.
 };
 

@@ -1,0 +1,121 @@
+// Finance charts of the host's prices: in order, gaps marked, and clear answers to what is no data.
+
+#include "render/finance/draw_finance.h"
+#include "tests/recorder/recorder.h"
+#include <chartrender/chartrender.h>
+#include <gmock/gmock.h>
+#include <limits>
+
+namespace {
+
+using testing::Contains;
+
+constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+TEST(RenderFinance, OfTheSamplePricesIsThePreview) {
+    class Preview : public CChartPreview {
+        int ClientWidth() const override { return 0; }
+        int ClientHeight() const override { return 0; }
+        void SetScrollSizes() override {}
+        void PaintSample(const char*, int) override {}
+    } preview;
+    preview.m_layout = &preview.m_ownLayout;
+    preview.m_ownLayout.m_showLegend = false; // the preview's has a key that is only a sample
+    preview.m_ownFinanceChart.m_showVolBars = preview.m_ownFinanceChart.m_showRsi = true;
+    DrawFinanceChart(preview);
+
+    const CSamplePrices prices;
+    const FinanceSeries rows = prices.Rows();
+    CFinanceChartData data;
+    data.dates = rows.timeStamps.data();
+    data.open = rows.open.data();
+    data.high = rows.high.data();
+    data.low = rows.low.data();
+    data.close = rows.close.data();
+    data.volume = rows.volume.data();
+    data.count = RowCount(rows.close);
+    data.leadingRows = 30;
+    CChartPicture picture;
+    ASSERT_EQ(RenderFinanceChart(preview.m_ownFinanceChart, preview.m_ownLayout, data,
+                                 ChartPictureFormat::Bmp, picture),
+              ChartRenderResult::Ok);
+    const auto& previewed = preview.m_picture.Bytes();
+    EXPECT_TRUE(std::equal(previewed.begin(), previewed.end(), reinterpret_cast<const char*>(picture.Data()),
+                           reinterpret_cast<const char*>(picture.Data()) + picture.Size()));
+}
+
+TEST(RenderFinance, OrdersRowsAndMarksGaps) {
+    const double dates[] = {3e5, 1e5, kNaN, 2e5, 3e5, kInfinity};
+    const double open[] = {1, 5, 1, 8, 11, 1};
+    const double high[] = {1, 6, 1, 7, kNaN, 1};
+    const double low[] = {1, 4, 1, 9, 10, 1}; // above the high in the fourth row
+    const double close[] = {1, -kInfinity, 1, 8, 12, 1};
+    const double volume[] = {1, 100, 1, -200, 300, 1};
+    CFinanceChartData data;
+    data.dates = dates;
+    data.open = open;
+    data.high = high;
+    data.low = low;
+    data.close = close;
+    data.volume = volume;
+    data.count = 6;
+    CFinanceChart look;
+    look.m_showVolBars = true;
+    const recorder::Recording recording;
+    CChartPicture picture;
+    RenderFinanceChart(look, CChartLayout(), data, ChartPictureFormat::Png, picture);
+    EXPECT_FALSE(picture.Empty());
+    EXPECT_THAT(recording.Lines(), Contains("CAxis_setLabels2(Axis#1, [1e+05, 2e+05, 3e+05], null)"));
+    EXPECT_THAT(recording.Lines(), Contains("CXYChart_addHLOCLayer(XYChart#1, [6, 9, 1.7e+308], [4, 7, 10], "
+                                            "[5, 8, 11], [1.7e+308, 8, 12], -1)"));
+    // Each row's volume is in the layer of its change: none, none, up.
+    EXPECT_THAT(recording.Lines(),
+                Contains(R"(CXYChart_addBarLayer(XYChart#1, [1.7e+308, 1.7e+308, 300], 0x0099ff99, "", 0))"));
+    EXPECT_EQ(recording.Count("CRanTable_create") + recording.Count("CBaseChart_addTitle2"), 0);
+}
+
+TEST(RenderFinance, AnswersBadDataWithoutAPicture) {
+    const double values[] = {1, 2};
+    CFinanceChart volBars;
+    volBars.m_showVolBars = true;
+    CFinanceChart nothing;
+    for (std::int32_t& pane : nothing.m_order)
+        pane = -1;
+    CChartLayout layout;
+    const auto result = [&](const CFinanceChart& look, auto edit) {
+        CFinanceChartData data;
+        data.dates = data.open = data.high = data.low = data.close = values;
+        data.count = 2;
+        edit(data);
+        CChartPicture picture;
+        const ChartRenderResult answer =
+            RenderFinanceChart(look, layout, data, ChartPictureFormat::Bmp, picture);
+        EXPECT_EQ(picture.Empty(), answer != ChartRenderResult::Ok);
+        return answer;
+    };
+    EXPECT_EQ(result(volBars, [](CFinanceChartData&) {}), ChartRenderResult::Ok); // there are no volumes
+    EXPECT_EQ(result(
+                  nothing, [](CFinanceChartData&) {}),
+              ChartRenderResult::Ok);
+    EXPECT_EQ(result(
+                  volBars, [](CFinanceChartData& data) { data = {.count = 0}; }),
+              ChartRenderResult::Ok);
+    EXPECT_EQ(result(
+                  volBars, [](CFinanceChartData& data) { data.leadingRows = 2147483647; }),
+              ChartRenderResult::Ok);
+    EXPECT_EQ(result(
+                  volBars, [](CFinanceChartData& data) { data.count = -1; }),
+              ChartRenderResult::BadData);
+    EXPECT_EQ(result(
+                  volBars, [](CFinanceChartData& data) { data.close = nullptr; }),
+              ChartRenderResult::BadData);
+    EXPECT_EQ(result(volBars, [](CFinanceChartData& data) { --data.size; }), ChartRenderResult::BadData);
+    for (const int width : {0, -2147483647 - 1, 2147483647, 80}) {
+        layout.m_financeWidth = width; // 80 is all margins
+        EXPECT_EQ(result(volBars, [](CFinanceChartData&) {}),
+                  width == 80 ? ChartRenderResult::Ok : ChartRenderResult::NoPicture);
+    }
+}
+
+} // namespace
