@@ -45,13 +45,15 @@ void MultiChart::collectKeys(std::vector<LegendKey>& keys) const {
     std::vector<LegendKey> own;
     main->collectKeys(own);
     for (LegendKey& key : own) {
-        // Its patterns are known to the colours of its chart only.
+        // Its patterns are known to the colours of its chart, and to none above.
         if (key.drawSymbol) {
             key.drawSymbol = [draw = std::move(key.drawSymbol), main](Canvas& canvas, const QRectF& area) {
                 QImage image(area.toAlignedRect().size(), QImage::Format_ARGB32_Premultiplied);
                 image.fill(Qt::transparent);
                 {
-                    Canvas part(image, main->colours());
+                    ColourTable colours = main->colours();
+                    colours.addPatternsOf(canvas.colours(), -area.toAlignedRect().topLeft());
+                    Canvas part(image, colours);
                     draw(part, QRectF(QPointF(), area.size()));
                 }
                 canvas.painter().drawImage(area.toAlignedRect().topLeft(), image);
@@ -77,7 +79,9 @@ void MultiChart::drawBody(Canvas& canvas) {
             continue;
         layer.fill(Qt::transparent);
         {
-            Canvas part(layer, shown.chart->colours());
+            ColourTable colours = shown.chart->colours();
+            colours.addPatternsOf(canvas.colours(), -shown.at);
+            Canvas part(layer, colours);
             shown.chart->draw(part);
         }
         canvas.painter().drawImage(shown.at, layer);

@@ -168,6 +168,11 @@ Colour ColourTable::addPattern(const QImage& tile, int startX, int startY) {
     return token;
 }
 
+void ColourTable::addPatternsOf(const ColourTable& other, const QPoint& offset) {
+    for (const auto& [token, pattern] : other.m_patterns)
+        m_patterns.insert_or_assign(token, Pattern{pattern.tile, pattern.origin + offset, pattern.mean});
+}
+
 QColor ColourTable::solid(Colour colour) const {
     if (colour < kTransparent) {
         return {static_cast<int>(colour >> 16 & 0xff), static_cast<int>(colour >> 8 & 0xff),

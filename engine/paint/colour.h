@@ -8,6 +8,7 @@
 
 #include <QBrush>
 #include <QImage>
+#include <QPoint>
 #include <QString>
 #include <array>
 #include <cstdint>
@@ -50,6 +51,10 @@ public:
     /// Registers a tile and returns its token. (startX, startY) is the pixel of the picture where a tile
     /// begins. A null image gives kTransparent. In another chart the token is unknown, so invisible.
     Colour addPattern(const QImage& tile, int startX, int startY);
+
+    /// Makes the patterns of another table known here too, their tiles moved by `offset`: for a chart that is
+    /// drawn as part of another one.
+    void addPatternsOf(const ColourTable& other, const QPoint& offset);
 
     /// The plain colour that stands for a value: palette entries looked up, a metal's base, a pattern's mean
     /// colour, invisible for Transparent and unknown tokens.

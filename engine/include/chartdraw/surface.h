@@ -335,8 +335,8 @@ CHARTDRAW_API DrawArea* CBaseChart_getDrawArea(BaseChart* chart);
 CHARTDRAW_API bool CBaseChart_makeChart2(BaseChart* chart, int format, const char** data, int* length);
 /**
  * A fill that repeats a pattern of pixels. pixels: count colours, row by row from the top, count / height a
- * row. startX, startY: where in the picture a tile begins. The result is for this chart only and ends with
- * it; CHART_TRANSPARENT where there is no full row, height is below 1 or the chart is null.
+ * row. startX, startY: where in the picture a tile begins. The result is for this chart, and charts shown in
+ * it, and ends with it; CHART_TRANSPARENT where there is no full row, height is below 1 or the chart is null.
  */
 CHARTDRAW_API int CBaseChart_patternColor(BaseChart* chart, const int* pixels, int count, int height,
                                           int startX, int startY);

@@ -71,6 +71,18 @@ TEST(MultiChart, CutsChartsOffAtItsSides) {
     CBaseChart_destroy(red);
 }
 
+TEST(MultiChart, LendsItsPatternsToItsCharts) {
+    Multi m;
+    const int tile[] = {kRed, kBlue}; // two columns
+    const int pattern = CBaseChart_patternColor(m.chart, tile, 2, 1, 0, 0);
+    BaseChart* inner = plain(10, 10, pattern);
+    CMultiChart_addChart(m.multi, 3, 20, inner);
+    const QImage image = m.picture();
+    EXPECT_EQ(pictures::at(image, 4, 25), static_cast<unsigned>(kRed)) << "the tiles begin at the whole's 0";
+    EXPECT_EQ(pictures::at(image, 5, 25), static_cast<unsigned>(kBlue));
+    CBaseChart_destroy(inner);
+}
+
 TEST(MultiChart, BlendsTranslucentBackgroundsInOrder) {
     BaseChart* red = plain(60, 60, static_cast<int>(0x80000000) | kRed);
     BaseChart* blue = plain(60, 60, static_cast<int>(0x80000000) | kBlue);
