@@ -5,17 +5,20 @@
 // Where a call takes several colours they are resolved beforehand: a pattern is made by a call of its own,
 // and the order in which arguments are evaluated is the compiler's.
 
+FillAndEdge ResolveColors(BaseChart* chart, const CChartColor& fill, const CChartColor& edge) {
+    const int fillColor = fill.GetChartColor(chart);
+    return {fillColor, edge.GetChartColor(chart)};
+}
+
 void SetBoxBackground(BaseChart* chart, Box* box, const CChartColor& background, const CChartColor& edge,
                       const CChartRaisedEffect& effect) {
-    const int backgroundColor = background.GetChartColor(chart);
-    const int edgeColor = edge.GetChartColor(chart);
-    CBox_setBackground(box, backgroundColor, edgeColor, effect.GetRaisedEffect());
+    const auto [fill, line] = ResolveColors(chart, background, edge);
+    CBox_setBackground(box, fill, line, effect.GetRaisedEffect());
 }
 
 void DrawChartBackground(BaseChart* chart, const CChartLayout& layout) {
-    const int backColor = layout.m_backColor.GetChartColor(chart);
-    const int edgeColor = layout.m_edgeColor.GetChartColor(chart);
-    CBaseChart_setBackground(chart, backColor, edgeColor, layout.m_effect.GetRaisedEffect());
+    const auto [fill, edge] = ResolveColors(chart, layout.m_backColor, layout.m_edgeColor);
+    CBaseChart_setBackground(chart, fill, edge, layout.m_effect.GetRaisedEffect());
     if (layout.m_useWallPaper)
         CBaseChart_setBgImage(chart, CUtf8Text(layout.m_wallPaperImage), CHART_CENTER);
     if (layout.m_roundedFrame)
@@ -29,9 +32,7 @@ static void DrawTitle(BaseChart* chart, const CChartTitle& title) {
     TextBox* textBox = CBaseChart_addTitle2(chart, title.m_alignment, CUtf8Text(title.m_text),
                                             CUtf8Text(title.m_font.m_fileName), title.m_font.m_size,
                                             fontColor, CHART_TRANSPARENT, CHART_TRANSPARENT);
-    Box* box = TextBox2Box(textBox);
-    SetBoxBackground(chart, box, title.m_backColor, title.m_edgeColor, title.m_effect);
-    CTextBox_setFontAngle(textBox, title.m_angle, title.m_vertical);
+    Box* box = DressTextBox(chart, textBox, title);
     if (title.m_usePosition)
         CBox_setPos(box, title.m_x, title.m_y);
 }

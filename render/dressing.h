@@ -20,3 +20,22 @@ void DressLabelBox(BaseChart* chart, const CChartLayout& layout, TextBox* textBo
 /// Background, edge and effect of any box; the colours are resolved in this order, against `chart`.
 void SetBoxBackground(BaseChart* chart, Box* box, const CChartColor& background, const CChartColor& edge,
                       const CChartRaisedEffect& effect);
+
+/// The colours of a shape.
+struct FillAndEdge {
+    int fill;
+    int edge;
+};
+
+/// Resolves two colours against `chart`, the fill first.
+FillAndEdge ResolveColors(BaseChart* chart, const CChartColor& fill, const CChartColor& edge);
+
+/// Gives a text box the colours, effect and angle of its place in a model: a title, a text, a label style.
+/// The box, as Box.
+template <class Style>
+Box* DressTextBox(BaseChart* chart, TextBox* textBox, const Style& style) {
+    Box* box = TextBox2Box(textBox);
+    SetBoxBackground(chart, box, style.m_backColor, style.m_edgeColor, style.m_effect);
+    CTextBox_setFontAngle(textBox, style.m_angle, style.m_vertical);
+    return box;
+}

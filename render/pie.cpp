@@ -4,10 +4,10 @@
 #include "render/utf8_text.h"
 #include "resources/string_table.h"
 
-static void DrawLabels(const PieHolder& holder, const CPieChart& look, const CChartLayout& layout) {
+TextBox* DrawPieLabels(const PieHolder& holder, const CChartLayout& layout) {
     if (!layout.m_showLabel) {
         CPieChart_setLabelFormat(holder.pie, " "); // hides the labels; their room and join lines stay
-        return;
+        return nullptr;
     }
     BaseChart* chart = holder.chart.Get();
     TextBox* textBox =
@@ -15,7 +15,12 @@ static void DrawLabels(const PieHolder& holder, const CPieChart& look, const CCh
                                 layout.m_labelFont.m_size, layout.m_labelFontColor.GetChartColor(chart));
     DressLabelBox(chart, layout, textBox);
     CPieChart_setLabelFormat(holder.pie, CUtf8Text(layout.m_labelFormat));
-    CTextBox_setAlignment(textBox, look.m_labelAlignment);
+    return textBox;
+}
+
+void SetPieData(PieChart* pie, const PieData& data) {
+    CPieChart_setData(pie, data.values.data(), static_cast<int>(std::ssize(data.values)), data.labels.data(),
+                      static_cast<int>(std::ssize(data.labels)));
 }
 
 static void DrawShape(PieChart* pie, const CPieChart& look, const CPieChartPA& area) {
@@ -56,9 +61,9 @@ PieHolder BeginPieChart(const CChartLayout& layout) {
 
 void FinishPieChart(const PieHolder& holder, const CPieChart& look, const CChartLayout& layout,
                     const PieData& data) {
-    CPieChart_setData(holder.pie, data.values.data(), static_cast<int>(std::ssize(data.values)),
-                      data.labels.data(), static_cast<int>(std::ssize(data.labels)));
-    DrawLabels(holder, look, layout);
+    SetPieData(holder.pie, data);
+    if (TextBox* labels = DrawPieLabels(holder, layout))
+        CTextBox_setAlignment(labels, look.m_labelAlignment);
     DrawChartLegend(holder.chart.Get(), layout, false);
     DrawShape(holder.pie, look, layout.m_piePlotArea);
     DrawSectors(holder, look);

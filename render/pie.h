@@ -20,6 +20,11 @@ struct PieHolder {
 /// Makes a pie with its place and the dressing that goes under it.
 PieHolder BeginPieChart(const CChartLayout& layout);
 
+void SetPieData(PieChart* pie, const PieData& data);
+
+/// The looks of the labels; null if the layout shows none.
+TextBox* DrawPieLabels(const PieHolder& holder, const CChartLayout& layout);
+
 /// Gives the pie its data and all that the models say of labels, legend, shape and sectors.
 void FinishPieChart(const PieHolder& holder, const CPieChart& look, const CChartLayout& layout,
                     const PieData& data);

@@ -1,6 +1,8 @@
 #include "render/sample_data.h"
 #include "resources/string_table.h"
+#include <algorithm>
 #include <cmath>
+#include <functional>
 
 std::span<const double> CRandomTable::Column(int column) const {
     const double* data = nullptr;
@@ -12,6 +14,10 @@ std::span<const double> CRandomTable::Column(int column) const {
 CRoundedData::CRoundedData(const CRandomTable& table, int column) {
     for (const double value : table.Column(column))
         m_values.push_back(std::floor(value + 0.5));
+}
+
+void CRoundedData::SortDown() {
+    std::sort(m_values.begin(), m_values.end(), std::greater());
 }
 
 std::string FormatChartString(int number, int value) {

@@ -28,6 +28,8 @@ class CRoundedData {
 public:
     CRoundedData(const CRandomTable& table, int column);
 
+    void SortDown(); ///< From the largest to the smallest.
+
     operator std::span<const double>() const { return m_values; }
 
 private:

@@ -1,6 +1,10 @@
 #include "editors/preview/draw_routines.h"
+#include "render/angular_meter.h"
 #include "render/finance/draw_finance.h"
+#include "render/layout_sample.h"
+#include "render/linear_meter.h"
 #include "render/pie.h"
+#include "render/polar.h"
 #include "render/samples.h"
 #include "render/xy_frame.h"
 
@@ -8,13 +12,13 @@ static constexpr DrawRoutine routines[] = {
     DrawColorSample,  // PreviewColor
     DrawFontSample,   // PreviewFont
     DrawImageSample,  // PreviewImage
-    nullptr,          // PreviewLayout
+    DrawLayoutSample, // PreviewLayout
     DrawXYChart,      // PreviewXYChart
     DrawPieChart,     // PreviewPieChart
     DrawFinanceChart, // PreviewFinanceChart
-    nullptr,          // PreviewAngularMeter
-    nullptr,          // PreviewLinearMeter
-    nullptr,          // PreviewPolarChart
+    DrawAngularMeter, // PreviewAngularMeter
+    DrawLinearMeter,  // PreviewLinearMeter
+    DrawPolarChart,   // PreviewPolarChart
 };
 
 DrawRoutine FindDrawRoutine(int kind) {
