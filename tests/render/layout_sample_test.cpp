@@ -124,22 +124,21 @@ TEST(LayoutSample, OfPricesIsAsWideAsTheLayoutSays) {
     for (const std::string& line : drawnBy(DrawLayoutSample, view))
         if (isShown(line))
             shown.push_back(std::regex_replace(line, std::regex("\\[[^\\]]*\\]|: [^\"]*"), ""));
-    const Lines expected = {
-        R"(CLegendBox_addKey(LegendBox#1, "Legend", -1, 0, null))",
-        R"(CXYChart_addLineLayer(XYChart#1, , 0x00663300, "SMA (5)", 0))",
-        R"(CXYChart_addLineLayer(XYChart#1, , 0x009900ff, "SMA (20)", 0))",
-        "CXYChart_addHLOCLayer(XYChart#1, , , , , -1)",
-        "CHLOCLayer_setColorMethod(HLOCLayer#1, 2, 32768, 0x00cc0000, -1.7e+308)",
-        R"(CXYChart_addLineLayer(XYChart#1, , 0x009999ff, "Bollinger (20, 2)", 0))",
-        "CXYChart_addLineLayer(XYChart#1, , 0x009999ff, null, 0)",
-        "CXYChart_addInterLineLayer(XYChart#1, Line#1, Line#2, 0xc06666ff, -1)",
-        R"(CXYChart_addBarLayer(XYChart#1, , 0x0099ff99, "", 0))",
-        R"(CXYChart_addBarLayer(XYChart#1, , 0x00ff9999, "", 0))",
-        R"(CXYChart_addBarLayer(XYChart#1, , 0x00808080, "", 0))",
-        R"(CXYChart_addLineLayer(XYChart#2, , 0x00800080, "RSI (14)", 0))",
-        "CXYChart_addInterLineLayer(XYChart#2, Line#3, Line#4, 0x00ff0000, 0xff000000)",
-        "CXYChart_addInterLineLayer(XYChart#2, Line#3, Line#5, 0xff000000, 255)",
-        R"(CXYChart_addLineLayer(XYChart#3, , 255, "Momentum (12)", 0))"};
+    const Lines expected = {R"(CLegendBox_addKey(LegendBox#1, "Legend", -1, 0, null))",
+                            R"-(CXYChart_addLineLayer(XYChart#1, , 0x00663300, "SMA (5)", 0))-",
+                            R"-(CXYChart_addLineLayer(XYChart#1, , 0x009900ff, "SMA (20)", 0))-",
+                            "CXYChart_addHLOCLayer(XYChart#1, , , , , -1)",
+                            "CHLOCLayer_setColorMethod(HLOCLayer#1, 2, 32768, 0x00cc0000, -1.7e+308)",
+                            R"-(CXYChart_addLineLayer(XYChart#1, , 0x009999ff, "Bollinger (20, 2)", 0))-",
+                            "CXYChart_addLineLayer(XYChart#1, , 0x009999ff, null, 0)",
+                            "CXYChart_addInterLineLayer(XYChart#1, Line#1, Line#2, 0xc06666ff, -1)",
+                            R"(CXYChart_addBarLayer(XYChart#1, , 0x0099ff99, "", 0))",
+                            R"(CXYChart_addBarLayer(XYChart#1, , 0x00ff9999, "", 0))",
+                            R"(CXYChart_addBarLayer(XYChart#1, , 0x00808080, "", 0))",
+                            R"-(CXYChart_addLineLayer(XYChart#2, , 0x00800080, "RSI (14)", 0))-",
+                            "CXYChart_addInterLineLayer(XYChart#2, Line#3, Line#4, 0x00ff0000, 0xff000000)",
+                            "CXYChart_addInterLineLayer(XYChart#2, Line#3, Line#5, 0xff000000, 255)",
+                            R"-(CXYChart_addLineLayer(XYChart#3, , 255, "Momentum (12)", 0))-"};
     EXPECT_EQ(shown, expected);
     EXPECT_EQ(view.m_pictureWidth, 321);
     EXPECT_EQ(view.m_pictureHeight, 65 + 211 + 71 + 71);
