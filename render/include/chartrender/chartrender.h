@@ -14,5 +14,7 @@
 /// the model. Nothing throws. Different threads may render at once.
 
 #include <chartrender/finance.h>
+#include <chartrender/meter.h>
 #include <chartrender/picture.h>
 #include <chartrender/pie.h>
+#include <chartrender/polar.h>
