@@ -1,4 +1,5 @@
 #include "platform/narrow_text.h"
+#include <QString>
 #include <algorithm>
 
 namespace {
@@ -114,7 +115,6 @@ const std::string& NarrowCodeset() {
 #else
 
 #include <QByteArray>
-#include <QString>
 #include <QStringConverter>
 
 namespace platform {
@@ -153,6 +153,14 @@ std::string NarrowToUtf8(std::string_view text, const std::string& codeset) {
 
 std::string Utf8ToNarrow(std::string_view text, const std::string& codeset) {
     return isAscii(text) ? std::string(text) : convertAll(text, "UTF-8", codeset);
+}
+
+QString NarrowToText(std::string_view text) {
+    return QString::fromStdString(NarrowToUtf8(text));
+}
+
+std::string TextToNarrow(const QString& text) {
+    return Utf8ToNarrow(text.toStdString());
 }
 
 } // namespace platform

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+class QString;
+
 namespace platform {
 
 /// The name of the encoding of narrow text, as iconv takes it. The user's environment decides, not the
@@ -20,5 +22,9 @@ std::string NarrowToUtf8(std::string_view text, const std::string& codeset = Nar
 
 /// The way back. A character that the encoding lacks becomes a question mark.
 std::string Utf8ToNarrow(std::string_view text, const std::string& codeset = NarrowCodeset());
+
+/// Narrow text as a text of the toolkit, and back.
+QString NarrowToText(std::string_view text);
+std::string TextToNarrow(const QString& text);
 
 } // namespace platform

@@ -1,7 +1,7 @@
 #include "editors/colour/color_dlg.h"
 #include "editors/colour/color_message.h"
 #include "editors/colour/image_file_dlg.h"
-#include "editors/framework/conventions.h"
+#include "platform/narrow_text.h"
 #include "platform/widgets/field_changed.h"
 
 #include <QGridLayout>
@@ -41,7 +41,7 @@ CColorPatternPage::CColorPatternPage(QWidget* owner) : m_owner(owner), m_edit(ne
 
 bool CColorPatternPage::DoDataExchange(bool read) {
     if (!read) {
-        const QString path = FromModelText(m_path);
+        const QString path = platform::NarrowToText(m_path.data());
         m_edit->setText(path);
         m_edit->setToolTip(path);
     }

@@ -1,7 +1,7 @@
 #include "editors/colour/image_file_dlg.h"
 
-#include "editors/framework/conventions.h"
 #include "editors/preview/chart_preview_view.h"
+#include "platform/narrow_text.h"
 #include "platform/widgets/dialog.h"
 #include "resources/string_table.h"
 
@@ -14,6 +14,12 @@
 #include <QVBoxLayout>
 
 namespace {
+
+CChartString ModelPath(const QString& path) {
+    CChartString text;
+    text = platform::TextToNarrow(path).c_str();
+    return text;
+}
 
 /// The text holds names and patterns in turn, each followed by a bar. The dialog takes the pattern from the
 /// last brackets of a filter, and does not show them.
@@ -42,7 +48,7 @@ CImageFileDlg::CImageFileDlg() : m_preview(new CChartPreviewView(this)) {
     PlacePreview();
     connect(this, &QFileDialog::currentChanged, this, [this](const QString& path) {
         if (QFileInfo(path).isFile()) {
-            m_preview->SetSampleImage(ToModelText(path));
+            m_preview->SetSampleImage(ModelPath(path));
             m_preview->RefreshPreview();
         }
     });
@@ -74,7 +80,7 @@ void CImageFileDlg::PlacePreview() {
 void CImageFileDlg::SetInitialFile(const CChartString& path) {
     if (path.empty())
         return;
-    const QFileInfo file(FromModelText(path));
+    const QFileInfo file(platform::NarrowToText(path.data()));
     if (file.dir().exists())
         setDirectory(file.dir());
     selectFile(file.fileName());
@@ -91,5 +97,5 @@ int CImageFileDlg::DoModal() {
 }
 
 CChartString CImageFileDlg::GetPathName() const {
-    return ToModelText(selectedFiles().value(0));
+    return ModelPath(selectedFiles().value(0));
 }

@@ -2,7 +2,7 @@
 
 #include "editors/colour/palettes.h"
 #include "editors/colour/swatch.h"
-#include "editors/framework/conventions.h"
+#include "platform/narrow_text.h"
 #include "platform/widgets/field_changed.h"
 
 #include <QHelpEvent>
@@ -31,7 +31,7 @@ void DrawFrame(QPainter& painter, const QRect& cell, int distance, const QColor&
 
 QString ColorText(const CChartColor& color) {
     if (color.m_type == 1)
-        return QStringLiteral("Pattern: ") + FromModelText(color.m_patternFile);
+        return QStringLiteral("Pattern: ") + platform::NarrowToText(color.m_patternFile.data());
     const auto byte = [&](int shift) { return static_cast<int>(color.m_color >> shift & 0xFF); };
     const QString text =
         QString::asprintf("R: %d, G: %d, B: %d, A: %d", byte(16), byte(8), byte(0), byte(24));

@@ -1,6 +1,7 @@
 #include "editors/fields/effect_field.h"
 
 #include "editors/fields/field_layout.h"
+#include "editors/framework/conventions.h"
 
 #include <QLayout>
 

@@ -2,7 +2,7 @@
 
 #include "editors/fields/field_layout.h"
 #include "editors/font/font_dlg.h"
-#include "editors/framework/conventions.h"
+#include "platform/narrow_text.h"
 
 #include <QGridLayout>
 #include <QLabel>
@@ -39,7 +39,7 @@ void CChartFontField::SetValueAndShow(const CChartFont& font) {
 
 bool CChartFontField::DoDataExchange(bool read) {
     if (!read) {
-        const QString name = FromModelText(m_font.m_faceName);
+        const QString name = platform::NarrowToText(m_font.m_faceName.data());
         m_name->setText(name);
         m_name->setToolTip(name);
         m_size->setText(QString::asprintf("%g", m_font.m_size));

@@ -1,9 +1,9 @@
 #include "editors/font/font_dlg.h"
 
 #include "editors/font/font_catalogue.h"
-#include "editors/framework/conventions.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/narrow_text.h"
+#include "platform/rounding.h"
 #include "resources/string_table.h"
 
 #include <QFocusEvent>
@@ -104,7 +104,7 @@ void CFontDlg::LayOut() {
 }
 
 bool CFontDlg::OnInitDialog() {
-    m_faceText = FromModelText(m_font.m_faceName);
+    m_faceText = platform::NarrowToText(m_font.m_faceName.data());
     m_size = m_font.m_size;
     FillLists();
     const bool good = CDialog::OnInitDialog();
@@ -146,7 +146,7 @@ bool CFontDlg::DoDataExchange(bool read) {
             edit->setText(text);
         edit->setModified(false);
     }
-    m_font.m_faceName = ToModelText(m_faceText);
+    m_font.m_faceName = platform::TextToNarrow(m_faceText).c_str();
     m_font.m_fileName = GetFontFileName(m_font.m_faceName.data());
     m_font.m_size = m_size;
     m_preview->SetSampleFont(m_font);

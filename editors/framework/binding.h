@@ -1,8 +1,13 @@
 #pragma once
-// Where the value of a row lives: a field of the model, or of the item that is selected in a list. With no
-// item selected a value is still shown, a default item's, but there is nowhere to store a change.
+// Where the value of a row lives: a field of the model, of the item that is selected in a list, or of the
+// current one of several objects. With no item selected a value is still shown, a default item's, but there
+// is nowhere to store a change.
 
-#include "editors/framework/conventions.h"
+#include "platform/narrow_text.h"
+
+#include <charteditors/chart_string.h>
+
+#include <QString>
 
 #include <functional>
 #include <type_traits>
@@ -12,10 +17,12 @@
 template <class To, class From>
 To ValueAs(const From& value) {
     if constexpr (std::is_same_v<To, QString> && std::is_same_v<From, CChartString>)
-        return FromModelText(value);
-    else if constexpr (std::is_same_v<To, CChartString> && std::is_same_v<From, QString>)
-        return ToModelText(value);
-    else
+        return platform::NarrowToText(value.data());
+    else if constexpr (std::is_same_v<To, CChartString> && std::is_same_v<From, QString>) {
+        CChartString text;
+        text = platform::TextToNarrow(value).c_str();
+        return text;
+    } else
         return static_cast<To>(value);
 }
 
@@ -58,4 +65,37 @@ private:
     Set m_set;
     const void* m_owner = nullptr;
     std::function<void()> m_afterwards;
+};
+
+/// "The current object" of several: rows bound to it follow whichever it is. After another has become the
+/// current one, CForm::LoadRows with this as the owner shows its values.
+///
+///     CCurrent<CPolarLayer> m_current{[this] { return m_layers[m_type]; }};
+///     m_form.Text("Name:", m_current[&CPolarLayer::m_name]);
+template <class Item>
+class CCurrent {
+public:
+    /// `find` gives null while there is none: the rows then keep what they show and store nothing.
+    explicit CCurrent(std::function<Item*()> find) : m_find(std::move(find)) {}
+    CCurrent(const CCurrent&) = delete;
+    CCurrent& operator=(const CCurrent&) = delete;
+
+    template <class T, class Owner>
+    CBinding<T> operator[](T Owner::*field) const {
+        return {[this, field, last = T()]() mutable {
+                    if (const Item* item = m_find())
+                        last = item->*field;
+                    return last;
+                },
+                [this, field](const T& value) {
+                    Item* item = m_find();
+                    if (item != nullptr)
+                        item->*field = value;
+                    return item != nullptr;
+                },
+                this};
+    }
+
+private:
+    std::function<Item*()> m_find;
 };

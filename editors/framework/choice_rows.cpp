@@ -51,6 +51,21 @@ CComboRow& CComboRow::Otherwise(int row) {
     return *this;
 }
 
+CComboRow& CComboRow::RowsFrom(std::function<QStringList()> rows) {
+    m_rowsFrom = std::move(rows);
+    return *this;
+}
+
+void CComboRow::Load() {
+    if (m_rowsFrom) {
+        const QStringList rows = m_rowsFrom();
+        m_box->clear();
+        m_box->addItems(rows);
+        m_choices = CChoices(std::vector<CChoice>(static_cast<std::size_t>(rows.size()), CChoice(nullptr)));
+    }
+    CValueRow::Load();
+}
+
 bool CComboRow::Exchange(bool read) {
     if (!read)
         m_box->setCurrentIndex(m_choices.RowOf(m_mirror, m_otherwise));
@@ -75,15 +90,26 @@ CRadioRow::CRadioRow(CForm& form, CBinding<std::int32_t> field, std::vector<CCho
     QObject::connect(m_buttons, &QButtonGroup::idClicked, m_box, [this] { Chosen(); });
 }
 
-bool CRadioRow::Exchange(bool read) {
-    if (!read) {
-        // With a code of no button, none is on.
-        m_buttons->setExclusive(false);
-        for (QAbstractButton* button : m_buttons->buttons())
-            button->setChecked(m_buttons->id(button) == m_mirror);
-        m_buttons->setExclusive(true);
-    } else if (m_buttons->checkedId() >= 0) {
-        m_mirror = m_buttons->checkedId();
+CRadioRow& CRadioRow::States(std::function<State(int code)> states) {
+    m_states = std::move(states);
+    return *this;
+}
+
+void CRadioRow::ShowState() {
+    CValueRow::ShowState();
+    m_buttons->setExclusive(false); // so that none can be on
+    for (QAbstractButton* button : m_buttons->buttons()) {
+        const int code = m_buttons->id(button);
+        button->setEnabled(StateOf(code) == Live);
+        button->setChecked(code == m_mirror && StateOf(code) != GreyAndOff);
     }
+    m_buttons->setExclusive(true);
+}
+
+bool CRadioRow::Exchange(bool read) {
+    if (!read)
+        ShowState();
+    else if (m_buttons->checkedId() >= 0)
+        m_mirror = m_buttons->checkedId();
     return true;
 }

@@ -4,6 +4,7 @@
 #include "editors/framework/choices.h"
 #include "editors/framework/form_rows.h"
 
+#include <QStringList>
 #include <cstdint>
 
 class QButtonGroup;
@@ -33,26 +34,38 @@ public:
 
     /// The row that shows for a code that is not in the list. None if not said.
     CComboRow& Otherwise(int row);
+    /// Rows that are known only at run time, asked for at every load. Row n stores n.
+    CComboRow& RowsFrom(std::function<QStringList()> rows);
 
     QWidget* Control() const override;
+    void Load() override;
     bool Exchange(bool read) override;
 
 private:
     CChoices m_choices;
     QComboBox* m_box;
+    std::function<QStringList()> m_rowsFrom;
     int m_otherwise = -1;
 };
 
-/// Radio buttons in a row, one of them on.
+/// Radio buttons in a row, one of them on; none for a code of no button.
 class CRadioRow : public CValueRow<CRadioRow, std::int32_t> {
 public:
     CRadioRow(CForm& form, CBinding<std::int32_t> field, std::vector<CChoice> choices);
 
+    enum State { Live, Grey, GreyAndOff };
+    /// How the button of a code stands: greyed ones cannot be chosen, and some are not on whatever is stored.
+    CRadioRow& States(std::function<State(int code)> states);
+
     QWidget* Control() const override { return m_box; }
     bool Exchange(bool read) override;
+    void ShowState() override;
 
 private:
+    State StateOf(int code) const { return m_states ? m_states(code) : Live; }
+
     CChoices m_choices;
+    std::function<State(int)> m_states;
     QWidget* m_box;
     QButtonGroup* m_buttons;
 };

@@ -1,21 +1,6 @@
 #include "editors/framework/conventions.h"
 
-#include "platform/narrow_text.h"
-
-#include <cmath>
 #include <cstdlib>
-
-double RoundTo(double value, int digits) {
-    const double sign = value >= 0 ? 1 : -1;
-    if (digits < 1)
-        return std::ceil(value) * sign;
-    const double scale = std::pow(10.0, digits);
-    const double scaled = std::trunc(std::fabs(value) * scale + 0.5);
-    if (!std::isfinite(scaled))
-        return 0;
-    const auto low = static_cast<std::int32_t>(static_cast<std::uint32_t>(std::fmod(scaled, 4294967296.0)));
-    return sign * low / scale + 0.0; // no negative zero
-}
 
 const CChoices& Alignments() {
     static const CChoices rows({{"TopLeft", 7},
@@ -73,14 +58,4 @@ CChartColor RandomChartColor() {
     const auto blue = static_cast<std::uint32_t>(std::rand() % 256);
     color.m_color = red << 16 | green << 8 | blue;
     return color;
-}
-
-QString FromModelText(const CChartString& text) {
-    return QString::fromStdString(platform::NarrowToUtf8(text.data()));
-}
-
-CChartString ToModelText(const QString& text) {
-    CChartString result;
-    result = platform::Utf8ToNarrow(text.toStdString()).c_str();
-    return result;
 }

@@ -1,5 +1,5 @@
 #pragma once
-// The small rules that all editors share: rounding, the orders of the alignment and side lists, texts of
+// The small rules that all editors share: the orders of the alignment and side lists, texts of
 // several lines, and the colour of a new item.
 
 #include "editors/framework/choices.h"
@@ -8,11 +8,6 @@
 
 #include <QString>
 #include <cstdint>
-
-/// `value` rounded half away from zero to `digits` decimals. The scaled magnitude passes through a signed
-/// 32-bit integer of which the low bits are kept, so that with two digits 21474836.48 and more wrap around.
-/// With less than one digit: the value rounded up, its sign given twice.
-double RoundTo(double value, int digits);
 
 /// Rows of the alignment list and the codes that are stored. An unknown code shows as row 0, an unknown row
 /// stores 7.
@@ -32,7 +27,3 @@ QString FirstLineOf(const QString& text);
 /// A General colour with random components, opaque. The sequence is the standard library's, never seeded
 /// here.
 CChartColor RandomChartColor();
-
-/// Narrow text of the model as a text of the toolkit, and back.
-QString FromModelText(const CChartString& text);
-CChartString ToModelText(const QString& text);

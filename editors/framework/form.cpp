@@ -1,5 +1,6 @@
 #include "editors/framework/form.h"
 
+#include "editors/framework/conventions.h"
 #include "editors/framework/mnemonics.h"
 #include "platform/widgets/field_changed.h"
 #include "platform/widgets/numeric_edit.h"
@@ -115,7 +116,15 @@ CComboRow& CForm::Side(const char* label, CBinding<std::int32_t> field) {
 }
 
 CRadioRow& CForm::Radio(CBinding<std::int32_t> field, std::vector<CChoice> choices) {
-    return Make<CRadioRow>(nullptr, std::move(field), std::move(choices));
+    return Radio(nullptr, std::move(field), std::move(choices));
+}
+
+CRadioRow& CForm::Radio(const char* label, CBinding<std::int32_t> field, std::vector<CChoice> choices) {
+    return Make<CRadioRow>(label, std::move(field), std::move(choices));
+}
+
+CDateRow& CForm::Date(const char* label, CBinding<QDate> field) {
+    return Make<CDateRow>(label, std::move(field));
 }
 
 CTextRow& CForm::Text(const char* label, CBinding<QString> field) {
@@ -128,6 +137,10 @@ CTextRow& CForm::Lines(const char* label, CBinding<QString> field) {
 
 CFormatRow& CForm::Formats(const char* label, const std::vector<const char*>& texts) {
     return Make<CFormatRow>(label, texts);
+}
+
+CObjectList& CForm::Objects(CObjects objects, const char* noneSelected) {
+    return Keep(std::make_unique<CObjectList>(*this, List("Object"), std::move(objects), noneSelected));
 }
 
 CSimpleCombo& CForm::List(const char* caption) {
@@ -162,6 +175,15 @@ std::vector<QPushButton*> CForm::Buttons(const std::vector<std::pair<const char*
 
 void CForm::Place(const char* label, QWidget& control) {
     AddRow(label, control);
+}
+
+void CForm::PlaceBehind(QWidget& control, const char* text) {
+    int line = 0;
+    int column = 0;
+    int lines = 0;
+    int columns = 0;
+    m_part->getItemPosition(m_part->indexOf(&control), &line, &column, &lines, &columns);
+    m_part->addWidget(new QLabel(QString::fromUtf8(text), &m_page), line, column + columns);
 }
 
 QLayout* CForm::Layout() const {
@@ -258,7 +280,14 @@ bool CForm::Exchange(bool read) {
             return false;
         }
     }
+    if (!read)
+        ShowStates();
     return true;
+}
+
+void CForm::ShowStates() {
+    for (const auto& row : m_rows)
+        row->ShowState();
 }
 
 bool CForm::UpdateDataSafe() {

@@ -1,7 +1,8 @@
 #pragma once
 // A page, written as a table: groups and rows in reading order, one line a property. The form makes the
 // controls and their labels, holds the mirrors, limits and rounds, commits changes to the model and tells of
-// them. A page is a CDialog that has a form; the model is loaded when the page starts.
+// them. A page is a CDialog that has a form and fills it in its constructor; the model is loaded when the
+// page starts, each time that its dialog is opened.
 //
 //     m_form.Group("LineWidth");
 //     m_form.Integer("AxisWidth:", meter.m_axisWidth).Step(1).Floor(0);
@@ -15,9 +16,11 @@
 //     m_form.Integer("X:", texts[&CChartTextBox::m_x]).Step(10);
 
 #include "editors/framework/choice_rows.h"
+#include "editors/framework/date_row.h"
 #include "editors/framework/field_row.h"
 #include "editors/framework/list_editor.h"
 #include "editors/framework/number_rows.h"
+#include "editors/framework/object_list.h"
 #include "editors/framework/text_rows.h"
 #include "platform/widgets/dialog.h"
 
@@ -63,6 +66,8 @@ public:
     CComboRow& Alignment(const char* label, CBinding<std::int32_t> field);
     CComboRow& Side(const char* label, CBinding<std::int32_t> field);
     CRadioRow& Radio(CBinding<std::int32_t> field, std::vector<CChoice> choices);
+    CRadioRow& Radio(const char* label, CBinding<std::int32_t> field, std::vector<CChoice> choices);
+    CDateRow& Date(const char* label, CBinding<QDate> field);
     CTextRow& Text(const char* label, CBinding<QString> field);
     CTextRow& Lines(const char* label, CBinding<QString> field); ///< takes Enter as a line break
     /// A list of ready-made formats; it stands before or after the text it is for.
@@ -72,16 +77,24 @@ public:
     CFieldRow<T>& Field(const char* label, CBinding<typename T::Value> value) {
         return Make<CFieldRow<T>>(label, std::move(value), static_cast<int>(m_rows.size()) + 1);
     }
+    /// A row of a kind that only one page has.
+    template <class Row, class... Args>
+    Row& Make(const char* label, Args&&... args) {
+        auto made = std::make_unique<Row>(*this, std::forward<Args>(args)...);
+        Row& row = *made;
+        row.SetLabel(AddRow(label, *row.Control()));
+        m_rows.push_back(std::move(made));
+        return row;
+    }
     /// A list with "Add" and "Delete". `caption` is a format with the row's number and, if it has a %s, a
     /// text; `noneSelected` what "Delete" says while no row is selected.
     template <class Container>
     CListEditor<Container>& List(Container& items, const char* caption, const char* noneSelected) {
-        auto list =
-            std::make_unique<CListEditor<Container>>(*this, List(caption), items, caption, noneSelected);
-        CListEditor<Container>& result = *list;
-        m_lists.push_back(std::move(list));
-        return result;
+        return Keep(
+            std::make_unique<CListEditor<Container>>(*this, List(caption), items, caption, noneSelected));
     }
+    /// A list of objects that are edited in a dialog of their own; see object_list.h.
+    CObjectList& Objects(CObjects objects, const char* noneSelected);
     /// A list that the page keeps itself. Named by its group, else by the plural of the first word of
     /// `caption`.
     CSimpleCombo& List(const char* caption);
@@ -89,8 +102,8 @@ public:
     std::vector<QPushButton*> Buttons(const std::vector<std::pair<const char*, Click>>& buttons);
     /// Any other control of the page; without a label it takes the whole width.
     void Place(const char* label, QWidget& control);
-    /// What the form stands in, for a page that has more than the form: the form takes all of a page that has
-    /// no layout when it starts.
+    /// The rows as a part of something larger, for a page that has more than the form: the form takes all of
+    /// a page that has no layout when it starts.
     QLayout* Layout() const;
 
     // What the page asks for.
@@ -104,19 +117,21 @@ public:
     /// Reads and validates; on failure puts the last good values back and selects the offending text.
     bool UpdateDataSafe();
     void Notify() { m_notify(); }
-    /// Model into mirrors and controls, for the rows that follow a list, or for all (null).
+    /// Model into mirrors and controls, for the rows that follow a list or a CCurrent, or for all (null).
     void LoadRows(const void* owner);
+    /// Greys what the values of the page say.
+    void ShowStates();
+    /// A text behind the control of a row that was just added.
+    void PlaceBehind(QWidget& control, const char* text);
     /// The selected row of a list. With none: a warning, the first row is selected, and -1.
     int SelectedOrWarn(CSimpleCombo& list, const char* message);
 
 private:
-    template <class Row, class... Args>
-    Row& Make(const char* label, Args&&... args) {
-        auto made = std::make_unique<Row>(*this, std::forward<Args>(args)...);
-        Row& row = *made;
-        row.SetLabel(AddRow(label, *row.Control()));
-        m_rows.push_back(std::move(made));
-        return row;
+    template <class List>
+    List& Keep(std::unique_ptr<List> list) {
+        List& kept = *list;
+        m_lists.push_back(std::move(list));
+        return kept;
     }
     QWidget* AddRow(const char* label, QWidget& control);
     QString NameFor(const char* label) const;

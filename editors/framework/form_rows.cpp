@@ -42,6 +42,11 @@ void CFormRow::SetName(const QString& name) {
     Control()->setAccessibleName(name);
 }
 
+void CFormRow::ShowState() {
+    if (m_enabledIf)
+        SetEnabled(m_enabledIf());
+}
+
 QString CFormRow::Name() const {
     return Control()->objectName();
 }
@@ -57,6 +62,7 @@ void CFormRow::Chosen() {
 
 void CFormRow::StoreAndTell(bool tell) {
     if (Store()) {
+        m_form.ShowStates();
         if (tell)
             m_form.Notify();
         Afterwards();

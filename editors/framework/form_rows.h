@@ -45,6 +45,8 @@ public:
 
     /// Greys the row and its label, or brings them back.
     void SetEnabled(bool enabled);
+    /// Greys what the values of the page say. Called after every change of them.
+    virtual void ShowState();
     /// The name for screen readers and scripts.
     void SetName(const QString& name);
     QString Name() const;
@@ -58,6 +60,7 @@ protected:
     /// The end of every change.
     void StoreAndTell(bool tell = true);
 
+    std::function<bool()> m_enabledIf; ///< none: always
     bool m_tellsAlways = true;
     bool m_validated = true; ///< a click counts only if all of the page can be read
 
@@ -72,6 +75,8 @@ public:
     using CFormRow::CFormRow;
 
     bool CommitIfIn(const QWidget* focus) override;
+    /// Reads, normalises, stores and, if `tell`, tells: what leaving the control does.
+    void Commit(bool tell = true);
 
 protected:
     virtual QString ControlText() const = 0;
@@ -81,9 +86,6 @@ protected:
     void Settle() { m_settling = true; }
     /// To be called when the control has been written.
     void Written();
-    /// Reads, normalises, stores and tells.
-    void Commit(bool tell);
-
     bool m_quietOnLeave = false;
     bool m_regardless = false;
 
@@ -110,6 +112,11 @@ public:
     /// A click counts even while another control holds what cannot be read.
     Self& Unvalidated() {
         this->m_validated = false;
+        return Me();
+    }
+    /// Greys the row while `enabled` is false.
+    Self& EnabledIf(std::function<bool()> enabled) {
+        this->m_enabledIf = std::move(enabled);
         return Me();
     }
     /// Another name for screen readers and scripts than the label.

@@ -1,15 +1,19 @@
 #include "editors/framework/list_editor.h"
 
+#include "editors/framework/conventions.h"
 #include "editors/framework/form.h"
 #include "platform/widgets/simple_combo.h"
 
 #include <algorithm>
 
-CListBase::CListBase(CForm& form, CSimpleCombo& combo, const char* caption, const char* noneSelected)
-    : m_form(form), m_combo(combo), m_caption(caption), m_noneSelected(noneSelected) {
+CListBase::CListBase(CForm& form, CSimpleCombo& combo, const char* noneSelected)
+    : m_form(form), m_combo(combo), m_noneSelected(noneSelected) {
     QObject::connect(
         &combo, &CSimpleCombo::SelectionChanged, &combo, [this](int row) { SyncFromItem(row); });
-    form.Buttons({{"Add", [this] { Add(); }}, {"Delete", [this] { Remove(); }}});
+}
+
+void CListBase::MakeButtons() {
+    m_form.Buttons({{"Add", [this] { Add(); }}, {"Delete", [this] { Remove(); }}});
 }
 
 int CListBase::Selected() const {
@@ -18,9 +22,7 @@ int CListBase::Selected() const {
 }
 
 void CListBase::Fill() {
-    FillRows();
-    m_combo.Select(Count() > 0 ? 0 : -1);
-    SyncFromItem(m_combo.Selected());
+    FillAndSelect(0);
 }
 
 void CListBase::SyncFromItem(int index) {
@@ -40,7 +42,11 @@ void CListBase::RefreshCaption() {
 }
 
 void CListBase::Add() {
-    AppendDefault();
+    if (Append())
+        ShowAppended();
+}
+
+void CListBase::ShowAppended() {
     const int last = Count() - 1;
     m_combo.Add(CaptionOf(last));
     m_combo.Select(last);
@@ -49,25 +55,29 @@ void CListBase::Add() {
 }
 
 void CListBase::Remove() {
-    const int row = m_form.SelectedOrWarn(m_combo, m_noneSelected);
+    const int row = SelectedOrWarn();
     if (row < 0)
         return;
     Erase(row);
-    FillRows();
-    m_combo.Select(std::min(row, Count() - 1));
-    SyncFromItem(m_combo.Selected());
+    FillAndSelect(row);
     m_form.Notify();
 }
 
-void CListBase::FillRows() {
+int CListBase::SelectedOrWarn() {
+    return m_form.SelectedOrWarn(m_combo, m_noneSelected);
+}
+
+void CListBase::FillAndSelect(int row) {
     m_combo.Clear();
     for (int i = 0; i < Count(); ++i)
         m_combo.Add(CaptionOf(i));
+    m_combo.Select(std::min(row, Count() - 1));
+    SyncFromItem(m_combo.Selected());
 }
 
-QString CListBase::CaptionOf(int index) const {
+QString RowCaption(const char* caption, int index, const QString& text) {
     // The text may hold anything, a per cent sign included: it goes in last and is not read as a format.
-    QString caption = QString::fromUtf8(m_caption).replace(QStringLiteral("%d"), QString::number(index + 1));
-    const qsizetype at = caption.indexOf(QStringLiteral("%s"));
-    return at < 0 ? caption : caption.replace(at, 2, FirstLineOf(TextOf(index)));
+    QString row = QString::fromUtf8(caption).replace(QStringLiteral("%d"), QString::number(index + 1));
+    const qsizetype at = row.indexOf(QStringLiteral("%s"));
+    return at < 0 ? row : row.replace(at, 2, FirstLineOf(text));
 }

@@ -1,19 +1,20 @@
 #pragma once
 // A list of items with "Add" and "Delete", and the rows of the selected item. What does not depend on the
-// type of the items stands in CListBase; CListEditor adds the container.
+// items stands in CListBase; CListEditor adds the container.
 
 #include "editors/framework/binding.h"
 
 #include <QString>
 #include <functional>
 #include <type_traits>
+#include <utility>
 
 class CForm;
 class CSimpleCombo;
 
 class CListBase {
 public:
-    CListBase(CForm& form, CSimpleCombo& combo, const char* caption, const char* noneSelected);
+    CListBase(CForm& form, CSimpleCombo& combo, const char* noneSelected);
     CListBase(const CListBase&) = delete;
     CListBase& operator=(const CListBase&) = delete;
     virtual ~CListBase() = default;
@@ -21,7 +22,7 @@ public:
     /// The selected row, -1 for none.
     int Selected() const;
     /// Fills the list anew and selects the first item.
-    void Fill();
+    virtual void Fill();
     /// Shows an item's values, or a default item's for -1. Writes nothing into the model.
     void SyncFromItem(int index);
     /// Replaces the selected row by its new caption.
@@ -29,23 +30,33 @@ public:
 
 protected:
     virtual int Count() const = 0;
-    virtual void AppendDefault() = 0;
+    /// Appends a new item; false when the person has changed their mind.
+    virtual bool Append() = 0;
     virtual void Erase(int index) = 0;
-    virtual QString TextOf(int index) const = 0;
+    virtual QString CaptionOf(int index) const = 0;
     /// A fresh default item to show while nothing is selected.
-    virtual void RenewDefault() = 0;
+    virtual void RenewDefault() {}
 
-private:
+    void MakeButtons(); ///< "Add" and "Delete" below the list
+    CForm& Form() const { return m_form; }
+    CSimpleCombo& Combo() const { return m_combo; }
     void Add();
     void Remove();
-    void FillRows();
-    QString CaptionOf(int index) const;
+    /// The selected row, or a warning and -1; the first row is selected then.
+    int SelectedOrWarn();
+    /// Fills the list anew and shows the item of that row.
+    void FillAndSelect(int row);
+    /// Selects the row of the item just appended, shows it, and tells.
+    void ShowAppended();
 
+private:
     CForm& m_form;
     CSimpleCombo& m_combo;
-    const char* m_caption;
     const char* m_noneSelected;
 };
+
+/// `caption` with the number of a row, from 1, for its %d and the first line of `text` for its %s.
+QString RowCaption(const char* caption, int index, const QString& text = {});
 
 template <class Container>
 class CListEditor : public CListBase {
@@ -54,7 +65,9 @@ public:
 
     CListEditor(CForm& form, CSimpleCombo& combo, Container& items, const char* caption,
                 const char* noneSelected)
-        : CListBase(form, combo, caption, noneSelected), m_items(items) {}
+        : CListBase(form, combo, noneSelected), m_items(items), m_caption(caption) {
+        MakeButtons();
+    }
 
     /// What "Add" appends, and what shows while nothing is selected. A default-constructed item if not said.
     CListEditor& New(std::function<Item()> make) {
@@ -70,23 +83,28 @@ public:
     /// The text of the selected item that stands in the captions, for a row of the form.
     template <class T>
     CBinding<T> Caption(T Item::*text) {
-        m_name = [text](const Item& item) { return FromModelText(item.*text); };
+        m_name = [text](const Item& item) { return ValueAs<QString>(item.*text); };
         return Bind<T>([text](Item& item) -> T& { return item.*text; }, [this] { RefreshCaption(); });
     }
     /// The same two, for containers of plain values.
     CBinding<Item> Whole() {
         return Bind<Item>([](Item& item) -> Item& { return item; });
     }
-    CBinding<Item> WholeCaption() {
+    CBinding<Item> Caption() {
         m_name = [](const Item& item) { return ValueAs<QString>(item); };
         return Bind<Item>([](Item& item) -> Item& { return item; }, [this] { RefreshCaption(); });
     }
 
 protected:
     int Count() const override { return m_items.size(); }
-    void AppendDefault() override { m_items.push_back(m_make ? m_make() : Item()); }
+    bool Append() override {
+        m_items.push_back(m_make ? m_make() : Item());
+        return true;
+    }
     void Erase(int index) override { m_items.erase(m_items.begin() + index); }
-    QString TextOf(int index) const override { return m_name ? m_name(m_items[index]) : QString(); }
+    QString CaptionOf(int index) const override {
+        return RowCaption(m_caption, index, m_name ? m_name(m_items[index]) : QString());
+    }
     void RenewDefault() override { m_default = m_make ? m_make() : Item(); }
 
 private:
@@ -103,6 +121,7 @@ private:
     }
 
     Container& m_items;
+    const char* m_caption;
     std::function<Item()> m_make;
     std::function<QString(const Item&)> m_name;
     Item m_default;

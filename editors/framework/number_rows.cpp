@@ -1,6 +1,7 @@
 #include "editors/framework/number_rows.h"
 
 #include "editors/framework/form.h"
+#include "platform/rounding.h"
 #include "platform/widgets/numeric_edit.h"
 
 #include <cmath>
@@ -21,6 +22,10 @@ QWidget* CNumberBase::Control() const {
 
 void CNumberBase::SelectText() {
     m_edit->SelectAll();
+}
+
+void CNumberBase::ShowUnit(const char* unit) {
+    Form().PlaceBehind(*m_edit, unit);
 }
 
 QString CNumberBase::ControlText() const {

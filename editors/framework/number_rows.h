@@ -18,6 +18,7 @@ public:
     void SelectText() override;
 
 protected:
+    void ShowUnit(const char* unit);
     QString ControlText() const override;
     void WriteText(const QString& text);
     virtual void Press(int direction) = 0;
@@ -41,10 +42,15 @@ public:
         m_ceiling = ceiling;
         return this->Me();
     }
-    /// Limits that hold only while `when` is true.
-    Self& RangeWhen(T floor, T ceiling, std::function<bool()> when) {
-        m_limited = std::move(when);
-        return Range(floor, ceiling);
+    /// A limit that hangs on more than the value.
+    Self& LimitedBy(std::function<T(T)> limit) {
+        m_limit = std::move(limit);
+        return this->Me();
+    }
+    /// A text behind the number, such as "(days)".
+    Self& Unit(const char* unit) {
+        this->ShowUnit(unit);
+        return this->Me();
     }
     /// A typed value is stored on leaving without telling anybody.
     Self& QuietOnLeave() {
@@ -64,8 +70,9 @@ public:
 
 protected:
     void Limit() {
-        if (!m_limited || m_limited())
-            this->m_mirror = std::clamp(this->m_mirror, m_floor, m_ceiling);
+        this->m_mirror = std::clamp(this->m_mirror, m_floor, m_ceiling);
+        if (m_limit)
+            this->m_mirror = m_limit(this->m_mirror);
     }
 
     T m_step = 1;
@@ -73,7 +80,7 @@ protected:
 private:
     T m_floor = std::numeric_limits<T>::lowest();
     T m_ceiling = std::numeric_limits<T>::max();
-    std::function<bool()> m_limited;
+    std::function<T(T)> m_limit;
 };
 
 class CIntegerRow : public CNumberRow<CIntegerRow, std::int32_t> {

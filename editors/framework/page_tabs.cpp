@@ -1,12 +1,11 @@
 #include "editors/framework/page_tabs.h"
 
-#include "editors/framework/editor_frame.h"
 #include "editors/framework/mnemonics.h"
+#include "editors/framework/page_stack.h"
 #include "platform/widgets/dialog.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
-#include <QStackedWidget>
 #include <QTabBar>
 
 CPageTabs::CPageTabs(CDialog& dialog) : QTabWidget(&dialog), m_dialog(dialog) {
@@ -16,22 +15,18 @@ CPageTabs::CPageTabs(CDialog& dialog) : QTabWidget(&dialog), m_dialog(dialog) {
     connect(this, &QTabWidget::tabBarClicked, this, [this] { m_dialog.setFocus(); });
 }
 
-CPageTabs::~CPageTabs() {
-    for (int i = 0; i < count(); ++i)
-        for (QWidget* page : widget(i)->findChildren<QWidget*>(Qt::FindDirectChildrenOnly))
-            page->setParent(nullptr);
+CPageStack* CPageTabs::Stack(int index) const {
+    return static_cast<CPageStack*>(widget(index));
 }
 
 void CPageTabs::AttachPage(CDialog& page, const QString& caption) {
     if (!caption.isEmpty())
-        addTab(new QStackedWidget, caption);
-    auto* stack = static_cast<QStackedWidget*>(widget(count() - 1));
-    page.Create(stack);
-    stack->addWidget(&page);
+        addTab(new CPageStack, caption);
+    Stack(count() - 1)->Attach(page);
 }
 
 void CPageTabs::Choose(CDialog& page) {
-    static_cast<QStackedWidget*>(page.parentWidget())->setCurrentWidget(&page);
+    static_cast<CPageStack*>(page.parentWidget())->setCurrentWidget(&page);
 }
 
 void CPageTabs::ShowPage(int index) {
@@ -39,10 +34,15 @@ void CPageTabs::ShowPage(int index) {
     m_dialog.setFocus();
 }
 
-void CPageTabs::Open(CChartPreviewView* preview) {
-    auto* body = new QHBoxLayout;
-    body->addWidget(this);
-    LayEditor(m_dialog, preview, body, m_dialog.MakeOkCancel());
+void CPageTabs::Open(CEditorParts besides) {
+    for (int i = 0; i < count(); ++i)
+        Stack(i)->Start();
+    if (m_body == nullptr) {
+        m_body = new QHBoxLayout;
+        m_body->addWidget(this);
+    }
+    besides.body = m_body;
+    OpenEditor(m_dialog, besides);
     AssignMnemonics(m_dialog);
     ShowPage(0);
 }

@@ -1,5 +1,6 @@
 #include "editors/framework/text_rows.h"
 
+#include "editors/framework/conventions.h"
 #include "editors/framework/form.h"
 #include "platform/widgets/quiet_combo.h"
 

@@ -1,8 +1,11 @@
 #include "editors/pie/pie_chart_dlg.h"
 
 #include "editors/fields/color_field.h"
+#include "editors/framework/conventions.h"
 #include "editors/framework/editor_frame.h"
 #include "resources/string_table.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -16,13 +19,13 @@ CPieChartSector NewSector() {
 
 CPieChartDlg::CPieChartDlg()
     : CDialog(QStringLiteral("PieChart")), m_preview(this),
-      m_form(*this, [this] { m_preview.RefreshPreview(); }) {}
+      m_form(*this, [this] { m_preview.RefreshPreview(); }) {
+    TableOfChart(m_preview.m_ownPieChart);
+    TableOfSectors(m_preview.m_ownPieChart);
+}
 
 bool CPieChartDlg::OnInitDialog() {
-    CPieChart& chart = m_preview.m_ownPieChart;
-    TableOfChart(chart);
-    TableOfSectors(chart);
-    LayEditor(*this, &m_preview, m_form.Layout(), MakeOkCancel());
+    OpenEditor(*this, {.preview = &m_preview, .body = m_form.Layout()});
     return CDialog::OnInitDialog();
 }
 
@@ -31,8 +34,8 @@ void CPieChartDlg::TableOfChart(CPieChart& chart) {
     m_form.Check("Show 3D", chart.m_show3D);
     CCheckRow& shadow = m_form.Check("Shadow3D", chart.m_shadow3D);
     m_form.Integer("Depth:", chart.m_depth3D).Step(1).Floor(0).DigitsOnly();
-    CRealRow& angle = m_form.Real("Angle:", chart.m_angle3D).Step(10).RangeWhen(0, 90, [&chart] {
-        return !chart.m_shadow3D;
+    CRealRow& angle = m_form.Real("Angle:", chart.m_angle3D).Step(10).LimitedBy([&chart](double degrees) {
+        return chart.m_shadow3D ? degrees : std::clamp(degrees, 0.0, 90.0);
     });
     // A shadow may fall at any angle. Without it, a wider angle comes back into the limits at once.
     shadow.Then([this, &angle] {

@@ -39,7 +39,8 @@ int CDialog::DoModal() {
 
 bool CDialog::Create(QWidget* parent) {
     m_hosted = true;
-    setParent(parent, Qt::Widget);
+    if (parentWidget() != parent)
+        setParent(parent, Qt::Widget);
     return OnInitDialog();
 }
 

@@ -31,7 +31,8 @@ public:
     /// initialisation fails never shows and gives kCancel.
     int DoModal();
 
-    /// Makes the dialog a part of `parent`: no frame, no modal loop. OnInitDialog runs inside.
+    /// Makes the dialog a part of `parent`: no frame, no modal loop. OnInitDialog runs inside, each time that
+    /// this is called.
     bool Create(QWidget* parent);
 
     /// The data exchange: `read` reads the controls into the members and validates, the other way writes the

@@ -46,8 +46,8 @@ TEST_F(Dialogs, ATabShowsItsPageAndKeepsTheOthers) {
 
 TEST_F(Dialogs, PagesCanShareATab) {
     CValuesPage other(values, editor);
-    Open();
     editor.m_tabs.AttachPage(other);
+    Open();
     editor.m_tabs.ShowPage(1);
     EXPECT_TRUE(editor.m_itemsPage.isVisible());
     editor.m_tabs.Choose(other);

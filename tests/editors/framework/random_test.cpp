@@ -1,3 +1,4 @@
+#include "editors/framework/conventions.h"
 #include "tests/editors/framework/test_editor.h"
 
 #include <cmath>

@@ -100,6 +100,8 @@ public:
         CChartLayout layout;
         layout.m_titles = CChartTitles();
         m_preview.SetLayout(layout);
+        m_tabs.AttachPage(m_valuesPage, QStringLiteral("Values"));
+        m_tabs.AttachPage(m_itemsPage, QStringLiteral("Items"));
     }
     void AddTitle(const char* text) {
         CChartTitle title;
@@ -127,9 +129,7 @@ public:
 
 protected:
     bool OnInitDialog() override {
-        m_tabs.AttachPage(m_valuesPage, QStringLiteral("Values"));
-        m_tabs.AttachPage(m_itemsPage, QStringLiteral("Items"));
-        m_tabs.Open(&m_preview);
+        m_tabs.Open({.preview = &m_preview});
         return CDialog::OnInitDialog();
     }
     void OnFieldChanged(int key) override {

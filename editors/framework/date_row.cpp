@@ -1,0 +1,58 @@
+#include "editors/framework/date_row.h"
+
+#include "editors/framework/form.h"
+
+#include <QCalendarWidget>
+#include <QDateEdit>
+#include <QSignalBlocker>
+#include <QWheelEvent>
+
+namespace {
+
+/// Does not change under a wheel that only passes over it, and leaves Enter and Esc to the page.
+class CQuietDate : public QDateEdit {
+public:
+    explicit CQuietDate(QWidget* parent) : QDateEdit(QDate::currentDate(), parent) {
+        setFocusPolicy(Qt::StrongFocus);
+        setDisplayFormat(QStringLiteral("yyyy/MM/dd"));
+        setCalendarPopup(true);
+    }
+
+protected:
+    void wheelEvent(QWheelEvent* event) override {
+        if (hasFocus())
+            QDateEdit::wheelEvent(event);
+        else
+            event->ignore();
+    }
+    void keyPressEvent(QKeyEvent* event) override {
+        const int key = event->key();
+        if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
+            interpretText(); // what is no date goes back to what was one
+            event->ignore();
+        } else {
+            QDateEdit::keyPressEvent(event);
+        }
+    }
+};
+
+} // namespace
+
+CDateRow::CDateRow(CForm& form, CBinding<QDate> field)
+    : CValueRow(form, std::move(field)), m_edit(new CQuietDate(&form.Page())) {
+    QObject::connect(
+        m_edit, &QDateEdit::dateChanged, m_edit, [this] { Chosen(); });
+}
+
+QWidget* CDateRow::Control() const {
+    return m_edit;
+}
+
+bool CDateRow::Exchange(bool read) {
+    const QSignalBlocker quiet(m_edit);
+    if (read)
+        m_mirror = m_edit->date();
+    else if (m_mirror.isValid())
+        m_edit->setDate(m_mirror);
+    return true;
+}
