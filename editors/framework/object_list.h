@@ -2,8 +2,9 @@
 // A list of objects that are edited in a dialog of their own: "Add...", "Delete", "Modify..." and double
 // click, and where a page has them "Copy", "^" and "v".
 //
-//     CObjectList& layers = m_form.Objects({.count = ..., .caption = ..., ...}, LoadChartString(29));
-//     m_form.Radio(layers.Bind<int>([this](int row) { ... }, [this](int row, int kind) { ... }), {...});
+//     CObjectList& layers = m_form.Objects({.count = ..., .caption = ..., ...},
+//     LoadChartString(ChartText::SelectLayer)); m_form.Radio(layers.Bind<int>([this](int row) { ... },
+//     [this](int row, int kind) { ... }), {...});
 
 #include "editors/framework/list_editor.h"
 
