@@ -1,0 +1,290 @@
+// The numbers of every indicator, worked out by hand from its definition, as the layers get them.
+
+#include "render/finance/finance_chart.h"
+#include "tests/recorder/recorder.h"
+#include <functional>
+#include <gmock/gmock.h>
+#include <sstream>
+
+namespace {
+
+using Rows = std::vector<double>;
+
+constexpr double _ = CHART_NO_VALUE;
+
+/// The prices of a row; where a case says nothing of high and low, they are the close.
+struct Prices {
+    Rows close, high, low, volume;
+};
+
+/// The data and names of the lines and bars that a call adds, in order.
+struct Added {
+    std::vector<Rows> series;
+    std::vector<std::string> names;
+};
+
+Added addedBy(const Prices& prices, const std::function<void(FinanceChart&)>& add) {
+    const Rows& high = prices.high.empty() ? prices.close : prices.high;
+    const Rows& low = prices.low.empty() ? prices.close : prices.low;
+    Rows times(prices.close.size());
+    for (std::size_t row = 0; row < times.size(); ++row)
+        times[row] = 86400 * static_cast<double>(row);
+    FinanceChart chart(500);
+    chart.setData({times, high, low, prices.close, prices.close, prices.volume}, 0);
+    chart.addMainChart(200);
+    const recorder::Recording recording;
+    add(chart);
+    Added added;
+    for (const std::string& line : recording.Lines()) {
+        if (!line.starts_with("CXYChart_addLineLayer(") && !line.starts_with("CXYChart_addBarLayer("))
+            continue;
+        std::istringstream list(line.substr(line.find('[') + 1));
+        Rows& rows = added.series.emplace_back();
+        for (double value; list >> value; list.ignore(1))
+            rows.push_back(value);
+        const std::size_t quote = line.find('"');
+        added.names.push_back(
+            quote == std::string::npos ? "" : line.substr(quote + 1, line.rfind('"') - quote - 1));
+    }
+    return added;
+}
+
+struct Case {
+    const char* name;
+    Prices prices;
+    std::function<void(FinanceChart&)> add;
+    std::vector<Rows> series;
+    std::vector<std::string> names;
+};
+
+class Indicators : public testing::TestWithParam<Case> {};
+
+TEST_P(Indicators, AreExact) {
+    const Added added = addedBy(GetParam().prices, GetParam().add);
+    EXPECT_EQ(added.names, GetParam().names);
+    ASSERT_EQ(added.series.size(), GetParam().series.size());
+    for (std::size_t i = 0; i < added.series.size(); ++i)
+        EXPECT_THAT(added.series[i], testing::Pointwise(testing::DoubleNear(1e-12), GetParam().series[i]))
+            << i;
+}
+
+// The calls, by their periods.
+auto sma(int period) {
+    return [=](FinanceChart& chart) { chart.addSimpleMovingAvg(period, 0); };
+}
+auto bollinger(int period, double width) {
+    return [=](FinanceChart& chart) { chart.addBollingerBand(period, width, 0, 0); };
+}
+auto donchian(int period) {
+    return [=](FinanceChart& chart) { chart.addDonchianChannel(period, 0, 0); };
+}
+auto rsi(int period) {
+    return [=](FinanceChart& chart) { chart.addRSI(70, period, 0, 20, 0, 0); };
+}
+auto momentum(int period) {
+    return [=](FinanceChart& chart) { chart.addMomentum(70, period, 0); };
+}
+auto stochastic(int period1, int period2) {
+    return [=](FinanceChart& chart) { chart.addSlowStochastic(70, period1, period2, 0, 0); };
+}
+auto macd(int slow, int fast, int signal) {
+    return [=](FinanceChart& chart) { chart.addMACD(70, slow, fast, signal, 0, 0, 0); };
+}
+void volume(FinanceChart& chart) {
+    chart.addVolBars(70, 0, 0, 0);
+}
+
+const Prices rising = {{1, 2, 4, 7, 5}, {}, {}, {}};
+const Prices constant = {{5, 5, 5, 5, 5}, {}, {}, {}};
+const Prices missing = {{1, 2, _, 4, 5, 7}, {}, {}, {}};
+const Prices one = {{8}, {}, {}, {}};
+const Prices none = {};
+
+const Case cases[] = {
+    {"Sma", rising, sma(2), {{_, 1.5, 3, 5.5, 6}}, {"SMA (2): 6"}},
+    {"SmaMissingDay", missing, sma(2), {{_, 1.5, _, _, 4.5, 6}}, {"SMA (2): 6"}},
+    {"SmaConstant", constant, sma(3), {{_, _, 5, 5, 5}}, {"SMA (3): 5"}},
+    {"SmaPeriod1", rising, sma(1), {{1, 2, 4, 7, 5}}, {"SMA (1): 5"}},
+    {"SmaPeriod0", rising, sma(0), {{1, 2, 4, 7, 5}}, {"SMA (0): 5"}},
+    {"SmaLongerThanData", rising, sma(6), {{_, _, _, _, _}}, {"SMA (6)"}},
+    {"SmaOneRow", one, sma(2), {{_}}, {"SMA (2)"}},
+    {"SmaNoRows", none, sma(2), {{}}, {"SMA (2)"}},
+
+    // Of two rows the deviation is half their difference: 0.5, 1, 1.5, 1. Upper line first, lower named
+    // first.
+    {"Bollinger",
+     rising,
+     bollinger(2, 2),
+     {{_, 2.5, 5, 8.5, 8}, {_, 0.5, 1, 2.5, 4}},
+     {"Bollinger (2, 2): 4 - 8", ""}},
+    {"BollingerNotBelow0",
+     rising,
+     bollinger(2, 4),
+     {{_, 3.5, 7, 11.5, 10}, {_, 0, 0, 0, 2}},
+     {"Bollinger (2, 4): 2 - 10", ""}},
+    // Of three rows 1, 2, 3 it is the root of 2 / 3, and three roots of 6 / 9 are the root of 6.
+    {"BollingerOfThree",
+     {{1, 2, 3}, {}, {}, {}},
+     bollinger(3, 1.5),
+     {{_, _, 3.2247448713915890491}, {_, _, 0.77525512860841095}},
+     {"Bollinger (3, 1.5): 0.775255 - 3.22474", ""}},
+    {"BollingerConstant",
+     constant,
+     bollinger(4, 2),
+     {{_, _, _, 5, 5}, {_, _, _, 5, 5}},
+     {"Bollinger (4, 2): 5 - 5", ""}},
+    {"BollingerPeriod0",
+     rising,
+     bollinger(0, 2),
+     {{1, 2, 4, 7, 5}, {1, 2, 4, 7, 5}},
+     {"Bollinger (0, 2): 5 - 5", ""}},
+    {"BollingerNoRows", none, bollinger(2, 2), {{}, {}}, {"Bollinger (2, 2)", ""}},
+
+    {"Donchian",
+     {{2, 4, 1}, {3, 5, 4}, {1, 2, 0}, {}},
+     donchian(2),
+     {{_, 5, 5}, {_, 1, 0}},
+     {"Donchian (2): 0 - 5", ""}},
+    {"DonchianMissingDay",
+     missing,
+     donchian(3),
+     {{_, _, _, _, _, 7}, {_, _, _, _, _, 4}},
+     {"Donchian (3): 4 - 7", ""}},
+    {"DonchianPeriod1",
+     {{2, 4}, {3, 5}, {1, 2}, {}},
+     donchian(1),
+     {{3, 5}, {1, 2}},
+     {"Donchian (1): 2 - 5", ""}},
+
+    // Changes 1, 2, -1, 0, 0: rises of 1.5, 1, 0, 0 on the average of two, in all 1.5, 1.5, 0.5, 0.
+    {"Rsi", {{1, 2, 4, 3, 3, 3}, {}, {}, {}}, rsi(2), {{_, _, 100, 200.0 / 3, 0, 50}}, {"RSI (2): 50"}},
+    {"RsiMissingDay", missing, rsi(1), {{_, 100, _, _, 100, 100}}, {"RSI (1): 100"}},
+    {"RsiConstant", constant, rsi(2), {{_, _, 50, 50, 50}}, {"RSI (2): 50"}},
+    {"RsiOneRow", one, rsi(1), {{_}}, {"RSI (1)"}},
+    {"RsiLongerThanData", rising, rsi(5), {{_, _, _, _, _}}, {"RSI (5)"}},
+
+    {"Momentum", rising, momentum(2), {{_, _, 3, 5, 1}}, {"Momentum (2): 1"}},
+    {"MomentumMissingDay", missing, momentum(1), {{_, 1, _, _, 1, 2}}, {"Momentum (1): 2"}},
+    {"MomentumPeriod0", rising, momentum(0), {{_, 1, 2, 3, -2}}, {"Momentum (0): -2"}},
+    {"MomentumLongerThanData", rising, momentum(9), {{_, _, _, _, _}}, {"Momentum (9)"}},
+
+    // Of two rows lowest 2, 2, 4, 4 and highest 6, 8, 8, 8; the close stands at 75, 50, 100 and 0 % of that.
+    {"Stochastic",
+     {{3, 5, 5, 8, 4}, {4, 6, 8, 8, 8}, {2, 2, 4, 4, 4}, {}},
+     stochastic(2, 2),
+     {{_, _, _, 75, 50}, {_, _, _, _, 62.5}},
+     {"Slow Stochastic %K (2): 50", "%D (2): 62.5"}},
+    {"StochasticConstant",
+     constant,
+     stochastic(2, 1),
+     {{_, _, _, 50, 50}, {_, _, _, 50, 50}},
+     {"Slow Stochastic %K (2): 50", "%D (1): 50"}},
+    {"StochasticPeriod1",
+     rising,
+     stochastic(1, 1),
+     {{_, _, 50, 50, 50}, {_, _, 50, 50, 50}},
+     {"Slow Stochastic %K (1): 50", "%D (1): 50"}},
+    {"StochasticOneRow", one, stochastic(2, 2), {{_}, {_}}, {"Slow Stochastic %K (2)", "%D (2)"}},
+
+    // Factors 1/2, 1 and 1/2: the slow average is 8, 12, 10.
+    {"Macd",
+     {{8, 16, 8}, {}, {}, {}},
+     macd(3, 1, 3),
+     {{0, 4, -2}, {0, 2, 0}, {0, 2, -2}},
+     {"MACD (3, 1): -2", "EXP (3): 0", "Divergence: -2"}},
+    {"MacdTheOtherWay",
+     {{8, 16, 8}, {}, {}, {}},
+     macd(1, 3, 3),
+     {{0, -4, 2}, {0, -2, 0}, {0, -2, 2}},
+     {"MACD (1, 3): 2", "EXP (3): 0", "Divergence: 2"}},
+    {"MacdMissingDay",
+     {{8, _, 16, 8}, {}, {}, {}},
+     macd(3, 1, 3),
+     {{0, _, 4, -2}, {0, _, 2, 0}, {0, _, 2, -2}},
+     {"MACD (3, 1): -2", "EXP (3): 0", "Divergence: -2"}},
+    {"MacdConstant",
+     constant,
+     macd(26, 12, 9),
+     {{0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}},
+     {"MACD (26, 12): 0", "EXP (9): 0", "Divergence: 0"}},
+    {"MacdNoRows", none, macd(26, 12, 9), {{}, {}, {}}, {"MACD (26, 12)", "EXP (9)", "Divergence"}},
+
+    // In thousands: the first row has no change, so it is in no layer.
+    {"Volume",
+     {{1, 2, 2, 1, 1}, {}, {}, {5000, 1000, 2000, 3000, 4000}},
+     volume,
+     {{_, 1, 0, 0, 0}, {_, 0, 0, 3, 0}, {_, 0, 2, 0, 4}},
+     {"", "", ""}},
+    {"VolumeMissingDay",
+     {{1, 2, _, 1}, {}, {}, {1, 2, 3, _}},
+     volume,
+     {{_, 2, _, _}, {_, 0, _, _}, {_, 0, _, _}},
+     {"", "", ""}},
+};
+
+INSTANTIATE_TEST_SUITE_P(Finance, Indicators, testing::ValuesIn(cases),
+                         [](const auto& test) { return test.param.name; });
+
+/// What the legend and the axis say of volumes.
+std::vector<std::string> volumeTexts(const Rows& closes, const Rows& volumes) {
+    Rows times(closes.size());
+    FinanceChart chart(500);
+    chart.setData({times, closes, closes, closes, closes, volumes}, 0);
+    FinancePane& pane = chart.addIndicator(70);
+    const recorder::Recording recording;
+    chart.addVolBarsToChart(pane, 70, 0, 0, 0);
+    std::vector<std::string> texts;
+    for (const std::string& line : recording.Lines())
+        if (line.starts_with("CAxis_setLabelFormat") || line.starts_with("CLayer_getDataSet") ||
+            line.starts_with("CDataSet_setDataName"))
+            texts.push_back(line.substr(line.find(line.starts_with("CL") ? "Layer#" : "\"")));
+    return texts;
+}
+
+TEST(FinanceVolume, SaysUnitAndLastValueWithTheLayerOfTheLastRow) {
+    const struct {
+        Rows closes, volumes;
+        std::vector<std::string> texts; // format of the axis, layer of up, down or flat, and its name
+    } rows[] = {
+        {{1, 2}, {1, 999}, {R"("{value}"))", "Layer#1, 0)", R"("Vol: 999"))"}},
+        {{2, 1}, {1, 1000}, {R"("{value|1}K"))", "Layer#2, 0)", R"("Vol: 1K"))"}},
+        {{2, 2}, {1, 1e6}, {R"("{value|1}M"))", "Layer#3, 0)", R"("Vol: 1M"))"}},
+        {{2, 2, _}, {1, 2e10, _}, {R"("{value}B"))", "Layer#3, 0)", R"("Vol: 20B"))"}},
+        {{1, 2}, {}, {R"("{value|1}"))", "Layer#3, 0)", R"("Vol"))"}},
+        {{1, 2}, {_, _}, {R"("{value|1}"))", "Layer#3, 0)", R"("Vol"))"}},
+        {{1}, {5, 6}, {R"("{value|1}"))", "Layer#3, 0)", R"("Vol: 6"))"}}, // more volumes than closes
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(volumeTexts(row.closes, row.volumes), row.texts);
+}
+
+TEST(FinanceLegend, SaysThePricesOfTheLastCloseInTheColourOfItsWay) {
+    const struct {
+        Rows open, high, low, close;
+        std::string hloc, candle; // text and colour, 1 up or 2 down
+    } rows[] = {
+        {{1, 4}, {5, 6}, {0, 3}, {2, 5}, R"("Op:4, Hi:6, Lo:3, Cl:5", 1)", R"("Op:4, Hi:6, Lo:3, Cl:5", 1)"},
+        {{1, 6}, {5, 6}, {0, 3}, {2, 5}, R"("Op:6, Hi:6, Lo:3, Cl:5", 1)", R"("Op:6, Hi:6, Lo:3, Cl:5", 2)"},
+        {{1, 4}, {8, 6}, {0, 3}, {7, 5}, R"("Op:4, Hi:6, Lo:3, Cl:5", 2)", R"("Op:4, Hi:6, Lo:3, Cl:5", 1)"},
+        {{1, 4}, {5, 6}, {0, 3}, {2, _}, R"("Op:1, Hi:5, Lo:0, Cl:2", 1)", R"("Op:1, Hi:5, Lo:0, Cl:2", 1)"},
+        {{}, {5}, {0, 3}, {2, 5}, R"("Lo:3, Cl:5", 1)", R"("Lo:3, Cl:5", 2)"},
+        {{1}, {2}, {1}, {_}, "", ""},
+    };
+    const auto key = [](const auto& row, bool candles) {
+        const Rows times(2);
+        FinanceChart chart(500);
+        chart.setData({times, row.high, row.low, row.open, row.close, {}}, 0);
+        chart.addMainChart(200);
+        const recorder::Recording recording;
+        chart.addPriceLegend(1, 2, candles);
+        const std::string line = recording.Count("CLegendBox_addKey") > 0 ? recording.Lines().back() : "";
+        const std::size_t quote = std::min(line.find('"'), line.size());
+        return line.substr(quote, std::min(line.find(", 0, null"), line.size()) - quote);
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(key(row, false), row.hloc);
+        EXPECT_EQ(key(row, true), row.candle);
+    }
+}
+
+} // namespace
