@@ -3,7 +3,8 @@
 
 add_library(chart_flags INTERFACE)
 target_include_directories(chart_flags INTERFACE ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/engine/include
-                           ${PROJECT_SOURCE_DIR}/model/include ${PROJECT_SOURCE_DIR}/render/include)
+                           ${PROJECT_SOURCE_DIR}/model/include ${PROJECT_SOURCE_DIR}/render/include
+                           ${PROJECT_SOURCE_DIR}/style/include)
 if(MSVC)
     target_compile_options(chart_flags INTERFACE /W4 $<$<BOOL:${CHART_WARNINGS_AS_ERRORS}>:/WX>)
 else()

@@ -2,8 +2,9 @@
 include(CMakePackageConfigHelpers)
 
 install(DIRECTORY engine/include/chartdraw model/include/charteditors render/include/chartrender
+                  style/include/chartstyle
         DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
-install(TARGETS charteditors chartdraw chartrender EXPORT ChartEditorsTargets)
+install(TARGETS charteditors chartdraw chartrender chartstyle EXPORT ChartEditorsTargets)
 
 set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/ChartEditors)
 install(EXPORT ChartEditorsTargets NAMESPACE ChartEditors:: DESTINATION ${package_dir})
@@ -23,3 +24,4 @@ endfunction()
 chart_pkgconfig(chartdraw "Charts as pictures, through flat functions" "")
 chart_pkgconfig(charteditors "Ready-made property editors for charts" "chartdraw")
 chart_pkgconfig(chartrender "Pictures of charts from a model and the host's data" "charteditors chartdraw")
+chart_pkgconfig(chartstyle "The look of charts as texts" "charteditors")

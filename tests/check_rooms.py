@@ -12,7 +12,7 @@ FLOORS = [
     ["platform/widgets"],
     ["engine"],
     ["model"],
-    ["render"],
+    ["render", "style"],
     ["editors/preview"],
     ["editors/framework"],
     ["editors/colour", "editors/font"],
@@ -23,7 +23,7 @@ FLOORS = [
 ]
 ENGINE = ["object", "data", "scale", "paint", "text", "chart", "axis", "pie", "xy", "polar", "meter", "multi", "api"]
 ENGINE_PEERS = [{"scale", "paint"}, {"pie", "xy", "polar", "meter", "multi"}]
-PUBLIC = {"chartdraw": "engine", "charteditors": "model", "chartrender": "render"}
+PUBLIC = {"chartdraw": "engine", "charteditors": "model", "chartrender": "render", "chartstyle": "style"}
 # What a host's program may include of this project: public headers alone.
 HOSTS = ["demo", "tools"]
 

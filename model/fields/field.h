@@ -48,4 +48,28 @@ void EachField(Object& object, Visit&& visit) {
                FieldsOf<Class>::table);
 }
 
+/// The kinds of a family of layers. Two numbers may share a class's fields: a kind that adds none is left
+/// out.
+template <class... Kinds>
+struct KindList {
+    /// Calls `action` with `layer` as the kind that it is; false if it is none of them.
+    template <class Layer, class Action>
+    static bool With(Layer& layer, Action&& action) {
+        return (As<std::conditional_t<std::is_const_v<Layer>, const Kinds, Kinds>>(layer, action) || ...);
+    }
+
+private:
+    template <class Kind, class Layer, class Action>
+    static bool As(Layer& layer, Action& action) {
+        auto* kind = dynamic_cast<Kind*>(&layer);
+        if (kind)
+            action(*kind);
+        return kind != nullptr;
+    }
+};
+
+/// The kinds of the family that `Layer` is the base of.
+template <class Layer>
+struct KindsOf;
+
 } // namespace model

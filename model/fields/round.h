@@ -197,4 +197,7 @@ struct FieldsOf<CPolarChart> {
                                          Field{"layers", &CPolarChart::m_layers}};
 };
 
+template <>
+struct KindsOf<CPolarLayer> : KindList<CPolarLineLayer, CPolarAreaLayer, CPolarSplineAreaLayer> {};
+
 } // namespace model

@@ -205,4 +205,9 @@ struct FieldsOf<CXYChart> {
         Field{"zGap", &CXYChart::m_zGap}};
 };
 
+template <>
+struct KindsOf<CXYChartLayer>
+    : KindList<CXYBarLayer, CXYLineLayer, CXYScatterLayer, CXYAreaLayer, CXYBoxWhiskerLayer, CXYBoxLayer,
+               CXYHLOCLayer, CXYGanttLayer, CXYCandleStickLayer> {};
+
 } // namespace model

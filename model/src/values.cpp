@@ -68,12 +68,14 @@ public:
         for (int i = 0; i < axes.GetAxisCount(); ++i)
             Add(Item(path, i), *axes.GetAxis(i));
     }
-    void Add(const std::string& path, const CXYChartLayerMgr& layers, Words) {
-        AddLayers<CXYBarLayer, CXYLineLayer, CXYScatterLayer, CXYAreaLayer, CXYBoxWhiskerLayer, CXYBoxLayer,
-                  CXYHLOCLayer, CXYGanttLayer, CXYCandleStickLayer>(path, layers);
-    }
-    void Add(const std::string& path, const CPolarLayerMgr& layers, Words) {
-        AddLayers<CPolarLineLayer, CPolarAreaLayer, CPolarSplineAreaLayer>(path, layers);
+    template <class Layers>
+    requires requires(const Layers& layers) { layers.GetLayerCount(); }
+    void Add(const std::string& path, const Layers& layers, Words) {
+        Put(path, NumberText(layers.GetLayerCount()));
+        for (int i = 0; i < layers.GetLayerCount(); ++i)
+            if (const auto* layer = layers.GetLayer(i))
+                KindsOf<std::remove_cvref_t<decltype(*layer)>>::With(
+                    *layer, [&](const auto& kind) { Add(Item(path, i), kind); });
     }
     void SetAxes(const CXYChartAxisMgr& axes) { m_axes = &axes; }
 
@@ -82,21 +84,6 @@ private:
         return path + '[' + NumberText(index) + ']';
     }
     void Put(const std::string& path, std::string text) { values.push_back({path, std::move(text)}); }
-
-    template <class... Kinds>
-    void AddLayers(const std::string& path, const auto& layers) {
-        Put(path, NumberText(layers.GetLayerCount()));
-        for (int i = 0; i < layers.GetLayerCount(); ++i)
-            if (const auto* layer = layers.GetLayer(i))
-                static_cast<void>((AddAs<Kinds>(Item(path, i), *layer) || ...));
-    }
-    template <class Kind>
-    bool AddAs(const std::string& path, const auto& layer) {
-        const auto* kind = dynamic_cast<const Kind*>(&layer);
-        if (kind)
-            Add(path, *kind);
-        return kind != nullptr;
-    }
 
     const CXYChartAxisMgr* m_axes = nullptr;
 };
