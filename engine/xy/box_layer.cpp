@@ -50,6 +50,10 @@ int BaseBoxLayer::pixel(const PlotFrame& frame, double value) {
     return whole(std::clamp<double>(frame.y.pixel(value), low, high));
 }
 
+int BaseBoxLayer::edgeWidth(int alongX, int alongY) const {
+    return std::min({lineWidth(), (alongX - 1) / 3, (alongY - 1) / 2});
+}
+
 DataRange BaseBoxLayer::xRange() const {
     return widenedXRange(*this, Layer::xRange());
 }
@@ -61,7 +65,8 @@ void BaseBoxLayer::forEachPlace(const PlotFrame& frame, const Visit& visit) cons
     if (width == 0) {
         // A pixel between neighbours, where that is not all they have.
         const double most = room < 4 ? room : room - 1;
-        width = static_cast<int>(std::floor(std::min(most, std::round(room * (1 - m_gap)))));
+        width =
+            static_cast<int>(std::floor(std::min(most, std::round(room * std::min(1 - m_gap, widest())))));
         width = std::max(1, width - (width % 2 == 1 ? 0 : 1));
     }
     for (std::size_t row = rows().begin; row < rows().end; ++row) {
@@ -162,10 +167,10 @@ void BoxWhiskerLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Plac
         look.side = orDefault(set().shadow(), look.fill);
         look.sideEdge = orDefault(set().shadowEdge(), look.edge);
         look.effect = borderEffect();
-        look.edgeWidth = place.last - place.first < 2 ? 0 : lineWidth();
+        const int from = pixel(frame, top), to = pixel(frame, bottom);
+        look.edgeWidth = edgeWidth(place.last - place.first + 1, std::abs(to - from) + 1);
         look.depth = frame.depth;
-        drawBar(canvas, pixelRect(frame, place.first, place.last, pixel(frame, top), pixel(frame, bottom)),
-                SquareShape, 8, look);
+        drawBar(canvas, pixelRect(frame, place.first, place.last, from, to), SquareShape, 8, look);
     }
     if (isValue(middle)) {
         const int y = pixel(frame, middle);

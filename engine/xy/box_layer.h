@@ -46,8 +46,14 @@ protected:
     /// The pixel along y of a value. Not for gaps.
     static int pixel(const PlotFrame& frame, double value);
     const DataSet& set() const { return *dataSets().front(); }
+    /// How wide the edge of a body is, given its pixels along x and along y: the line width, or what leaves
+    /// the fill a third of the one and a pixel of the other.
+    int edgeWidth(int alongX, int alongY) const;
 
 private:
+    /// The largest part of a row's room that it takes.
+    virtual double widest() const { return 1; }
+
     template <class Visit>
     void forEachPlace(const PlotFrame& frame, const Visit& visit) const;
 
@@ -115,6 +121,8 @@ protected:
     void drawKey(Canvas& canvas, const QRect& area) const override;
 
 private:
+    /// The ticks of neighbours are to stay apart, or they read as one line.
+    double widest() const override { return 2.0 / 3; }
     Colour colourOf(std::size_t row) const;
     std::vector<bool> falls() const;
 

@@ -110,19 +110,19 @@ void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Pla
         return;
     }
     const double top = std::max(open, close), bottom = std::min(open, close);
-    wick(high, pixel(frame, top));
-    wick(low, pixel(frame, bottom));
+    const int from = pixel(frame, top), to = pixel(frame, bottom);
+    wick(high, from);
+    wick(low, to);
     BarLook look;
-    look.fill = close >= open ? set().colour() : m_fall;
+    const bool isLine = close == open && !canvas.colours().invisible(edge);
+    look.fill = isLine ? edge : close >= open ? set().colour() : m_fall;
     look.edge = edge;
     look.side = orDefault(set().shadow(), look.fill);
     look.sideEdge = orDefault(set().shadowEdge(), edge);
     look.effect = borderEffect();
-    // Narrow bodies would be nothing but edge.
-    look.edgeWidth = place.last - place.first < 2 ? 0 : lineWidth();
+    look.edgeWidth = edgeWidth(place.last - place.first + 1, std::abs(to - from) + 1);
     look.depth = frame.depth;
-    drawBar(canvas, pixelRect(frame, place.first, place.last, pixel(frame, top), pixel(frame, bottom)),
-            SquareShape, 8, look);
+    drawBar(canvas, pixelRect(frame, place.first, place.last, from, to), SquareShape, 8, look);
 }
 
 void CandleStickLayer::drawKey(Canvas& canvas, const QRect& area) const {

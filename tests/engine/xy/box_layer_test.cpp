@@ -64,6 +64,38 @@ TEST(CandleStickLayer, WidthComesFromTheGapOrInPixels) {
     }
 }
 
+TEST(CandleStickLayer, EdgesLeaveTheBodyItsColour) {
+    const struct {
+        double open, close; // 2 pixels a unit
+        int width;
+        unsigned middle, edge; // of the body, at its middle and at its left side
+    } rows[] = {
+        {20, 40, 5, kGreen, kBlack}, {20, 40, 3, kGreen, kGreen}, {40, 20, 2, kRed, kRed},
+        {20, 21, 9, kGreen, kBlack}, {20.5, 20, 9, kRed, kRed}, // 3 pixels high, and 2
+        {20, 20, 9, kBlack, kBlack},                            // a line
+    };
+    for (const auto& row : rows) {
+        Chart chart;
+        CandleStickLayer* layer =
+            candles(chart, {{50, kGap, kGap, kGap, kGap, kGap}, {10}, {row.open}, {row.close}});
+        CBaseBoxLayer_setDataWidth(CandleStickLayer2BaseBoxLayer(layer), row.width);
+        const QImage image = chart.picture();
+        const int y = 230 - static_cast<int>(row.open + row.close); // the middle between both
+        EXPECT_EQ(at(image, 75, y), row.middle) << row.open << " to " << row.close << ", " << row.width;
+        EXPECT_EQ(at(image, 75 - row.width / 2, y), row.edge) << row.open << " to " << row.close;
+    }
+}
+
+TEST(HLOCLayer, TicksOfNeighboursStayApart) {
+    Chart chart;
+    const std::vector<double> high(6, 60), low(6, 10), even(6, 30);
+    HLOCLayer* layer =
+        CXYChart_addHLOCLayer(chart.xy, high.data(), 6, low.data(), 6, even.data(), 6, even.data(), 6, kBlue);
+    CBaseBoxLayer_setDataGap(HLOCLayer2BaseBoxLayer(layer), 0);
+    // Two thirds of 50 pixels.
+    EXPECT_EQ(boundsOf(chart.picture().copy(100, 170, 50, 1), kBlue), QRect(9, 0, 33, 1));
+}
+
 TEST(HLOCLayer, TicksStandAtOpenAndCloseAndColoursComeFromTheCloseBefore) {
     const struct {
         double lead;
