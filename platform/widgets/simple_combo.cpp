@@ -32,6 +32,8 @@ CSimpleCombo::CSimpleCombo(QWidget* parent)
     layout->addWidget(m_edit);
     layout->addWidget(m_list);
     setFocusProxy(m_list);
+    m_edit->setFocusPolicy(
+        Qt::ClickFocus); // the list is the one stop of the Tab key, and finds rows by their text too
     connect(this, &QObject::objectNameChanged, this, [this](const QString& name) {
         m_list->setObjectName(name + QStringLiteral(" list"));
         m_list->setAccessibleName(m_list->objectName());

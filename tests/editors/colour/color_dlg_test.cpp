@@ -4,7 +4,7 @@
 #include "editors/colour/spectrum_ctrl.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/numeric_edit.h"
-#include "tests/driver/widgets.h"
+#include "tests/driver/person.h"
 
 #include <QAbstractButton>
 #include <QComboBox>

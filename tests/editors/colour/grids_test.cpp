@@ -2,13 +2,29 @@
 
 #include "editors/colour/palettes.h"
 #include "editors/colour/swatch_grids.h"
-#include "tests/driver/widgets.h"
+#include "platform/widgets/field_changed.h"
+#include "tests/driver/windows.h"
 
 #include <QHelpEvent>
 #include <QToolTip>
 #include <algorithm>
 
 namespace {
+
+/// A parent that keeps the messages of its children.
+class MessageLog : public QWidget {
+public:
+    std::vector<int> m_keys;
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() == CFieldChangedEvent::kType) {
+            m_keys.push_back(static_cast<CFieldChangedEvent*>(event)->Key());
+            return true;
+        }
+        return QWidget::event(event);
+    }
+};
 
 class Grids : public WidgetTest {
 protected:

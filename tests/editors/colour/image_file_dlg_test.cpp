@@ -3,7 +3,7 @@
 #include "editors/colour/image_file_dlg.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/dialog.h"
-#include "tests/driver/widgets.h"
+#include "tests/driver/person.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
 #include <gtest/gtest.h>
 
 #include "editors/colour/color_dlg.h"
+#include "tests/driver/person.h"
 #include "tests/driver/random_person.h"
-#include "tests/driver/widgets.h"
 
 class RandomEvents : public WidgetTest {};
 

@@ -2,7 +2,7 @@
 
 #include "editors/colour/spectrum_ctrl.h"
 #include "editors/colour/spectrum_event.h"
-#include "tests/driver/widgets.h"
+#include "tests/driver/person.h"
 
 #include <QHelpEvent>
 #include <QLineEdit>

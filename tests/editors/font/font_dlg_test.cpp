@@ -1,8 +1,8 @@
 #include "editors/font/font_catalogue.h"
 #include "editors/font/font_dlg.h"
 #include "editors/preview/chart_preview_view.h"
+#include "tests/driver/person.h"
 #include "tests/driver/random_person.h"
-#include "tests/driver/widgets.h"
 
 #include <QAbstractButton>
 #include <QLineEdit>

@@ -1,3 +1,4 @@
+#include "platform/widgets/simple_combo.h"
 #include "tests/editors/framework/test_editor.h"
 
 #include <QCheckBox>

@@ -1,5 +1,5 @@
 #include "editors/layout/size_pages.h"
-#include "tests/editors/framework/audit.h"
+#include "tests/driver/audit.h"
 #include "tests/editors/framework/test_editor.h"
 
 #include <QDir>

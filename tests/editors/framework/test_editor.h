@@ -8,7 +8,7 @@
 #include "editors/framework/form.h"
 #include "editors/framework/page_tabs.h"
 #include "editors/preview/chart_preview_view.h"
-#include "tests/editors/framework/person.h"
+#include "tests/driver/person.h"
 
 struct Values {
     std::int32_t m_floored = 5;
@@ -143,16 +143,8 @@ private:
 };
 
 /// A test with an application and, when opened, the editor and the person.
-class EditorTest : public testing::Test {
+class EditorTest : public WidgetTest {
 protected:
-    static void SetUpTestSuite() {
-        if (qApp == nullptr) {
-            static int argc = 1;
-            static char name[] = "test_framework";
-            static char* argv[] = {name, nullptr};
-            new QApplication(argc, argv);
-        }
-    }
     void Open() {
         editor.Open();
         editor.Told();

@@ -1,14 +1,14 @@
 // What the editor looks like: it fits a small screen, shows everything whole, and runs in reading order.
 
-#include "tests/editors/pie/person.h"
+#include "tests/editors/pie/pie.h"
 
-#include "tests/editors/framework/audit.h"
+#include "tests/driver/audit.h"
 
 using namespace pie_test;
 
 TEST(PieLook, FitsASmallScreenAtEveryFontAndPictureSize) {
     CPieChart empty;
-    EXPECT_FALSE(Edit(empty, [](PieEditor& editor) { editor.Cancel(); })); // so that there is a font
+    EXPECT_FALSE(Edit(empty, [](Person& person) { person.Cancel(); })); // so that there is a font
     const QFont font = QApplication::font();
     for (const double scale : {1.0, 1.5}) {
         QFont larger(font);
@@ -20,14 +20,14 @@ TEST(PieLook, FitsASmallScreenAtEveryFontAndPictureSize) {
             CChartLayout layout;
             layout.SetChartSize(picture.width(), picture.height());
             CPieChart pie = UnusualPie();
-            EXPECT_FALSE(Edit(pie, layout, [&](PieEditor& editor) {
-                QWidget& window = editor.Window();
+            EXPECT_FALSE(Edit(pie, layout, [&](Person& person) {
+                QWidget& window = person.Window();
                 EXPECT_LE(window.width(), 1366);
                 EXPECT_LE(window.height(), 768 - 30);
-                EXPECT_GE(editor.Preview().width() * 3, window.width());
+                EXPECT_GE(person.Preview().width() * 3, window.width());
                 EXPECT_EQ(window.minimumSize(), window.maximumSize());
                 audit::Everything(window);
-                editor.Cancel();
+                person.Cancel();
             }));
         }
     }
@@ -36,15 +36,15 @@ TEST(PieLook, FitsASmallScreenAtEveryFontAndPictureSize) {
 
 TEST(PieLook, TabGoesThroughTheControlsInReadingOrder) {
     CPieChart pie = PieOf({"a"});
-    EXPECT_FALSE(Edit(pie, [](PieEditor& editor) {
+    EXPECT_FALSE(Edit(pie, [](Person& person) {
         QStringList order;
-        editor.Find<QCheckBox>("Show 3D")->setFocus();
+        person.Find("Show 3D").setFocus();
         for (int i = 0; i < 21; ++i) {
             QWidget* focus = QApplication::focusWidget();
             auto* button = qobject_cast<QPushButton*>(focus);
             const bool plain = button != nullptr && focus->accessibleName().isEmpty();
             order.append(plain ? button->text() : focus->accessibleName());
-            editor.Leave();
+            person.Leave();
         }
         EXPECT_EQ(
             order,
@@ -54,6 +54,6 @@ TEST(PieLook, TabGoesThroughTheControlsInReadingOrder) {
 
                  "Sector list",   "Add",        "Delete", "Text",     "Show Explode", "Use Distance",
                  "Distance",      "Color...",   "OK"}));
-        editor.Cancel();
+        person.Cancel();
     }));
 }

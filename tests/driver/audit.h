@@ -8,8 +8,12 @@
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTabBar>
 #include <QTest>
 #include <gtest/gtest.h>
+#include <set>
 
 namespace audit {
 
@@ -17,12 +21,19 @@ inline std::string Describe(const QWidget& widget) {
     return std::string(widget.metaObject()->className()) + " \"" + widget.objectName().toStdString() + '"';
 }
 
+/// Of radio buttons, the Tab key goes to the one that is on.
+inline bool IsOtherChoice(const QWidget& widget) {
+    const auto* radio = qobject_cast<const QRadioButton*>(&widget);
+    return radio != nullptr && !radio->isChecked();
+}
+
 /// The widgets of `window` that show and that the keyboard reaches.
 inline std::vector<QWidget*> Focusable(QWidget& window) {
     std::vector<QWidget*> found;
     for (QWidget* widget : window.findChildren<QWidget*>())
         if (widget->isVisibleTo(&window) && widget->isEnabled() &&
-            (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr)
+            (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr &&
+            !IsOtherChoice(*widget))
             found.push_back(widget);
     return found;
 }
@@ -84,15 +95,32 @@ inline void TabFollowsReading(QWidget& window) {
     }
 }
 
-/// No two letters of what shows at once are the same.
+/// The key reaches each of them, whatever stands between.
+inline void TabReachesEveryControl(QWidget& window) {
+    const auto controls = Focusable(window);
+    std::set<const QWidget*> missed(controls.begin(), controls.end());
+    for (std::size_t i = 0; i < 2 * controls.size(); ++i) {
+        if (window.focusWidget() != nullptr)
+            missed.erase(window.focusWidget());
+        QTest::keyClick(window.focusWidget() != nullptr ? window.focusWidget() : &window, Qt::Key_Tab);
+    }
+    for (const QWidget* widget : missed)
+        ADD_FAILURE() << "Tab does not reach " << Describe(*widget);
+}
+
+/// No two letters of what shows at once are the same, and what has none finds all of its own in use.
 inline void LettersAreUnique(QWidget& window) {
     QString letters;
+    QStringList without;
     const auto take = [&](const QString& text, const QWidget& widget) {
         const qsizetype at = text.indexOf(u'&');
         if (at >= 0) {
             EXPECT_FALSE(letters.contains(text[at + 1], Qt::CaseInsensitive))
                 << Describe(widget) << text.toStdString();
             letters += text[at + 1];
+        } else if (text.contains(QRegularExpression(QStringLiteral("\\w"))) && text != "OK" &&
+                   text != "Cancel") {
+            without += text;
         }
     };
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
@@ -103,13 +131,22 @@ inline void LettersAreUnique(QWidget& window) {
             take(label->text(), *label);
         else if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
             take(button->text(), *button);
+        else if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
+            for (int i = 0; i < tabs->count(); ++i)
+                take(tabs->tabText(i), *tabs);
     }
+    for (const QString& text : without)
+        for (const QChar letter : text)
+            EXPECT_TRUE(letters.isEmpty() || !letter.isLetterOrNumber() ||
+                        letters.contains(letter, Qt::CaseInsensitive))
+                << '"' << text.toStdString() << "\" could have " << QString(letter).toStdString();
 }
 
 inline void Everything(QWidget& window) {
     EveryControlHasAName(window);
     NothingIsCutOff(window);
     TabFollowsReading(window);
+    TabReachesEveryControl(window);
     LettersAreUnique(window);
 }
 

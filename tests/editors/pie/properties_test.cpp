@@ -1,0 +1,62 @@
+// The controls of the pie editor, one row each.
+
+#include "tests/driver/manners.h"
+#include "tests/editors/pie/pie.h"
+
+using namespace driver;
+
+namespace {
+
+/// A pie that shows every property.
+CPieChart StartPie() {
+    CPieChart pie = pie_test::PieOf({"one", "two", "three"});
+    for (int i = 0; i < 3; ++i)
+        pie.m_sectors[i].m_color.m_color = 0x3366CCU << i;
+    pie.m_labelLayout = 0;
+    pie.m_labelPosition = 20;
+    pie.m_show3D = true;
+    pie.m_depth3D = 10;
+    pie.m_angle3D = 30;
+    pie.m_useDonut = true;
+    pie.m_edgeColor.m_color = 0x993300;
+    pie.m_sectors[0].m_showExplode = true;
+    pie.m_sectors[0].m_useDistance = true;
+    pie.m_sectors[0].m_distance = 20;
+    return pie;
+}
+
+const Properties kRows = {
+    {"", "3D:", "Show 3D", "", "show3D=false"},
+    {"", "3D:", "Shadow3D", "", "shadow3D=true"},
+    {"", "3D:", "Depth:", "25", "depth3D=25", {1, 0}},
+    {"", "3D:", "Angle:", "12.346", "angle3D=12.35", {10, 0, 90}},
+    {"", "StartAngle:", "ClockWise", "", "clockWise=false"},
+    {"", "StartAngle:", "StartAngle:", "-33.75", "startAngle=-33.75", {10}},
+    {"", "Donut:", "Use DonutType", "", "useDonut=false"},
+    {"", "Donut:", "Inner R(%):", "80", "donutInnerRadius=80", {10, 0, 100}},
+    {"", "Label:", "Layout:", "SideLayout|CircleLayout", "labelLayout=circle"},
+    {"", "Label:", "Position:", "-40", "labelPosition=-40"},
+    {"", "Label:", "EdgeColor:", "Metal", "edgeColor.type=metal"},
+    {"", "Label:", "JoinLineColor:", "Metal", "joinLineColor.type=metal"},
+    {"", "Sector:", "Text:", "new", "sectors[0].text=new"},
+    {"", "Sector:", "Show Explode", "", "sectors[0].showExplode=false"},
+    {"", "Sector:", "Use Distance", "", "sectors[0].useDistance=false"},
+    {"", "Sector:", "Distance:", "47", "sectors[0].distance=47", {10, 0}},
+    {"", "Sector:", "Color:", "Metal", "sectors[0].color.type=metal"},
+};
+
+} // namespace
+
+TEST(PieProperties, EachControlReachesItsField) {
+    TestProperties(StartPie(), CChartLayout(), kRows);
+    TestTableIsWhole(StartPie(), CChartLayout(), kRows);
+}
+
+TEST(PieProperties, EveryWayOutKeepsItsWord) {
+    TestWaysOut(pie_test::UnusualPie(), CChartLayout(), kRows);
+    TestMemoryIsFlat(StartPie(), CChartLayout());
+}
+
+TEST(PieProperties, NumbersStayInTheirLimitsWhateverIsDone) {
+    TestAnybody(StartPie(), CChartLayout(), kRows);
+}
