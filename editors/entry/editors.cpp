@@ -1,16 +1,18 @@
 // The entry functions, one line each. A kind whose dialog is not built yet reads as cancelled at once: the
-// answer of a dialog that cannot be made. It becomes `return entry::RunEditor<CXYChartDlg>(chart, layout);`.
+// answer of a dialog that cannot be made. It becomes `return entry::RunEditor<CPolarChartDlg>(chart,
+// layout);`.
 
 #include "editors/entry/run_editor.h"
 #include "editors/pie/pie_chart_dlg.h"
+#include "editors/xy/xy_chart_dlg.h"
 #include <charteditors/editors.h>
 
 bool ShowChartLayoutWnd(CChartLayout&) {
     return false;
 }
 
-bool ShowXYChartWnd(CXYChart&, const CChartLayout&) {
-    return false;
+bool ShowXYChartWnd(CXYChart& chart, const CChartLayout& layout) {
+    return entry::RunEditor<CXYChartDlg>(chart, layout);
 }
 
 bool ShowPieChartWnd(CPieChart& chart, const CChartLayout& layout) {

@@ -3,6 +3,7 @@
 #include "editors/framework/mnemonics.h"
 #include "editors/framework/page_stack.h"
 #include "platform/widgets/dialog.h"
+#include "resources/string_table.h"
 
 #include <QEvent>
 #include <QHBoxLayout>
@@ -23,6 +24,10 @@ void CPageTabs::AttachPage(CDialog& page, const QString& caption) {
     if (!caption.isEmpty())
         addTab(new CPageStack, caption);
     Stack(count() - 1)->Attach(page);
+}
+
+void CPageTabs::AttachPage(CDialog& page, int caption) {
+    AttachPage(page, QString::fromUtf8(LoadChartString(caption)));
 }
 
 void CPageTabs::Choose(CDialog& page) {

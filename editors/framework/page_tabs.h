@@ -17,6 +17,7 @@ public:
     /// Puts the page under a tab at the end, in the constructor of the dialog. Without a caption it goes
     /// under the last tab, which then has several pages, of which one shows.
     void AttachPage(CDialog& page, const QString& caption = {});
+    void AttachPage(CDialog& page, int caption); ///< a ChartText
     /// Chooses the page among those of its tab.
     void Choose(CDialog& page);
     /// Shows the tab of that index and gives the focus to the dialog. An index without a tab only gives the

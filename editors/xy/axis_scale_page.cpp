@@ -1,0 +1,110 @@
+#include "editors/fields/color_field.h"
+#include "editors/framework/list_editor.h"
+#include "editors/xy/axis_dlg.h"
+#include "resources/string_table.h"
+
+#include <chartdraw/surface.h>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr int kNoScale = 0;
+constexpr double kSecondsOfDay = 86400;
+
+/// Chart time, in which the model holds a day, as a date.
+CBinding<QDate> Day(double& time) {
+    return {[&time] {
+                const int ymd = CChart_getChartYMD(time);
+                return QDate(ymd / 10000, ymd % 10000 / 100, ymd % 100);
+            },
+            [&time](const QDate& day) {
+                if (day.isValid())
+                    time = CChart_chartTime(day.year(), day.month(), day.day(), 0, 0, 0);
+                return day.isValid();
+            }};
+}
+
+/// Seconds, which show as whole days.
+CBinding<std::int32_t> Days(double& seconds) {
+    return {[&seconds] {
+                const double days = std::trunc(seconds * 1.1574074074074073e-05);
+                constexpr double kMost = std::numeric_limits<std::int32_t>::max();
+                return std::isnan(days) ? 0 : static_cast<std::int32_t>(std::clamp(days, -kMost, kMost));
+            },
+            [&seconds](std::int32_t days) {
+                seconds = days * kSecondsOfDay;
+                return true;
+            }};
+}
+
+} // namespace
+
+CAxisScalePage::CAxisScalePage(CAxisDlg& dialog) : m_form(*this, dialog) {
+    CXYChartAxis& axis = dialog.m_axis;
+    m_form.Combo("Scale Type:", axis.m_scaleType, {"None", "Auto Scale", "Linear Scale", "Date Scale"})
+        .Then([&dialog] { dialog.ScaleTypeChosen(); });
+    m_form.Band();
+    ScaleGroups(axis);
+    SyncGroup(dialog);
+}
+
+void CAxisScalePage::ScaleGroups(CXYChartAxis& axis) {
+    m_form.Group("Auto Scale:");
+    m_form.Real("Top Extension:", axis.m_topExtension).Step(0.1).Range(0, 1);
+    m_form.Real("Bottom Extension:", axis.m_bottomExtension).Step(0.1).Range(0, 1);
+    m_form.Real("Zero Affinity:", axis.m_zeroAffinity).Step(0.1).Range(0, 1);
+    m_form.Group("Linear Scale:");
+    m_form.Real("Lower Limit:", axis.m_lowerLimit);
+    m_form.Real("Upper Limit:", axis.m_upperLimit).Unrounded();
+    m_form.Real("Major Tick Inc:", axis.m_majorTickInc);
+    m_form.Real("Minor Tick Inc:", axis.m_minorTickInc);
+    m_form.Column();
+    m_form.Group("Date Scale:");
+    m_form.Date("Lower Limit:", Day(axis.m_dateLowerLimit));
+    m_form.Date("Upper Limit:", Day(axis.m_dateUpperLimit));
+    m_form.Integer("Major Tick Inc:", Days(axis.m_dateMajorTickInc)).DigitsOnly().Unit("(days)");
+    m_form.Integer("Minor Tick Inc:", Days(axis.m_dateMinorTickInc)).DigitsOnly().Unit("(days)");
+}
+
+void CAxisScalePage::SyncGroup(CAxisDlg& dialog) {
+    CXYChartAxis& axis = dialog.m_axis;
+    // Only an axis without a scale of its own can follow another, and X and Y never do.
+    const auto follower = [&dialog] {
+        return (dialog.m_axisKind & (CAxisDlg::X2 | CAxisDlg::Y2 | CAxisDlg::Additional)) != 0;
+    };
+    const auto free = [&axis, follower] { return follower() && axis.m_scaleType == kNoScale; };
+    const auto stateOf = [&dialog, follower, free](int kind) {
+        const int own =
+            (dialog.m_axisKind & CAxisDlg::X2) != 0 ? CAxisDlg::X2 : dialog.m_axisKind & CAxisDlg::Y2;
+        if (!follower() || kind == own)
+            return CRadioRow::GreyAndOff;
+        return free() ? CRadioRow::Live : CRadioRow::Grey;
+    };
+    const auto showAgain = [this] { m_form.LoadRows(this); };
+    const auto follow = [&dialog, &axis](int kind, int index) {
+        axis.m_syncKind = static_cast<unsigned char>(kind);
+        dialog.m_syncIndex = index;
+        return true;
+    };
+
+    m_form.Group("SyncAxis:");
+    const CBinding<std::int32_t> primary([&axis] { return axis.m_syncKind; },
+                                         [follow](int kind) { return follow(kind, -1); }, this, showAgain);
+    m_form.Radio("Primary:", primary, {{"X", 1}, {"Y", 2}, {"X2", 4}, {"Y2", 8}}).States(stateOf);
+    const CBinding<std::int32_t> additional(
+        [&dialog, &axis, follower] {
+            return follower() && axis.m_syncKind == CAxisDlg::Additional ? dialog.m_syncIndex : -1;
+        },
+        [follow](int row) { return follow(CAxisDlg::Additional, row); }, this, showAgain);
+    m_form.Combo("Additional:", additional, {})
+        .RowsFrom([&dialog] {
+            QStringList rows;
+            for (int i = 0; i < dialog.m_axisCount; ++i)
+                rows.append(RowCaption(LoadChartString(ChartText::AxisRow), i));
+            return rows;
+        })
+        .EnabledIf(free);
+    m_form.Real("Slope:", axis.m_syncSlope).Step(0.1).EnabledIf(free);
+}
