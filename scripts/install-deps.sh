@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Installs what the build, the demo and the tests need, by package name. Does nothing when all is there.
+# Installs what the build, the demo and the tests need, by package name. Does nothing when all is there. With --ci
+# also what the checks of a change need, with --package what making and trying packages does.
 set -euo pipefail
 
 packages=(
@@ -11,7 +12,9 @@ packages=(
     fonts-liberation fonts-dejavu-core fonts-noto-cjk fonts-noto-core fonts-nanum fonts-vlgothic fonts-symbola
 )
 if [ "${1:-}" = --ci ]; then
-    packages+=(clang clang-format valgrind)
+    packages+=(clang clang-format valgrind doxygen)
+elif [ "${1:-}" = --package ]; then
+    packages+=(dpkg-dev file debootstrap)
 fi
 
 missing=()

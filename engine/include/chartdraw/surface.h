@@ -1,4 +1,4 @@
-/**
+/** @file
  * The drawing library: charts as pictures, through flat functions that C and every language with a C
  * binding can call. A chart is created, dressed and filled by calls, and CBaseChart_makeChart2 turns it
  * into the bytes of a bitmap file.

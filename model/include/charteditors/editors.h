@@ -23,10 +23,17 @@ class CPieChart;
 class CPolarChart;
 class CXYChart;
 
+/// Edits what all kinds of chart share. True when the user pressed OK.
 CHARTEDITORS_API bool ShowChartLayoutWnd(CChartLayout& layout);
+/// Edits an XY chart, its axes and layers. True when the user pressed OK.
 CHARTEDITORS_API bool ShowXYChartWnd(CXYChart& chart, const CChartLayout& layout);
+/// Edits a pie. True when the user pressed OK.
 CHARTEDITORS_API bool ShowPieChartWnd(CPieChart& chart, const CChartLayout& layout);
+/// Edits a finance chart and the order of its panes. True when the user pressed OK.
 CHARTEDITORS_API bool ShowFinanceChartWnd(CFinanceChart& chart, const CChartLayout& layout);
+/// Edits an angular meter. True when the user pressed OK.
 CHARTEDITORS_API bool ShowAngularMeterWnd(CAngularMeter& meter, const CChartLayout& layout);
+/// Edits a linear meter. True when the user pressed OK.
 CHARTEDITORS_API bool ShowLinearMeterWnd(CLinearMeter& meter, const CChartLayout& layout);
+/// Edits a polar chart and its layers. True when the user pressed OK.
 CHARTEDITORS_API bool ShowPolarChartWnd(CPolarChart& chart, const CChartLayout& layout);

@@ -97,9 +97,9 @@ public:
     CPolarLayerMgr& operator=(const CPolarLayerMgr& other);
     ~CPolarLayerMgr();
 
-    void DeleteContents(); ///< Deletes every layer.
-    int GetLayerCount() const;
-    CPolarLayer* GetLayer(int index) const;
+    void DeleteContents();                  ///< Deletes every layer.
+    int GetLayerCount() const;              ///< How many layers there are.
+    CPolarLayer* GetLayer(int index) const; ///< The layer of that index.
 
     /// Appends a layer, takes it over, and returns its index. The layer is the caller's still if this throws.
     int AddLayer(CPolarLayer* layer);

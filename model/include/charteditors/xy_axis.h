@@ -103,10 +103,10 @@ public:
     /// A new default axis, or null when memory runs out. It is the caller's until AddAxis.
     static CXYChartAxis* CreateAxis();
 
-    int GetAxisCount() const;
-    bool empty() const;
+    int GetAxisCount() const; ///< How many axes there are.
+    bool empty() const;       ///< Whether there is none.
 
-    CXYChartAxis* GetAxis(int index) const;
+    CXYChartAxis* GetAxis(int index) const;           ///< The axis of that index.
     CXYChartAxis* GetSafeAxis(int index) const;       ///< Null for an index out of range.
     int GetAxisIndex(const CXYChartAxis* axis) const; ///< -1 when `axis` is null or none of this list's.
     CXYChartAxis*

@@ -182,10 +182,10 @@ public:
     CXYChartLayerMgr& operator=(const CXYChartLayerMgr& other);
     ~CXYChartLayerMgr();
 
-    void DeleteContents(); ///< Deletes every layer.
-    int GetLayerCount() const;
-    bool empty() const;
-    CXYChartLayer* GetLayer(int index) const;
+    void DeleteContents();                    ///< Deletes every layer.
+    int GetLayerCount() const;                ///< How many layers there are.
+    bool empty() const;                       ///< Whether there is none.
+    CXYChartLayer* GetLayer(int index) const; ///< The layer of that index.
 
     /// Appends a layer, takes it over, and returns its index. The layer is the caller's still if this throws.
     int AddLayer(CXYChartLayer* layer);

@@ -16,11 +16,11 @@
 /// it; a volume that is NaN, infinite or negative is missing.
 struct CFinanceChartData {
     std::size_t size = sizeof(CFinanceChartData); ///< Of this structure, in bytes; to be left as it is.
-    const double* dates = nullptr; ///< Seconds since 1 January of year 1, as CChart_chartTime gives.
-    const double* open = nullptr;
-    const double* high = nullptr;
-    const double* low = nullptr;
-    const double* close = nullptr;
+    const double* dates = nullptr;  ///< Seconds since 1 January of year 1, as CChart_chartTime gives.
+    const double* open = nullptr;   ///< The first price of the day.
+    const double* high = nullptr;   ///< The highest price of the day.
+    const double* low = nullptr;    ///< The lowest price of the day.
+    const double* close = nullptr;  ///< The last price of the day.
     const double* volume = nullptr; ///< Null: the chart has no volume bars.
     int count = 0;                  ///< Rows in each array.
     int leadingRows = 0; ///< Rows at the beginning, after ordering, that only feed the indicators and are not

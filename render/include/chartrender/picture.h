@@ -22,9 +22,10 @@ enum class ChartRenderResult {
     NoPicture ///< The layout's width or height is below 1 or above 16384 pixels, or there is no memory.
 };
 
+/// The kind of picture file.
 enum class ChartPictureFormat {
     Bmp, ///< 24 bits a pixel.
-    Png
+    Png  ///< 24 bits a pixel.
 };
 
 /// The bytes of a picture file; empty at first.
@@ -35,7 +36,7 @@ public:
     CChartPicture(const CChartPicture&) = delete;
     CChartPicture& operator=(const CChartPicture&) = delete;
 
-    bool Empty() const;
+    bool Empty() const;                ///< Whether there is no picture.
     const unsigned char* Data() const; ///< Good until the next rendering into this picture; null if empty.
     std::size_t Size() const;          ///< In bytes.
 

@@ -29,7 +29,7 @@ struct CPolarLayerData {
 struct CPolarChartData {
     std::size_t size = sizeof(CPolarChartData); ///< Of this structure, in bytes; to be left as it is.
     const CPolarLayerData* layers = nullptr; ///< In any order; layers that are not among them draw nothing.
-    int layerCount = 0;
+    int layerCount = 0;                      ///< Entries of `layers`.
 };
 
 /// Renders a polar chart of the host's data into `picture`. What a preview adds to show a setting, such as

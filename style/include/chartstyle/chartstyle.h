@@ -90,9 +90,11 @@ CHARTSTYLE_KIND(CLinearMeter);
 
 #undef CHARTSTYLE_KIND
 
-/// A layout alone: the kind "layout". Reading takes the layout of a text of any kind.
+/// A layout alone: the kind "layout".
 CHARTSTYLE_API bool WriteChartStyle(const CChartLayout& layout, CChartStyleText& text);
+/// Takes the layout of a text of any kind.
 CHARTSTYLE_API ChartStyleResult ReadChartStyle(const char* text, std::size_t size, CChartLayout& layout,
                                                CChartStyleText& report);
+/// The layout alone, over what `old` holds.
 CHARTSTYLE_API bool MergeChartStyle(const char* old, std::size_t size, const CChartLayout& layout,
                                     CChartStyleText& text);
