@@ -1,11 +1,13 @@
 #include "engine/paint/picture.h"
 
+#include "engine/paint/file_bytes.h"
+
 #include <QBuffer>
 #include <QDateTime>
-#include <QFile>
-#include <QFileInfo>
 #include <QImageReader>
+#include <QtEndian>
 #include <algorithm>
+#include <cstdlib>
 #include <list>
 #include <mutex>
 
@@ -35,6 +37,47 @@ QByteArray formatOf(const QByteArray& bytes) {
 
 bool isReadable(QSize size) {
     return !size.isEmpty() && size.width() <= kMaxSide && size.height() <= kMaxSide;
+}
+
+/// Whether nothing is missing at the end of a bitmap file, whose decoder leaves the pixels that are not there
+/// as it found them in memory.
+bool isWholeBitmap(const QByteArray& bytes) {
+    constexpr qsizetype kLongHeader = 54, kShortHeader = 26;
+    const auto number = [&]<class Number>(Number, qsizetype at) {
+        return qint64{qFromLittleEndian<Number>(bytes.constData() + at)};
+    };
+    if (bytes.size() < kShortHeader)
+        return false;
+    const qint64 start = number(quint32(), 10);
+    if (number(quint32(), 14) == 12) { // the old header
+        const qint64 stride = (number(quint16(), 18) * number(quint16(), 24) + 31) / 32 * 4;
+        return start + stride * number(quint16(), 20) <= bytes.size();
+    }
+    if (bytes.size() < kLongHeader)
+        return false;
+    const qint64 width = number(qint32(), 18), height = std::abs(number(qint32(), 22));
+    const qint64 bits = number(quint16(), 28), compression = number(quint32(), 30);
+    constexpr qint64 kPlain = 0, kBitFields = 3;
+    if (width < 1 || width > kMaxSide || height < 1 || height > kMaxSide)
+        return false;
+    if (compression != kPlain && compression != kBitFields)
+        return start + number(quint32(), 34) <= bytes.size();
+    // Some writers leave out what pads the last row.
+    const qint64 stride = (width * bits + 31) / 32 * 4;
+    return start + stride * (height - 1) + (width * bits + 7) / 8 <= bytes.size();
+}
+
+/// Whether a JPEG file has the mark of its end behind the pixels: a decoder makes up what is missing.
+bool isWholeJpeg(const QByteArray& bytes) {
+    const auto byte = [&](qsizetype at) { return static_cast<unsigned char>(bytes[at]); };
+    constexpr unsigned char kScan = 0xda;
+    for (qsizetype at = 2; at + 4 <= bytes.size() && byte(at) == 0xff;) {
+        if (byte(at + 1) == kScan)
+            return bytes.lastIndexOf("\xff\xd9") > at;
+        // Markers may be filled with more bytes of 0xff.
+        at += byte(at + 1) == 0xff ? 1 : 2 + (byte(at + 2) << 8 | byte(at + 3));
+    }
+    return false;
 }
 
 struct CachedFile {
@@ -78,7 +121,8 @@ private:
 
 QImage decodePicture(const QByteArray& bytes) {
     const QByteArray format = formatOf(bytes);
-    if (format.isEmpty())
+    if (format.isEmpty() || (format == "bmp" && !isWholeBitmap(bytes)) ||
+        (format == "jpeg" && !isWholeJpeg(bytes)))
         return {};
     QBuffer buffer;
     buffer.setData(bytes);
@@ -86,8 +130,16 @@ QImage decodePicture(const QByteArray& bytes) {
     QImageReader reader(&buffer, format);
     reader.setAutoDetectImageFormat(false);
     reader.setAutoTransform(true);
-    QImage image;
-    if (!isReadable(reader.size()) || !reader.read(&image))
+    // The rows of a bitmap may stand top down, which is told by a negative height.
+    const QSize size(reader.size().width(), std::abs(reader.size().height()));
+    if (!isReadable(size))
+        return {};
+    // Decoders fill the image that they are given if it fits: pixels that the file leaves out are
+    // transparent.
+    QImage image(size, reader.imageFormat() == QImage::Format_Invalid ? QImage::Format_ARGB32
+                                                                      : reader.imageFormat());
+    image.fill(0);
+    if (!reader.read(&image))
         return {};
     // A GIF's first frame may be announced smaller than the screen that it is given on.
     if (!isReadable(image.size()))
@@ -98,15 +150,9 @@ QImage decodePicture(const QByteArray& bytes) {
 QImage loadPicture(const std::string& path) {
     static PictureCache cache;
     const QFileInfo info(QString::fromStdString(path));
-    // Opening a pipe or a device could wait for ever.
-    if (!info.isFile() || info.size() > kMaxFileBytes)
-        return {};
     QImage image = cache.find(info);
     if (image.isNull()) {
-        QFile file(info.filePath());
-        if (!file.open(QIODevice::ReadOnly))
-            return {};
-        image = decodePicture(file.readAll());
+        image = decodePicture(fileBytes(info, kMaxFileBytes));
         if (!image.isNull())
             cache.add(info, image);
     }
