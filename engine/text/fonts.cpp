@@ -1,16 +1,19 @@
 #include "engine/text/fonts.h"
 
+#include "engine/paint/file_bytes.h"
 #include "engine/text/application.h"
 #include "engine/text/font_files.h"
 #include "engine/text/sfnt_face.h"
 
-#include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QLocale>
 #include <algorithm>
+#include <atomic>
 #include <cmath>
-#include <map>
+#include <list>
 #include <mutex>
+#include <optional>
 #include <vector>
 
 namespace chartdraw {
@@ -48,6 +51,9 @@ int styleOfMissing(std::string_view file) {
     return 0;
 }
 
+/// Grows when a face is given back: fonts made before may name it.
+std::atomic<int> s_facesGivenBack = 0;
+
 /// All faces in use. One for the process; every call is guarded.
 class FaceCache {
 public:
@@ -55,20 +61,26 @@ public:
     Face find(std::string_view name) {
         const std::lock_guard lock(m_mutex);
         if (const int now = applicationCount(); m_application != now) {
-            m_byName.clear();
-            m_byFile.clear();
+            m_loaded.clear();
             m_application = now;
         }
-        if (const auto found = m_byName.find(name); found != m_byName.end())
-            return found->second;
-        // What a name means is kept for good, a missing file too; made-up names without end are not.
-        if (m_byName.size() >= kMaxNames)
-            return ownFace(0);
-        return m_byName.emplace(name, load(name)).first->second;
+        return load(name);
     }
 
 private:
-    static constexpr std::size_t kMaxNames = 512;
+    // More than a page of charts uses, and little enough that naming file after file does not fill the
+    // memory.
+    static constexpr std::size_t kMaxFaces = 64;
+    static constexpr qsizetype kMaxBytes = 256 * 1024 * 1024;
+
+    /// A face of a file, whatever way its path was written. Without a family: no usable face.
+    struct Loaded {
+        QString path;
+        int index;
+        Face face;
+        int id = -1; ///< the toolkit's
+        qsizetype bytes = 0;
+    };
 
     Face load(std::string_view name) {
         if (const int style = styleOf(name); style >= 0)
@@ -98,26 +110,48 @@ private:
         const QString path = findFontFile(name);
         if (path.isEmpty())
             return std::nullopt;
-        const auto [entry, isNew] = m_byFile.try_emplace({path, index});
-        if (isNew)
-            entry->second = registerFace(path, index);
-        return entry->second;
+        const QString canonical = QFileInfo(path).canonicalFilePath();
+        const auto found = std::ranges::find_if(
+            m_loaded, [&](const Loaded& l) { return l.index == index && l.path == canonical; });
+        if (found != m_loaded.end())
+            m_loaded.splice(m_loaded.begin(), m_loaded, found);
+        else
+            registerFace(canonical, index);
+        const Face& face = m_loaded.front().face;
+        return face.family.isEmpty() ? std::nullopt : std::optional(face);
     }
 
-    std::optional<Face> registerFace(const QString& path, int index) {
-        QFile file(path);
-        if (!file.open(QIODevice::ReadOnly) || file.size() > kMaxFontFile)
-            return std::nullopt;
+    void registerFace(const QString& path, int index) {
+        Loaded loaded{.path = path, .index = index, .face = {}};
         const QString family = QStringLiteral("chartdraw-%1").arg(++m_lastFamily);
-        const auto face = extractFace(file.read(kMaxFontFile), index, family.toStdString());
-        if (!face || QFontDatabase::addApplicationFontFromData(face->data) < 0)
-            return std::nullopt;
-        return Face{.family = family, .bold = face->bold, .italic = face->italic};
+        const auto face = extractFace(fileBytes(QFileInfo(path), kMaxFontFile), index, family.toStdString());
+        if (face)
+            loaded.id = QFontDatabase::addApplicationFontFromData(face->data);
+        if (loaded.id >= 0) {
+            loaded.face = {.family = family, .bold = face->bold, .italic = face->italic};
+            loaded.bytes = face->data.size();
+        }
+        m_loaded.push_front(std::move(loaded));
+        giveBackTheOldest();
+    }
+
+    void giveBackTheOldest() {
+        qsizetype bytes = 0;
+        for (const Loaded& loaded : m_loaded)
+            bytes += loaded.bytes;
+        while (m_loaded.size() > 1 && (m_loaded.size() > kMaxFaces || bytes > kMaxBytes)) {
+            const Loaded& oldest = m_loaded.back();
+            bytes -= oldest.bytes;
+            if (oldest.id >= 0) {
+                QFontDatabase::removeApplicationFont(oldest.id);
+                s_facesGivenBack.fetch_add(1);
+            }
+            m_loaded.pop_back();
+        }
     }
 
     std::mutex m_mutex;
-    std::map<std::string, Face, std::less<>> m_byName;
-    std::map<std::pair<QString, int>, std::optional<Face>> m_byFile; ///< none: no usable face
+    std::list<Loaded> m_loaded; ///< the last used first
     int m_lastFamily = 0;
     int m_application = 0; ///< Under which the faces were loaded.
 };
@@ -161,7 +195,7 @@ QFont makeFont(const Face& face, double points, double widthPoints) {
 struct RecentFont {
     std::string name;
     double points = 0, widthPoints = 0;
-    int application = 0;
+    int application = 0, facesGivenBack = 0;
     QFont font;
 };
 
@@ -188,10 +222,10 @@ QFont font(const FontSet& set, std::string_view name, double points, double widt
     std::string resolved = set.resolve(name);
     constexpr std::size_t kRecent = 16;
     thread_local std::vector<RecentFont> recent;
-    const int application = applicationCount();
+    const int application = applicationCount(), givenBack = s_facesGivenBack.load();
     const auto found = std::ranges::find_if(recent, [&](const RecentFont& r) {
         return r.points == points && r.widthPoints == widthPoints && r.application == application &&
-               r.name == resolved;
+               r.facesGivenBack == givenBack && r.name == resolved;
     });
     if (found != recent.end())
         return found->font;
@@ -199,7 +233,7 @@ QFont font(const FontSet& set, std::string_view name, double points, double widt
     const QFont made = makeFont(cache.find(resolved), points, widthPoints);
     if (recent.size() >= kRecent)
         recent.erase(recent.begin());
-    recent.push_back({std::move(resolved), points, widthPoints, application, made});
+    recent.push_back({std::move(resolved), points, widthPoints, application, givenBack, made});
     return made;
 }
 

@@ -9,6 +9,7 @@
 #include <QTextLayout>
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace chartdraw {
 
@@ -153,8 +154,10 @@ private:
     /// Puts a line below the ones before it, its baseline on a whole pixel.
     void placeLine(QTextLine& line, const std::vector<StyledRun>& runs) {
         double ascent = line.ascent(), descent = line.descent();
+        int start = 0;
         for (const StyledRun& run : runs) {
-            if (run.rise == 0)
+            const int from = std::exchange(start, start + static_cast<int>(run.text.size()));
+            if (run.rise == 0 || start <= line.textStart() || from >= line.textStart() + line.textLength())
                 continue;
             const QFontMetricsF full(run.fullFont), script(run.font);
             ascent = std::max({ascent, full.ascent(), script.ascent() + run.rise});

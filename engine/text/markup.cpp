@@ -10,9 +10,10 @@ namespace chartdraw {
 
 namespace {
 
-// Both bound the memory that hostile text can take; no sensible text comes near.
+// They bound the memory that hostile text can take; no sensible text comes near.
 constexpr std::size_t kMaxTagLength = 512;
 constexpr std::size_t kMaxDepth = 256;
+constexpr std::size_t kMaxRuns = 1000; ///< after which the look of a line no longer changes within it
 
 template <class Number, class... Base>
 std::optional<Number> parseNumber(std::string_view text, Base... base) {
@@ -38,7 +39,10 @@ void applyAttribute(RunStyle& style, std::string_view attribute) {
     const std::string_view value = bare ? std::string_view() : trimmed(attribute.substr(equals + 1));
     const bool on = bare || value != "0";
     if (key == "font") {
-        style.font = value;
+        // A text may come from anywhere: it names faces of the font folders, and no other file of the
+        // machine.
+        if (value.find_first_of("/\\") == value.npos)
+            style.font = value;
     } else if (key == "size") {
         const auto points = parseNumber<double>(value);
         if (points && *points > 0)
@@ -126,13 +130,16 @@ private:
         if (text.empty())
             return;
         MarkupLine& line = m_lines.back();
-        if (line.empty() || line.back().style != m_style)
+        if (line.empty() || (line.back().style != m_style && m_runs < kMaxRuns)) {
             line.push_back({.text = {}, .style = m_style});
+            ++m_runs;
+        }
         line.back().text += text;
     }
 
     std::string_view m_text;
     std::vector<MarkupLine> m_lines{1};
+    std::size_t m_runs = 0;
     RunStyle m_style;
     std::vector<RunStyle> m_outer; ///< What stood before each open tag.
 };
