@@ -1,5 +1,6 @@
 // Operations of every chart: size, background, fonts, titles, texts, lines, legend, picture, patterns.
 
+#include "engine/api/call.h"
 #include "engine/api/convert.h"
 #include "engine/chart/chart.h"
 #include "engine/paint/picture.h"
@@ -9,10 +10,10 @@
 using chartdraw::Chart;
 using chartdraw::edit;
 using chartdraw::handle;
-using chartdraw::object;
 using chartdraw::read;
 using chartdraw::toColour;
 using chartdraw::toText;
+using chartdraw::use;
 
 namespace {
 
@@ -29,9 +30,9 @@ chartdraw::TextLook titleLook(const char* font, double size, int fontColor, int 
 
 TextBox* addTitle(BaseChart* base, int alignment, const char* title, const chartdraw::TextLook& look,
                   bool strip) {
-    auto* chart = edit<Chart>(base);
-    return chart != nullptr ? handle<TextBox>(chart->addTitle(alignment, toText(title), look, strip))
-                            : nullptr;
+    return edit(
+        base,
+        [&](Chart& chart) { return handle<TextBox>(chart.addTitle(alignment, toText(title), look, strip)); });
 }
 
 } // namespace
@@ -39,41 +40,47 @@ TextBox* addTitle(BaseChart* base, int alignment, const char* title, const chart
 extern "C" {
 
 void CBaseChart_destroy(BaseChart* base) {
-    delete object<Chart>(base);
+    use(
+        base, [](Chart& chart) { delete &chart; });
 }
 
 void CBaseChart_setSize(BaseChart* base, int width, int height) {
-    if (auto* chart = edit<Chart>(base))
-        chart->setSize(width, height);
+    return edit(
+        base, [&](Chart& chart) { chart.setSize(width, height); });
 }
 
 void CBaseChart_setBackground(BaseChart* base, int background, int edge, int raisedEffect) {
-    if (auto* chart = edit<Chart>(base))
-        chart->setBackground(toColour(background), toColour(edge), raisedEffect);
+    return edit(
+        base, [&](Chart& chart) { chart.setBackground(toColour(background), toColour(edge), raisedEffect); });
 }
 
 void CBaseChart_setBgImage(BaseChart* base, const char* file, int alignment) {
-    if (auto* chart = edit<Chart>(base))
-        chart->setBackgroundImage(toText(file), alignment);
+    return edit(
+        base, [&](Chart& chart) { chart.setBackgroundImage(toText(file), alignment); });
 }
 
 void CBaseChart_setRoundedFrame(BaseChart* base, int exterior, int r1, int r2, int r3, int r4) {
-    if (auto* chart = edit<Chart>(base)) {
-        const int first = r1 < 0 ? 10 : r1;
-        const auto corner = [&](int radius) { return radius < 0 ? first : radius; };
-        chart->setRoundedFrame(toColour(exterior), {first, corner(r2), corner(r3), corner(r4)});
-    }
+    return edit(
+        base,
+        [&](Chart& chart) {
+            const int first = r1 < 0 ? 10 : r1;
+            const auto corner = [&](int radius) { return radius < 0 ? first : radius; };
+            chart.setRoundedFrame(toColour(exterior), {first, corner(r2), corner(r3), corner(r4)});
+        });
 }
 
 void CBaseChart_setDefaultFonts(BaseChart* base, const char* normal, const char* bold, const char* italic,
                                 const char* boldItalic) {
-    if (auto* chart = edit<Chart>(base))
-        chart->setDefaultFonts({{toText(normal), toText(bold), toText(italic), toText(boldItalic)}});
+    return edit(
+        base,
+        [&](Chart& chart) {
+            chart.setDefaultFonts({{toText(normal), toText(bold), toText(italic), toText(boldItalic)}});
+        });
 }
 
 void CBaseChart_setAntiAlias(BaseChart* base, bool shapes, int textMode) {
-    if (auto* chart = edit<Chart>(base))
-        chart->setAntiAlias(shapes, textMode);
+    return edit(
+        base, [&](Chart& chart) { chart.setAntiAlias(shapes, textMode); });
 }
 
 TextBox* CBaseChart_addTitle(BaseChart* base, const char* title, const char* font, double size, int fontColor,
@@ -90,45 +97,49 @@ TextBox* CBaseChart_addTitle2(BaseChart* base, int alignment, const char* title,
 
 TextBox* CBaseChart_addText(BaseChart* base, int x, int y, const char* text, const char* font, double size,
                             int fontColor, int alignment, double angle, bool vertical) {
-    auto* chart = edit<Chart>(base);
-    if (chart == nullptr)
-        return nullptr;
-    chartdraw::TextLook look = chartdraw::toLook(font, size, fontColor, angle);
-    look.vertical = vertical;
-    look.alignment = chartdraw::alignmentOr(alignment, chartdraw::TopLeft);
-    return handle<TextBox>(chart->addText(toText(text), look, {x, y}, look.alignment));
+    return edit(
+        base,
+        [&](Chart& chart) {
+            chartdraw::TextLook look = chartdraw::toLook(font, size, fontColor, angle);
+            look.vertical = vertical;
+            look.alignment = chartdraw::alignmentOr(alignment, chartdraw::TopLeft);
+            return handle<TextBox>(chart.addText(toText(text), look, {x, y}, look.alignment));
+        });
 }
 
 Line* CBaseChart_addLine(BaseChart* base, int x1, int y1, int x2, int y2, int color, int width) {
-    auto* chart = edit<Chart>(base);
-    return chart != nullptr ? handle<Line>(chart->addLine({x1, y1}, {x2, y2}, toColour(color), width))
-                            : nullptr;
+    return edit(
+        base,
+        [&](Chart& chart) {
+            return handle<Line>(chart.addLine({x1, y1}, {x2, y2}, toColour(color), width));
+        });
 }
 
 LegendBox* CBaseChart_addLegend(BaseChart* base, int x, int y, bool vertical, const char* font, double size) {
-    auto* chart = edit<Chart>(base);
-    if (chart == nullptr)
-        return nullptr;
-    chartdraw::TextLook look = chartdraw::toLook(font, size, -1);
-    look.setMargins(5, 5, 4, 4);
-    return handle<LegendBox>(chart->addLegend({x, y}, vertical, look));
+    return edit(
+        base,
+        [&](Chart& chart) {
+            chartdraw::TextLook look = chartdraw::toLook(font, size, -1);
+            look.setMargins(5, 5, 4, 4);
+            return handle<LegendBox>(chart.addLegend({x, y}, vertical, look));
+        });
 }
 
 LegendBox* CBaseChart_getLegend(BaseChart* base) {
-    const auto* chart = read<Chart>(base);
-    return chart != nullptr ? handle<LegendBox>(chart->legend()) : nullptr;
+    return read(
+        base, [&](const Chart& chart) { return handle<LegendBox>(chart.legend()); });
 }
 
 DrawArea* CBaseChart_getDrawArea(BaseChart* base) {
-    auto* chart = object<Chart>(base);
-    return chart != nullptr ? handle<DrawArea>(chart->drawArea()) : nullptr;
+    return use(
+        base, [&](Chart& chart) { return handle<DrawArea>(chart.drawArea()); });
 }
 
 bool CBaseChart_makeChart2(BaseChart* base, int format, const char** data, int* length) {
     const char* bytes = nullptr;
     int count = 0;
-    auto* chart = object<Chart>(base);
-    const bool made = chart != nullptr && format == 4 && chart->makePicture(&bytes, &count);
+    const bool made = use(
+        base, [&](Chart& chart) { return format == CHART_FORMAT_BMP && chart.makePicture(&bytes, &count); });
     if (data != nullptr)
         *data = bytes;
     if (length != nullptr)
@@ -138,50 +149,60 @@ bool CBaseChart_makeChart2(BaseChart* base, int format, const char** data, int* 
 
 int CBaseChart_patternColor(BaseChart* base, const int* pixels, int count, int height, int startX,
                             int startY) {
-    auto* chart = edit<Chart>(base);
-    if (chart == nullptr || pixels == nullptr || height <= 0 || count < height)
-        return static_cast<int>(chartdraw::kTransparent);
-    const int width = count / height;
-    if (width > chartdraw::kMaxSide || height > chartdraw::kMaxSide)
-        return static_cast<int>(chartdraw::kTransparent);
-    QImage tile(width, height, QImage::Format_ARGB32);
-    for (int y = 0; y < height; ++y)
-        for (int x = 0; x < width; ++x)
-            tile.setPixel(x, y, chart->colours().solid(toColour(pixels[y * width + x])).rgba());
-    return static_cast<int>(chart->colours().addPattern(tile, startX, startY));
+    chartdraw::Colour result = chartdraw::kTransparent;
+    edit(base, [&](Chart& chart) {
+        if (pixels == nullptr || height <= 0 || count < height)
+            return;
+        const int width = count / height;
+        if (width > chartdraw::kMaxSide || height > chartdraw::kMaxSide)
+            return;
+        QImage tile(width, height, QImage::Format_ARGB32);
+        if (tile.isNull())
+            return;
+        for (int y = 0; y < height; ++y)
+            for (int x = 0; x < width; ++x)
+                tile.setPixel(x, y, chart.colours().solid(toColour(pixels[y * width + x])).rgba());
+        result = chart.colours().addPattern(tile, startX, startY);
+    });
+    return static_cast<int>(result);
 }
 
 int CBaseChart_patternColor2(BaseChart* base, const char* file, int startX, int startY) {
-    auto* chart = edit<Chart>(base);
-    return static_cast<int>(
-        chart != nullptr ? chart->colours().addPattern(chartdraw::loadPicture(toText(file)), startX, startY)
-                         : chartdraw::kTransparent);
+    chartdraw::Colour result = chartdraw::kTransparent;
+    edit(base, [&](Chart& chart) {
+        result = chart.colours().addPattern(chartdraw::loadPicture(toText(file)), startX, startY);
+    });
+    return static_cast<int>(result);
 }
 
 const char* CBaseChart_formatValue(BaseChart* base, double value, const char* format) {
-    auto* chart = object<Chart>(base);
-    return chart != nullptr ? chart->keepText(chartdraw::formatValue(value, toText(format))) : "";
+    const char* text = use(
+        base, [&](Chart& chart) { return chart.keepText(chartdraw::formatValue(value, toText(format))); });
+    return text != nullptr ? text : "";
 }
 
 void CDrawArea_destroy(DrawArea* area) {
-    auto* target = object<chartdraw::DrawArea>(area);
-    if (target != nullptr && !target->ownedByChart())
-        delete target;
+    return use(
+        area,
+        [&](chartdraw::DrawArea& target) {
+            if (!target.ownedByChart())
+                delete &target;
+        });
 }
 
 int CDrawArea_getWidth(DrawArea* area) {
-    const auto* source = read<chartdraw::DrawArea>(area);
-    return source != nullptr ? source->size().width() : 0;
+    return read(
+        area, [&](const chartdraw::DrawArea& source) { return source.size().width(); });
 }
 
 int CDrawArea_getHeight(DrawArea* area) {
-    const auto* source = read<chartdraw::DrawArea>(area);
-    return source != nullptr ? source->size().height() : 0;
+    return read(
+        area, [&](const chartdraw::DrawArea& source) { return source.size().height(); });
 }
 
 bool CDrawArea_load(DrawArea* area, const char* file) {
-    auto* target = edit<chartdraw::DrawArea>(area);
-    return target != nullptr && target->load(toText(file));
+    return edit(
+        area, [&](chartdraw::DrawArea& target) { return target.load(toText(file)); });
 }
 
 } // extern "C"

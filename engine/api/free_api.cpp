@@ -1,5 +1,6 @@
 // Operations without a handle that concern colours and effects.
 
+#include "engine/api/call.h"
 #include "engine/paint/colour.h"
 #include "engine/paint/effect.h"
 #include <chartdraw/surface.h>
@@ -7,7 +8,9 @@
 extern "C" {
 
 int CChart_metalColor(int base, int angle) {
-    return static_cast<int>(chartdraw::metalColour(static_cast<chartdraw::Colour>(base), angle));
+    return chartdraw::guarded([&] {
+        return static_cast<int>(chartdraw::metalColour(static_cast<chartdraw::Colour>(base), angle));
+    });
 }
 
 int CChart_softLighting(int direction, int raisedEffect) {

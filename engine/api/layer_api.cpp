@@ -1,5 +1,6 @@
 // Operations of the layers of XY charts and of their data sets.
 
+#include "engine/api/call.h"
 #include "engine/api/convert.h"
 #include "engine/data/no_value.h"
 #include "engine/xy/area_layer.h"
@@ -48,12 +49,13 @@ bool isBarShape(int shape) {
 template <class Handle>
 Handle* addLine(XYChart* chart, Form form, const double* data, int count, int color, const char* name,
                 int depth) {
-    auto* target = edit<Chart>(chart);
-    if (target == nullptr)
-        return nullptr;
-    auto* layer = target->addLayer<chartdraw::LineLayer>(form, depth);
-    layer->addDataSet(toDoubles(data, count), toColour(color), toText(name));
-    return handle<Handle>(layer);
+    return edit(
+        chart,
+        [&](Chart& target) {
+            auto* layer = target.addLayer<chartdraw::LineLayer>(form, depth);
+            layer->addDataSet(toDoubles(data, count), toColour(color), toText(name));
+            return handle<Handle>(layer);
+        });
 }
 
 } // namespace
@@ -68,10 +70,11 @@ BarLayer* CXYChart_addBarLayer(XYChart* chart, const double* data, int count, in
 }
 
 BarLayer* CXYChart_addBarLayer2(XYChart* chart, int combine, int depth) {
-    auto* target = edit<Chart>(chart);
-    return target != nullptr
-               ? handle<BarLayer>(target->addLayer<chartdraw::BarLayer>(toCombine(combine), depth))
-               : nullptr;
+    return edit(
+        chart,
+        [&](Chart& target) {
+            return handle<BarLayer>(target.addLayer<chartdraw::BarLayer>(toCombine(combine), depth));
+        });
 }
 
 LineLayer* CXYChart_addLineLayer(XYChart* chart, const double* data, int count, int color, const char* name,
@@ -90,25 +93,28 @@ StepLineLayer* CXYChart_addStepLineLayer(XYChart* chart, const double* data, int
 }
 
 AreaLayer* CXYChart_addAreaLayer2(XYChart* chart, int combine, int depth) {
-    auto* target = edit<Chart>(chart);
-    return target != nullptr ? handle<AreaLayer>(target->addLayer<chartdraw::AreaLayer>(
-                                   combine == CHART_COMBINE_PERCENTAGE, depth))
-                             : nullptr;
+    return edit(
+        chart,
+        [&](Chart& target) {
+            return handle<AreaLayer>(
+                target.addLayer<chartdraw::AreaLayer>(combine == CHART_COMBINE_PERCENTAGE, depth));
+        });
 }
 
 LineLayer* CXYChart_addScatterLayer(XYChart* chart, const double* x, int xCount, const double* y, int yCount,
                                     const char* name, int symbol, int size, int fill, int edge) {
-    auto* target = edit<Chart>(chart);
-    if (target == nullptr)
-        return nullptr;
-    const int count = std::min(x != nullptr ? xCount : 0, y != nullptr ? yCount : 0);
-    auto* layer = target->addLayer<chartdraw::LineLayer>(Form::Straight, 0);
-    layer->setLineWidth(0);
-    layer->setXData(toDoubles(x, count));
-    layer->addDataSet(toDoubles(y, count), toColour(fill), toText(name))
-        ->setSymbol({symbol, size, chartdraw::kDefaultColour,
-                     chartdraw::orDefault(toColour(edge), chartdraw::kLineColour), 1});
-    return handle<LineLayer>(layer);
+    return edit(
+        chart,
+        [&](Chart& target) {
+            const int count = std::min(x != nullptr ? xCount : 0, y != nullptr ? yCount : 0);
+            auto* layer = target.addLayer<chartdraw::LineLayer>(Form::Straight, 0);
+            layer->setLineWidth(0);
+            layer->setXData(toDoubles(x, count));
+            layer->addDataSet(toDoubles(y, count), toColour(fill), toText(name))
+                ->setSymbol({symbol, size, chartdraw::kDefaultColour,
+                             chartdraw::orDefault(toColour(edge), chartdraw::kLineColour), 1});
+            return handle<LineLayer>(layer);
+        });
 }
 
 BoxWhiskerLayer* CXYChart_addBoxWhiskerLayer(XYChart* chart, const double* top, int topCount,
@@ -116,14 +122,15 @@ BoxWhiskerLayer* CXYChart_addBoxWhiskerLayer(XYChart* chart, const double* top, 
                                              int maximumCount, const double* minimum, int minimumCount,
                                              const double* middle, int middleCount, int fill, int whisker,
                                              int edge) {
-    auto* target = edit<Chart>(chart);
-    if (target == nullptr)
-        return nullptr;
-    std::vector<std::vector<double>> series = {
-        toDoubles(top, topCount), toDoubles(bottom, bottomCount), toDoubles(maximum, maximumCount),
-        toDoubles(minimum, minimumCount), toDoubles(middle, middleCount)};
-    return handle<BoxWhiskerLayer>(target->addLayer<chartdraw::BoxWhiskerLayer>(
-        std::move(series), toColour(fill), toColour(whisker), toColour(edge), std::string()));
+    return edit(
+        chart,
+        [&](Chart& target) {
+            std::vector<std::vector<double>> series = {
+                toDoubles(top, topCount), toDoubles(bottom, bottomCount), toDoubles(maximum, maximumCount),
+                toDoubles(minimum, minimumCount), toDoubles(middle, middleCount)};
+            return handle<BoxWhiskerLayer>(target.addLayer<chartdraw::BoxWhiskerLayer>(
+                std::move(series), toColour(fill), toColour(whisker), toColour(edge), std::string()));
+        });
 }
 
 BoxWhiskerLayer* CXYChart_addBoxLayer(XYChart* chart, const double* top, int topCount, const double* bottom,
@@ -137,168 +144,206 @@ BoxWhiskerLayer* CXYChart_addBoxLayer(XYChart* chart, const double* top, int top
 HLOCLayer* CXYChart_addHLOCLayer(XYChart* chart, const double* high, int highCount, const double* low,
                                  int lowCount, const double* open, int openCount, const double* close,
                                  int closeCount, int color) {
-    auto* target = edit<Chart>(chart);
-    if (target == nullptr)
-        return nullptr;
-    std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
-                                               toDoubles(open, openCount), toDoubles(close, closeCount)};
-    return handle<HLOCLayer>(target->addLayer<chartdraw::HLOCLayer>(std::move(series), toColour(color)));
+    return edit(
+        chart,
+        [&](Chart& target) {
+            std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
+                                                       toDoubles(open, openCount),
+                                                       toDoubles(close, closeCount)};
+            return handle<HLOCLayer>(
+                target.addLayer<chartdraw::HLOCLayer>(std::move(series), toColour(color)));
+        });
 }
 
 CandleStickLayer* CXYChart_addCandleStickLayer(XYChart* chart, const double* high, int highCount,
                                                const double* low, int lowCount, const double* open,
                                                int openCount, const double* close, int closeCount, int rise,
                                                int fall, int edge) {
-    auto* target = edit<Chart>(chart);
-    if (target == nullptr)
-        return nullptr;
-    std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
-                                               toDoubles(open, openCount), toDoubles(close, closeCount)};
-    return handle<CandleStickLayer>(target->addLayer<chartdraw::CandleStickLayer>(
-        std::move(series), toColour(rise), toColour(fall), toColour(edge)));
+    return edit(
+        chart,
+        [&](Chart& target) {
+            std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
+                                                       toDoubles(open, openCount),
+                                                       toDoubles(close, closeCount)};
+            return handle<CandleStickLayer>(target.addLayer<chartdraw::CandleStickLayer>(
+                std::move(series), toColour(rise), toColour(fall), toColour(edge)));
+        });
 }
 
 InterLineLayer* CXYChart_addInterLineLayer(XYChart* chart, Line* first, Line* second, int above, int below) {
-    auto* target = edit<Chart>(chart);
-    return target != nullptr ? handle<InterLineLayer>(chartdraw::InterLineLayer::add(
-                                   *target, object<chartdraw::Line>(first), object<chartdraw::Line>(second),
-                                   toColour(above), toColour(below)))
-                             : nullptr;
+    return edit(
+        chart,
+        [&](Chart& target) {
+            return handle<InterLineLayer>(chartdraw::InterLineLayer::add(
+                target, object<chartdraw::Line>(first), object<chartdraw::Line>(second), toColour(above),
+                toColour(below)));
+        });
 }
 
 DataSet* CLayer_addDataSet(Layer* layer, const double* data, int count, int color, const char* name) {
-    auto* target = edit<chartdraw::Layer>(layer);
-    return target != nullptr
-               ? handle<DataSet>(target->addDataSet(toDoubles(data, count), toColour(color), toText(name)))
-               : nullptr;
+    return edit(
+        layer,
+        [&](chartdraw::Layer& target) {
+            return handle<DataSet>(target.addDataSet(toDoubles(data, count), toColour(color), toText(name)));
+        });
 }
 
 DataSet* CLayer_getDataSet(Layer* layer, int index) {
-    const auto* target = read<chartdraw::Layer>(layer);
-    return target != nullptr ? handle<DataSet>(target->dataSet(index)) : nullptr;
+    return read(
+        layer, [&](const chartdraw::Layer& target) { return handle<DataSet>(target.dataSet(index)); });
 }
 
 void CLayer_set3D(Layer* layer, int depth, int zGap) {
-    if (auto* target = edit<chartdraw::Layer>(layer))
-        target->set3D(depth, zGap);
+    return edit(
+        layer, [&](chartdraw::Layer& target) { target.set3D(depth, zGap); });
 }
 
 void CLayer_setLineWidth(Layer* layer, int width) {
-    if (auto* target = edit<chartdraw::Layer>(layer))
-        target->setLineWidth(width);
+    return edit(
+        layer, [&](chartdraw::Layer& target) { target.setLineWidth(width); });
 }
 
 void CLayer_setBorderColor(Layer* layer, int color, int effect) {
-    if (auto* target = edit<chartdraw::Layer>(layer))
-        target->setBorder(toColour(color), effect);
+    return edit(
+        layer, [&](chartdraw::Layer& target) { target.setBorder(toColour(color), effect); });
 }
 
 void CLayer_setXData(Layer* layer, const double* data, int count) {
-    if (auto* target = edit<chartdraw::Layer>(layer))
-        target->setXData(toDoubles(data, count));
+    return edit(
+        layer, [&](chartdraw::Layer& target) { target.setXData(toDoubles(data, count)); });
 }
 
 void CLayer_setUseYAxis(Layer* layer, Axis* axis) {
-    if (auto* target = edit<chartdraw::Layer>(layer)) {
-        if (auto* wanted = object<chartdraw::Axis>(axis))
-            target->setYAxis(wanted);
-    }
+    return edit(
+        layer,
+        [&](chartdraw::Layer& target) {
+            if (auto* wanted = object<chartdraw::Axis>(axis))
+                target.setYAxis(wanted);
+        });
 }
 
 void CLayer_setUseYAxis2(Layer* layer, bool second) {
-    if (auto* target = edit<chartdraw::Layer>(layer))
-        target->setYAxis(second ? target->chart().yAxis2() : target->chart().yAxis());
+    return edit(
+        layer,
+        [&](chartdraw::Layer& target) {
+            target.setYAxis(second ? target.chart().yAxis2() : target.chart().yAxis());
+        });
 }
 
 TextBox* CLayer_setDataLabelStyle(Layer* layer, const char* font, double size, int color, double angle) {
-    auto* target = edit<chartdraw::Layer>(layer);
-    return target != nullptr
-               ? handle<TextBox>(target->setDataLabelStyle(chartdraw::toLook(font, size, color, angle)))
-               : nullptr;
+    return edit(
+        layer,
+        [&](chartdraw::Layer& target) {
+            return handle<TextBox>(target.setDataLabelStyle(chartdraw::toLook(font, size, color, angle)));
+        });
 }
 
 void CLayer_setDataLabelFormat(Layer* layer, const char* format) {
-    if (auto* target = edit<chartdraw::Layer>(layer))
-        target->setDataLabelFormat(toText(format));
+    return edit(
+        layer, [&](chartdraw::Layer& target) { target.setDataLabelFormat(toText(format)); });
 }
 
 TextBox* CLayer_setAggregateLabelStyle(Layer* layer, const char* font, double size, int color, double angle) {
-    auto* target = edit<chartdraw::Layer>(layer);
-    return target != nullptr
-               ? handle<TextBox>(target->setAggregateLabelStyle(chartdraw::toLook(font, size, color, angle)))
-               : nullptr;
+    return edit(
+        layer,
+        [&](chartdraw::Layer& target) {
+            return handle<TextBox>(
+                target.setAggregateLabelStyle(chartdraw::toLook(font, size, color, angle)));
+        });
 }
 
 void CLayer_setAggregateLabelFormat(Layer* layer, const char* format) {
-    if (auto* target = edit<chartdraw::Layer>(layer))
-        target->setAggregateLabelFormat(toText(format));
+    return edit(
+        layer, [&](chartdraw::Layer& target) { target.setAggregateLabelFormat(toText(format)); });
 }
 
 void CLayer_setHTMLImageMap(Layer* layer, const char* url, const char* query, const char* extraAttributes) {
-    if (auto* target = edit<chartdraw::Layer>(layer))
-        target->setImageMap(toText(url), toText(query), toText(extraAttributes));
+    return edit(
+        layer,
+        [&](chartdraw::Layer& target) {
+            target.setImageMap(toText(url), toText(query), toText(extraAttributes));
+        });
 }
 
 void CDataSet_setDataName(DataSet* dataSet, const char* name) {
-    if (auto* target = edit<chartdraw::DataSet>(dataSet))
-        target->setName(toText(name));
+    return edit(
+        dataSet, [&](chartdraw::DataSet& target) { target.setName(toText(name)); });
 }
 
 void CDataSet_setDataColor(DataSet* dataSet, int data, int edge, int shadow, int shadowEdge) {
-    if (auto* target = edit<chartdraw::DataSet>(dataSet))
-        target->setColours(toColour(data), toColour(edge), toColour(shadow), toColour(shadowEdge));
+    return edit(
+        dataSet,
+        [&](chartdraw::DataSet& target) {
+            target.setColours(toColour(data), toColour(edge), toColour(shadow), toColour(shadowEdge));
+        });
 }
 
 void CDataSet_setDataSymbol(DataSet* dataSet, int symbol, int size, int fill, int edge, int lineWidth) {
-    if (auto* target = edit<chartdraw::DataSet>(dataSet))
-        target->setSymbol({symbol, size, toColour(fill), toColour(edge), lineWidth});
+    return edit(
+        dataSet,
+        [&](chartdraw::DataSet& target) {
+            target.setSymbol({symbol, size, toColour(fill), toColour(edge), lineWidth});
+        });
 }
 
 void CBarLayer_setBarShape(BarLayer* layer, int shape, int dataGroup, int dataItem) {
-    if (auto* target = edit<chartdraw::BarLayer>(layer))
-        target->setShape(isBarShape(shape) ? shape : CHART_NO_SHAPE, dataGroup, dataItem);
+    return edit(
+        layer,
+        [&](chartdraw::BarLayer& target) {
+            target.setShape(isBarShape(shape) ? shape : CHART_NO_SHAPE, dataGroup, dataItem);
+        });
 }
 
 void CBarLayer_setOverlapRatio(BarLayer* layer, double ratio, bool firstOnTop) {
-    if (auto* target = edit<chartdraw::BarLayer>(layer))
-        target->setOverlap(ratio, firstOnTop);
+    return edit(
+        layer, [&](chartdraw::BarLayer& target) { target.setOverlap(ratio, firstOnTop); });
 }
 
 void CBarLayer_setBarGap(BarLayer* layer, double gap, double subGap) {
-    if (auto* target = edit<chartdraw::BarLayer>(layer))
-        target->setGap(gap, subGap);
+    return edit(
+        layer, [&](chartdraw::BarLayer& target) { target.setGap(gap, subGap); });
 }
 
 Line* CLineLayer_getLine(LineLayer* layer, int dataSet) {
-    auto* target = edit<chartdraw::LineLayer>(layer);
-    return target != nullptr ? handle<Line>(target->line(dataSet)) : nullptr;
+    return edit(
+        layer, [&](chartdraw::LineLayer& target) { return handle<Line>(target.line(dataSet)); });
 }
 
 void CLineLayer_setSymbolScale(LineLayer* layer, const double* xScale, int xCount, int /*xScaleType*/,
                                const double* yScale, int yCount, int /*yScaleType*/) {
-    if (auto* target = edit<chartdraw::LineLayer>(layer))
-        target->setSymbolSizes(toDoubles(xScale, xCount), toDoubles(yScale, yCount));
+    return edit(
+        layer,
+        [&](chartdraw::LineLayer& target) {
+            target.setSymbolSizes(toDoubles(xScale, xCount), toDoubles(yScale, yCount));
+        });
 }
 
 void CBaseBoxLayer_setDataGap(BaseBoxLayer* layer, double gap) {
-    if (auto* target = edit<chartdraw::BaseBoxLayer>(layer))
-        target->setDataGap(gap);
+    return edit(
+        layer, [&](chartdraw::BaseBoxLayer& target) { target.setDataGap(gap); });
 }
 
 void CBaseBoxLayer_setDataWidth(BaseBoxLayer* layer, int width) {
-    if (auto* target = edit<chartdraw::BaseBoxLayer>(layer))
-        target->setDataWidth(width);
+    return edit(
+        layer, [&](chartdraw::BaseBoxLayer& target) { target.setDataWidth(width); });
 }
 
 void CBoxWhiskerLayer_setBoxColors(BoxWhiskerLayer* layer, const int* colors, int colorCount,
                                    const char* const* names, int nameCount) {
-    if (auto* target = edit<chartdraw::BoxWhiskerLayer>(layer))
-        target->setBoxColours(chartdraw::toColours(colors, colorCount), chartdraw::toTexts(names, nameCount));
+    return edit(
+        layer,
+        [&](chartdraw::BoxWhiskerLayer& target) {
+            target.setBoxColours(chartdraw::toColours(colors, colorCount),
+                                 chartdraw::toTexts(names, nameCount));
+        });
 }
 
 void CHLOCLayer_setColorMethod(HLOCLayer* layer, int method, int rise, int fall, double leadValue) {
-    if (auto* target = edit<chartdraw::HLOCLayer>(layer))
-        target->setColourMethod(method == CHART_UP_DOWN, toColour(rise), toColour(fall), leadValue);
+    return edit(
+        layer,
+        [&](chartdraw::HLOCLayer& target) {
+            target.setColourMethod(method == CHART_UP_DOWN, toColour(rise), toColour(fall), leadValue);
+        });
 }
 
 } // extern "C"

@@ -4,6 +4,10 @@
 #include "engine/text/application.h"
 
 #include <algorithm>
+#include <atomic>
+#include <bit>
+#include <map>
+#include <utility>
 
 namespace chartdraw {
 
@@ -101,23 +105,36 @@ const char* Chart::keepText(std::string text) {
 
 void Chart::changed() {
     m_stale = true;
+    // Charts may show one another in more ways than can be gone through again and again.
+    if (std::exchange(m_hostsTold, true))
+        return;
     for (Chart* host : m_hosts)
         host->changed();
 }
 
+QByteArray Chart::drawnPicture() {
+    if (m_width <= 0 || m_height <= 0 || m_width > kMaxSide || m_height > kMaxSide)
+        return {};
+    QImage image(m_width, m_height, QImage::Format_ARGB32_Premultiplied);
+    if (image.isNull())
+        return {};
+    image.fill(Qt::white);
+    {
+        // The painter must be gone before the pixels are read, which would make it a copy of them all.
+        Canvas canvas(image, m_colours);
+        draw(canvas);
+    }
+    return bitmapFile(image);
+}
+
 bool Chart::makePicture(const char** data, int* length) {
     if (m_stale) {
-        m_picture.clear();
-        if (m_width > 0 && m_height > 0 && m_width <= kMaxSide && m_height <= kMaxSide) {
-            QImage image(m_width, m_height, QImage::Format_ARGB32_Premultiplied);
-            if (!image.isNull()) {
-                image.fill(Qt::white);
-                Canvas canvas(image, m_colours);
-                draw(canvas);
-                m_picture = bitmapFile(image);
-            }
-        }
-        m_stale = false;
+        m_picture.clear(); // also what a picture leaves that memory does not suffice for
+        m_picture = drawnPicture();
+        m_stale = m_picture.isEmpty();
+        static std::atomic<unsigned> pictures = 0;
+        if (std::has_single_bit(++pictures)) // the toolkit makes things at first need
+            watchForTheEnd();
     }
     *data = m_picture.isEmpty() ? nullptr : m_picture.constData();
     *length = static_cast<int>(m_picture.size());
@@ -178,9 +195,43 @@ void Chart::removeHost(Chart* host) {
 }
 
 bool Chart::isShownIn(const Chart* other) const {
-    return this == other ||
-           std::any_of(
-               m_hosts.begin(), m_hosts.end(), [&](const Chart* host) { return host->isShownIn(other); });
+    std::set<const Chart*> seen{this};
+    std::vector<const Chart*> open{this};
+    while (!open.empty()) {
+        const Chart* chart = open.back();
+        open.pop_back();
+        for (const Chart* host : chart->m_hosts)
+            if (seen.insert(host).second)
+                open.push_back(host);
+    }
+    return seen.contains(other);
+}
+
+namespace {
+
+/// The longest way from a chart along `next`, each chart looked at once.
+template <class Next>
+int longestWay(const Chart* chart, Next next, std::map<const Chart*, int>& known) {
+    if (const auto found = known.find(chart); found != known.end())
+        return found->second;
+    int longest = 0;
+    for (const Chart* other : next(chart))
+        longest = std::max(longest, longestWay(other, next, known));
+    return known[chart] = longest + 1;
+}
+
+} // namespace
+
+int Chart::levelsBelow() const {
+    std::map<const Chart*, int> known;
+    return longestWay(
+        this, [](const Chart* chart) { return chart->shownCharts(); }, known);
+}
+
+int Chart::levelsAbove() const {
+    std::map<const Chart*, int> known;
+    return longestWay(
+        this, [](const Chart* chart) { return chart->m_hosts; }, known);
 }
 
 } // namespace chartdraw

@@ -92,6 +92,11 @@ public:
     void removeHost(Chart* host);
     /// Whether `other` is this chart or shows it, directly or through others.
     bool isShownIn(const Chart* other) const;
+    /// How many charts stand above one another: this one and the deepest of those that it shows, or the
+    /// highest of those that show it.
+    int levelsBelow() const;
+    int levelsAbove() const;
+    bool hasSeveralHosts() const { return m_hosts.size() > 1; }
 
 protected:
     Chart(Kind kind, int width, int height, Colour background, Colour edge, int effect);
@@ -102,8 +107,13 @@ protected:
     virtual void drawTop(Canvas& canvas);
     /// A chart that was shown here is going away.
     virtual void hostedEnds(Chart* chart);
+    /// The charts shown here.
+    virtual std::vector<Chart*> shownCharts() const { return {}; }
+    /// To be called for each chart shown here when this one is drawn: the next change is told again.
+    static void drawnIn(Chart& chart) { chart.m_hostsTold = false; }
 
 private:
+    QByteArray drawnPicture();
     void drawBackground(Canvas& canvas);
 
     int m_width, m_height;
@@ -128,6 +138,7 @@ private:
     std::set<std::string, std::less<>> m_texts;
 
     bool m_stale = true;
+    bool m_hostsTold = false; ///< of a change since one of them was drawn
     QByteArray m_picture;
 };
 

@@ -16,7 +16,8 @@ public:
     ~MultiChart() override;
 
     /// Shows a chart with its top left corner at a place, over those added before; one that is there already
-    /// moves. Ignored for a chart that shows this one, or is it.
+    /// moves. Ignored for a chart that shows this one, or is it, and where more than kMostLevels charts would
+    /// stand inside one another.
     void addChart(QPoint at, Chart& chart);
     /// The chart that speaks for the whole: its keys stand in this chart's legend, unless it shows a legend
     /// itself. The first one added if none is named. Ignored for a chart that is not shown here.
@@ -27,6 +28,7 @@ public:
 protected:
     void drawBody(Canvas& canvas) override;
     void hostedEnds(Chart* chart) override;
+    std::vector<Chart*> shownCharts() const override;
 
 private:
     struct Shown {

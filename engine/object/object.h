@@ -63,7 +63,8 @@ public:
 
     Kind kind() const { return m_kind; }
 
-    /// Told before every change by a handle (see `edit`): what was drawn of the object is no longer true.
+    /// Told before every change by a handle (engine/api/call.h): what was drawn of the object is no longer
+    /// true.
     virtual void changed() {}
 
 protected:
@@ -75,26 +76,10 @@ private:
 
 /// The engine object behind a handle: null for a null handle or one of another kind. A class that stands
 /// behind a handle names its kind as `static constexpr Kind kKind` and derives singly from Object.
-/// To be destroyed, drawn or joined to another object; `read` and `edit` are for all else.
 template <class T, class Handle>
 T* object(Handle* handle) {
     auto* base = reinterpret_cast<Object*>(handle);
     return base != nullptr && isKind(base->kind(), T::kKind) ? static_cast<T*>(base) : nullptr;
-}
-
-/// The same to ask it.
-template <class T, class Handle>
-const T* read(Handle* handle) {
-    return object<T>(handle);
-}
-
-/// The same to change it: the picture that shows it is stale from here on.
-template <class T, class Handle>
-T* edit(Handle* handle) {
-    T* target = object<T>(handle);
-    if (target != nullptr)
-        target->changed();
-    return target;
 }
 
 /// The handle of an object; null stays null.

@@ -3,7 +3,10 @@
 #include <QGuiApplication>
 #include <QMetaType>
 #include <atomic>
+#include <chrono>
+#include <cstdlib>
 #include <mutex>
+#include <thread>
 
 namespace chartdraw {
 
@@ -24,11 +27,12 @@ void makeByFactory() {
 void makeGuiApplication() {
     static char name[] = "chart";
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
-    // Pictures need no display, and a platform plugin that cannot reach its display ends the process.
+    // Pictures need no display, and a platform plugin that cannot reach its display ends the process: what
+    // the environment asks for is meant for windows.
     static char option[] = "-platform";
     static char platform[] = "offscreen";
     static char* arguments[] = {name, option, platform, nullptr};
-    static int count = qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM") ? 3 : 1;
+    static int count = 3;
 #else
     static char* arguments[] = {name, nullptr};
     static int count = 1;
@@ -36,7 +40,33 @@ void makeGuiApplication() {
     new QGuiApplication(count, arguments);
 }
 
+std::atomic<int> s_running = 0; ///< operations at work
+std::atomic<bool> s_ending = false;
+
+void endUse() {
+    if (s_ending.exchange(true))
+        return;
+    // Long enough for any picture of sensible size; one that never comes must not keep the process.
+    const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(5);
+    while (s_running.load() > 0 && std::chrono::steady_clock::now() < patience)
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+}
+
 } // namespace
+
+ProcessUse::ProcessUse() {
+    s_running.fetch_add(1);
+    m_granted = !s_ending.load();
+}
+
+ProcessUse::~ProcessUse() {
+    s_running.fetch_sub(1);
+}
+
+void watchForTheEnd() {
+    // Routines of the end run in the reverse order, mixed with the destructors of what was made in between.
+    std::atexit(endUse);
+}
 
 void ensureApplication() {
     if (s_ready.load(std::memory_order_acquire))
@@ -51,6 +81,7 @@ void ensureApplication() {
         makeGuiApplication();
     s_count.fetch_add(1);
     qAddPostRoutine([] { s_ready.store(false); });
+    watchForTheEnd();
     s_ready.store(true, std::memory_order_release);
 }
 

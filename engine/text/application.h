@@ -17,4 +17,25 @@ bool textAvailable();
 /// gone: a host may end its object and make another.
 int applicationCount();
 
+/// Held by every operation while it runs. Static objects, the toolkit's among them, are destroyed while the
+/// process ends, and a thread may still be drawing then: the end waits a while for the operations at work,
+/// and none begins after it.
+class ProcessUse {
+public:
+    ProcessUse();
+    ~ProcessUse();
+    ProcessUse(const ProcessUse&) = delete;
+    ProcessUse& operator=(const ProcessUse&) = delete;
+
+    /// Whether the operation may run.
+    explicit operator bool() const { return m_granted; }
+
+private:
+    bool m_granted;
+};
+
+/// Makes sure that the end of the process is noticed before what exists by now is destroyed: to be called
+/// after anything that may have made static objects.
+void watchForTheEnd();
+
 } // namespace chartdraw
