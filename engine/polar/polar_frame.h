@@ -27,6 +27,10 @@ struct PolarFrame {
     QPainterPath band(double from, double to) const;
     /// The part of the plot from a part of the turn on.
     QPainterPath sector(double fromTurn, double turns) const;
+
+private:
+    /// The point of a polygon's outermost ring at a part of the turn.
+    QPointF rim(double turn) const;
 };
 
 } // namespace chartdraw

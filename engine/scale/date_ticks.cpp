@@ -5,6 +5,7 @@
 #include "engine/scale/nice_numbers.h"
 #include "engine/scale/tick_steps.h"
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 
@@ -55,7 +56,8 @@ Step shortestStep(double seconds) {
     for (const Step& step : kSteps)
         if (step.seconds >= seconds)
             return step;
-    const double years = std::max(1.0, niceStep(seconds / kYear * (1 - 1e-3)));
+    // Chart time ends with the year 9999.
+    const double years = std::clamp(niceStep(seconds / kYear * (1 - 1e-3)), 1.0, 10000.0);
     return {years * kYear, Unit::Years, static_cast<int>(years)};
 }
 

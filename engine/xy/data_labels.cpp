@@ -57,6 +57,14 @@ QRectF movedInto(QRectF box, const QRectF& room) {
     return box;
 }
 
+/// Each label is laid out before it is known to fit. Several times as many as a picture has room for are
+/// enough.
+int mostTries(const XYChart& chart, QSizeF least) {
+    const double labels =
+        static_cast<double>(chart.width()) * chart.height() / std::max(1.0, least.width() * least.height());
+    return static_cast<int>(std::clamp(4 * labels, 1000.0, 1e5));
+}
+
 } // namespace
 
 LabelRoom::LabelRoom(QSize picture)
@@ -98,7 +106,7 @@ DataLabels::DataLabels(Canvas& canvas, const Layer& layer, const PlotFrame& fram
                        const std::string& format)
     : m_canvas(canvas), m_layer(layer), m_frame(frame), m_style(style), m_format(format),
       m_rows(layer.chart().rowTexts()), m_plot(QRectF(frame.inner()).adjusted(1, 1, -1, -1)),
-      m_least(style.block("1").size()),
+      m_least(style.block("1").size()), m_tries(mostTries(layer.chart(), m_least)),
       m_room(frame.labelRoom != nullptr
                  ? frame.labelRoom
                  : std::make_shared<LabelRoom>(QSize(layer.chart().width(), layer.chart().height()))) {}
@@ -144,6 +152,9 @@ void DataLabels::draw(const LabelContent& content, const LabelSpot& spot) {
     if (!near.contains(m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5)) ||
         !place(box, spot, m_least)) // where not even the least label has room none is laid out
         return;
+    if (m_tries <= 0)
+        return;
+    --m_tries;
     const TextBlock block = m_style.block(m_format.apply(Fields(m_layer, m_rows, content)));
     if (!block.empty() && place(box, spot, block.size())) {
         m_room->take(box);

@@ -70,6 +70,7 @@ private:
     RowTexts m_rows;
     QRectF m_plot;  ///< what labels stay within, pixel borders
     QSizeF m_least; ///< no label is smaller
+    int m_tries;    ///< labels that may still be laid out
     std::shared_ptr<LabelRoom> m_room;
 };
 

@@ -64,6 +64,10 @@ RowRange Layer::rows() const {
     return m_chart.rows(rowCount());
 }
 
+int Layer::depth() const {
+    return m_depth < 0 ? automaticDepth() : std::min(m_depth, std::max(m_chart.width(), m_chart.height()));
+}
+
 void Layer::set3D(int depth, int zGap) {
     m_depth = std::clamp(depth, -1, kMaxDepth);
     m_zGap = std::clamp(zGap, 0, kMaxDepth);

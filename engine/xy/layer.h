@@ -104,8 +104,8 @@ public:
     const TextBox* aggregateLabels() const { return m_aggregateLabels; } ///< null: none are shown
     const std::string& dataLabelFormat() const { return m_dataLabelFormat; }
     const std::string& aggregateLabelFormat() const { return m_aggregateLabelFormat; }
-    /// Pixels of depth, 0 flat.
-    int depth() const { return m_depth < 0 ? automaticDepth() : m_depth; }
+    /// Pixels of depth, 0 flat; not more than the picture can show.
+    int depth() const;
     /// Pixels between this layer's back and the front of the layer behind it.
     int zGap() const { return m_zGap; }
 
