@@ -3,6 +3,7 @@
 // layout);`.
 
 #include "editors/entry/run_editor.h"
+#include "editors/finance/finance_chart_dlg.h"
 #include "editors/pie/pie_chart_dlg.h"
 #include "editors/xy/xy_chart_dlg.h"
 #include <charteditors/editors.h>
@@ -19,8 +20,8 @@ bool ShowPieChartWnd(CPieChart& chart, const CChartLayout& layout) {
     return entry::RunEditor<CPieChartDlg>(chart, layout);
 }
 
-bool ShowFinanceChartWnd(CFinanceChart&, const CChartLayout&) {
-    return false;
+bool ShowFinanceChartWnd(CFinanceChart& chart, const CChartLayout& layout) {
+    return entry::RunEditor<CFinanceChartDlg>(chart, layout);
 }
 
 bool ShowAngularMeterWnd(CAngularMeter&, const CChartLayout&) {

@@ -19,6 +19,7 @@ CChartColorField::CChartColorField()
     }
     m_type->setMinimumWidth(width);
     LaySwatchField(*this, *m_preview, *m_type, [this] { Choose(); });
+    m_preview->setMaximumWidth(m_preview->minimumHeight() * 5); // a wide page leaves more than a colour needs
 }
 
 void CChartColorField::SetValueAndShow(const CChartColor& color) {

@@ -74,9 +74,13 @@ void CForm::BeginGroup(QWidget* box) {
 void CForm::Part() {
     m_part = new QGridLayout;
     m_part->setColumnStretch(2, 1);
-    m_part->setVerticalSpacing(m_page.fontMetrics().height() / 2);
+    m_part->setVerticalSpacing(m_page.fontMetrics().height() / m_gapsPerLine);
     m_parts->addLayout(m_part, 1);
     m_parts->setAlignment(m_part, Qt::AlignTop);
+}
+
+void CForm::Tight() {
+    m_gapsPerLine = 6;
 }
 
 void CForm::EndGroup() {
@@ -257,9 +261,11 @@ void CForm::AlignLabels() const {
 }
 
 void CForm::Start() {
-    for (auto* column : m_bands->findChildren<QVBoxLayout*>())
-        if ((column->expandingDirections() & Qt::Vertical) == 0)
+    for (auto* column : m_bands->findChildren<QVBoxLayout*>()) {
+        const bool hasPeers = static_cast<QLayout*>(column->parent())->count() > 1;
+        if (hasPeers && (column->expandingDirections() & Qt::Vertical) == 0)
             column->setStretch(column->count() - 1, 1); // the last group ends where the other columns end
+    }
     if (m_page.layout() == nullptr)
         m_page.setLayout(m_bands);
     if (!m_grows)

@@ -57,6 +57,7 @@ public:
     QGroupBox* Group(const char* caption);
     void Part();     ///< Further rows of the group stand beside those so far.
     void EndGroup(); ///< Further rows stand in no group.
+    void Tight();    ///< The rows of groups from here on stand closer, for a page of many.
 
     CIntegerRow& Integer(const char* label, CBinding<std::int32_t> field);
     CRealRow& Real(const char* label, CBinding<double> field);
@@ -151,6 +152,7 @@ private:
     QHBoxLayout* m_parts = nullptr; ///< of the current group
     QGridLayout* m_part = nullptr;  ///< label, control, and what stands beside it
     bool m_grows = false;
+    int m_gapsPerLine = 2;     ///< how many gaps between rows are as high as a line of text
     CFormRow* m_bad = nullptr; ///< the row that could not be read
     bool m_complaining = false;
 };
