@@ -6,6 +6,7 @@
 #include "editors/colour/spectrum_ctrl.h"
 #include "editors/colour/spectrum_event.h"
 #include "editors/colour/swatch_grids.h"
+#include "platform/widgets/complaint.h"
 #include "platform/widgets/field_changed.h"
 #include "platform/widgets/numeric_edit.h"
 #include "platform/widgets/quiet_combo.h"
@@ -83,7 +84,7 @@ void CArgbPanel::LayOut(bool withAngle) {
     auto* add = new QPushButton(QStringLiteral("A&dd to Custom"), this);
     add->setObjectName(QStringLiteral("AddToCustom"));
     add->setAutoDefault(false);
-    connect(add, &QPushButton::clicked, this, [this, add] {
+    WhenClicked(*add, [this, add] {
         add->setFocus(); // an edit that has it commits first, however the button was pressed
         Notify(ColorToCustom);
     });
@@ -157,18 +158,17 @@ bool CArgbPanel::CommitFocused() {
     return false;
 }
 
-void CArgbPanel::Commit() {
-    if (m_complaining)
-        return; // the box takes the focus from another edit, which must not complain as well
+void CArgbPanel::Commit(bool pressed) {
     if (m_page.UpdateData(true)) {
         Notify(ColorChanged);
         return;
     }
-    m_complaining = true;
-    WarnBox(this, QStringLiteral("\"%1\" must be a whole number.").arg(m_bad->name), window()->windowTitle());
+    CNumericEdit& bad = *m_bad->edit;
     m_page.UpdateData(false);
-    m_bad->edit->SelectAll();
-    m_complaining = false;
+    bad.SelectAll();
+    CComplaint::Raise(
+        *window(), QStringLiteral("\"%1\" must be a whole number.").arg(m_bad->name),
+        [&bad] { bad.SelectAll(); }, pressed);
 }
 
 void CArgbPanel::Press(Number& number, int direction) {
@@ -221,7 +221,7 @@ bool CArgbPanel::eventFilter(QObject* watched, QEvent* event) {
         // A text that cannot be read yet waits for the return from a menu or another window.
         if (number.edit == watched && number.edit->Touched() && reason != Qt::PopupFocusReason &&
             (reason != Qt::ActiveWindowFocusReason || m_page.UpdateData(true)))
-            Commit();
+            Commit(reason == Qt::MouseFocusReason);
     }
     return true;
 }

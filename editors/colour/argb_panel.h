@@ -48,7 +48,7 @@ private:
     void AddNumber(QGridLayout& grid, const char* label, std::int32_t& value, std::int32_t ceiling);
     void Press(Number& number, int direction);
     /// Reads the numbers and notifies, or complains and puts the last good ones back.
-    void Commit();
+    void Commit(bool pressed = false);
     void TakePaletteCell();
     /// Writes the controls and sends a ColorMessage.
     void Notify(int message);
@@ -60,7 +60,6 @@ private:
     XColorSpectrumCtrl* m_spectrum;
     std::vector<Number> m_numbers;
     const Number* m_bad = nullptr; ///< the number that could not be read
-    bool m_complaining = false;
     std::int32_t m_red = 0;
     std::int32_t m_green = 0;
     std::int32_t m_blue = 0;

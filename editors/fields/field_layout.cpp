@@ -1,5 +1,6 @@
 #include "editors/fields/field_layout.h"
 
+#include "platform/widgets/complaint.h"
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/field_changed.h"
 
@@ -27,7 +28,7 @@ void LaySwatchField(CDialog& field, QWidget& swatch, QLabel& text, const std::fu
 void OpenBy(CDialog& field, QPushButton& button, const std::function<void()>& choose) {
     button.setFocusPolicy(Qt::StrongFocus);
     field.setFocusProxy(&button);
-    QObject::connect(&button, &QPushButton::clicked, &field, choose);
+    WhenClicked(button, choose);
     // The name that the page gives to the field is the button's too: it is what takes the focus.
     QObject::connect(&field, &QObject::objectNameChanged, &button, [&button](const QString& name) {
         button.setObjectName(name + QStringLiteral("..."));

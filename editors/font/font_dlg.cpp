@@ -4,6 +4,7 @@
 #include "editors/preview/chart_preview_view.h"
 #include "platform/narrow_text.h"
 #include "platform/rounding.h"
+#include "platform/widgets/complaint.h"
 #include "resources/string_table.h"
 
 #include <QFocusEvent>
@@ -154,17 +155,16 @@ bool CFontDlg::DoDataExchange(bool read) {
     return true;
 }
 
-bool CFontDlg::UpdateDataSafe() {
-    if (m_complaining)
-        return false; // the box takes the focus from the edit, which must not complain again
+bool CFontDlg::UpdateDataSafe(bool pressed) {
     if (UpdateData(true))
         return true;
-    m_complaining = true;
-    WarnBox(this, QStringLiteral("\"Size\" must be a number."), windowTitle());
     UpdateData(false);
-    m_sizeEdit->setFocus();
-    m_sizeEdit->selectAll();
-    m_complaining = false;
+    const auto select = [this] {
+        m_sizeEdit->setFocus();
+        m_sizeEdit->selectAll();
+    };
+    select();
+    CComplaint::Raise(*this, QStringLiteral("\"Size\" must be a number."), select, pressed);
     return false;
 }
 
@@ -186,8 +186,8 @@ void CFontDlg::TakeSize() {
     }
 }
 
-void CFontDlg::CommitFace() {
-    if (!UpdateDataSafe())
+void CFontDlg::CommitFace(bool pressed) {
+    if (!UpdateDataSafe(pressed))
         return;
     SelectFaceByPrefix();
     const QListWidgetItem* item = SelectedIn(*m_faces);
@@ -195,8 +195,8 @@ void CFontDlg::CommitFace() {
     UpdateData(false);
 }
 
-void CFontDlg::CommitSize() {
-    if (UpdateDataSafe()) {
+void CFontDlg::CommitSize(bool pressed) {
+    if (UpdateDataSafe(pressed)) {
         SelectQuietly(*m_sizes, RowWithPrefix(*m_sizes, QString::asprintf("%g", m_size)));
         UpdateData(false);
     }
@@ -220,8 +220,9 @@ bool CFontDlg::eventFilter(QObject* watched, QEvent* event) {
     const auto* edit = static_cast<QLineEdit*>(watched);
     // A text that cannot be read yet waits for the return from a menu or another window.
     const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
+    const bool pressed = reason == Qt::MouseFocusReason;
     if (edit->isModified() && reason != Qt::PopupFocusReason &&
         (reason != Qt::ActiveWindowFocusReason || UpdateData(true)))
-        edit == m_faceEdit ? CommitFace() : CommitSize();
+        edit == m_faceEdit ? CommitFace(pressed) : CommitSize(pressed);
     return true;
 }

@@ -26,11 +26,11 @@ private:
     void LayOut();
     void FillLists();
     /// Reads and validates; on failure puts the last good values back.
-    bool UpdateDataSafe();
+    bool UpdateDataSafe(bool pressed = false);
     void TakeFace();
     void TakeSize();
-    void CommitFace();
-    void CommitSize();
+    void CommitFace(bool pressed = false);
+    void CommitSize(bool pressed = false);
     void SelectFaceByPrefix();
 
     CChartPreviewView* m_preview;
@@ -40,5 +40,4 @@ private:
     QListWidget* m_sizes;
     QString m_faceText;
     double m_size = 0; ///< points
-    bool m_complaining = false;
 };

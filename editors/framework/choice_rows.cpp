@@ -1,17 +1,25 @@
 #include "editors/framework/choice_rows.h"
 
 #include "editors/framework/form.h"
+#include "platform/widgets/complaint.h"
 #include "platform/widgets/quiet_combo.h"
 
 #include <QButtonGroup>
 #include <QCheckBox>
 #include <QHBoxLayout>
 #include <QRadioButton>
+#include <QSignalBlocker>
 
 CCheckRow::CCheckRow(CForm& form, CBinding<bool> field, const char* text)
     : CValueRow(form, std::move(field)), m_box(new QCheckBox(QString::fromUtf8(text), &form.Page())) {
-    QObject::connect(
-        m_box, &QCheckBox::clicked, m_box, [this] { Chosen(); });
+    // Not by its clicks alone: a screen reader toggles it.
+    QObject::connect(m_box, &QCheckBox::toggled, m_box, [this](bool on) {
+        Show(!on); // until the focused edit has committed, which reads the page
+        if (TakeFocus(*m_box)) {
+            Show(on);
+            Chosen();
+        }
+    });
 }
 
 QWidget* CCheckRow::Control() const {
@@ -31,8 +39,13 @@ bool CCheckRow::Exchange(bool read) {
     if (read)
         m_mirror = m_box->isChecked();
     else
-        m_box->setChecked(m_mirror);
+        Show(m_mirror);
     return true;
+}
+
+void CCheckRow::Show(bool on) {
+    const QSignalBlocker quiet(m_box);
+    m_box->setChecked(on);
 }
 
 CComboRow::CComboRow(CForm& form, CBinding<std::int32_t> field, std::vector<CChoice> choices)
@@ -87,7 +100,10 @@ CRadioRow::CRadioRow(CForm& form, CBinding<std::int32_t> field, std::vector<CCho
         row->addWidget(button);
     }
     row->addStretch();
-    QObject::connect(m_buttons, &QButtonGroup::idClicked, m_box, [this] { Chosen(); });
+    QObject::connect(m_buttons, &QButtonGroup::idToggled, m_box, [this](int id, bool on) {
+        if (on)
+            Chosen(*m_buttons->button(id));
+    });
 }
 
 CRadioRow& CRadioRow::States(std::function<State(int code)> states) {
@@ -97,6 +113,7 @@ CRadioRow& CRadioRow::States(std::function<State(int code)> states) {
 
 void CRadioRow::ShowState() {
     CValueRow::ShowState();
+    const QSignalBlocker quiet(m_buttons);
     m_buttons->setExclusive(false); // so that none can be on
     for (QAbstractButton* button : m_buttons->buttons()) {
         const int code = m_buttons->id(button);

@@ -23,6 +23,8 @@ public:
     bool Exchange(bool read) override;
 
 private:
+    void Show(bool on);
+
     QCheckBox* m_box;
     bool m_loaded = true;
 };

@@ -2,6 +2,7 @@
 
 #include "editors/framework/conventions.h"
 #include "editors/framework/mnemonics.h"
+#include "platform/widgets/complaint.h"
 #include "platform/widgets/field_changed.h"
 #include "platform/widgets/numeric_edit.h"
 #include "platform/widgets/simple_combo.h"
@@ -12,7 +13,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QListWidget>
-#include <QMessageBox>
+#include <QPointer>
 #include <QPushButton>
 #include <algorithm>
 
@@ -168,7 +169,7 @@ std::vector<QPushButton*> CForm::Buttons(const std::vector<std::pair<const char*
         button->setObjectName(button->text());
         button->setAccessibleName(button->text());
         button->setFocusPolicy(Qt::StrongFocus);
-        QObject::connect(button, &QPushButton::clicked, button, click);
+        WhenClicked(*button, click);
         layout->addWidget(button);
         made.push_back(button);
     }
@@ -296,19 +297,19 @@ void CForm::ShowStates() {
         row->ShowState();
 }
 
-bool CForm::UpdateDataSafe() {
-    if (m_complaining)
-        return false; // the box below takes the focus from another edit, which must not complain as well
+bool CForm::UpdateDataSafe(bool pressed) {
     if (m_page.UpdateData(true))
         return true;
-    m_complaining = true;
-    QMessageBox(QMessageBox::Warning, m_page.window()->windowTitle(),
-                QStringLiteral("\"%1\" must be %2.").arg(m_bad->Name(), m_bad->Wants()), QMessageBox::Ok,
-                &m_page)
-        .exec();
+    CFormRow& bad = *m_bad;
     m_page.UpdateData(false);
-    m_bad->SelectText();
-    m_complaining = false;
+    bad.SelectText();
+    CComplaint::Raise(
+        *m_page.window(), QStringLiteral("\"%1\" must be %2.").arg(bad.Name(), bad.Wants()),
+        [&bad, edit = QPointer<QWidget>(bad.Control())] {
+            if (edit != nullptr) // and so the row
+                bad.SelectText();
+        },
+        pressed);
     return false;
 }
 

@@ -115,8 +115,9 @@ public:
 
     // For rows, lists and the page's own handlers.
     CDialog& Page() { return m_page; }
-    /// Reads and validates; on failure puts the last good values back and selects the offending text.
-    bool UpdateDataSafe();
+    /// Reads and validates. On failure the last good values come back, the offending text is selected and a
+    /// complaint raised; `pressed` if a press of the mouse is the cause, which then has no other effect.
+    bool UpdateDataSafe(bool pressed = false);
     void Notify() { m_notify(); }
     /// Model into mirrors and controls, for the rows that follow a list or a CCurrent, or for all (null).
     void LoadRows(const void* owner);
@@ -154,5 +155,4 @@ private:
     bool m_grows = false;
     int m_gapsPerLine = 2;     ///< how many gaps between rows are as high as a line of text
     CFormRow* m_bad = nullptr; ///< the row that could not be read
-    bool m_complaining = false;
 };

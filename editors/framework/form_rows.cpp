@@ -1,6 +1,7 @@
 #include "editors/framework/form_rows.h"
 
 #include "editors/framework/form.h"
+#include "platform/widgets/complaint.h"
 
 #include <QEvent>
 #include <QFocusEvent>
@@ -10,8 +11,7 @@ namespace {
 /// Tells when a control has lost the focus, other than to its own menu.
 class CFocusWatch : public QObject {
 public:
-    CFocusWatch(QWidget* watched, std::function<void(bool forAnotherWindow)> leave)
-        : m_leave(std::move(leave)) {
+    CFocusWatch(QWidget* watched, std::function<void(Qt::FocusReason)> leave) : m_leave(std::move(leave)) {
         watched->installEventFilter(this);
     }
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -21,12 +21,12 @@ public:
         const Qt::FocusReason reason = static_cast<QFocusEvent*>(event)->reason();
         watched->event(event);
         if (reason != Qt::PopupFocusReason)
-            m_leave(reason == Qt::ActiveWindowFocusReason);
+            m_leave(reason);
         return true;
     }
 
 private:
-    std::function<void(bool)> m_leave;
+    std::function<void(Qt::FocusReason)> m_leave;
 };
 
 } // namespace
@@ -55,8 +55,10 @@ QWidget* CFormRow::Page() const {
     return &m_form.Page();
 }
 
-void CFormRow::Chosen() {
-    if (m_validated ? m_form.UpdateDataSafe() : (m_form.Page().UpdateData(true), Exchange(true)))
+void CFormRow::Chosen(QWidget& control) {
+    if (!TakeFocus(control))
+        Exchange(false); // as if nobody had touched it
+    else if (m_validated ? m_form.UpdateDataSafe() : (m_form.Page().UpdateData(true), Exchange(true)))
         StoreAndTell();
 }
 
@@ -78,7 +80,7 @@ bool CEditRow::CommitIfIn(const QWidget* focus) {
 
 void CEditRow::Watch(QWidget* control) {
     m_watch = std::make_unique<CFocusWatch>(
-        control, [this](bool forAnotherWindow) { Leave(forAnotherWindow); });
+        control, [this](Qt::FocusReason reason) { Leave(reason); });
 }
 
 void CEditRow::Written() {
@@ -88,8 +90,8 @@ void CEditRow::Written() {
     }
 }
 
-void CEditRow::Commit(bool tell) {
-    if (Form().UpdateDataSafe()) {
+void CEditRow::Commit(bool tell, bool pressed) {
+    if (Form().UpdateDataSafe(pressed)) {
         if (!m_regardless) {
             Settle();
             Form().Page().UpdateData(false);
@@ -100,9 +102,10 @@ void CEditRow::Commit(bool tell) {
     StoreAndTell(tell);
 }
 
-void CEditRow::Leave(bool forAnotherWindow) {
+void CEditRow::Leave(Qt::FocusReason reason) {
     // What nobody has changed is not written back: the model may hold more than the control shows. A text
     // that cannot be read yet waits for the return from another window.
-    if (ControlText() != m_settled && !(forAnotherWindow && !Exchange(true)))
-        Commit(!m_quietOnLeave);
+    const bool waits = reason == Qt::ActiveWindowFocusReason && !Exchange(true);
+    if (ControlText() != m_settled && !waits)
+        Commit(!m_quietOnLeave, reason == Qt::MouseFocusReason);
 }

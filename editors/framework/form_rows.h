@@ -55,8 +55,9 @@ public:
 protected:
     CForm& Form() const { return m_form; }
     QWidget* Page() const;
-    /// A click or a choice: reads the page and stores.
-    void Chosen();
+    /// A click or a choice in `control`: the focused edit commits, then the row is read and stored.
+    void Chosen(QWidget& control);
+    void Chosen() { Chosen(*Control()); }
     /// The end of every change.
     void StoreAndTell(bool tell = true);
 
@@ -75,8 +76,9 @@ public:
     using CFormRow::CFormRow;
 
     bool CommitIfIn(const QWidget* focus) override;
-    /// Reads, normalises, stores and, if `tell`, tells: what leaving the control does.
-    void Commit(bool tell = true);
+    /// Reads, normalises, stores and, if `tell`, tells: what leaving the control does. `pressed` as in
+    /// CForm::UpdateDataSafe.
+    void Commit(bool tell = true, bool pressed = false);
 
 protected:
     virtual QString ControlText() const = 0;
@@ -86,11 +88,12 @@ protected:
     void Settle() { m_settling = true; }
     /// To be called when the control has been written.
     void Written();
+
     bool m_quietOnLeave = false;
     bool m_regardless = false;
 
 private:
-    void Leave(bool forAnotherWindow);
+    void Leave(Qt::FocusReason reason);
 
     std::unique_ptr<QObject> m_watch; ///< of the control, which can lose the focus after the row is gone
     QString m_settled;                ///< the text that needs no commit

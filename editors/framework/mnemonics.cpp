@@ -1,6 +1,9 @@
 #include "editors/framework/mnemonics.h"
 
+#include "platform/widgets/complaint.h"
+
 #include <QAbstractButton>
+#include <QEvent>
 #include <QLabel>
 #include <QMap>
 #include <QSet>
@@ -110,8 +113,22 @@ void MarkPage(QWidget& page, QSet<QChar> taken) {
             MarkPage(*stack->widget(i), taken);
 }
 
+/// A letter holds its button down for a moment before the click: where the focused edit cannot commit, it
+/// does not even begin.
+class CCommitFirst : public QObject {
+public:
+    explicit CCommitFirst(QWidget& dialog) : QObject(&dialog) {
+        for (QAbstractButton* button : dialog.findChildren<QAbstractButton*>())
+            button->installEventFilter(this);
+    }
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return event->type() == QEvent::Shortcut && !TakeFocus(*static_cast<QWidget*>(watched));
+    }
+};
+
 } // namespace
 
 void AssignMnemonics(QWidget& dialog) {
     MarkPage(dialog, {});
+    new CCommitFirst(dialog);
 }

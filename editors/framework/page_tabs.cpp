@@ -2,6 +2,7 @@
 
 #include "editors/framework/mnemonics.h"
 #include "editors/framework/page_stack.h"
+#include "platform/widgets/complaint.h"
 #include "platform/widgets/dialog.h"
 #include "resources/string_table.h"
 
@@ -11,9 +12,17 @@
 
 CPageTabs::CPageTabs(CDialog& dialog) : QTabWidget(&dialog), m_dialog(dialog) {
     tabBar()->installEventFilter(this);
-    // A click on a tab goes away from the edit that has the focus, before the page changes. Who walks the
-    // tabs by the arrow keys stays on them.
+    // A click takes the focus from the edit that has it, before the page changes, and leaves it with the
+    // dialog. Who walks the tabs by the arrow keys stays on them.
+    tabBar()->setFocusPolicy(Qt::StrongFocus);
     connect(this, &QTabWidget::tabBarClicked, this, [this] { m_dialog.setFocus(); });
+    // A letter or a screen reader shows the other page first: where the edit complains then, back to it.
+    connect(this, &QTabWidget::currentChanged, this, [this](int index) {
+        if (!CComplaint::Stands(m_dialog))
+            m_shown = index;
+        else if (index != m_shown)
+            setCurrentIndex(m_shown);
+    });
 }
 
 CPageStack* CPageTabs::Stack(int index) const {

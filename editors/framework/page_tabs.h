@@ -34,4 +34,5 @@ private:
 
     CDialog& m_dialog;
     QHBoxLayout* m_body = nullptr;
+    int m_shown = 0;
 };

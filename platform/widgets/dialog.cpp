@@ -1,5 +1,6 @@
 #include "platform/widgets/dialog.h"
 
+#include "platform/widgets/complaint.h"
 #include "platform/widgets/field_changed.h"
 
 #include <QApplication>
@@ -86,14 +87,8 @@ QWidget* CDialog::MakeOkCancel() {
     }
     ok->setDefault(true);
     // A press takes the focus on every platform, so that the edit that had it commits before the dialog ends.
-    // Where the edit has refused to let go, the press is over.
     ok->setFocusPolicy(Qt::StrongFocus);
-    connect(ok, &QPushButton::pressed, ok, [ok] { ok->setDown(ok->window()->focusWidget() == ok); });
-    connect(ok, &QPushButton::clicked, this, [this, ok] {
-        ok->setFocus();
-        if (focusWidget() == ok)
-            OnOK();
-    });
+    WhenClicked(*ok, [this] { OnOK(); });
     // Cancel does not care what stands in an edit.
     cancel->setFocusPolicy(Qt::TabFocus);
     connect(cancel, &QPushButton::clicked, this, [this] { OnCancel(); });

@@ -51,7 +51,10 @@ public:
         });
         m_timer->start(1);
     }
-    ~WhenModal() { EXPECT_TRUE(m_came) << "no modal window came"; }
+    /// Waits for the window, which may come a moment after its cause.
+    ~WhenModal() {
+        EXPECT_TRUE(QTest::qWaitFor([this] { return m_came; })) << "no modal window came";
+    }
 
 private:
     QWidget* m_present = nullptr;
@@ -105,6 +108,10 @@ public:
             }
         });
         m_timer.start(1);
+    }
+    /// Waits for one, which may come a moment after its cause.
+    bool Came() const {
+        return QTest::qWaitFor([this] { return m_count > 0; });
     }
     int m_count = 0;
     QString m_text;

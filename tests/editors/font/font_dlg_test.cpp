@@ -206,6 +206,7 @@ TEST_F(FontDlg, PutsTheLastSizeBackWhereTheTextIsNone) {
                 const Dismiss<QMessageBox> box;
                 Type(Size(), text);
                 QTest::keyClick(Size(), Qt::Key_Tab);
+                EXPECT_TRUE(box.Came());
                 EXPECT_EQ(box.m_text, "\"Size\" must be a number.") << text;
                 EXPECT_EQ(box.m_count, 1) << text;
                 EXPECT_EQ(Size()->selectedText(), "14");
@@ -217,8 +218,8 @@ TEST_F(FontDlg, PutsTheLastSizeBackWhereTheTextIsNone) {
             const Dismiss<QMessageBox> box;
             Type(Size(), "x");
             QTest::mouseClick(Find(m_dialog, "OK"), Qt::LeftButton);
+            EXPECT_TRUE(box.Came());
             EXPECT_TRUE(m_dialog.isVisible());
-            EXPECT_EQ(box.m_count, 1);
             Type(Size(), "x");
             QTest::mouseClick(Find(m_dialog, "Cancel"), Qt::LeftButton);
             EXPECT_FALSE(m_dialog.isVisible());
