@@ -84,7 +84,23 @@ void BaseBoxLayer::forEachPlace(const PlotFrame& frame, const Visit& visit) cons
 void BaseBoxLayer::draw(Canvas& canvas, const PlotFrame& frame) {
     const ClipScope clip(canvas,
                          frame.depth > 0 ? QRect(0, 0, canvas.width(), canvas.height()) : frame.inner());
-    forEachPlace(frame, [&](const Place& place) { drawRow(canvas, frame, place); });
+    const bool joins = joinsColumns(canvas, frame);
+    std::vector<Place> column;
+    const auto finish = [&] {
+        if (!column.empty())
+            drawColumn(canvas, frame, column);
+        column.clear();
+    };
+    forEachPlace(frame, [&](const Place& place) {
+        if (!joins || place.first != place.last) {
+            drawRow(canvas, frame, place);
+            return;
+        }
+        if (!column.empty() && column.back().middle != place.middle)
+            finish();
+        column.push_back(place);
+    });
+    finish();
 }
 
 void BaseBoxLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {

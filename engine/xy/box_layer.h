@@ -11,6 +11,8 @@
 
 namespace chartdraw {
 
+class CoveredColumn;
+
 class BaseBoxLayer : public Layer {
 public:
     static constexpr Kind kKind = Kind::BaseBoxLayer;
@@ -36,6 +38,11 @@ protected:
         int middle = 0, first = 0, last = 0;
     };
     virtual void drawRow(Canvas& canvas, const PlotFrame& frame, const Place& place) const = 0;
+    /// Whether rows of one pixel's width in one column may go to drawColumn together, and the later ones hide
+    /// the earlier ones whole.
+    virtual bool joinsColumns(const Canvas& /*canvas*/, const PlotFrame& /*frame*/) const { return false; }
+    virtual void drawColumn(Canvas& /*canvas*/, const PlotFrame& /*frame*/,
+                            std::span<const Place> /*places*/) const {}
     /// The value at which a label stands, with the row's fields; false for a row that is a gap.
     virtual bool labelOf(std::size_t row, double& value,
                          std::vector<std::pair<std::string_view, double>>& fields) const = 0;
@@ -101,6 +108,13 @@ protected:
                  std::vector<std::pair<std::string_view, double>>& fields) const override;
     /// Whether the row shows anything: it has a high and a low.
     bool shows(std::size_t row) const;
+
+    bool joinsColumns(const Canvas& canvas, const PlotFrame& frame) const override;
+    void drawColumn(Canvas& canvas, const PlotFrame& frame, std::span<const Place> places) const override;
+    /// The colours that rows are drawn in.
+    virtual std::vector<Colour> colours() const = 0;
+    /// A row of one pixel's width, what is drawn last coming first.
+    virtual void paintRow(CoveredColumn& column, const PlotFrame& frame, std::size_t row) const = 0;
 };
 
 /// An upright line from low to high, with a tick for the open on the left and one for the close on the right.
@@ -121,6 +135,8 @@ protected:
     void drawKey(Canvas& canvas, const QRect& area) const override;
 
 private:
+    std::vector<Colour> colours() const override;
+    void paintRow(CoveredColumn& column, const PlotFrame& frame, std::size_t row) const override;
     /// The ticks of neighbours are to stay apart, or they read as one line.
     double widest() const override { return 2.0 / 3; }
     Colour colourOf(std::size_t row) const;
@@ -145,6 +161,11 @@ protected:
     void drawKey(Canvas& canvas, const QRect& area) const override;
 
 private:
+    std::vector<Colour> colours() const override;
+    void paintRow(CoveredColumn& column, const PlotFrame& frame, std::size_t row) const override;
+    /// Of a body, which without a height is a line of its edge, if it has one.
+    Colour fillOf(double open, double close, bool hasEdge) const;
+
     Colour m_fall;
 };
 

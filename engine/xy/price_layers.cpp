@@ -3,6 +3,7 @@
 #include "engine/data/no_value.h"
 #include "engine/xy/bar_shapes.h"
 #include "engine/xy/box_layer.h"
+#include "engine/xy/covered_column.h"
 #include "engine/xy/row_room.h"
 
 #include <algorithm>
@@ -21,6 +22,28 @@ void drawAlong(Canvas& canvas, const QRect& pixels, Colour colour, int width) {
 
 bool PriceLayer::shows(std::size_t row) const {
     return isValue(at(High, row)) && isValue(at(Low, row));
+}
+
+bool PriceLayer::joinsColumns(const Canvas& canvas, const PlotFrame& frame) const {
+    const std::vector<Colour> used = colours();
+    const auto covers = [&](Colour colour) {
+        const QBrush brush = canvas.colours().brush(colour, QRectF(0, 0, 1, 1));
+        return brush.style() == Qt::SolidPattern && brush.isOpaque();
+    };
+    return frame.depth == 0 && lineWidth() == 1 && borderEffect() == 0 &&
+           std::all_of(used.begin(), used.end(), covers);
+}
+
+void PriceLayer::drawColumn(Canvas& canvas, const PlotFrame& frame, std::span<const Place> places) const {
+    CoveredColumn column;
+    for (std::size_t i = places.size(); i-- > 0;) {
+        const std::size_t row = places[i].row;
+        if (shows(row))
+            paintRow(column, frame, row);
+    }
+    const int x = places.front().middle;
+    column.finish(
+        [&](int from, int to, Colour colour) { canvas.fillRect(pixelRect(frame, x, x, from, to), colour); });
 }
 
 bool PriceLayer::labelOf(std::size_t row, double& value,
@@ -83,6 +106,23 @@ void HLOCLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Place& pla
     tick(at(Close, place.row), frame.swapped);
 }
 
+std::vector<Colour> HLOCLayer::colours() const {
+    if (!m_byClose)
+        return {set().colour()};
+    return {orDefault(m_rise, set().colour()), orDefault(m_fall, set().colour())};
+}
+
+void HLOCLayer::paintRow(CoveredColumn& column, const PlotFrame& frame, std::size_t row) const {
+    const Colour colour = colourOf(row);
+    for (const Series tick : {Open, Close}) {
+        if (isValue(at(tick, row))) {
+            const int y = pixel(frame, at(tick, row));
+            column.paint(y, y, colour);
+        }
+    }
+    column.paint(pixel(frame, at(High, row)), pixel(frame, at(Low, row)), colour);
+}
+
 void HLOCLayer::drawKey(Canvas& canvas, const QRect& area) const {
     canvas.box(area, m_byClose ? orDefault(m_rise, set().colour()) : set().colour(), kTransparent, 0);
 }
@@ -114,8 +154,7 @@ void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Pla
     wick(high, from);
     wick(low, to);
     BarLook look;
-    const bool isLine = close == open && !canvas.colours().invisible(edge);
-    look.fill = isLine ? edge : close >= open ? set().colour() : m_fall;
+    look.fill = fillOf(open, close, !canvas.colours().invisible(edge));
     look.edge = edge;
     look.side = orDefault(set().shadow(), look.fill);
     look.sideEdge = orDefault(set().shadowEdge(), edge);
@@ -123,6 +162,30 @@ void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Pla
     look.edgeWidth = edgeWidth(place.last - place.first + 1, std::abs(to - from) + 1);
     look.depth = frame.depth;
     drawBar(canvas, pixelRect(frame, place.first, place.last, from, to), SquareShape, 8, look);
+}
+
+Colour CandleStickLayer::fillOf(double open, double close, bool hasEdge) const {
+    if (close == open && hasEdge)
+        return set().edge(borderColour());
+    return close >= open ? set().colour() : m_fall;
+}
+
+std::vector<Colour> CandleStickLayer::colours() const {
+    return {set().edge(borderColour()), set().colour(), m_fall};
+}
+
+void CandleStickLayer::paintRow(CoveredColumn& column, const PlotFrame& frame, std::size_t row) const {
+    const double open = at(Open, row), close = at(Close, row);
+    const Colour edge = set().edge(borderColour());
+    const int high = pixel(frame, at(High, row)), low = pixel(frame, at(Low, row));
+    if (!isValue(open) || !isValue(close)) {
+        column.paint(high, low, edge);
+        return;
+    }
+    const int top = pixel(frame, std::max(open, close)), bottom = pixel(frame, std::min(open, close));
+    column.paint(top, bottom, fillOf(open, close, true));
+    column.paint(low, bottom, edge);
+    column.paint(high, top, edge);
 }
 
 void CandleStickLayer::drawKey(Canvas& canvas, const QRect& area) const {

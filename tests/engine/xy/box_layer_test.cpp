@@ -129,6 +129,53 @@ TEST(HLOCLayer, TrimmedRowsStillTellTheCloseBefore) {
     EXPECT_EQ(at(chart.picture(), 200, 120), static_cast<unsigned>(kRed));
 }
 
+/// Thousands of rows in 300 pixels, many in a column, all in colours of one transparency.
+QImage crowdedPicture(bool areCandles, int transparency) {
+    Chart chart;
+    Prices p;
+    unsigned seed = 7;
+    const auto random = [&] {
+        seed = seed * 1664525u + 1013904223u;
+        return static_cast<double>(seed >> 16) / 655.36;
+    };
+    for (int row = 0; row < 2500; ++row) {
+        const double price = random() * 0.2 + 40 + 30 * std::sin(row * 0.005);
+        p.open.push_back(row % 17 == 0 ? kGap : price + random() * 0.1);
+        p.close.push_back(row % 13 == 0 ? p.open.back() : price + random() * 0.1);
+        p.high.push_back(row % 29 == 0 ? kGap : price + random() * 0.2);
+        p.low.push_back(price - random() * 0.2);
+    }
+    const auto colour = [&](int plain) { return transparency << 24 | plain; };
+    if (areCandles) {
+        CXYChart_addCandleStickLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low),
+                                     p.open.data(), size(p.open), p.close.data(), size(p.close),
+                                     colour(kGreen), colour(kRed), colour(kBlack));
+    } else {
+        HLOCLayer* layer =
+            CXYChart_addHLOCLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low),
+                                  p.open.data(), size(p.open), p.close.data(), size(p.close), colour(kBlue));
+        CHLOCLayer_setColorMethod(layer, CHART_UP_DOWN, colour(kGreen), colour(kRed), -1.7E+308);
+    }
+    return chart.picture();
+}
+
+TEST(PriceLayers, ManyRowsInAColumnLookAsIfDrawnOneByOne) {
+    for (const bool areCandles : {true, false}) {
+        const QImage together = crowdedPicture(areCandles, 0);
+        const QImage each = crowdedPicture(areCandles, 1); // hardly transparent, so every row is drawn
+        int differences = 0;
+        for (int y = 0; y < together.height(); ++y)
+            for (int x = 0; x < together.width(); ++x) {
+                const QColor a(together.pixel(x, y)), b(each.pixel(x, y));
+                differences += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
+                                   std::abs(a.blue() - b.blue()) >
+                               12;
+            }
+        EXPECT_EQ(differences, 0) << areCandles;
+        EXPECT_GT(pictures::inked(together, kWhite), 5000);
+    }
+}
+
 TEST(BoxWhiskerLayer, DrawsWhatIsThere) {
     Chart chart;
     const std::vector<double> top = {40, 20, kGap}, bottom = {20, 40, kGap, 30, kGap, kGap},
