@@ -5,6 +5,7 @@
 #include "editors/entry/run_editor.h"
 #include "editors/finance/finance_chart_dlg.h"
 #include "editors/pie/pie_chart_dlg.h"
+#include "editors/polar/polar_chart_dlg.h"
 #include "editors/xy/xy_chart_dlg.h"
 #include <charteditors/editors.h>
 
@@ -32,6 +33,6 @@ bool ShowLinearMeterWnd(CLinearMeter&, const CChartLayout&) {
     return false;
 }
 
-bool ShowPolarChartWnd(CPolarChart&, const CChartLayout&) {
-    return false;
+bool ShowPolarChartWnd(CPolarChart& chart, const CChartLayout& layout) {
+    return entry::RunEditor<CPolarChartDlg>(chart, layout);
 }

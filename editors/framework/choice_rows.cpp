@@ -121,6 +121,10 @@ void CRadioRow::ShowState() {
         button->setChecked(code == m_mirror && StateOf(code) != GreyAndOff);
     }
     m_buttons->setExclusive(true);
+    for (QAbstractButton* button : m_buttons->buttons()) { // Tab goes to the one that is on
+        const bool tab = button->isChecked() || m_buttons->checkedButton() == nullptr;
+        button->setFocusPolicy(tab ? Qt::StrongFocus : Qt::ClickFocus);
+    }
 }
 
 bool CRadioRow::Exchange(bool read) {

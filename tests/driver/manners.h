@@ -49,33 +49,42 @@ inline void KeepPicture(const Person& person, const QString& tab, double scale) 
         EXPECT_TRUE(person.Window().grab().save(folder + u'/' + name));
 }
 
-/// Every page is whole at the font of now and at one and a half times it: nothing cut off, names and letters
-/// for all that takes the focus, and Tab reaches each in reading order.
-template <class Object>
-void TestLook(const Object& start, const CChartLayout& layout) {
+/// Calls `look` at the font of now and at one and a half times it.
+inline void AtEachFont(const std::function<void(double scale)>& look) {
     NeedApplication();
     const QFont font = QApplication::font();
     for (const double scale : {1.0, 1.5}) {
         QFont scaled(font);
         scaled.setPointSizeF(font.pointSizeF() * scale);
         QApplication::setFont(scaled);
-        Object object(start);
-        EXPECT_FALSE(Edit(object, layout, [&](Person& person) {
-            EXPECT_LE(person.Window().width(), 1366);
-            EXPECT_LE(person.Window().height(), 768 - 30);
-            EXPECT_GE(person.Preview().width() * 3, person.Window().width());
-            const QStringList tabs = person.Tabs();
-            for (const QString& tab : tabs.isEmpty() ? QStringList({QString()}) : tabs) {
-                SCOPED_TRACE(testing::Message() << qPrintable(tab) << " at " << scale);
-                if (!tab.isEmpty())
-                    person.Tab(tab);
-                audit::Everything(person.Window());
-                KeepPicture(person, tab, scale);
-            }
-            person.Cancel();
-        }));
+        look(scale);
     }
     QApplication::setFont(font);
+}
+
+/// Every page is whole at the font of now and at one and a half times it: nothing cut off, names and letters
+/// for all that takes the focus, and Tab reaches each in reading order.
+template <class Object>
+void TestLook(const Object& start, const CChartLayout& layout) {
+    AtEachFont([&](double scale) {
+        Object object(start);
+        EXPECT_FALSE(Edit(
+            object, layout,
+            [&](Person& person) {
+                EXPECT_LE(person.Window().width(), 1366);
+                EXPECT_LE(person.Window().height(), 768 - 30);
+                EXPECT_GE(person.Preview().width() * 3, person.Window().width());
+                const QStringList tabs = person.Tabs();
+                for (const QString& tab : tabs.isEmpty() ? QStringList({QString()}) : tabs) {
+                    SCOPED_TRACE(testing::Message() << qPrintable(tab) << " at " << scale);
+                    if (!tab.isEmpty())
+                        person.Tab(tab);
+                    audit::Everything(person.Window());
+                    KeepPicture(person, tab, scale);
+                }
+                person.Cancel();
+            }));
+    });
 }
 
 /// Opening and closing leaves no memory behind. CHART_OPENINGS asks for more than a few.

@@ -174,7 +174,7 @@ public:
 private:
     /// A button that opens a picker: its text tells nothing.
     static bool IsPicker(const QAbstractButton& button) {
-        return button.text() == "..." || button.text() == "Font...";
+        return button.text() == "..." || Read(button.text()) == "Font...";
     }
     static bool IsInput(const QWidget& widget) {
         const QWidget* above = widget.parentWidget();

@@ -24,7 +24,8 @@ struct Number {
 
 struct Property {
     /// The caption of the tab; then, each after a '>', what else to go through: the label of a button that
-    /// opens a dialog ("Group|Label" or "Label"), a tab in that dialog. "" for a dialog without.
+    /// opens a dialog ("Group|Label" or "Label"), a row of a list ("Layer[0]"), a tab in that dialog. "" for
+    /// a dialog without.
     std::string place;
     std::string group; ///< "" for none
     std::string label; ///< "" for none
@@ -164,6 +165,10 @@ inline void Go(Person& person, const QString& place, const std::function<void(Pe
         return act(person);
     if (person.HasTab(step)) {
         person.Tab(step);
+        return Go(person, rest, act);
+    }
+    if (step.endsWith(u']')) {
+        person.Select(step.section(u'[', 0, 0), step.section(u'[', 1).chopped(1).toInt());
         return Go(person, rest, act);
     }
     const QString group = step.contains(u'|') ? step.section(u'|', 0, 0) : QString();

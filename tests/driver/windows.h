@@ -30,7 +30,8 @@ protected:
 /// A desktop gives the keyboard back to the window below the one that has closed.
 inline void Activate(QWidget& window) {
     window.activateWindow();
-    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    // Not qWaitForWindowActive: to that, a dialog is active as soon as the window below it is.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return QApplication::activeWindow() == &window; }));
 }
 
 /// Calls `act` once, as soon as a modal window other than the present one is up. Fails if none comes.

@@ -1,0 +1,28 @@
+#include "editors/fields/scale_rows.h"
+
+#include "editors/fields/color_field.h"
+#include "editors/fields/font_field.h"
+#include "editors/fields/look_rows.h"
+#include "resources/string_table.h"
+
+void LabelStyleRows(CForm& form, bool& use, CMeterLabelStyle& style) {
+    form.Check("Use LabelStyle", use).Unvalidated();
+    form.Group("Font:");
+    form.Field<CChartFontField>(nullptr, style.m_font);
+    form.Field<CChartColorField>("FontColor:", style.m_fontColor);
+    form.Column();
+    EffectRows(form, style.m_effect);
+    AngleRows(form, style);
+    form.EndGroup();
+    form.Field<CChartColorField>("BackColor:", style.m_backColor);
+    form.Field<CChartColorField>("EdgeColor:", style.m_edgeColor);
+}
+
+void AngularZoneRows(CForm& form, CMeterZoneAngulars& zones, int caption) {
+    auto& list = form.List(zones, LoadChartString(caption), LoadChartString(ChartText::SelectZone));
+    form.Column();
+    form.Real("StartValue:", list[&CMeterZoneAngular::m_startValue]).Step(10);
+    form.Real("EndValue:", list[&CMeterZoneAngular::m_endValue]).Step(10);
+    form.Field<CChartColorField>("FillColor:", list[&CMeterZoneAngular::m_fillColor]).OnlyWithItem();
+    form.Field<CChartColorField>("EdgeColor:", list[&CMeterZoneAngular::m_edgeColor]).OnlyWithItem();
+}
