@@ -67,6 +67,7 @@ ChartRenderResult RenderFinanceChart(const CFinanceChart& chart, const CChartLay
         FinanceChart composed(layout.m_financeWidth);
         DressFinanceChart(composed, layout, false);
         composed.setData(OrderedRows(data).Rows(), data.leadingRows);
+        composed.fitPriceLabels();
         AddFinancePanes(composed, look);
         return CChartPictureAccess::Make(picture, composed.Chart(), format);
     } catch (const std::bad_alloc&) {

@@ -34,6 +34,9 @@ public:
     /// Copies the rows. `extraPoints`: leading rows that only feed the averages and are not shown.
     void setData(const FinanceSeries& series, int extraPoints);
 
+    /// Gives the labels of prices that are long numbers the room that they need. Before the first pane.
+    void fitPriceLabels();
+
     FinancePane& addMainChart(int height);
     FinancePane& addIndicator(int height);
 

@@ -2,9 +2,35 @@
 
 #include "render/finance/finance_chart.h"
 #include <algorithm>
+#include <cmath>
 
 static double ValueAt(Series data, int row) {
     return row >= 0 && row < RowCount(data) ? data[static_cast<std::size_t>(row)] : CHART_NO_VALUE;
+}
+
+/// About how many characters the labels of an axis from `low` to `high` have.
+static int LabelLength(double low, double high) {
+    const double largest = std::max(std::abs(low), std::abs(high));
+    const double step = (high - low) / 5;
+    const int digits = largest >= 10 ? static_cast<int>(std::log10(largest)) + 1 : 1;
+    const int decimals = step > 0 ? std::clamp(static_cast<int>(std::ceil(-std::log10(step))), 0, 9) : 0;
+    return (low < 0) + std::min(digits, 9) + (decimals > 0 ? decimals + 1 : 0);
+}
+
+void FinanceChart::fitPriceLabels() {
+    double low = 0, high = 0;
+    bool any = false;
+    for (const Series series : {Series(m_highData), Series(m_lowData)}) {
+        for (std::size_t row = static_cast<std::size_t>(m_extraPoints); row < series.size(); ++row) {
+            if (series[row] == CHART_NO_VALUE)
+                continue;
+            low = any ? std::min(low, series[row]) : series[row];
+            high = any ? std::max(high, series[row]) : series[row];
+            any = true;
+        }
+    }
+    constexpr int perCharacter = 7, besides = 5; // pixels, of labels of 8 points
+    m_rightMargin = std::max(m_rightMargin, besides + perCharacter * LabelLength(low, high));
 }
 
 void FinanceChart::addPriceLegend(int upColor, int downColor, bool candleStickMode) {

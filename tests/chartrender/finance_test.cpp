@@ -2,6 +2,7 @@
 
 #include "render/finance/draw_finance.h"
 #include "tests/recorder/recorder.h"
+#include <QImage>
 #include <chartrender/chartrender.h>
 #include <gmock/gmock.h>
 #include <limits>
@@ -73,6 +74,22 @@ TEST(RenderFinance, OrdersRowsAndMarksGaps) {
     EXPECT_THAT(recording.Lines(),
                 Contains(R"(CXYChart_addBarLayer(XYChart#1, [1.7e+308, 1.7e+308, 300], 0x0099ff99, "", 0))"));
     EXPECT_EQ(recording.Count("CRanTable_create") + recording.Count("CBaseChart_addTitle2"), 0);
+}
+
+TEST(RenderFinance, LeavesRoomForTheLabelsOfLongPrices) {
+    for (const double price : {100.0, 1234567.0, 0.00001}) {
+        const double dates[] = {1e5, 2e5}, high[] = {price * 1.2, price * 1.1}, low[] = {price, price * 0.9};
+        CFinanceChartData data;
+        data.dates = dates;
+        data.high = high;
+        data.open = data.close = data.low = low;
+        data.count = 2;
+        CChartPicture picture;
+        RenderFinanceChart(CFinanceChart(), CChartLayout(), data, ChartPictureFormat::Bmp, picture);
+        const QImage image = QImage::fromData(picture.Data(), static_cast<int>(picture.Size()), "BMP");
+        for (int y = 50; y < image.height() - 5; ++y)
+            ASSERT_EQ(image.pixel(image.width() - 3, y), image.pixel(5, 5)) << price << ", row " << y;
+    }
 }
 
 TEST(RenderFinance, AnswersBadDataWithoutAPicture) {
