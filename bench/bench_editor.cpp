@@ -1,5 +1,6 @@
-// The pie editor as its user waits for it: from the host's call to the first finished preview, and from one
-// press of an arrow to the repainted preview. Seven sectors at the default size of 500 x 550.
+// The editors as their users wait for them: from the host's call to the first finished preview, with all
+// pages built, and from one press of an arrow to the repainted preview. Pies of seven sectors, all else as a
+// new object has it, at the default size of 500 x 550.
 
 #include <QApplication>
 #include <QKeyEvent>
@@ -58,9 +59,8 @@ void Close() {
         dialog->close();
 }
 
-void open(benchmark::State& state) {
-    CPieChart pie = SevenSectors();
-    const CChartLayout layout;
+/// `show` runs the editor.
+void Open(benchmark::State& state, const std::function<void()>& show) {
     PaintWatch watch;
     for (auto _ : state) {
         const Clock::time_point start = Clock::now();
@@ -70,8 +70,24 @@ void open(benchmark::State& state) {
                 Close();
             }
         });
-        ShowPieChartWnd(pie, layout);
+        show();
     }
+}
+
+void open(benchmark::State& state) {
+    CPieChart pie = SevenSectors();
+    Open(state, [&] { ShowPieChartWnd(pie, CChartLayout()); });
+}
+
+void openLayout(benchmark::State& state) {
+    CChartLayout layout;
+    Open(state, [&] { ShowChartLayoutWnd(layout); });
+}
+
+template <class Object, bool (*Show)(Object&, const CChartLayout&)>
+void openNew(benchmark::State& state) {
+    Object object;
+    Open(state, [&] { Show(object, CChartLayout()); });
 }
 
 void press(benchmark::State& state) {
@@ -94,6 +110,9 @@ void press(benchmark::State& state) {
 }
 
 BENCHMARK(open)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(openLayout)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(openNew<CAngularMeter, ShowAngularMeterWnd>)->Unit(benchmark::kMillisecond)->UseManualTime();
+BENCHMARK(openNew<CLinearMeter, ShowLinearMeterWnd>)->Unit(benchmark::kMillisecond)->UseManualTime();
 BENCHMARK(press)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace

@@ -92,7 +92,10 @@ void CollectBelow(QWidget& parent, std::vector<Caption>& captions, std::vector<Q
 void MarkPage(QWidget& page, QSet<QChar> taken) {
     std::vector<Caption> captions;
     std::vector<QStackedWidget*> stacks;
-    CollectBelow(page, captions, stacks);
+    if (auto* pages = qobject_cast<QStackedWidget*>(&page)) // several pages under one tab
+        stacks.push_back(pages);
+    else
+        CollectBelow(page, captions, stacks);
 
     const auto hasLetter = [&taken](const Caption& caption) {
         const qsizetype at = caption.text.indexOf(u'&') + 1;

@@ -30,7 +30,7 @@ struct Property {
     std::string group; ///< "" for none
     std::string label; ///< "" for none
     /// What is typed or chosen; "" for a click. With '|' in it: all rows of the list, the last of which is
-    /// chosen. For a colour the kind, for a font the size, for an image the file.
+    /// chosen. For a colour the kind or the red part, for a font the size, for an image the file.
     std::string give;
     std::string change; ///< "path=value", or "path" alone: any change below it
     Number number = {};
@@ -64,8 +64,11 @@ inline std::string LookField(const std::string& prefix, const std::string& name)
 inline Properties ColorRows(const std::string& place, const std::string& group, const std::string& prefix,
                             const std::vector<std::string>& names) {
     Properties rows;
-    for (const std::string& name : names)
-        rows.push_back({place, group, Capital(name) + ':', "Metal", LookField(prefix, name) + ".type=metal"});
+    for (const std::string& name : names) {
+        const bool text = name == "fontColor"; // is drawn in one colour, whatever the kind
+        rows.push_back({place, group, Capital(name) + ':', text ? "170" : "Metal",
+                        LookField(prefix, name) + (text ? ".color" : ".type=metal")});
+    }
     return rows;
 }
 
@@ -126,14 +129,18 @@ inline void GiveChoice(const Person& person, QComboBox& box, const Property& row
 inline void GiveInPicker(const Person& picker, const QString& give) {
     if (picker.Window().windowTitle() == "Select Color") {
         auto& type = picker.Find<QComboBox>("Type");
-        picker.Choose(type, type.findText(give));
+        if (type.findText(give) >= 0)
+            picker.Choose(type, type.findText(give));
+        else
+            picker.Give("R", give);
     } else if (picker.Window().windowTitle() == "Select Font") {
         picker.Give("Size", give);
     } else {
         auto* name = picker.Window().findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         Type(name, give);
-        QTest::keyClick(name, Qt::Key_Return);
-        return;
+        if (QWidget* suggestions = QApplication::activePopupWidget())
+            suggestions->close();
+        return picker.Click(picker.Button({}, "Open"));
     }
     picker.Ok();
 }
