@@ -1,11 +1,9 @@
-#include "editors/layout/size_pages.h"
 #include "tests/driver/audit.h"
 #include "tests/editors/framework/test_editor.h"
 
 #include <QDir>
 #include <QLabel>
 #include <QTabBar>
-#include <QVBoxLayout>
 
 namespace {
 
@@ -24,20 +22,6 @@ protected:
         const QString folder = qEnvironmentVariable("CHART_PICTURES");
         if (!folder.isEmpty())
             window.grab().save(QDir(folder).filePath(QStringLiteral("%1-%2.png").arg(name).arg(GetParam())));
-    }
-
-    template <class Page>
-    void LookAt(const QString& name) const {
-        CDialog host;
-        CChartLayout layout;
-        Page page(layout, host);
-        auto* room = new QVBoxLayout(&host);
-        page.Create(&host);
-        room->addWidget(&page);
-        host.show();
-        QTest::qWait(5);
-        audit::Everything(host);
-        Keep(host, name);
     }
 
 private:
@@ -60,15 +44,6 @@ TEST_P(Look, OfADialogAndItsPages) {
         EXPECT_LE(open.frameGeometry().height(), 768 - 40);
     }
     EXPECT_NE(open.m_tabs.tabText(0).indexOf(u'&'), -1);
-}
-
-TEST_P(Look, OfTheSizePages) {
-    LookAt<CPieSizePage>("pie");
-    LookAt<CPolarSizePage>("polar");
-    LookAt<CAngularSizePage>("angular");
-    LookAt<CXYSizePage>("xy");
-    LookAt<CFinanceSizePage>("finance");
-    LookAt<CLinearSizePage>("linear");
 }
 
 TEST_F(EditorTest, LettersAndLabelsLeadToTheirControls) {

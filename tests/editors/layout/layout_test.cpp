@@ -155,6 +155,35 @@ TEST(LayoutEditor, ATypeThatIsNoneShowsNoneAndTheXYArea) {
     EXPECT_EQ(Difference(expected, layout), "");
 }
 
+TEST(LayoutEditor, ATypedEndAngleShowsWithTheNextChange) {
+    CChartLayout layout = StartLayout(Angular);
+    EXPECT_TRUE(Edit(layout, [](const Person& person) {
+        person.Tab("PlotArea");
+        const QImage before = person.Preview();
+        person.Give("EndAngle", "45");
+        EXPECT_TRUE(person.Preview() == before);
+        person.Press("Radius", true);
+        EXPECT_FALSE(person.Preview() == before);
+        person.Ok();
+    }));
+    EXPECT_EQ(layout.m_angularPlotArea.m_endAngle, 45);
+}
+
+TEST(LayoutEditor, ReverseShowsUncheckedWhateverTheLayoutHolds) {
+    CChartLayout layout = StartLayout(Linear);
+    layout.m_linearPlotArea.m_reverse = true;
+    for (const bool expected : {true, false}) {
+        EXPECT_TRUE(Edit(layout, [expected](const Person& person) {
+            person.Tab("PlotArea");
+            EXPECT_FALSE(person.Find<QCheckBox>("Reverse").isChecked());
+            for (int i = 0; i < 2 && !expected; ++i)
+                person.Click("Reverse");
+            person.Ok();
+        }));
+        EXPECT_EQ(layout.m_linearPlotArea.m_reverse, expected);
+    }
+}
+
 TEST(LayoutEditor, AddAppendsADefaultTitle) {
     CChartLayout layout;
     CChartLayout expected;
