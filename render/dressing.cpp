@@ -1,6 +1,8 @@
 #include "render/dressing.h"
+#include "render/chart_holder.h"
 #include "render/utf8_text.h"
 #include "resources/string_table.h"
+#include <algorithm>
 
 // Where a call takes several colours they are resolved beforehand: a pattern is made by a call of its own,
 // and the order in which arguments are evaluated is the compiler's.
@@ -27,7 +29,7 @@ void DrawChartBackground(BaseChart* chart, const CChartLayout& layout) {
     CBaseChart_setDefaultFonts(chart, font, font, font, font);
 }
 
-static void DrawTitle(BaseChart* chart, const CChartTitle& title) {
+static Box* DrawTitle(BaseChart* chart, const CChartTitle& title) {
     const int fontColor = title.m_fontColor.GetChartColor(chart);
     TextBox* textBox = CBaseChart_addTitle2(chart, title.m_alignment, CUtf8Text(title.m_text),
                                             CUtf8Text(title.m_font.m_fileName), title.m_font.m_size,
@@ -35,12 +37,30 @@ static void DrawTitle(BaseChart* chart, const CChartTitle& title) {
     Box* box = DressTextBox(chart, textBox, title);
     if (title.m_usePosition)
         CBox_setPos(box, title.m_x, title.m_y);
+    return box;
 }
 
 void DrawChartTitles(BaseChart* chart, const CChartLayout& layout) {
     for (int i = 0; i < layout.m_titles.size(); ++i)
         if (layout.m_titles[i].m_show)
             DrawTitle(chart, layout.m_titles[i]);
+}
+
+int TopTitleRoom(const CChartLayout& layout) {
+    const CChartHolder scratch(MultiChart2BaseChart(
+        CMultiChart_create(layout.m_width, layout.m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0)));
+    DrawChartBackground(scratch.Get(), layout);
+    constexpr int columns[] = {0, 1, 2, 0, 2}; // of the codes from CHART_TOP_LEFT to CHART_TOP_RIGHT2
+    int rooms[3] = {};
+    for (int i = 0; i < layout.m_titles.size(); ++i) {
+        const CChartTitle& title = layout.m_titles[i];
+        const bool stacks = !title.m_usePosition && title.m_alignment >= CHART_TOP_LEFT &&
+                            title.m_alignment <= CHART_TOP_RIGHT2;
+        if (title.m_show && stacks)
+            rooms[columns[title.m_alignment - CHART_TOP_LEFT]] +=
+                CBox_getHeight(DrawTitle(scratch.Get(), title));
+    }
+    return std::max({rooms[0], rooms[1], rooms[2]});
 }
 
 void DrawChartLegend(BaseChart* chart, const CChartLayout& layout, bool addSampleKey) {

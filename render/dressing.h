@@ -10,6 +10,9 @@ void DrawChartBackground(BaseChart* chart, const CChartLayout& layout);
 /// The titles that are shown, in their order.
 void DrawChartTitles(BaseChart* chart, const CChartLayout& layout);
 
+/// How many pixels at the top of a chart the titles take that stack there.
+int TopTitleRoom(const CChartLayout& layout);
+
 /// The legend, if it is shown. `addSampleKey`: one key more, so that a chart without named series has a
 /// legend to look at.
 void DrawChartLegend(BaseChart* chart, const CChartLayout& layout, bool addSampleKey);

@@ -1,3 +1,4 @@
+#include "render/dressing.h"
 #include "render/finance/draw_finance.h"
 #include "render/render_picture.h"
 #include <algorithm>
@@ -67,6 +68,7 @@ ChartRenderResult RenderFinanceChart(const CFinanceChart& chart, const CChartLay
         FinanceChart composed(layout.m_financeWidth);
         DressFinanceChart(composed, layout, false);
         composed.setData(OrderedRows(data).Rows(), data.leadingRows);
+        composed.leaveTopRoom(TopTitleRoom(layout) + 4);
         composed.fitPriceLabels();
         AddFinancePanes(composed, look);
         return CChartPictureAccess::Make(picture, composed.Chart(), format);

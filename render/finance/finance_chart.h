@@ -3,6 +3,7 @@
 
 #include "render/chart_holder.h"
 #include "render/finance/series.h"
+#include <algorithm>
 #include <memory>
 #include <string>
 
@@ -34,6 +35,8 @@ public:
     /// Copies the rows. `extraPoints`: leading rows that only feed the averages and are not shown.
     void setData(const FinanceSeries& series, int extraPoints);
 
+    /// Makes the room above the first pane at least so many pixels. Before the first pane.
+    void leaveTopRoom(int pixels) { m_topMargin = std::max(m_topMargin, pixels); }
     /// Gives the labels of prices that are long numbers the room that they need. Before the first pane.
     void fitPriceLabels();
 

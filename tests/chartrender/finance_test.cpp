@@ -92,6 +92,32 @@ TEST(RenderFinance, LeavesRoomForTheLabelsOfLongPrices) {
     }
 }
 
+TEST(RenderFinance, LeavesRoomForTheTitlesAtTheTop) {
+    const auto height = [](int titles, bool usePosition, int alignment) {
+        CChartLayout layout;
+        CChartTitle title;
+        title.m_show = true;
+        title.m_text = "Title";
+        title.m_font.m_size = 20;
+        title.m_usePosition = usePosition;
+        title.m_alignment = alignment;
+        for (int i = 0; i < titles; ++i)
+            layout.m_titles.push_back(title);
+        const double row[] = {1};
+        CFinanceChartData data;
+        data.dates = data.high = data.open = data.close = data.low = row;
+        data.count = 1;
+        CChartPicture picture;
+        RenderFinanceChart(CFinanceChart(), layout, data, ChartPictureFormat::Bmp, picture);
+        return QImage::fromData(picture.Data(), static_cast<int>(picture.Size()), "BMP").height();
+    };
+    EXPECT_EQ(height(0, false, CHART_TOP), 266);
+    EXPECT_EQ(height(3, true, CHART_TOP), 266); // they stand where they were put
+    EXPECT_EQ(height(3, false, CHART_BOTTOM), 266);
+    EXPECT_GT(height(3, false, CHART_TOP), 266 + 3 * 20 - 30);
+    EXPECT_GT(height(3, false, CHART_TOP), height(2, false, CHART_TOP));
+}
+
 TEST(RenderFinance, AnswersBadDataWithoutAPicture) {
     const double values[] = {1, 2};
     CFinanceChart volBars;

@@ -28,8 +28,9 @@ struct CFinanceChartData {
 };
 
 /// Renders a finance chart of the host's prices into `picture`. The width is the layout's m_financeWidth, the
-/// height follows from the panes: 65 pixels and for each pane its height and one. BadData for a `size` below
-/// that of this header, a negative count, or a missing array other than that of the volume.
+/// height follows from the panes: 65 pixels, more where the titles at the top need it, and for each pane its
+/// height and one. Long prices get a wider margin. BadData for a `size` below that of this header, a negative
+/// count, or a missing array other than that of the volume.
 CHARTRENDER_API ChartRenderResult RenderFinanceChart(const CFinanceChart& chart, const CChartLayout& layout,
                                                      const CFinanceChartData& data, ChartPictureFormat format,
                                                      CChartPicture& picture);
