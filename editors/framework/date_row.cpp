@@ -4,8 +4,10 @@
 
 #include <QCalendarWidget>
 #include <QDateEdit>
+#include <QLineEdit>
 #include <QSignalBlocker>
 #include <QWheelEvent>
+#include <algorithm>
 
 namespace {
 
@@ -25,13 +27,30 @@ protected:
         else
             event->ignore();
     }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        QDateEdit::mouseReleaseEvent(event);
+        setSelectedSection(currentSection()); // so that what is typed replaces it
+    }
     void keyPressEvent(QKeyEvent* event) override {
         const int key = event->key();
         if (key == Qt::Key_Return || key == Qt::Key_Enter || key == Qt::Key_Escape) {
             interpretText(); // what is no date goes back to what was one
             event->ignore();
+        } else if (event->matches(QKeySequence::SelectAll)) {
+            setSelectedSection(YearSection); // a whole date can be typed from here
+        } else if (key == Qt::Key_Slash || key == Qt::Key_Minus || key == Qt::Key_Period) {
+            GoOn();
         } else {
             QDateEdit::keyPressEvent(event);
+        }
+    }
+
+private:
+    /// A separator: on to the next part of the date, unless a full year or month has gone on by itself.
+    void GoOn() {
+        if (lineEdit()->selectedText() != sectionText(currentSection())) {
+            setCurrentSectionIndex(std::min(currentSectionIndex() + 1, sectionCount() - 1));
+            setSelectedSection(currentSection());
         }
     }
 };

@@ -15,7 +15,7 @@ CXYLayerDlg::CXYLayerDlg()
     std::vector<CChoice> kinds;
     for (int type = 0; type < kLayerKinds; ++type)
         kinds.emplace_back(LayerKindText(type));
-    m_form.Combo(nullptr, m_layerType, kinds).Named("Type").Then([this] {
+    m_form.Combo(nullptr, m_layerType, kinds).Named("Layer Type").Then([this] {
         ShowType();
         CurrentLayer().m_name = m_name;
     });

@@ -17,7 +17,9 @@ CXYLayerPage::CXYLayerPage(CXYChart& chart, const CChartLayout& layout, QWidget&
     : m_chart(chart), m_layout(layout), m_form(*this, owner) {
     m_form.Group("3D:");
     m_form.Check("Show 3D", chart.m_show3D);
+    m_form.Part();
     m_form.Integer("Depth:", chart.m_depth).Floor(0);
+    m_form.Part();
     m_form.Integer("Z Gap:", chart.m_zGap).Floor(0);
     m_form.Group("Layer:");
     m_layers = &m_form.Objects(Layers(), LoadChartString(ChartText::SelectLayer));
@@ -68,6 +70,7 @@ void CXYLayerPage::AxisRows() {
                    [stand](int row, int kind) { stand(row, static_cast<unsigned char>(kind), nullptr); }),
                {{"Y", kY}, {"Y2", kY2}})
         .Then(showAgain);
+    m_form.Part();
     m_form
         .Combo(nullptr,
                m_layers->Bind<std::int32_t>(

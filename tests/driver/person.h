@@ -52,6 +52,10 @@ public:
         for (QWidget* control : Inputs())
             if (GroupOf(*control) == Read(group) && LabelOf(*control) == Read(label))
                 return *control;
+        for (QWidget* control : Inputs()) // a picker beside another control has its name alone
+            if (GroupOf(*control) == Read(group) &&
+                (control->accessibleName() == label || control->accessibleName() == label + "..."))
+                return *control;
         throw std::runtime_error(("no control \"" + group + "\" \"" + label + '"').toStdString());
     }
     /// All controls that show a property: what shows, also greyed, and takes the focus.

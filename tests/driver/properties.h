@@ -6,6 +6,7 @@
 #include "model/fields/values.h"
 #include "tests/driver/editor.h"
 
+#include <QDateEdit>
 #include <cctype>
 #include <cmath>
 #include <limits>
@@ -149,7 +150,8 @@ inline void GiveInPicker(const Person& picker, const QString& give) {
 inline void Give(const Person& person, const Property& row) {
     QWidget& control = person.At(QString::fromStdString(row.group), QString::fromStdString(row.label));
     const QString give = QString::fromStdString(row.give);
-    if (qobject_cast<QAbstractSpinBox*>(&control) != nullptr) {
+    if (qobject_cast<QAbstractSpinBox*>(&control) != nullptr &&
+        qobject_cast<QDateEdit*>(&control) == nullptr) {
         GiveNumber(person, control, row);
     } else if (auto* box = qobject_cast<QComboBox*>(&control)) {
         GiveChoice(person, *box, row);

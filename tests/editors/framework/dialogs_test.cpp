@@ -74,6 +74,20 @@ TEST_F(Dialogs, EnterOnAPageCommitsOrDoesNothingAndEscDoesNothing) {
     EXPECT_TRUE(editor.isVisible());
 }
 
+TEST_F(Dialogs, EnterWithAModifierIsNoEnter) {
+    Open();
+    person.Type("Floored", "31");
+    for (const Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::ShiftModifier})
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+            QTest::keyClick(editor.focusWidget(), key, modifier);
+    EXPECT_EQ(values.m_floored, 5);
+    QTest::keyClick(editor.focusWidget(), Qt::Key_Enter, Qt::KeypadModifier);
+    EXPECT_EQ(values.m_floored, 31);
+    editor.setFocus();
+    QTest::keyClick(&editor, Qt::Key_Return, Qt::ControlModifier);
+    EXPECT_TRUE(editor.isVisible());
+}
+
 TEST_F(Dialogs, OkAndCancelEndTheDialog) {
     struct Way {
         const char* name;
