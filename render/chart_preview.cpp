@@ -3,7 +3,7 @@
 void StorePicture(CChartPreview* view, BaseChart* chart) {
     const char* bytes = nullptr;
     int length = 0;
-    CBaseChart_makeChart2(chart, CHART_FORMAT_BMP, &bytes, &length);
+    CBaseChart_makeChart2(chart, view ? view->PictureFormat() : CHART_FORMAT_BMP, &bytes, &length);
     if (!view || !view->m_picture.Assign(bytes, length))
         return;
     DrawArea* area = CBaseChart_getDrawArea(chart);

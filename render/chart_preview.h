@@ -38,13 +38,17 @@ public:
     virtual int ClientHeight() const = 0;
     /// Takes the picture's new size as the scroll sizes.
     virtual void SetScrollSizes() = 0;
+    /// What the picture is made as, for CBaseChart_makeChart2. At natural size, where the pane does not draw
+    /// on finer pixels or show it smaller.
+    virtual int PictureFormat() const { return CHART_FORMAT_BMP; }
     /// Paints the bytes of a bitmap file over the pane, with a frame. Only within a paint.
     virtual void PaintSample(const char* bytes, int length) = 0;
 
     int m_kind = PreviewColor; ///< A PreviewKind.
     bool m_dirty = false;      ///< The picture is stale.
     CPictureBlock m_picture;   ///< The cached picture, a bitmap file, or none.
-    int m_pictureWidth = 0;    ///< Pixels; keeps its value while there is no picture.
+    int m_pictureWidth =
+        0; ///< Pixels of the chart, however large it was drawn; kept while there is no picture.
     int m_pictureHeight = 0;
     bool m_fitMode = true; ///< Fitted to the pane; else at natural size with scroll bars.
 

@@ -25,7 +25,7 @@ CChartHolder MakeSampleChart(const CChartPreview& view) {
 void PaintChart(CChartPreview& view, BaseChart* chart) {
     const char* bytes = nullptr;
     int length = 0;
-    CBaseChart_makeChart2(chart, CHART_FORMAT_BMP, &bytes, &length);
+    CBaseChart_makeChart2(chart, view.PictureFormat(), &bytes, &length);
     view.PaintSample(bytes, length);
 }
 
@@ -34,7 +34,9 @@ void PaintChart(CChartPreview& view, BaseChart* chart) {
 void DrawColorSample(CChartPreview& view) {
     const CChartHolder holder = MakeSampleChart(view);
     BaseChart* chart = holder.Get();
-    const bool pattern = view.m_sampleColor.m_type == 1;
+    // A pattern is shown over black; one without an image is nothing at all, which is what the board stands
+    // for.
+    const bool pattern = view.m_sampleColor.m_type == 1 && !view.m_sampleColor.m_patternFile.empty();
     const int background =
         pattern ? 0
                 : CBaseChart_patternColor(chart, kChequerBoard.data(),

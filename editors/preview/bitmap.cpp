@@ -20,3 +20,8 @@ QImage BitmapPart(std::span<const char> bytes, const QRect& part) {
     const auto* corner = reinterpret_cast<const uchar*>(lowestRow + qsizetype{shown.x()} * 3);
     return QImage(corner, shown.width(), shown.height(), rowBytes, QImage::Format_BGR888).mirrored();
 }
+
+QImage WholeBitmap(std::span<const char> bytes) {
+    constexpr int kAll = 1 << 20; // more than a picture has
+    return BitmapPart(bytes, {0, 0, kAll, kAll});
+}

@@ -14,7 +14,7 @@ static constexpr QRgb kSurround = 0xffeeeeee;
 static constexpr int kScrollStep = 20; // pixels
 
 CChartPreviewView::CChartPreviewView(QWidget* parent) : QAbstractScrollArea(parent) {
-    setFrameStyle(QFrame::Box | QFrame::Plain);
+    setFrameStyle(QFrame::NoFrame); // samples have a frame of their own, and they are what is shown at first
     setLayoutDirection(Qt::LeftToRight); // a picture does not run with the text
     setFocusPolicy(Qt::ClickFocus);
     setAccessibleName(previewMenuTitle);
@@ -40,7 +40,41 @@ bool CChartPreviewView::event(QEvent* event) {
 
 // ---- Painting
 
-void CChartPreviewView::RunDrawRoutine() {
+/// What a chart of that size is to be drawn at. Images are shown from their own pixels.
+double CChartPreviewView::ScaleFor(QSize picture) const {
+    constexpr double kMaxSide = 16384; // pixels of a picture that can be made
+    constexpr double kLargest = 64;
+    if (m_kind == PreviewImage)
+        return 1;
+    double scale = devicePixelRatioF();
+    if (m_kind >= PreviewLayout) {
+        if (picture.isEmpty())
+            return 1;
+        if (m_fitMode)
+            scale *= FitRect(viewport()->size(), picture).width() * 1.0 / picture.width();
+        scale = std::min(scale, kMaxSide / std::max(picture.width(), picture.height()));
+    }
+    return scale > 0 ? std::min(scale, kLargest) : 1;
+}
+
+int CChartPreviewView::PictureFormat() const {
+    return m_scale == 1 ? CHART_FORMAT_BMP
+                        : CHART_FORMAT_BMP + 256 * std::max(1, qRound(m_scale * int{CHART_SCALE_UNIT}));
+}
+
+void CChartPreviewView::DrawPicture() {
+    // The size of a chart is that of its layout, but for those that are made of several: these tell it first.
+    const bool told = m_kind < PreviewLayout || m_kind == PreviewFinanceChart || m_layout == nullptr;
+    const QSize expected = told ? PictureSize() : QSize(m_layout->m_width, m_layout->m_height);
+    RunDrawRoutine(ScaleFor(expected));
+    if (!m_picture.Empty() && ScaleFor(PictureSize()) != m_scale) {
+        m_picture.Clear();
+        RunDrawRoutine(ScaleFor(PictureSize()));
+    }
+}
+
+void CChartPreviewView::RunDrawRoutine(double scale) {
+    m_scale = scale;
     const DrawRoutine routine = FindDrawRoutine(m_kind);
     const bool lacksModel = (m_kind >= PreviewLayout && !m_layout) ||
                             (m_kind == PreviewXYChart && !m_chart) ||
@@ -56,47 +90,60 @@ void CChartPreviewView::RunDrawRoutine() {
 }
 
 void CChartPreviewView::paintEvent(QPaintEvent* event) {
-    if (m_dirty) {
+    if (m_dirty || (!m_picture.Empty() && m_scale != ScaleFor(PictureSize()))) {
         m_picture.Clear();
         m_dirty = false;
     }
     if (m_picture.Empty())
-        RunDrawRoutine();
+        DrawPicture();
     if (m_picture.Empty())
         return;
     QPainter painter(viewport());
-    const QRect shown = m_fitMode ? PaintFitted(painter) : PaintScrolled(painter, event->rect());
-    for (const QRect& rest : event->region() - shown)
+    const QRect place = PicturePlace();
+    // Up to a pixel into the picture, which may begin between two pixels of the pane.
+    for (const QRect& rest : event->region() - place.adjusted(1, 1, -1, -1))
         painter.fillRect(rest, QColor(kSurround));
+    PaintPicture(painter, place, event->rect());
 }
 
-QRect CChartPreviewView::PaintFitted(QPainter& painter) const {
-    const QRect place = FitRect(viewport()->size(), PictureSize());
+/// Where the picture is, in the pane's pixels.
+QRect CChartPreviewView::PicturePlace() const {
+    return m_fitMode
+               ? FitRect(viewport()->size(), PictureSize())
+               : QRect(QPoint(-horizontalScrollBar()->value(), -verticalScrollBar()->value()), PictureSize());
+}
+
+void CChartPreviewView::PaintPicture(QPainter& painter, const QRect& place, const QRect& clip) const {
     if (place.isEmpty())
-        return {};
-    QImage image = BitmapPart(m_picture.Bytes(), QRect(QPoint(), PictureSize()));
-    if (place.size() != PictureSize())
+        return;
+    // In pixels of the screen, on which the picture stands pixel on pixel.
+    const double ratio = devicePixelRatioF();
+    const auto ofScreen = [ratio](const QRect& rect) {
+        return QRect((QPointF(rect.topLeft()) * ratio).toPoint(), (QSizeF(rect.size()) * ratio).toSize());
+    };
+    const auto ofPane = [ratio](const QRect& rect) {
+        return QRectF(QPointF(rect.topLeft()) / ratio, QSizeF(rect.size()) / ratio);
+    };
+    const QRect whole = ofScreen(place);
+    const bool shrunk = m_fitMode && place.size() != PictureSize();
+    if (m_scale == ratio && !shrunk) {
+        const QRect part = ofScreen(clip.adjusted(-1, -1, 1, 1)) & whole;
+        if (!part.isEmpty())
+            painter.drawImage(ofPane(part), BitmapPart(m_picture.Bytes(), part.translated(-whole.topLeft())));
+        return;
+    }
+    QImage image = WholeBitmap(m_picture.Bytes());
+    if (shrunk && image.size() != whole.size())
         image = image.convertToFormat(QImage::Format_RGB32)
-                    .scaled(place.size() * painter.device()->devicePixelRatio(), Qt::IgnoreAspectRatio,
-                            Qt::SmoothTransformation);
-    painter.drawImage(place, image);
-    return place;
-}
-
-QRect CChartPreviewView::PaintScrolled(QPainter& painter, const QRect& clip) const {
-    const QPoint scroll(horizontalScrollBar()->value(), verticalScrollBar()->value());
-    const QRect part = clip & QRect(-scroll, PictureSize());
-    if (part.isEmpty())
-        return {};
-    painter.drawImage(part, BitmapPart(m_picture.Bytes(), part.translated(scroll)));
-    return part;
+                    .scaled(whole.size(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    painter.drawImage(ofPane(whole), image);
 }
 
 void CChartPreviewView::PaintSample(const char* bytes, int length) {
     const QRect pane = viewport()->rect();
     QPainter painter(viewport());
     if (length > 0)
-        painter.drawImage(pane, BitmapPart({bytes, static_cast<std::size_t>(length)}, pane));
+        painter.drawImage(QRectF(pane), WholeBitmap({bytes, static_cast<std::size_t>(length)}));
     qDrawPlainRect(&painter, pane, Qt::black);
 }
 
@@ -214,9 +261,15 @@ void CChartPreviewView::contextMenuEvent(QContextMenuEvent* event) {
 
 // ---- What is shown
 
+void CChartPreviewView::SetKind(PreviewKind kind) {
+    m_kind = kind;
+    const bool framed = kind != PreviewColor && kind != PreviewFont; // these are painted with a frame
+    setFrameStyle(framed ? QFrame::Box | QFrame::Plain : QFrame::NoFrame);
+}
+
 void CChartPreviewView::SetSample(PreviewKind kind) {
     m_fitMode = false;
-    m_kind = kind;
+    SetKind(kind);
     UpdateCursor();
 }
 
@@ -236,7 +289,7 @@ void CChartPreviewView::SetSampleImage(const CChartString& path) {
 }
 
 void CChartPreviewView::CopyLayout(PreviewKind kind, const CChartLayout& layout) {
-    m_kind = kind;
+    SetKind(kind);
     m_ownLayout = layout;
     m_layout = &m_ownLayout;
     m_singleLayerMode = false;
@@ -281,7 +334,7 @@ void CChartPreviewView::SetChart(const CLinearMeter& chart, const CChartLayout& 
 }
 
 void CChartPreviewView::AttachChart(CXYChart* chart, const CChartLayout* layout) {
-    m_kind = PreviewXYChart;
+    SetKind(PreviewXYChart);
     m_chart = chart;
     m_layout = layout;
     m_singleLayerMode = true;
@@ -289,7 +342,7 @@ void CChartPreviewView::AttachChart(CXYChart* chart, const CChartLayout* layout)
 }
 
 void CChartPreviewView::AttachChart(CPolarChart* chart, const CChartLayout* layout) {
-    m_kind = PreviewPolarChart;
+    SetKind(PreviewPolarChart);
     m_polarChart = chart;
     m_layout = layout;
     m_singleLayerMode = true;

@@ -10,7 +10,9 @@
 ///
 /// A picture larger than the pane can be switched between fit and scroll mode, by double click or from the
 /// menu of the right button, and is dragged in scroll mode. The samples of the pickers cannot be switched.
-/// The memory of the last picture stays allocated when the view goes; see CPictureBlock.
+/// A chart is drawn in the pixels of the screen, at the size that it is shown at, so that it is as sharp as
+/// the screen; drawn anew when that size changes. All sizes here are those of the chart itself. The memory of
+/// the last picture stays allocated when the view goes; see CPictureBlock.
 class CChartPreviewView : public QAbstractScrollArea, public CChartPreview {
     Q_OBJECT
 public:
@@ -47,6 +49,7 @@ public:
     int ClientWidth() const override { return viewport()->width(); }
     int ClientHeight() const override { return viewport()->height(); }
     void SetScrollSizes() override;
+    int PictureFormat() const override;
     void PaintSample(const char* bytes, int length) override;
 
 protected:
@@ -61,12 +64,15 @@ protected:
     void contextMenuEvent(QContextMenuEvent* event) override;
 
 private:
+    void SetKind(PreviewKind kind);
     void SetSample(PreviewKind kind);
     void CopyLayout(PreviewKind kind, const CChartLayout& layout);
     QSize PictureSize() const { return {m_pictureWidth, m_pictureHeight}; }
-    void RunDrawRoutine();
-    QRect PaintFitted(QPainter& painter) const;
-    QRect PaintScrolled(QPainter& painter, const QRect& clip) const;
+    double ScaleFor(QSize picture) const;
+    void DrawPicture();
+    void RunDrawRoutine(double scale);
+    QRect PicturePlace() const;
+    void PaintPicture(QPainter& painter, const QRect& place, const QRect& clip) const;
     void SetFitMode(bool fit);
     void TakeScrollSizes();
     void UpdateScrollBars();
@@ -74,6 +80,7 @@ private:
     bool CanSwitchMode() const;
     void PopUpMenu(const QPoint& place);
 
+    double m_scale = 1;       // pixels of the screen to one of the chart, in the picture that is there
     QSize m_scrollSize{0, 0}; // what the bars scroll over
     bool m_dragging = false;
     QPoint m_dragStart;  // pointer at the start of the drag

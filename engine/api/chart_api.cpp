@@ -138,8 +138,13 @@ DrawArea* CBaseChart_getDrawArea(BaseChart* base) {
 bool CBaseChart_makeChart2(BaseChart* base, int format, const char** data, int* length) {
     const char* bytes = nullptr;
     int count = 0;
-    const bool made = use(
-        base, [&](Chart& chart) { return format == CHART_FORMAT_BMP && chart.makePicture(&bytes, &count); });
+    // Behind the kind of file stands the scale, none for natural size.
+    const bool known = format >= 0 && (format & 0xff) == CHART_FORMAT_BMP;
+    const int scale = format > 0xff ? format >> 8 : int{CHART_SCALE_UNIT};
+    const bool made =
+        known && use(base, [&](Chart& chart) {
+            return chart.makePicture(static_cast<double>(scale) / int{CHART_SCALE_UNIT}, &bytes, &count);
+        });
     if (data != nullptr)
         *data = bytes;
     if (length != nullptr)

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <atomic>
 #include <bit>
+#include <cmath>
 #include <map>
 #include <utility>
 
@@ -112,25 +113,30 @@ void Chart::changed() {
         host->changed();
 }
 
-QByteArray Chart::drawnPicture() {
-    if (m_width <= 0 || m_height <= 0 || m_width > kMaxSide || m_height > kMaxSide)
+QByteArray Chart::drawnPicture(double scale) {
+    const auto drawn = [scale](int side) {
+        return static_cast<int>(std::clamp(std::round(side * scale), 1.0, kMaxSide + 1.0));
+    };
+    if (m_width <= 0 || m_height <= 0 || m_width > kMaxSide || m_height > kMaxSide ||
+        drawn(m_width) > kMaxSide || drawn(m_height) > kMaxSide)
         return {};
-    QImage image(m_width, m_height, QImage::Format_ARGB32_Premultiplied);
+    QImage image(drawn(m_width), drawn(m_height), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
         return {};
     image.fill(Qt::white);
     {
         // The painter must be gone before the pixels are read, which would make it a copy of them all.
-        Canvas canvas(image, m_colours);
+        Canvas canvas(image, m_colours, true, QTransform::fromScale(scale, scale));
         draw(canvas);
     }
     return bitmapFile(image);
 }
 
-bool Chart::makePicture(const char** data, int* length) {
-    if (m_stale) {
+bool Chart::makePicture(double scale, const char** data, int* length) {
+    if (m_stale || scale != m_pictureScale) {
         m_picture.clear(); // also what a picture leaves that memory does not suffice for
-        m_picture = drawnPicture();
+        m_picture = drawnPicture(scale);
+        m_pictureScale = scale;
         m_stale = m_picture.isEmpty();
         static std::atomic<unsigned> pictures = 0;
         if (std::has_single_bit(++pictures)) // the toolkit makes things at first need

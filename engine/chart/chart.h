@@ -77,9 +77,10 @@ public:
     /// Marks the picture stale, here and in every chart that shows this one.
     void changed() override;
 
-    /// The picture as a 24-bit bitmap file; false and no bytes when it has no area or is too large. The bytes
-    /// stay valid until the next picture is made; without a change in between they are the same.
-    bool makePicture(const char** data, int* length);
+    /// The picture as a 24-bit bitmap file, drawn `scale` times as large as the chart is; false and no bytes
+    /// when it has no area or is too large. The bytes stay valid until the next picture is made; without a
+    /// change in between they are the same.
+    bool makePicture(double scale, const char** data, int* length);
 
     /// Draws the whole chart at the canvas's origin.
     void draw(Canvas& canvas);
@@ -113,7 +114,7 @@ protected:
     static void drawnIn(Chart& chart) { chart.m_hostsTold = false; }
 
 private:
-    QByteArray drawnPicture();
+    QByteArray drawnPicture(double scale);
     void drawBackground(Canvas& canvas);
 
     int m_width, m_height;
@@ -140,6 +141,7 @@ private:
     bool m_stale = true;
     bool m_hostsTold = false; ///< of a change since one of them was drawn
     QByteArray m_picture;
+    double m_pictureScale = 1;
 };
 
 } // namespace chartdraw

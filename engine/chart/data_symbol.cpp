@@ -83,7 +83,7 @@ SymbolPainter::SymbolPainter(Canvas& canvas, const DataSymbol& symbol)
 
 void SymbolPainter::draw(QPointF centre) {
     constexpr int kLargestSprite = 64;
-    if (m_symbol.size > kLargestSprite) {
+    if (m_symbol.size > kLargestSprite || m_canvas.scale() != 1) {
         draw(centre, QSizeF(m_symbol.size, m_symbol.size));
         return;
     }

@@ -1,8 +1,10 @@
 #include "engine/multi/multi_chart.h"
 
+#include "engine/paint/layer.h"
 #include "engine/paint/picture.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 
 namespace chartdraw {
@@ -25,27 +27,31 @@ public:
         Use(const Use&) = delete;
         Use& operator=(const Use&) = delete;
 
-        /// The upper left part of a chart; null where memory does not suffice.
-        QImage layer(Chart& chart, QSize seen, const ColourTable& colours) const {
+        /// The upper left part of a chart, drawn at a scale; null where memory does not suffice.
+        QImage layer(Chart& chart, QSize seen, const ColourTable& colours, double scale) const {
             if (!chart.hasSeveralHosts())
-                return draw(chart, seen, colours);
+                return draw(chart, seen, colours, scale);
             auto& layers = s_charts.m_layers;
             if (const auto found = layers.find(&chart); found != layers.end())
-                return found->second.copy(QRect(QPoint(), seen));
-            const QImage whole = draw(chart, {chart.width(), chart.height()}, colours);
+                return found->second.copy(QRect(QPoint(), pixels(seen, scale)));
+            const QImage whole = draw(chart, {chart.width(), chart.height()}, colours, scale);
             layers[&chart] = whole;
-            return whole.copy(QRect(QPoint(), seen));
+            return whole.copy(QRect(QPoint(), pixels(seen, scale)));
         }
     };
 
 private:
-    static QImage draw(Chart& chart, QSize size, const ColourTable& colours) {
-        QImage layer(size, QImage::Format_ARGB32_Premultiplied);
+    static QSize pixels(QSize size, double scale) {
+        return {static_cast<int>(std::ceil(size.width() * scale)),
+                static_cast<int>(std::ceil(size.height() * scale))};
+    }
+    static QImage draw(Chart& chart, QSize size, const ColourTable& colours, double scale) {
+        QImage layer(pixels(size, scale), QImage::Format_ARGB32_Premultiplied);
         if (layer.isNull())
             return layer;
         layer.fill(Qt::transparent);
         {
-            Canvas part(layer, colours);
+            Canvas part(layer, colours, true, QTransform::fromScale(scale, scale));
             chart.draw(part);
         }
         return layer;
@@ -103,15 +109,15 @@ void MultiChart::collectKeys(std::vector<LegendKey>& keys) const {
         // Its patterns are known to the colours of its chart, and to none above.
         if (key.drawSymbol) {
             key.drawSymbol = [draw = std::move(key.drawSymbol), main](Canvas& canvas, const QRectF& area) {
-                QImage image(area.toAlignedRect().size(), QImage::Format_ARGB32_Premultiplied);
-                image.fill(Qt::transparent);
+                const QRect place = area.toAlignedRect();
+                Layer layer(canvas.painter(), place);
                 {
                     ColourTable colours = main->colours();
-                    colours.addPatternsOf(canvas.colours(), -area.toAlignedRect().topLeft());
-                    Canvas part(image, colours);
+                    colours.addPatternsOf(canvas.colours(), -place.topLeft());
+                    Canvas part(layer.image(), colours, true, layer.transformFrom(place.topLeft()));
                     draw(part, QRectF(QPointF(), area.size()));
                 }
-                canvas.painter().drawImage(area.toAlignedRect().topLeft(), image);
+                layer.drawOn(canvas.painter());
             };
         }
         keys.push_back(std::move(key));
@@ -133,8 +139,9 @@ void MultiChart::drawBody(Canvas& canvas) {
         const QPoint seen = area.bottomRight() - shown.at;
         ColourTable colours = shown.chart->colours();
         colours.addPatternsOf(canvas.colours(), -shown.at);
-        canvas.painter().drawImage(shown.at,
-                                   drawn.layer(*shown.chart, {seen.x() + 1, seen.y() + 1}, colours));
+        const QPoint place = canvas.painter().worldTransform().map(QPointF(shown.at)).toPoint();
+        drawPixels(canvas.painter(), place,
+                   drawn.layer(*shown.chart, {seen.x() + 1, seen.y() + 1}, colours, canvas.scale()));
     }
 }
 

@@ -15,7 +15,8 @@ constexpr double kSafeCoordinate = 30000; // the raster engine's own limit is 2 
 constexpr int kFar = 1'000'000;           // pixels; boxes are cut to it, so that no sum of theirs overflows
 
 /// Whether the raster engine can take the coordinates as they are.
-bool isSafe(const QRectF& bounds) {
+bool isSafe(const QPainter& painter, const QRectF& rect) {
+    const QRectF bounds = painter.worldTransform().mapRect(rect);
     return bounds.left() > -kSafeCoordinate && bounds.right() < kSafeCoordinate &&
            bounds.top() > -kSafeCoordinate && bounds.bottom() < kSafeCoordinate;
 }
@@ -51,23 +52,25 @@ std::optional<QRectF> asRect(const QPainterPath& path) {
 
 } // namespace
 
-Canvas::Canvas(QImage& image, const ColourTable& colours, bool antiAlias)
-    : m_painter(&image), m_colours(colours) {
+Canvas::Canvas(QImage& image, const ColourTable& colours, bool antiAlias, const QTransform& transform)
+    : m_painter(&image), m_colours(colours), m_scale(transform.m11()) {
+    m_painter.setWorldTransform(transform);
     m_painter.setRenderHint(QPainter::Antialiasing, antiAlias);
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
 }
 
 int Canvas::width() const {
-    return m_painter.device()->width();
+    return static_cast<int>(std::ceil(m_painter.device()->width() / scale() - 1e-6));
 }
 int Canvas::height() const {
-    return m_painter.device()->height();
+    return static_cast<int>(std::ceil(m_painter.device()->height() / scale() - 1e-6));
 }
 
 QRectF Canvas::visible(double margin) const {
-    const QRectF device = QRectF(0, 0, width(), height()).adjusted(-margin, -margin, margin, margin);
+    const QRectF image(0, 0, m_painter.device()->width(), m_painter.device()->height());
     const QTransform& transform = m_painter.worldTransform();
-    return transform.isIdentity() ? device : transform.inverted().mapRect(device);
+    const QRectF shown = transform.isIdentity() ? image : transform.inverted().mapRect(image);
+    return shown.adjusted(-margin, -margin, margin, margin);
 }
 
 void Canvas::fillRect(const QRectF& rect, Colour colour) {
@@ -76,8 +79,33 @@ void Canvas::fillRect(const QRectF& rect, Colour colour) {
         fillPixels(pixels, colour, rect);
 }
 
+QRect Canvas::onImage(const QRectF& box) const {
+    const QRectF place = m_painter.worldTransform().mapRect(box);
+    const auto border = [](double at) { return static_cast<int>(std::floor(at + 0.5)); };
+    const QPoint corner(border(place.left()), border(place.top()));
+    return {corner, QSize(std::max(1, border(place.right()) - corner.x()),
+                          std::max(1, border(place.bottom()) - corner.y()))};
+}
+
+int Canvas::onImage(double width) const {
+    return std::max(1, static_cast<int>(std::lround(std::min(width, double{kFar}) * scale())));
+}
+
+void Canvas::fillImage(const QRect& pixels, Colour colour, const QRectF& extent) {
+    if (m_colours.invisible(colour))
+        return;
+    QBrush brush = m_colours.brush(colour, extent);
+    const QTransform before = m_painter.worldTransform();
+    brush.setTransform(brush.transform() * before);
+    m_painter.resetTransform();
+    m_painter.fillRect(pixels, brush);
+    m_painter.setWorldTransform(before);
+}
+
 void Canvas::fillPixels(const QRect& pixels, Colour colour, const QRectF& extent) {
-    if (colour < kTransparent)
+    if (scale() != 1)
+        fillImage(onImage(pixels), colour, extent);
+    else if (colour < kTransparent)
         m_painter.fillRect(pixels, m_colours.solid(colour));
     else if (!m_colours.invisible(colour))
         m_painter.fillRect(pixels, m_colours.brush(colour, extent));
@@ -87,7 +115,7 @@ void Canvas::fillPath(const QPainterPath& path, Colour colour, const QRectF* ext
     if (m_colours.invisible(colour))
         return;
     const QBrush brush = m_colours.brush(colour, extent != nullptr ? *extent : path.boundingRect());
-    if (isSafe(path.controlPointRect()))
+    if (isSafe(m_painter, path.controlPointRect()))
         m_painter.fillPath(path, brush);
     else
         m_painter.fillPath(clipPath(path, visible(2)), brush);
@@ -99,7 +127,7 @@ void Canvas::strokePath(const QPainterPath& path, Colour colour, double width) {
     const QRectF bounds = path.controlPointRect();
     const double penWidth = std::min(width, kSafeCoordinate);
     QPen pen(m_colours.brush(colour, bounds), penWidth, Qt::SolidLine, Qt::FlatCap, Qt::RoundJoin);
-    if (isSafe(bounds)) {
+    if (isSafe(m_painter, bounds)) {
         m_painter.strokePath(path, pen);
         return;
     }
@@ -128,18 +156,25 @@ void Canvas::frame(const QRect& rect, Colour colour, const Corners& corners, int
         fillPath(outline, colour);
         return;
     }
+    const bool scaled = scale() != 1;
+    const QRect all = scaled ? onImage(wholePixels(rect, visible(width + 1))) : rect;
+    const int side = scaled ? std::min({onImage(inner), all.width(), all.height()}) : inner;
     // The far sides take what the near ones leave, so that a thick edge never covers itself.
-    const int right = std::min(inner, rect.width() - inner);
-    const int bottom = std::min(inner, rect.height() - inner);
-    const int between = rect.height() - inner - bottom;
+    const int right = std::min(side, all.width() - side);
+    const int bottom = std::min(side, all.height() - side);
+    const int between = all.height() - side - bottom;
     const QRectF limits = visible(1);
-    const QRect sides[] = {{rect.left(), rect.top(), rect.width(), inner},
-                           {rect.left(), rect.top() + inner, inner, between},
-                           {rect.right() + 1 - right, rect.top() + inner, right, between},
-                           {rect.left(), rect.bottom() + 1 - bottom, rect.width(), bottom}};
-    for (const QRect& side : sides) {
-        const QRect pixels = wholePixels(side, limits);
-        if (!pixels.isEmpty())
+    const QRect sides[] = {{all.left(), all.top(), all.width(), side},
+                           {all.left(), all.top() + side, side, between},
+                           {all.right() + 1 - right, all.top() + side, right, between},
+                           {all.left(), all.bottom() + 1 - bottom, all.width(), bottom}};
+    for (const QRect& part : sides) {
+        const QRect pixels = scaled ? part : wholePixels(part, limits);
+        if (pixels.isEmpty())
+            continue;
+        if (scaled)
+            fillImage(pixels, colour, rect);
+        else
             fillPixels(pixels, colour, rect);
     }
 }
@@ -155,7 +190,7 @@ void Canvas::box(const QRect& whole, Colour fillColour, Colour edge, int effect,
         fillRect(rect, fillColour);
     else
         fillPath(roundedRect(rect, corners), fillColour);
-    const QRect lit = isSafe(rect) ? rect : wholePixels(rect, visible(kMaxEffectSize));
+    const QRect lit = isSafe(m_painter, rect) ? rect : wholePixels(rect, visible(kMaxEffectSize));
     if (!lit.isEmpty())
         lightBox(m_painter, lit, corners, Effect::decode(effect));
     if (edge != kDefaultColour)
@@ -173,7 +208,7 @@ void Canvas::shape(const QPainterPath& path, Colour fillColour, Colour edge, int
         return;
     }
     fillPath(path, fillColour);
-    if (isSafe(path.controlPointRect()))
+    if (isSafe(m_painter, path.controlPointRect()))
         lightPath(m_painter, path, Effect::decode(effect));
     if (edge != kDefaultColour)
         strokePath(path, edge, edgeWidth);

@@ -1,7 +1,9 @@
 #pragma once
 // Where everything is drawn: a painter on an image, in picture pixels, that takes colour values and effects.
-// Coordinates of boxes are whole pixels: a box (x, y, w, h) covers exactly those pixels, and horizontal and
-// vertical lines are put onto whole pixels so that they are crisp.
+// A picture may be drawn on an image of more or fewer pixels than its own: the painter is scaled, and what is
+// to be crisp is put onto whole pixels of the image. Coordinates of boxes are whole pixels: a box (x, y, w,
+// h) covers exactly those pixels, and horizontal and vertical lines are put onto whole pixels so that they
+// are crisp.
 
 #include "engine/paint/colour.h"
 #include "engine/paint/corners.h"
@@ -16,13 +18,18 @@ namespace chartdraw {
 
 class Canvas {
 public:
-    /// `image` and `colours` must outlive the canvas. The image is ARGB32_Premultiplied.
-    Canvas(QImage& image, const ColourTable& colours, bool antiAlias = true);
+    /// `image` and `colours` must outlive the canvas. The image is ARGB32_Premultiplied. `transform` leads
+    /// from the picture to the image; it may only scale, alike both ways, and move.
+    Canvas(QImage& image, const ColourTable& colours, bool antiAlias = true,
+           const QTransform& transform = {});
 
     QPainter& painter() { return m_painter; }
     const ColourTable& colours() const { return m_colours; }
+    /// Of the image, in pixels of the picture.
     int width() const;
     int height() const;
+    /// Pixels of the image to one of the picture.
+    double scale() const { return m_scale; }
 
     /// The sides are rounded to whole pixels; what is then empty draws nothing.
     void fillRect(const QRectF& rect, Colour colour);
@@ -54,10 +61,18 @@ private:
     /// What can show, with `margin` pixels around it, in the painter's coordinates.
     QRectF visible(double margin) const;
     void fillPixels(const QRect& pixels, Colour colour, const QRectF& extent);
+    /// The whole pixels of the image that a box of the picture covers, at least one; boxes that touch each
+    /// other there touch here.
+    QRect onImage(const QRectF& box) const;
+    /// A width in pixels of the image, rounded alike wherever it stands.
+    int onImage(double width) const;
+    /// Fills pixels of the image.
+    void fillImage(const QRect& pixels, Colour colour, const QRectF& extent);
     void frame(const QRect& rect, Colour colour, const Corners& corners, int width);
 
     QPainter m_painter;
     const ColourTable& m_colours;
+    double m_scale;
 };
 
 /// Draws an image at its own size, placed in the area by an alignment code (the digits of a number pad, 5 and

@@ -1,4 +1,5 @@
 #include "engine/paint/lighting.h"
+#include "engine/paint/layer.h"
 
 #include <QLinearGradient>
 #include <QRadialGradient>
@@ -115,19 +116,19 @@ void bevelPath(QPainter& painter, const QPainterPath& path, int size) {
     const double width = std::min(std::abs(size) * 1.0, std::min(bounds.width(), bounds.height()) / 2);
     // In steps, so that it fades inwards: light and shade cross on thin shapes without a hard patch.
     const int steps = std::clamp(static_cast<int>(width), 1, 6);
-    QImage layer(area.size(), QImage::Format_ARGB32_Premultiplied);
+    Layer layer(painter, area);
     for (int step = 2 * steps; step > 0; --step) {
         const double shift = (step % 2 == 0 ? width : -width) * ((step + 1) / 2) / steps;
-        layer.fill(Qt::transparent);
-        QPainter on(&layer);
+        layer.image().fill(Qt::transparent);
+        QPainter on(&layer.image());
         on.setRenderHints(painter.renderHints());
-        on.translate(-area.topLeft());
+        on.setWorldTransform(layer.transform());
         on.fillPath(path,
                     tone(((shift > 0) == (size > 0) ? kBevelLight : kBevelShade) * 1.5 / (steps + 0.5)));
         on.setCompositionMode(QPainter::CompositionMode_DestinationOut);
         on.fillPath(path.translated(shift, shift), Qt::black);
         on.end();
-        painter.drawImage(area.topLeft(), layer);
+        layer.drawOn(painter);
     }
 }
 

@@ -1,4 +1,5 @@
 #include "engine/paint/pen_mask.h"
+#include "engine/paint/layer.h"
 
 #include <QImage>
 #include <algorithm>
@@ -154,10 +155,12 @@ void PenMask::paint(QPainter& painter, const QBrush& brush) const {
         if (!plain) {
             QPainter inner(&band);
             inner.setCompositionMode(QPainter::CompositionMode_SourceIn);
-            inner.translate(-place);
-            inner.fillRect(rows.translated(place), brush);
+            QBrush moved = brush;
+            moved.setTransform(brush.transform() * painter.worldTransform() *
+                               QTransform::fromTranslate(-place.x(), -place.y()));
+            inner.fillRect(rows, moved);
         }
-        painter.drawImage(place, band, rows);
+        drawPixels(painter, place, rows.height() < band.height() ? band.copy(rows) : band);
     }
 }
 

@@ -14,13 +14,14 @@ namespace chartdraw {
 
 class PenMask {
 public:
-    /// `area`: the pixels that are of interest. `width` of the pen in pixels, at least 1.
+    /// `area`: the pixels of the image that are of interest. `width` of the pen in such pixels, at least 1.
     PenMask(const QRect& area, double width);
 
     /// Coordinates are pixel borders, within 1e6 of the area. Equal ends make a dot.
     void segment(QPointF from, QPointF to);
 
     /// Lays the colour on what is covered, once; all or nothing of a pixel where the painter does not smooth.
+    /// The brush is in the painter's coordinates.
     void paint(QPainter& painter, const QBrush& brush) const;
 
 private:

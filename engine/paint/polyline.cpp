@@ -107,9 +107,16 @@ void Canvas::line(QPointF from, QPointF to, Colour colour, double width) {
         const double low = whole(upright ? std::min(from.y(), to.y()) : std::min(from.x(), to.x()));
         const double high = whole(upright ? std::max(from.y(), to.y()) : std::max(from.x(), to.x())) + 1;
         const double side = whole(upright ? from.x() : from.y()) - before;
-        fillRect(upright ? QRectF(side, low, thickness, high - low)
-                         : QRectF(low, side, high - low, thickness),
-                 colour);
+        const QRectF covered =
+            upright ? QRectF(side, low, thickness, high - low) : QRectF(low, side, high - low, thickness);
+        if (scale() == 1) {
+            fillRect(covered, colour);
+        } else if (const QRectF seen = covered & visible(thickness + 1); !seen.isEmpty()) {
+            // Lines of one width are to look alike, wherever they fall between the pixels of the image.
+            QRect pixels = onImage(seen);
+            upright ? pixels.setWidth(onImage(thickness)) : pixels.setHeight(onImage(thickness));
+            fillImage(pixels, colour, covered);
+        }
         return;
     }
     const double offset = penOffset(width);
@@ -131,8 +138,12 @@ void Canvas::polyline(std::span<const QPointF> points, Colour colour, double wid
     const QRectF limits = visible(width + 2);
     const QRectF extent = boundsOf(points);
     const QBrush brush = m_colours.brush(colour, extent);
-    if (width == 1 && brush.isOpaque()) {
-        m_painter.setPen(QPen(brush, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin));
+    const QTransform& toImage = m_painter.worldTransform();
+    const double onImage = std::max(1.0, width * scale());
+    if (onImage == 1 && brush.isOpaque()) {
+        QPen pen(brush, 1, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+        pen.setCosmetic(scale() != 1);
+        m_painter.setPen(pen);
         drawThin(m_painter, points, offset, limits);
         return;
     }
@@ -140,11 +151,12 @@ void Canvas::polyline(std::span<const QPointF> points, Colour colour, double wid
     QRectF shown = extent.adjusted(-reach, -reach, reach, reach) & visible(1);
     if (m_painter.hasClipping())
         shown &= m_painter.clipBoundingRect();
-    const QRect area = shown.toAlignedRect();
+    const QRect area = toImage.mapRect(shown).toAlignedRect();
     if (area.isEmpty())
         return;
-    PenMask mask(area, width);
-    forEachSegment(points, offset, limits, [&](QPointF from, QPointF to) { mask.segment(from, to); });
+    PenMask mask(area, onImage);
+    forEachSegment(points, offset, limits,
+                   [&](QPointF from, QPointF to) { mask.segment(toImage.map(from), toImage.map(to)); });
     mask.paint(m_painter, brush);
 }
 

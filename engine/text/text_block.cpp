@@ -1,5 +1,6 @@
 #include "engine/text/text_block.h"
 
+#include "engine/paint/layer.h"
 #include "engine/text/glyph_text.h"
 
 #include <QRawFont>
@@ -182,27 +183,29 @@ void TextBlock::Layout::drawQuarterTurned(Canvas& canvas, const QTransform& plac
     if (!place.mapRect(QRectF(area)).intersects(pictureArea))
         return;
     const QRect seen = area & place.inverted().mapRect(QRectF(pictureArea)).toAlignedRect();
-    QImage image(seen.size(), QImage::Format_ARGB32_Premultiplied);
+    const double scale = canvas.scale();
+    QImage image((QSizeF(seen.size()) * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
     if (image.isNull())
         return;
     image.fill(Qt::transparent);
     QPainter painter(&image);
+    painter.scale(scale, scale);
     painter.translate(textCorner - seen.topLeft());
     drawGlyphs(painter, canvas.colours());
     painter.end();
-    const QPointF corner = place.mapRect(QRectF(seen)).topLeft();
-    canvas.painter().drawImage(corner, image.transformed(turn()));
+    const QRectF turned = canvas.painter().worldTransform().mapRect(place.mapRect(QRectF(seen)));
+    drawPixels(canvas.painter(), turned.topLeft().toPoint(), image.transformed(turn()));
 }
 
 /// Fills the outlines of the letters: each stands exactly where it belongs, so that a slanted line of text
 /// does not dance.
 void TextBlock::Layout::drawOutlines(Canvas& canvas, const QTransform& place) const {
     QPainter& painter = canvas.painter();
+    // Letters that begin far outside leave no mark; a long text is not filled for nothing.
+    const QRectF picture = place.inverted().mapRect(QRectF(0, 0, canvas.width(), canvas.height()));
     painter.save();
     painter.setTransform(QTransform::fromTranslate(textCorner.x(), textCorner.y()) * place, true);
     painter.setRenderHint(QPainter::Antialiasing);
-    // Letters that begin far outside leave no mark; a long text is not filled for nothing.
-    const QRectF picture = place.inverted().mapRect(QRectF(0, 0, canvas.width(), canvas.height()));
     painter.setPen(Qt::NoPen);
     for (const GlyphPiece& piece : text.pieces) {
         if (canvas.colours().invisible(piece.colour))

@@ -1,5 +1,6 @@
-// chart-gallery DIR [FONT-SCALE]: draws every family of charts. Each family becomes a sheet DIR/FAMILY.png of
-// all its charts with their captions, and each chart a file DIR/FAMILY/NN.png of its own.
+// chart-gallery DIR [FONT-SCALE [SCALE]]: draws every family of charts, with larger fonts or all of it
+// larger. Each family becomes a sheet DIR/FAMILY.png of all its charts with their captions, and each chart a
+// file DIR/FAMILY/NN.png of its own.
 
 #include "tools/gallery/gallery.h"
 
@@ -26,12 +27,14 @@ std::map<std::string, std::vector<Case>>& families() {
 }
 
 double fontScale = 1;
+double drawingScale = 1;
 
 QImage picture(const Case& entry) {
     BaseChart* chart = entry.make();
     const char* bytes = nullptr;
     int length = 0;
-    CBaseChart_makeChart2(chart, CHART_FORMAT_BMP, &bytes, &length);
+    const int scale = static_cast<int>(drawingScale * int{CHART_SCALE_UNIT});
+    CBaseChart_makeChart2(chart, CHART_FORMAT_BMP + 256 * scale, &bytes, &length);
     QImage image = QImage::fromData(reinterpret_cast<const uchar*>(bytes), length, "BMP");
     CBaseChart_destroy(chart);
     return image;
@@ -107,7 +110,7 @@ const char* sampleImage() {
 
 int main(int argc, char** argv) {
     if (argc < 2) {
-        std::fprintf(stderr, "usage: chart-gallery DIR [FONT-SCALE]\n");
+        std::fprintf(stderr, "usage: chart-gallery DIR [FONT-SCALE [SCALE]]\n");
         return 2;
     }
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
@@ -115,6 +118,8 @@ int main(int argc, char** argv) {
     const QGuiApplication application(argc, argv);
     if (argc > 2)
         gallery::fontScale = std::clamp(QString::fromLocal8Bit(argv[2]).toDouble(), 0.1, 10.0);
+    if (argc > 3)
+        gallery::drawingScale = std::clamp(QString::fromLocal8Bit(argv[3]).toDouble(), 0.1, 10.0);
     const QDir target(QString::fromLocal8Bit(argv[1]));
     bool good = target.mkpath(".");
     for (const auto& [name, cases] : gallery::families())

@@ -222,15 +222,16 @@ enum {
 
 /** Further codes, each named with the function that takes it. */
 enum {
-    CHART_FORMAT_BMP = 4,    /**< CBaseChart_makeChart2: a bitmap file */
-    CHART_GLARE_REDUCED = 2, /**< CChart_glassEffect */
-    CHART_GLARE_NORMAL = 3,  /**< CChart_glassEffect */
-    CHART_ORIGIN_XY = 3,     /**< CXYChart_setAxisAtOrigin: both axes through the origin */
-    CHART_SYMMETRIC_XY = 5,  /**< CXYChart_setAxisAtOrigin: both axes symmetric about 0 */
-    CHART_UP_DOWN = 2,       /**< CHLOCLayer_setColorMethod: by the close before */
-    CHART_SCALE_PIXELS = 0,  /**< the symbol scale functions */
-    CHART_SIDE_LAYOUT = 0,   /**< CPieChart_setLabelLayout: in two columns */
-    CHART_CIRCLE_LAYOUT = 1  /**< CPieChart_setLabelLayout: around the pie */
+    CHART_FORMAT_BMP = 4,     /**< CBaseChart_makeChart2: a bitmap file */
+    CHART_SCALE_UNIT = 65536, /**< CBaseChart_makeChart2: the scale of a picture at natural size */
+    CHART_GLARE_REDUCED = 2,  /**< CChart_glassEffect */
+    CHART_GLARE_NORMAL = 3,   /**< CChart_glassEffect */
+    CHART_ORIGIN_XY = 3,      /**< CXYChart_setAxisAtOrigin: both axes through the origin */
+    CHART_SYMMETRIC_XY = 5,   /**< CXYChart_setAxisAtOrigin: both axes symmetric about 0 */
+    CHART_UP_DOWN = 2,        /**< CHLOCLayer_setColorMethod: by the close before */
+    CHART_SCALE_PIXELS = 0,   /**< the symbol scale functions */
+    CHART_SIDE_LAYOUT = 0,    /**< CPieChart_setLabelLayout: in two columns */
+    CHART_CIRCLE_LAYOUT = 1   /**< CPieChart_setLabelLayout: around the pie */
 };
 
 /* ---- Charts --------------------------------------------------------------------------------------- */
@@ -327,10 +328,12 @@ CHARTDRAW_API LegendBox* CBaseChart_getLegend(BaseChart* chart);
 CHARTDRAW_API DrawArea* CBaseChart_getDrawArea(BaseChart* chart);
 /**
  * Draws the chart and gives the picture as a file image. format: CHART_FORMAT_BMP, a bitmap file of 24 bits
- * a pixel, rows bottom up and padded to 4 bytes, the 14-byte file header included. data: the bytes, which
- * belong to the chart and stay until the next change of it. length: their number. Both may be null. A call
- * without a change since the last one draws nothing anew. False, null and 0 where there is no picture:
- * another format, no area, over 16384 pixels a side.
+ * a pixel, rows bottom up and padded to 4 bytes, the 14-byte file header included. For screens of fine
+ * pixels, CHART_FORMAT_BMP + 256 * scale draws all of the chart, lines, texts and symbols, larger or smaller:
+ * scale is in parts of CHART_SCALE_UNIT, 1 to 127 times it. What the chart says of itself keeps its pixels.
+ * data: the bytes, which belong to the chart and stay until the next change of it. length: their number. Both
+ * may be null. A call without a change since the last one draws nothing anew. False, null and 0 where there
+ * is no picture: another format, no area, over 16384 pixels a side.
  */
 CHARTDRAW_API bool CBaseChart_makeChart2(BaseChart* chart, int format, const char** data, int* length);
 /**

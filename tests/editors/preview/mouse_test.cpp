@@ -63,16 +63,6 @@ TEST(Mouse, APictureNoLargerThanThePaneCannotBeSwitched) {
     EXPECT_FALSE(view.m_fitMode);
 }
 
-TEST(Mouse, SamplesCannotBeSwitched) {
-    TestView view({200, 150}, {400, 300}); // leaves the size of a large picture
-    view.SetSampleColor(CChartColor());
-    view.RefreshPreview();
-    view.Pane();
-    doubleClick(view);
-    EXPECT_FALSE(view.m_fitMode);
-    EXPECT_EQ(rightClick(view), nullptr);
-}
-
 TEST(Mouse, RightButtonOpensTheMenuOfModes) {
     TestView view({200, 150}, {400, 300});
     for (const bool fit : {true, false}) {
@@ -91,13 +81,6 @@ TEST(Mouse, RightButtonOpensTheMenuOfModes) {
         EXPECT_EQ(view.m_fitMode, !fit);
         QCoreApplication::processEvents();
     }
-}
-
-TEST(Mouse, CommandsOfOthersAreIgnored) {
-    TestView view({200, 150}, {400, 300});
-    view.OnCommand(scrollModeCommand);
-    view.OnCommand(0);
-    EXPECT_FALSE(view.m_fitMode);
 }
 
 TEST(Mouse, DragMovesThePictureWithinItsRange) {
@@ -119,52 +102,6 @@ TEST(Mouse, DragMovesThePictureWithinItsRange) {
     move(view, {100, 100});
     EXPECT_EQ(view.Scroll(), view.ScrollRange());
     EXPECT_TRUE(recording.Lines().empty()) << recording.Lines()[0]; // all of it comes from the one picture
-}
-
-TEST(Mouse, OtherButtonsAndFitModeDoNotDrag) {
-    TestView view({200, 150}, {400, 300});
-    mouse(QTest::mousePress, view, Qt::LeftButton, {50, 50});
-    view.OnCommand(scrollModeCommand);
-    move(view, {20, 20});
-    EXPECT_EQ(view.Scroll(), QPoint(0, 0));
-    mouse(QTest::mouseRelease, view, Qt::LeftButton, {20, 20});
-    mouse(QTest::mousePress, view, Qt::MiddleButton, {50, 50});
-    move(view, {20, 20});
-    EXPECT_EQ(view.Scroll(), QPoint(0, 0));
-    mouse(QTest::mouseRelease, view, Qt::MiddleButton, {20, 20});
-}
-
-TEST(Mouse, CursorIsTheHandOfTheDrag) {
-    TestView view({200, 150}, {400, 300});
-    const auto hotSpot = [&] { return view.viewport()->cursor().hotSpot(); };
-    EXPECT_EQ(view.viewport()->cursor().shape(), Qt::ArrowCursor);
-    view.OnCommand(scrollModeCommand);
-    ASSERT_EQ(view.viewport()->cursor().shape(), Qt::BitmapCursor);
-    EXPECT_EQ(view.viewport()->cursor().bitmap().size(), QSize(32, 32));
-    EXPECT_EQ(hotSpot(), QPoint(15, 15));
-    mouse(QTest::mousePress, view, Qt::LeftButton, {50, 50});
-    EXPECT_EQ(hotSpot(), QPoint(16, 16));
-    mouse(QTest::mouseRelease, view, Qt::LeftButton, {50, 50});
-    EXPECT_EQ(hotSpot(), QPoint(15, 15));
-    view.OnCommand(fitModeCommand);
-    EXPECT_EQ(view.viewport()->cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST(Mouse, EachButtonTakesTheFocus) {
-    QWidget window;
-    QVBoxLayout layout(&window);
-    QLineEdit edit;
-    CChartPreviewView view;
-    layout.addWidget(&edit);
-    layout.addWidget(&view);
-    window.show();
-    window.activateWindow();
-    ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
-    for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton}) {
-        edit.setFocus();
-        QTest::mouseClick(window.windowHandle(), button, {}, view.geometry().center());
-        EXPECT_TRUE(view.hasFocus()) << button;
-    }
 }
 
 } // namespace

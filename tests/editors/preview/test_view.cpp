@@ -55,7 +55,7 @@ TestView::TestView(QSize pane, QSize picture) {
 }
 
 void TestView::ResizePane(QSize pane) {
-    resize(pane + QSize(2, 2));
+    resize(pane + QSize(2, 2) * frameWidth());
 }
 
 QImage TestView::Pane() {

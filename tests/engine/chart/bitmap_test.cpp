@@ -3,6 +3,7 @@
 #include "tests/engine/chart/picture.h"
 
 #include <QTemporaryDir>
+#include <cmath>
 #include <cstring>
 #include <functional>
 #include <limits>
@@ -186,6 +187,41 @@ TEST(Wallpaper, StandsWhereItsAlignmentSays) {
                   QRect(row.corner, image.size()))
             << row.alignment;
     }
+}
+
+/// A white chart of 40 by 30 with a box, a line and a text.
+BaseChart* sketch() {
+    BaseChart* chart = PieChart2BaseChart(CPieChart_create(40, 30, 0xffffff, CHART_TRANSPARENT, 0));
+    TextBox* box = CBaseChart_addText(chart, 10, 10, "  ", "normal", 8, 0, 7, 0, false);
+    CBox_setBackground(TextBox2Box(box), 0xff0000, 0x0000ff, 0);
+    CBaseChart_addLine(chart, 3, 5, 36, 5, 0x008000, 1);
+    return chart;
+}
+
+TEST(Bitmap, IsDrawnAtAScaleWithCrispLines) {
+    BaseChart* natural = sketch();
+    const QRect box = pictures::boundsOf(pictures::of(natural), 0x0000ffu);
+    for (const double scale : {0.75, 1.0, 1.5, 2.0}) {
+        BaseChart* chart = sketch();
+        const Bytes file(chart, CHART_FORMAT_BMP + 256 * static_cast<int>(scale * int{CHART_SCALE_UNIT}));
+        ASSERT_TRUE(file.made) << scale;
+        const QImage image = QImage::fromData(reinterpret_cast<const uchar*>(file.data), file.length, "BMP");
+        EXPECT_EQ(image.size(), QSize(qRound(40 * scale), qRound(30 * scale)));
+        const auto at = [scale](int place) { return static_cast<int>(std::floor(place * scale + 0.5)); };
+        const QRect line = pictures::boundsOf(image, 0x008000u);
+        EXPECT_EQ(line, QRect(at(3), at(5), at(37) - at(3), std::max(1, qRound(scale)))) << scale;
+        const QRect drawn = pictures::boundsOf(image, 0x0000ffu);
+        EXPECT_EQ(drawn.topLeft(), QPoint(at(box.left()), at(box.top()))) << scale;
+        EXPECT_EQ(drawn.bottomRight(), QPoint(at(box.right() + 1) - 1, at(box.bottom() + 1) - 1)) << scale;
+        EXPECT_EQ(CDrawArea_getWidth(CBaseChart_getDrawArea(chart)), 40);
+        EXPECT_NE(Bytes(chart).length, scale == 1 ? 0 : file.length) << "at natural size again";
+        CBaseChart_destroy(chart);
+    }
+    BaseChart* chart = sketch();
+    for (const int format :
+         {CHART_FORMAT_BMP - (1 << 30), 5 + (1 << 24)})
+        EXPECT_FALSE(Bytes(chart, format).made) << format;
+    CBaseChart_destroy(chart);
 }
 
 } // namespace
