@@ -1,7 +1,7 @@
 // The search of 500 font files, TrueType and collections, in one folder and its subfolders.
 
 #include "editors/font/font_catalogue.h"
-#include "editors/font/font_folders.h"
+#include "platform/fonts/font_files.h"
 
 #include <QDir>
 #include <QFile>
@@ -14,7 +14,7 @@ constexpr int kFiles = 500;
 
 /// Links to the fonts of this computer, under other names, as often as it takes.
 bool LinkFonts(const QString& folder) {
-    static const QStringList real = FindFontFiles(); // before the folders are other ones
+    static const QStringList real = platform::FindFontFiles({"*.tt*"}); // before the folders are other ones
     for (int i = 0; i < kFiles && !real.isEmpty(); ++i) {
         const QString& font = real[i % real.size()];
         const QString place = folder + QStringLiteral("/fonts/%1").arg(i % 20);

@@ -11,6 +11,8 @@
 #include <charteditors/polar_chart.h>
 #include <charteditors/xy_chart.h>
 
+#include <algorithm>
+
 /// What a preview shows; it picks the drawing routine.
 enum PreviewKind {
     PreviewColor = 0,
@@ -24,6 +26,12 @@ enum PreviewKind {
     PreviewLinearMeter = 8,
     PreviewPolarChart = 9
 };
+
+/// The format of a picture drawn at a scale, for CBaseChart_makeChart2.
+inline int PictureFormatAt(double scale) {
+    const double units = scale * int{CHART_SCALE_UNIT} + 0.5;
+    return scale == 1 ? int{CHART_FORMAT_BMP} : CHART_FORMAT_BMP + 256 * std::max(1, static_cast<int>(units));
+}
 
 /// The data of a preview. Routines read the models and leave the picture, by StorePicture.
 class CChartPreview {

@@ -57,6 +57,7 @@ void DrawFontSample(CChartPreview& view) {
     TextBox* title = CBaseChart_addTitle(chart, CUtf8Text(font.m_faceName), CUtf8Text(font.m_fileName),
                                          font.m_size, 0, 0xffffff, CHART_TRANSPARENT);
     CTextBox_setMargin(title, 0);
+    CTextBox_setAlignment(title, 4); // a long name is cut at its end, not at both
     Box* box = TextBox2Box(title);
     CBox_setPos(box, 0, (view.ClientHeight() - CBox_getHeight(box)) / 2);
     PaintChart(view, chart);

@@ -39,7 +39,7 @@ compile() {
     fi
 }
 objects=()
-for source in engine/{object,data,scale,paint,text}/*.cpp; do
+for source in platform/fonts/*.cpp engine/{object,data,scale,paint,text}/*.cpp; do
     compile "$source"
     objects+=("$build/$(tr / _ <<<"${source%.cpp}").o")
 done

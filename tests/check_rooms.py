@@ -8,7 +8,7 @@ import re
 import sys
 
 FLOORS = [
-    ["platform", "resources"],
+    ["platform", "platform/fonts", "resources"],
     ["platform/widgets"],
     ["engine"],
     ["model"],
@@ -54,7 +54,7 @@ def fault(path, included, public):
         return None
     if room in HOSTS and not public:
         return f"{room} is a host: public headers only"
-    if room == "engine" and not public or there >= here:
+    if room == "engine" and other != "platform/fonts" and not public or there >= here:
         return f"{room} stands below or beside {other}"
     return None
 

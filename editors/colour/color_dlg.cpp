@@ -1,6 +1,8 @@
 #include "editors/colour/color_dlg.h"
 
 #include "editors/colour/color_message.h"
+#include "editors/colour/color_text.h"
+#include "editors/framework/mnemonics.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/quiet_combo.h"
 
@@ -17,9 +19,10 @@ constexpr int kTypes = 3;
 } // namespace
 
 CColorDlg::CColorDlg()
-    : CDialog(QStringLiteral("Select Color")), m_preview(new CChartPreviewView(this)),
-      m_type(new CQuietCombo(this)), m_pages(new QStackedWidget(this)), m_custom(new CCustomColorCtrl(this)),
-      m_general(this), m_pattern(this), m_metal(this) {
+    : CDialog(QStringLiteral("Select Color")), m_before(new CChartPreviewView(this)),
+      m_preview(new CChartPreviewView(this)), m_type(new CQuietCombo(this)),
+      m_pages(new QStackedWidget(this)), m_custom(new CCustomColorCtrl(this)),
+      m_recent(new CRecentColorCtrl(this)), m_general(this), m_pattern(this), m_metal(this) {
     m_color.m_color = 0xFFFFFF;
     m_color.m_direction = 90;
     connect(m_type, &QComboBox::activated, this, [this](int type) {
@@ -27,30 +30,49 @@ CColorDlg::CColorDlg()
         ShowPage();
         ComposeColor();
     });
+    LayOut();
+    connect(this, &QDialog::accepted, this, [this] { CRecentColorCtrl::Remember(m_color); });
 }
 
 void CColorDlg::LayOut() {
+    for (CDialog* page : {static_cast<CDialog*>(&m_general), static_cast<CDialog*>(&m_pattern),
+                          static_cast<CDialog*>(&m_metal)}) {
+        page->Create(m_pages);
+        m_pages->addWidget(page);
+    }
+    m_pages->addWidget(new QWidget); // for a type that has no page
     m_type->addItems({QStringLiteral("General"), QStringLiteral("Pattern"), QStringLiteral("Metal")});
     m_type->setObjectName(QStringLiteral("Type"));
     m_type->setAccessibleName(QStringLiteral("Type"));
-    m_preview->setObjectName(QStringLiteral("Sample"));
-    m_preview->setAccessibleName(QStringLiteral("Sample"));
-    m_preview->setFocusPolicy(Qt::NoFocus);
     const int line = fontMetrics().height();
-    m_preview->setFixedSize(line * 10, line * 3);
+    for (const auto& [view, name] : {std::pair(m_before, "Before"), std::pair(m_preview, "Sample")}) {
+        view->setObjectName(QString::fromUtf8(name));
+        view->setFocusPolicy(Qt::NoFocus);
+        view->setFixedSize(line * 5, line * 3);
+    }
+    m_before->viewport()->installEventFilter(this);
+    m_before->viewport()->setCursor(Qt::PointingHandCursor);
 
     auto* type = new QLabel(QStringLiteral("&Type:"), this);
     type->setBuddy(m_type);
     auto* custom = new QLabel(QStringLiteral("&Custom:"), this);
     custom->setBuddy(m_custom);
+    auto* recent = new QLabel(QStringLiteral("R&ecent:"), this);
+    recent->setBuddy(m_recent);
+    auto* samples = new QHBoxLayout;
+    samples->setSpacing(0); // beside each other, to compare them
+    samples->addWidget(m_before);
+    samples->addWidget(m_preview);
 
     auto* left = new QVBoxLayout;
     left->addWidget(type);
     left->addWidget(m_type);
     left->addWidget(new QLabel(QStringLiteral("Sample:"), this));
-    left->addWidget(m_preview);
+    left->addLayout(samples);
     left->addWidget(custom);
     left->addWidget(m_custom, 1);
+    left->addWidget(recent);
+    left->addWidget(m_recent);
     auto* grid = new QGridLayout(this);
     grid->addLayout(left, 0, 0);
     grid->addWidget(m_pages, 0, 1);
@@ -59,22 +81,32 @@ void CColorDlg::LayOut() {
 }
 
 bool CColorDlg::OnInitDialog() {
-    m_typeIndex = m_color.m_type;
-    m_general.SetColor(m_color.m_color);
-    m_pattern.SetPath(m_color.m_patternFile);
-    m_metal.SetColor(m_color.m_color);
-    m_metal.SetAngle(m_color.m_direction);
-    for (CDialog* page : {static_cast<CDialog*>(&m_general), static_cast<CDialog*>(&m_pattern),
-                          static_cast<CDialog*>(&m_metal)}) {
-        page->Create(m_pages);
-        m_pages->addWidget(page);
-    }
-    m_pages->addWidget(new QWidget); // for a type that has no page
-    LayOut();
-    m_type->setCurrentIndex(m_typeIndex < kTypes ? m_typeIndex : -1);
+    m_old = m_color;
+    m_before->SetSampleColor(m_old);
+    m_before->viewport()->setToolTip(QStringLiteral("Before: ") + ColorText(m_old));
+    m_before->setAccessibleName(m_before->viewport()->toolTip());
+    Take(m_color);
+    AssignMnemonics(*this);
+    return CDialog::OnInitDialog();
+}
+
+void CColorDlg::Take(const CChartColor& color) {
+    m_color = color;
+    m_typeIndex = color.m_type;
+    m_general.SetColor(color.m_color);
+    m_pattern.SetPath(color.m_patternFile);
+    m_metal.SetColor(color.m_color);
+    m_metal.SetAngle(color.m_direction);
+    m_type->setCurrentIndex(m_typeIndex >= 0 && m_typeIndex < kTypes ? m_typeIndex : -1);
     ShowPage();
     ShowSample();
-    return CDialog::OnInitDialog();
+}
+
+/// A click on the colour from before takes it back.
+bool CColorDlg::eventFilter(QObject* watched, QEvent* event) {
+    if (watched == m_before->viewport() && event->type() == QEvent::MouseButtonRelease)
+        Take(m_old);
+    return CDialog::eventFilter(watched, event);
 }
 
 void CColorDlg::ShowPage() {
@@ -84,6 +116,8 @@ void CColorDlg::ShowPage() {
 void CColorDlg::ShowSample() {
     m_preview->SetSampleColor(m_color);
     m_preview->RefreshPreview();
+    m_preview->viewport()->setToolTip(ColorText(m_color));
+    m_preview->setAccessibleName(QStringLiteral("Sample, ") + ColorText(m_color));
 }
 
 void CColorDlg::ComposeColor() {
@@ -111,6 +145,11 @@ void CColorDlg::OnFieldChanged(int message) {
         m_color = CCustomColorCtrl::Colors()[static_cast<std::size_t>(m_custom->Selected())];
         ShowSample();
         break;
+    case RecentChosen: {
+        const CChartColor chosen = CRecentColorCtrl::Colors()[static_cast<std::size_t>(m_recent->Selected())];
+        Take(chosen);
+        break;
+    }
     case ColorChanged:
         ComposeColor();
         break;

@@ -39,6 +39,11 @@ CColorPatternPage::CColorPatternPage(QWidget* owner) : m_owner(owner), m_edit(ne
     grid->addWidget(add, 3, 0, 1, 3, Qt::AlignRight);
 }
 
+void CColorPatternPage::SetPath(const CChartString& path) {
+    m_path = path;
+    UpdateData(false);
+}
+
 bool CColorPatternPage::DoDataExchange(bool read) {
     if (!read) {
         const QString path = platform::NarrowToText(m_path.data());

@@ -5,13 +5,17 @@
 #include "platform/widgets/dialog.h"
 #include "resources/string_table.h"
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QGridLayout>
 #include <QLabel>
+#include <QListView>
 #include <QScreen>
 #include <QVBoxLayout>
+#include <algorithm>
 
 namespace {
 
@@ -46,6 +50,7 @@ CImageFileDlg::CImageFileDlg() : m_preview(new CChartPreviewView(this)) {
     setObjectName(windowTitle());
     setNameFilters(NameFilters());
     PlacePreview();
+    TidyUp();
     connect(this, &QFileDialog::currentChanged, this, [this](const QString& path) {
         if (QFileInfo(path).isFile()) {
             m_preview->SetSampleImage(ModelPath(path));
@@ -58,6 +63,7 @@ void CImageFileDlg::PlacePreview() {
     m_preview->setObjectName(QStringLiteral("Preview"));
     m_preview->setAccessibleName(QStringLiteral("Preview"));
     m_preview->setFocusPolicy(Qt::NoFocus);
+    m_preview->SetSampleImage({}); // an empty picture until a file is selected
     const int line = fontMetrics().height();
     m_preview->setMinimumSize(line * 12, line * 12);
     auto* pane = new QWidget(this);
@@ -75,6 +81,26 @@ void CImageFileDlg::PlacePreview() {
         layout()->addWidget(pane);
     }
     resize(QSize(line * 48, line * 26).boundedTo(screen()->availableSize() * 9 / 10));
+}
+
+/// The toolkit's own parts, known by their names: nothing of them is cut off, and what makes folders goes.
+void CImageFileDlg::TidyUp() {
+    if (auto* kinds = findChild<QComboBox*>(QStringLiteral("fileTypeCombo"))) {
+        kinds->setSizeAdjustPolicy(QComboBox::AdjustToContents);
+        kinds->setMinimumWidth(kinds->sizeHint().width());
+    }
+    if (auto* places = findChild<QListView*>(QStringLiteral("sidebar"))) {
+        int width = 0;
+        for (int row = 0; row < places->model()->rowCount(); ++row)
+            width = std::max(width, places->sizeHintForIndex(places->model()->index(row, 0)).width());
+        places->setMinimumWidth(width + 2 * places->frameWidth() + fontMetrics().averageCharWidth() * 2);
+    }
+    if (auto* newFolder = findChild<QWidget*>(QStringLiteral("newFolderButton")))
+        newFolder->hide();
+    for (QAction* action : findChildren<QAction*>(QStringLiteral("qt_new_folder_action"))) {
+        action->setEnabled(false);
+        action->setVisible(false);
+    }
 }
 
 void CImageFileDlg::SetInitialFile(const CChartString& path) {

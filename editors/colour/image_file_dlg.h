@@ -21,6 +21,7 @@ public:
 
 private:
     void PlacePreview();
+    void TidyUp();
 
     CChartPreviewView* m_preview;
 };

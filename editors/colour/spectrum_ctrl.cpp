@@ -38,6 +38,7 @@ XColorSpectrumCtrl::XColorSpectrumCtrl() {
 
 void XColorSpectrumCtrl::Create(QWidget* parent, int id, std::uint32_t color, int tooltipFormat) {
     setParent(parent);
+    m_owner = parent;
     m_id = id;
     m_tooltipFormat = tooltipFormat;
     SetRGB(color);
@@ -62,9 +63,9 @@ void XColorSpectrumCtrl::Show() {
 }
 
 void XColorSpectrumCtrl::Notify(const char* message) {
-    if (parentWidget() != nullptr && m_color != 0xFFFFFFFF) {
+    if (m_owner != nullptr && m_color != 0xFFFFFFFF) {
         CSpectrumEvent event(message, m_color, m_id);
-        QCoreApplication::sendEvent(parentWidget(), &event);
+        QCoreApplication::sendEvent(m_owner, &event);
     }
 }
 

@@ -6,14 +6,15 @@
 #include <QImage>
 #include <QWidget>
 
-/// Colours are 0x00BBGGRR. What a person does sends the parent the events of spectrum_event.h; the colour
+/// Colours are 0x00BBGGRR. What a person does sends the owner the events of spectrum_event.h; the colour
 /// 0xFFFFFFFF is never sent.
 class XColorSpectrumCtrl : public QWidget {
 public:
     XColorSpectrumCtrl();
 
-    /// Makes the control a child of `parent`. `tooltipFormat` says how the tool tip writes the colour under
-    /// the pointer: 0 no tool tip, 2 "#RRGGBB", 3 "BBGGRR", 4 HSL, any other RGB.
+    /// Makes the control a child of `parent`, which gets its events for good. `tooltipFormat` says how the
+    /// tool tip writes the colour under the pointer: 0 no tool tip, 2 "#RRGGBB", 3 "BBGGRR", 4 HSL, any other
+    /// RGB.
     void Create(QWidget* parent, int id, std::uint32_t color, int tooltipFormat);
 
     std::uint32_t GetRGB() const { return m_color; }
@@ -55,6 +56,7 @@ private:
     Hsl m_hsl{};
     Part m_focus = Part::None;
     Part m_drag = Part::None;
+    QWidget* m_owner = nullptr;
     int m_id = 0;
     int m_tooltipFormat = 0;
 };

@@ -6,5 +6,5 @@
 #include <QImage>
 
 /// The sample of a colour, as the preview pane shows it: over a chequer board, in a frame. Null if there is
-/// no room for it. Draws a chart, so keep what comes back.
-QImage MakeSwatch(const CChartColor& color, QSize size);
+/// no room for it. Draws a chart, so keep what comes back. `ratio`: pixels of the screen to one of `size`.
+QImage MakeSwatch(const CChartColor& color, QSize size, double ratio = 1);

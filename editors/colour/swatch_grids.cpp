@@ -1,8 +1,8 @@
 #include "editors/colour/swatch_grids.h"
 
+#include "editors/colour/color_text.h"
 #include "editors/colour/palettes.h"
 #include "editors/colour/swatch.h"
-#include "platform/narrow_text.h"
 #include "platform/widgets/field_changed.h"
 
 #include <QHelpEvent>
@@ -29,19 +29,8 @@ void DrawFrame(QPainter& painter, const QRect& cell, int distance, const QColor&
 
 } // namespace
 
-QString ColorText(const CChartColor& color) {
-    if (color.m_type == 1)
-        return QStringLiteral("Pattern: ") + platform::NarrowToText(color.m_patternFile.data());
-    const auto byte = [&](int shift) { return static_cast<int>(color.m_color >> shift & 0xFF); };
-    const QString text =
-        QString::asprintf("R: %d, G: %d, B: %d, A: %d", byte(16), byte(8), byte(0), byte(24));
-    return color.m_type == 2
-               ? QStringLiteral("Metal, ") + text + QString::asprintf(", Angle: %d", color.m_direction)
-               : text;
-}
-
 CSwatchGrid::CSwatchGrid(QWidget* parent, GridShape shape)
-    : QWidget(parent), m_shape(shape), m_cache(static_cast<std::size_t>(shape.Count())) {
+    : QWidget(parent), m_owner(parent), m_shape(shape), m_cache(static_cast<std::size_t>(shape.Count())) {
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
@@ -59,8 +48,9 @@ QSize CSwatchGrid::sizeHint() const {
 const QImage& CSwatchGrid::SwatchOf(int index, QSize size) {
     Cached& cached = m_cache[static_cast<std::size_t>(index)];
     const CChartColor color = CellColor(index);
-    if (cached.image.size() != size || !Same(cached.color, color))
-        cached = {.color = color, .image = MakeSwatch(color, size)};
+    const QSize pixels = size * devicePixelRatioF();
+    if (cached.image.size() != pixels || !Same(cached.color, color))
+        cached = {.color = color, .image = MakeSwatch(color, size, devicePixelRatioF())};
     return cached.image;
 }
 
@@ -69,7 +59,10 @@ void CSwatchGrid::paintEvent(QPaintEvent* /*event*/) {
     painter.fillRect(rect(), palette().color(QPalette::Button));
     for (int i = 0; i < m_shape.Count(); ++i) {
         const QRect cell = m_shape.CellRect(i, size());
-        painter.drawImage(cell.topLeft(), SwatchOf(i, cell.size()));
+        if (HasCell(i))
+            painter.drawImage(cell.topLeft(), SwatchOf(i, cell.size()));
+        else
+            DrawFrame(painter, cell, 0, palette().color(QPalette::Mid));
         if (i == m_cursor && hasFocus())
             for (int distance = 1; distance <= m_shape.margin; ++distance)
                 DrawFrame(painter, cell, distance, palette().color(QPalette::Highlight));
@@ -94,7 +87,7 @@ void CSwatchGrid::leaveEvent(QEvent* /*event*/) {
 
 void CSwatchGrid::mouseReleaseEvent(QMouseEvent* event) {
     const int hit = m_shape.HitTest(event->position().toPoint(), size());
-    if (event->button() == Qt::LeftButton && hit >= 0) {
+    if (event->button() == Qt::LeftButton && hit >= 0 && HasCell(hit)) {
         SetCursorCell(hit);
         Choose(hit);
     }
@@ -105,7 +98,7 @@ bool CSwatchGrid::event(QEvent* event) {
     if (event->type() == QEvent::ToolTip) {
         const auto* help = static_cast<QHelpEvent*>(event);
         const int hit = m_shape.HitTest(help->pos(), size());
-        if (hit >= 0) {
+        if (hit >= 0 && HasCell(hit)) {
             QToolTip::showText(help->globalPos(), ColorText(CellColor(hit)), this,
                                m_shape.CellRect(hit, size()));
         } else {
@@ -120,8 +113,22 @@ bool CSwatchGrid::event(QEvent* event) {
 
 void CSwatchGrid::SetCursorCell(int index) {
     m_cursor = index;
-    setAccessibleDescription(ColorText(CellColor(index)));
+    setAccessibleDescription(CellText(index));
     update();
+}
+
+QString CSwatchGrid::CellText(int index) const {
+    const QString color = HasCell(index) ? ColorText(CellColor(index)) : QStringLiteral("empty");
+    return QStringLiteral("%1, row %2 of %3, column %4 of %5")
+        .arg(color)
+        .arg(index / m_shape.columns + 1)
+        .arg(m_shape.rows)
+        .arg(index % m_shape.columns + 1)
+        .arg(m_shape.columns);
+}
+
+void CSwatchGrid::Tell(int message) const {
+    SendFieldChanged(m_owner, message);
 }
 
 void CSwatchGrid::focusInEvent(QFocusEvent* event) {
@@ -155,7 +162,8 @@ void CSwatchGrid::keyPressEvent(QKeyEvent* event) {
     case Qt::Key_Space:
     case Qt::Key_Return:
     case Qt::Key_Enter:
-        Choose(m_cursor);
+        if (HasCell(m_cursor))
+            Choose(m_cursor);
         break;
     default:
         QWidget::keyPressEvent(event);
@@ -164,7 +172,7 @@ void CSwatchGrid::keyPressEvent(QKeyEvent* event) {
     SetCursorCell(next);
 }
 
-// ---- The two grids
+// ---- The grids
 
 CColorPaletteCtrl::CColorPaletteCtrl(QWidget* parent) : CSwatchGrid(parent, {.columns = 8, .rows = 5}) {
     setAccessibleName(QStringLiteral("Palette colors"));
@@ -191,7 +199,7 @@ CChartColor CColorPaletteCtrl::CellColor(int index) const {
 void CColorPaletteCtrl::Choose(int index) {
     if (index != m_selected) {
         m_selected = index;
-        SendFieldChanged(parentWidget(), ColorChanged);
+        Tell(ColorChanged);
     }
 }
 
@@ -223,5 +231,37 @@ CChartColor CCustomColorCtrl::CellColor(int index) const {
 void CCustomColorCtrl::Choose(int index) {
     m_selected = index;
     m_nextSlot = index;
-    SendFieldChanged(parentWidget(), CustomChosen);
+    Tell(CustomChosen);
+}
+
+CRecentColorCtrl::CRecentColorCtrl(QWidget* parent)
+    : CSwatchGrid(parent, {.columns = 4, .rows = kCount / 4}) {
+    setAccessibleName(QStringLiteral("Recent colors"));
+    setObjectName(QStringLiteral("RecentColors"));
+}
+
+std::vector<CChartColor>& CRecentColorCtrl::Colors() {
+    static std::vector<CChartColor> colors;
+    return colors;
+}
+
+void CRecentColorCtrl::Remember(const CChartColor& color) {
+    std::vector<CChartColor>& colors = Colors();
+    std::erase_if(colors, [&](const CChartColor& other) { return Same(other, color); });
+    colors.insert(colors.begin(), color);
+    if (colors.size() > kCount)
+        colors.pop_back();
+}
+
+bool CRecentColorCtrl::HasCell(int index) const {
+    return index < std::ssize(Colors());
+}
+
+CChartColor CRecentColorCtrl::CellColor(int index) const {
+    return Colors()[static_cast<std::size_t>(index)];
+}
+
+void CRecentColorCtrl::Choose(int index) {
+    m_selected = index;
+    Tell(RecentChosen);
 }

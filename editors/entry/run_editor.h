@@ -3,15 +3,13 @@
 // The protocol that all entry functions follow, told once.
 
 #include "platform/module_guard.h"
+#include "platform/widgets/dialog.h"
 
 namespace entry {
 
-/// What DoModal returns when the user pressed OK.
-constexpr int dialogOk = 1;
-
 /// Edits `object` in a dialog of class `Dialog`, which is made without a parent and must have
 /// - `SetObject(object, layout...)`: takes private copies of what it is given,
-/// - `int DoModal()`: runs until the user closes it; anything but dialogOk is a cancel,
+/// - `int DoModal()`: runs until the user closes it; anything but CDialog::kOK is a cancel,
 /// - `const Object& GetObject() const`: the edited copy.
 /// Returns whether the user pressed OK; else, and when an exception passes, `object` is as it was.
 template <class Dialog, class Object, class... Layout>
@@ -21,7 +19,7 @@ bool RunEditor(Object& object, const Layout&... layout) {
         return false;
     Dialog dialog;
     dialog.SetObject(object, layout...);
-    if (dialog.DoModal() != dialogOk)
+    if (dialog.DoModal() != CDialog::kOK)
         return false;
     object = dialog.GetObject();
     return true;

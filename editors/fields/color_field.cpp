@@ -1,6 +1,7 @@
 #include "editors/fields/color_field.h"
 
 #include "editors/colour/color_dlg.h"
+#include "editors/colour/color_text.h"
 #include "editors/fields/field_layout.h"
 #include "editors/preview/chart_preview_view.h"
 #include "resources/string_table.h"
@@ -36,6 +37,7 @@ bool CChartColorField::DoDataExchange(bool read) {
         m_type->setText(m_typeText);
         m_preview->SetSampleColor(m_color);
         m_preview->RefreshPreview();
+        TellValue(*this, ColorText(m_color));
     }
     return true;
 }

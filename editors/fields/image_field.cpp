@@ -3,6 +3,7 @@
 #include "editors/colour/image_file_dlg.h"
 #include "editors/fields/field_layout.h"
 #include "editors/preview/chart_preview_view.h"
+#include "platform/narrow_text.h"
 
 #include <QLabel>
 
@@ -20,6 +21,8 @@ bool CChartImageField::DoDataExchange(bool read) {
     if (!read) {
         m_preview->SetSampleColor(m_pattern);
         m_preview->RefreshPreview();
+        const QString path = platform::NarrowToText(m_pattern.m_patternFile.data());
+        TellValue(*this, path.isEmpty() ? QStringLiteral("no image") : path);
     }
     return true;
 }

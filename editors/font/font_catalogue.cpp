@@ -1,7 +1,7 @@
 #include "editors/font/font_catalogue.h"
 
 #include "editors/font/font_file.h"
-#include "editors/font/font_folders.h"
+#include "platform/fonts/font_files.h"
 #include "platform/narrow_text.h"
 #include "resources/string_table.h"
 
@@ -27,7 +27,7 @@ void LoadFontCatalogue() {
         return;
     g_fontFileToFace.clear();
     g_fontFaceToFile.clear();
-    for (const QString& found : FindFontFiles()) {
+    for (const QString& found : platform::FindFontFiles({QStringLiteral("*.tt*")})) {
         const std::string path = platform::Utf8ToNarrow(found.toStdString());
         const std::string file = path.substr(path.rfind('/') + 1);
         char name[kNameLength];

@@ -138,7 +138,7 @@ bool CFontDlg::DoDataExchange(bool read) {
         if (!good || !std::isfinite(size))
             return false;
         m_faceText = m_faceEdit->text();
-        m_size = RoundTo(size, 2);
+        m_size = std::clamp(RoundTo(size, 2), 1.0, 1000.0); // what can be drawn
         return true;
     }
     for (const auto& [edit, text] :

@@ -1,5 +1,6 @@
 #include "editors/font/font_file.h"
 
+#include "platform/fonts/sfnt.h"
 #include "platform/narrow_text.h"
 
 #include <QByteArray>
@@ -8,18 +9,9 @@
 #include <cstring>
 #include <limits>
 #include <optional>
-#include <span>
-#include <string_view>
 
 namespace {
 
-constexpr unsigned Tag(char a, char b, char c, char d) {
-    return static_cast<unsigned>(a) << 24 | static_cast<unsigned>(b) << 16 | static_cast<unsigned>(c) << 8 |
-           static_cast<unsigned>(d);
-}
-
-constexpr unsigned kCollection = Tag('t', 't', 'c', 'f');
-constexpr unsigned kTrueType = 0x00010000;
 constexpr unsigned kFullName = 4; // name id
 constexpr unsigned kNoLanguage = ~0U;
 constexpr unsigned kEnglish = 1033;
@@ -27,25 +19,7 @@ constexpr unsigned kJapanese = 1041;
 constexpr unsigned kKorean = 1042;
 
 /// The one file that is open.
-std::span<const unsigned char> g_view;
-
-/// Some bytes of the open file, or none if they are not all there.
-std::span<const unsigned char> Bytes(std::uint64_t offset, std::uint64_t length) {
-    if (offset > g_view.size() || length > g_view.size() - offset)
-        return {};
-    return g_view.subspan(static_cast<std::size_t>(offset), static_cast<std::size_t>(length));
-}
-
-std::optional<unsigned> Read16(std::uint64_t offset) {
-    const auto bytes = Bytes(offset, 2);
-    return bytes.empty() ? std::nullopt : std::optional(bytes[0] * 256U + bytes[1]);
-}
-
-std::optional<unsigned> Read32(std::uint64_t offset) {
-    const auto high = Read16(offset);
-    const auto low = Read16(offset + 2);
-    return high && low ? std::optional(*high << 16 | *low) : std::nullopt;
-}
+platform::Sfnt g_open;
 
 class COpenFont {
 public:
@@ -53,42 +27,42 @@ public:
         if (m_file.open(QIODevice::ReadOnly)) {
             const qint64 size = m_file.size();
             if (const uchar* bytes = size > 0 ? m_file.map(0, size) : nullptr)
-                g_view = {bytes, static_cast<std::size_t>(size)};
+                g_open = platform::Sfnt(QByteArrayView(bytes, size));
         }
     }
     COpenFont(const COpenFont&) = delete;
     COpenFont& operator=(const COpenFont&) = delete;
-    ~COpenFont() { g_view = {}; }
+    ~COpenFont() { g_open = platform::Sfnt(); }
 
 private:
     QFile m_file; // takes the view with it
 };
 
 /// The name of the record that the language preference takes; null if there is none or the table is damaged.
-std::optional<QString> NameIn(std::uint64_t table, qsizetype longest) {
+std::optional<QString> NameIn(std::int64_t table, qsizetype longest) {
     const int preference = NameLanguagePreference();
     const unsigned native = preference == 932 ? kJapanese : preference == 949 ? kKorean : kNoLanguage;
-    const auto count = Read16(table + 2);
-    const auto storage = Read16(table + 4);
-    if (!count || !storage)
+    if (g_open.Bytes(table, 6).isEmpty())
         return std::nullopt;
+    const int count = g_open.U16(table + 2);
+    const std::int64_t storage = table + g_open.U16(table + 4);
     std::optional<QString> name;
-    for (unsigned i = 0; i < *count; ++i) {
-        const auto record = Bytes(table + 6 + 12ULL * i, 12);
-        if (record.empty())
+    for (int i = 0; i < count; ++i) {
+        const std::int64_t record = table + 6 + 12 * i;
+        if (g_open.Bytes(record, 12).isEmpty())
             return std::nullopt;
-        const auto field = [record](std::size_t n) { return record[2 * n] * 256U + record[2 * n + 1]; };
+        const auto field = [record](int n) -> unsigned { return g_open.U16(record + 2 * n); };
         const bool candidate = (field(0) == 0 || field(0) == 3) && field(3) == kFullName;
         const bool taken = field(2) == native || (field(2) == kEnglish && !name);
         if (!candidate || !taken)
             continue;
-        const unsigned length = field(4);
-        const auto text = Bytes(table + *storage + field(5), length);
-        if (text.size() != length)
+        const int length = static_cast<int>(field(4));
+        const std::int64_t text = storage + field(5);
+        if (g_open.Bytes(text, length).size() != length)
             return std::nullopt;
         QString units;
-        for (std::size_t at = 0; at + 1 < text.size() && units.size() < longest; at += 2)
-            units += QChar(static_cast<char16_t>(text[at] * 256U + text[at + 1]));
+        for (int at = 0; at + 1 < length && units.size() < longest; at += 2)
+            units += QChar(g_open.U16(text + at));
         name = units;
     }
     return name;
@@ -115,34 +89,16 @@ int NameLanguagePreference() {
 }
 
 int FindTable(int faceIndex, unsigned tag, int* faceCount) {
-    std::uint64_t face = 0; // where its header is
-    const auto version = Read32(0);
-    if (version == kCollection) {
-        const auto count = Read32(8);
-        // No more faces than there is room for their offsets.
-        if (!count || Bytes(12, 4ULL * *count).size() != 4ULL * *count ||
-            *count > std::numeric_limits<int>::max() / 4)
-            return -1;
-        *faceCount = static_cast<int>(*count);
-        if (faceIndex < 0 || faceIndex >= *faceCount)
-            return -1;
-        face = Read32(12 + 4ULL * static_cast<unsigned>(faceIndex)).value_or(0);
-        if (Read32(face) != kTrueType)
-            return -1;
-    } else if (version == kTrueType) {
-        *faceCount = 1;
-    } else {
+    const bool collection = g_open.U32(0) == platform::SfntTag("ttcf");
+    if (!collection && g_open.U32(0) != platform::kTrueType)
         return -1;
-    }
-    const unsigned tables = Read16(face + 4).value_or(0);
-    for (unsigned i = 0; i < tables; ++i) {
-        const std::uint64_t entry = face + 12 + 16ULL * i;
-        const auto offset = Read32(entry + 8);
-        if (!offset)
-            return -1;
-        if (Read32(entry) == tag)
-            return *offset <= std::numeric_limits<int>::max() ? static_cast<int>(*offset) : -1;
-    }
+    *faceCount = g_open.FaceCount();
+    const std::int64_t face = g_open.Directory(collection ? faceIndex : 0);
+    if (face < 0 || g_open.U32(face) != platform::kTrueType)
+        return -1;
+    for (const platform::Sfnt::Table& table : g_open.Tables(face))
+        if (table.tag == tag)
+            return table.offset <= std::numeric_limits<int>::max() ? static_cast<int>(table.offset) : -1;
     return -1;
 }
 
@@ -152,10 +108,10 @@ int ReadFaceName(const char* path, char* out, unsigned outLength, int faceIndex)
     out[0] = '\0';
     const COpenFont open(path);
     int faceCount = 0;
-    const int table = FindTable(faceIndex, Tag('n', 'a', 'm', 'e'), &faceCount);
+    const int table = FindTable(faceIndex, platform::SfntTag("name"), &faceCount);
     if (table <= 0)
         return 0;
-    std::optional<QString> name = NameIn(static_cast<std::uint64_t>(table), outLength - 1);
+    std::optional<QString> name = NameIn(table, outLength - 1);
     if (!name)
         return 0;
     // Cut by whole characters, whatever the encoding makes of them.

@@ -52,6 +52,11 @@ CIntegerRow& CIntegerRow::FloorOfPresses(std::int32_t floor) {
     return *this;
 }
 
+CIntegerRow& CIntegerRow::SnapPresses() {
+    m_snaps = true;
+    return *this;
+}
+
 bool CIntegerRow::Exchange(bool read) {
     using Limits = std::numeric_limits<std::int32_t>;
     if (read) {
@@ -75,6 +80,11 @@ void CIntegerRow::Press(int direction) {
     using Limits = std::numeric_limits<std::int32_t>;
     const std::int64_t next = std::int64_t{m_mirror} + std::int64_t{direction} * m_step;
     m_mirror = static_cast<std::int32_t>(std::clamp<std::int64_t>(next, m_pressFloor, Limits::max()));
+    if (m_snaps) {
+        Limit();
+        const float steps = static_cast<float>(m_mirror) * (1.0F / static_cast<float>(m_step)) + 0.5F;
+        m_mirror = static_cast<std::int32_t>(steps) * m_step;
+    }
 }
 
 CRealRow& CRealRow::Unrounded() {

@@ -92,6 +92,8 @@ public:
     CIntegerRow& Unsigned();
     /// A limit for presses alone: what is typed may pass it.
     CIntegerRow& FloorOfPresses(std::int32_t floor);
+    /// What a press gives is rounded to a whole number of steps.
+    CIntegerRow& SnapPresses();
 
     bool Exchange(bool read) override;
     QString Wants() const override { return QStringLiteral("a whole number"); }
@@ -101,6 +103,7 @@ protected:
 
 private:
     bool m_unsigned = false;
+    bool m_snaps = false;
     std::int32_t m_pressFloor = std::numeric_limits<std::int32_t>::min();
 };
 

@@ -58,8 +58,7 @@ double CChartPreviewView::ScaleFor(QSize picture) const {
 }
 
 int CChartPreviewView::PictureFormat() const {
-    return m_scale == 1 ? CHART_FORMAT_BMP
-                        : CHART_FORMAT_BMP + 256 * std::max(1, qRound(m_scale * int{CHART_SCALE_UNIT}));
+    return PictureFormatAt(m_scale);
 }
 
 void CChartPreviewView::DrawPicture() {

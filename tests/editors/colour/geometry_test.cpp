@@ -42,41 +42,6 @@ TEST(GridGeometry, HitsCellsButNoGaps) {
             EXPECT_EQ(kPalette.HitTest({x, 5}, none), -1);
 }
 
-// A control of 275 x 254: the spectrum is 240 by 240 at (0, 7), so that one pixel is about one step.
-TEST(SpectrumGeometry, PlacesItsParts) {
-    const SpectrumGeometry geometry({275, 254});
-    EXPECT_EQ(geometry.spectrum, QRect(0, 7, 240, 240));
-    EXPECT_EQ(geometry.slider, QRect(246, 3, 27, 248));
-    EXPECT_EQ(geometry.bar, QRect(246, 7, 14, 240));
-    EXPECT_EQ(geometry.arrowLeft, 263);
-}
-
-TEST(SpectrumGeometry, GivesPlacesOfColours) {
-    const SpectrumGeometry geometry({275, 254});
-    EXPECT_EQ(geometry.Crosshair({.hue = 0, .sat = 240, .lum = 0}), QPoint(0, 7));
-    EXPECT_EQ(geometry.Crosshair({.hue = 239, .sat = 0, .lum = 0}), QPoint(239, 246));
-    EXPECT_EQ(geometry.Crosshair({.hue = 120, .sat = 120, .lum = 0}), QPoint(120, 127));
-    EXPECT_EQ(geometry.SliderPosition(240), 0);
-    EXPECT_EQ(geometry.SliderPosition(120), 120);
-    EXPECT_EQ(geometry.SliderPosition(0), 239);
-    EXPECT_EQ(geometry.Arrow(240), QPoint(263, 3));
-    EXPECT_EQ(geometry.Arrow(0), QPoint(263, 242)); // its point, 4 below, is on the last row of the bar
-}
-
-TEST(SpectrumGeometry, GivesColoursOfPlaces) {
-    const SpectrumGeometry geometry({275, 254});
-    EXPECT_EQ(geometry.HueAt(0), 0);
-    EXPECT_EQ(geometry.HueAt(100), 100);
-    EXPECT_EQ(geometry.HueAt(239), 239);
-    EXPECT_EQ(geometry.SatAt(7), 240);
-    EXPECT_EQ(geometry.SatAt(127), 119); // (240 - 127 + 6) * 240 / 239 = 119.5
-    EXPECT_EQ(geometry.SatAt(246), 0);
-    EXPECT_EQ(geometry.LumAt(7), 240);
-    EXPECT_EQ(geometry.LumAt(246), 0);
-    EXPECT_EQ(geometry.LumAt(-50), 240);
-    EXPECT_EQ(geometry.LumAt(1000), 0);
-}
-
 TEST(SpectrumGeometry, KeepsToTheScalesAtAnySize) {
     for (const QSize size :
          {QSize(0, 0), QSize(36, 15), QSize(37, 16), QSize(35, 14), QSize(1, 300), QSize(150, 90)}) {

@@ -5,8 +5,6 @@
 #include "platform/widgets/field_changed.h"
 #include "tests/driver/windows.h"
 
-#include <QHelpEvent>
-#include <QToolTip>
 #include <algorithm>
 
 namespace {
@@ -84,32 +82,6 @@ TEST_F(Grids, PaletteTellsOfNewChoicesOnly) {
     EXPECT_EQ(m_palette.Selected(), 39);
 }
 
-TEST_F(Grids, CustomTellsOfEveryChoice) {
-    ClickCustom(4);
-    ClickCustom(4);
-    EXPECT_EQ(m_custom.Selected(), 4);
-    EXPECT_EQ(m_log.m_keys, (Keys{2, 2}));
-    QTest::mouseClick(&m_custom, Qt::LeftButton, {}, QPoint(0, 0));
-    EXPECT_EQ(m_log.m_keys.size(), 2U);
-}
-
-TEST_F(Grids, CustomColoursFillFromTheChosenCellAndWrap) {
-    CChartColor red;
-    red.m_color = 0xFF0000;
-    auto& colors = CCustomColorCtrl::Colors();
-    m_custom.Keep(red);
-    EXPECT_EQ(colors[0].m_color, 0xFF0000U);
-    ClickCustom(16);
-    for (const std::uint32_t color : {1U, 2U, 3U}) {
-        red.m_color = color;
-        m_custom.Keep(red);
-    }
-    EXPECT_EQ(colors[16].m_color, 1U);
-    EXPECT_EQ(colors[17].m_color, 2U);
-    EXPECT_EQ(colors[0].m_color, 3U);
-    EXPECT_EQ(colors[1].m_color, 0xFFFFFFU);
-}
-
 TEST_F(Grids, KeysReachEveryCell) {
     m_palette.setFocus();
     struct Step {
@@ -126,7 +98,7 @@ TEST_F(Grids, KeysReachEveryCell) {
         QTest::keyClick(&m_palette, Qt::Key_Space);
         EXPECT_EQ(m_palette.Selected(), step.selected) << step.key;
     }
-    EXPECT_EQ(m_palette.accessibleDescription(), "R: 255, G: 255, B: 255, A: 0");
+    EXPECT_EQ(m_palette.accessibleDescription(), "#FFFFFF, opaque, row 1 of 5, column 1 of 8");
 
     m_custom.setFocus();
     QTest::keyClick(&m_custom, Qt::Key_Down);
@@ -160,26 +132,4 @@ TEST_F(Grids, ShowSwatchesAndFrames) {
         greens.push_back(qGreen(over.pixel(x, cell(8).center().y())));
     EXPECT_NEAR(*std::max_element(greens.begin(), greens.end()), 128, 2);
     EXPECT_EQ(*std::min_element(greens.begin(), greens.end()), 0);
-}
-
-TEST_F(Grids, TellValuesInToolTips) {
-    const auto tipAt = [](QWidget& grid, const QPoint& place) {
-        QToolTip::hideText();
-        QHelpEvent event(QEvent::ToolTip, place, grid.mapToGlobal(place));
-        QApplication::sendEvent(&grid, &event);
-        return QToolTip::text();
-    };
-    m_palette.SetPalette(2);
-    EXPECT_EQ(tipAt(m_palette, Place({8, 5}, 8, m_palette)), "R: 255, G: 0, B: 0, A: 128");
-    CChartColor metal;
-    metal.m_type = 2;
-    metal.m_color = 0x010203;
-    metal.m_direction = 45;
-    m_custom.Keep(metal);
-    EXPECT_EQ(tipAt(m_custom, Place({3, 6}, 0, m_custom)), "Metal, R: 1, G: 2, B: 3, A: 0, Angle: 45");
-    CChartColor pattern;
-    pattern.m_type = 1;
-    pattern.m_patternFile = "brick.png";
-    m_custom.Keep(pattern);
-    EXPECT_EQ(tipAt(m_custom, Place({3, 6}, 1, m_custom)), "Pattern: brick.png");
 }

@@ -4,9 +4,7 @@
 #include "editors/colour/spectrum_event.h"
 #include "tests/driver/person.h"
 
-#include <QHelpEvent>
 #include <QLineEdit>
-#include <QToolTip>
 #include <memory>
 
 namespace {
@@ -65,18 +63,6 @@ protected:
 
 } // namespace
 
-TEST_F(Spectrum, TypesOfEventsBelongToTheirNames) {
-    EXPECT_EQ(RegisteredEventType("some name"), RegisteredEventType("some name"));
-    EXPECT_NE(RegisteredEventType(WM_XCOLORPICKER_SELCHANGE), RegisteredEventType(WM_XCOLORPICKER_SELENDOK));
-    EXPECT_GE(RegisteredEventType("some name"), QEvent::User);
-}
-
-TEST_F(Spectrum, TakesColoursInSilence) {
-    m_control->SetRGB(0x00030201);
-    EXPECT_EQ(Color(), 0x00030201U);
-    EXPECT_EQ(m_log.m_messages, "");
-}
-
 TEST_F(Spectrum, FollowsTheMouse) {
     m_control->SetRGB(Rgb(255, 0, 0)); // hue 0, saturation 240, lightness 120
     Press({80, 7});
@@ -115,16 +101,6 @@ TEST_F(Spectrum, SliderKeepsHueOfWhiteAndBlack) {
     EXPECT_EQ(Color(), RgbOf(80, 240, 119));
     Press({243, 100}); // between spectrum and slider
     EXPECT_EQ(Color(), RgbOf(80, 240, 119));
-}
-
-TEST_F(Spectrum, DoubleClickEnds) {
-    QTest::mouseDClick(m_control.get(), Qt::LeftButton, {}, {80, 7});
-    EXPECT_EQ(m_log.m_messages.back(), 'e');
-    m_log.m_messages.clear();
-    QMouseEvent outside(QEvent::MouseButtonDblClick, QPointF(243, 100), QPointF(), Qt::LeftButton,
-                        Qt::LeftButton, {});
-    QApplication::sendEvent(m_control.get(), &outside);
-    EXPECT_EQ(m_log.m_messages, "");
 }
 
 TEST_F(Spectrum, FollowsTheKeys) {
@@ -219,22 +195,4 @@ TEST_F(Spectrum, ShowsColoursWhereTheyAreChosen) {
     EXPECT_NE(image.pixel(160, 5), m_control->palette().color(QPalette::Base).rgb());
     // The point of the slider's arrow.
     EXPECT_EQ(image.pixel(263, 127), m_control->palette().color(QPalette::WindowText).rgb());
-}
-
-TEST_F(Spectrum, WritesToolTipsInFourWays) {
-    // Of pure red, at the left end of the spectrum. The third is blue, green, red.
-    const char* const texts[] = {"", "RGB(255,0,0)", "#FF0000", "0000FF", "HSL(0,240,120)", "RGB(255,0,0)"};
-    const char* const sliderTexts[] = {"", "RGB(255,255,255)", "#FFFFFF", "FFFFFF", "HSL(0,0,240)"};
-    const auto tipAt = [this](const QPoint& at) {
-        QToolTip::hideText();
-        QHelpEvent event(QEvent::ToolTip, at, m_control->mapToGlobal(at));
-        QApplication::sendEvent(m_control.get(), &event);
-        return QToolTip::text();
-    };
-    for (int format = 0; format < 6; ++format) {
-        Make(0xFF00, format);
-        m_control->grab();
-        EXPECT_EQ(tipAt({0, 7}), texts[format]) << format;
-        EXPECT_EQ(tipAt({250, 7}), sliderTexts[format < 5 ? format : 1]) << format;
-    }
 }

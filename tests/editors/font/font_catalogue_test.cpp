@@ -30,23 +30,6 @@ protected:
 
 } // namespace
 
-TEST_F(FontCatalogue, IsEmptyAndLoadedWithoutFonts) {
-    g_fontFileToFace = {{"left", "over"}};
-    g_fontFaceToFile = {{"over", "left"}};
-    LoadFontCatalogue();
-    EXPECT_TRUE(g_fontCatalogueLoaded);
-    EXPECT_TRUE(g_fontFileToFace.empty());
-    EXPECT_TRUE(g_fontFaceToFile.empty());
-}
-
-TEST_F(FontCatalogue, IsFilledOnce) {
-    Put("user/fonts/a.ttf", Named("A"));
-    LoadFontCatalogue();
-    Put("user/fonts/b.ttf", Named("B"));
-    LoadFontCatalogue();
-    EXPECT_EQ(g_fontFileToFace, (Map{{"a.ttf", "A"}}));
-}
-
 TEST_F(FontCatalogue, FindsFontsInAllSubfolders) {
     Put("user/fonts/deep/er/a.ttf", Named("A"));
     Put("one/fonts/UPPER.TTF", Named("Upper"));

@@ -110,16 +110,6 @@ TEST_F(FontFile, CutsNamesToTheRoom) {
     EXPECT_EQ(Read(Font({{.text = QString(5000, u'x')}})), "1 " + std::string(511, 'x'));
 }
 
-TEST_F(FontFile, TakesNamesOfOddAndOfNoLength) {
-    QByteArray font = Font({{.text = "Sans"}});
-    const qsizetype length = font.size() - 8 - 4; // the record's length, before its offset and the text
-    for (const auto& [bytes, name] :
-         {std::pair(7, "1 San"), std::pair(2, "1 S"), std::pair(1, "1 "), std::pair(0, "1 ")}) {
-        font.replace(length, 2, Number16(static_cast<unsigned>(bytes)));
-        EXPECT_EQ(Read(font), name) << bytes;
-    }
-}
-
 TEST_F(FontFile, RefusesWhatIsNoTrueType) {
     const std::vector<NameRecord> records{{.text = "Sans"}};
     EXPECT_EQ(Read(Font(records, 0x4F54544F)), "0"); // OTTO
@@ -150,12 +140,6 @@ TEST_F(FontFile, ReadsEachFaceOfACollection) {
     EXPECT_EQ(Read(collection, 3), "4 Four");
     EXPECT_EQ(Read(collection, 4), "0");
     EXPECT_EQ(Read(collection, -1), "0");
-}
-
-TEST_F(FontFile, TableLookUpNeedsAnOpenFile) {
-    int faces = 7;
-    EXPECT_EQ(FindTable(0, 0x6E616D65, &faces), -1);
-    EXPECT_EQ(faces, 7);
 }
 
 // Every cut, and every number of the header set to what leads far out of the file.

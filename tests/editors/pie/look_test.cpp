@@ -46,14 +46,28 @@ TEST(PieLook, TabGoesThroughTheControlsInReadingOrder) {
             order.append(plain ? button->text() : focus->accessibleName());
             person.Leave();
         }
-        EXPECT_EQ(
-            order,
-            QStringList(
-                {"Show 3D",       "Shadow3D",   "Depth",  "Angle",    "ClockWise",    "StartAngle",
-                 "Use DonutType", "Inner R(%)", "Layout", "Position", "EdgeColor...", "JoinLineColor...",
+        EXPECT_EQ(order, QStringList({"Show 3D",
+                                      "Shadow3D",
+                                      "Depth",
+                                      "Angle",
+                                      "ClockWise",
+                                      "StartAngle",
+                                      "Use DonutType",
+                                      "Inner R(%)",
+                                      "Layout",
+                                      "Position",
+                                      "EdgeColor, transparent",
+                                      "JoinLineColor, #000000, opaque",
 
-                 "Sector list",   "Add",        "Delete", "Text",     "Show Explode", "Use Distance",
-                 "Distance",      "Color...",   "OK"}));
+                                      "Sector list",
+                                      "Add",
+                                      "Delete",
+                                      "Text",
+                                      "Show Explode",
+                                      "Use Distance",
+                                      "Distance",
+                                      "Color, #000000, opaque",
+                                      "OK"}));
         person.Cancel();
     }));
 }

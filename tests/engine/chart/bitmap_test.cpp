@@ -218,8 +218,7 @@ TEST(Bitmap, IsDrawnAtAScaleWithCrispLines) {
         CBaseChart_destroy(chart);
     }
     BaseChart* chart = sketch();
-    for (const int format :
-         {CHART_FORMAT_BMP - (1 << 30), 5 + (1 << 24)})
+    for (const int format : {CHART_FORMAT_BMP - (1 << 30), 5 + (1 << 24)})
         EXPECT_FALSE(Bytes(chart, format).made) << format;
     CBaseChart_destroy(chart);
 }

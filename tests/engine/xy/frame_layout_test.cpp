@@ -409,7 +409,7 @@ TEST_F(FrameLayoutTest, AnySettingsGiveAPicture) {
         tried.setTrimData(chaos.pick(20) - 5, chaos.pick(50));
         const char* bytes = nullptr;
         int length = 0;
-        EXPECT_TRUE(tried.makePicture(&bytes, &length));
+        EXPECT_TRUE(tried.makePicture(1, &bytes, &length));
     }
 }
 

@@ -1,14 +1,15 @@
-#include "editors/font/font_folders.h"
+#include "platform/fonts/font_files.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QSet>
 #include <QStandardPaths>
 
-namespace {
+namespace platform {
 
-QStringList FontFolders() {
+static QStringList FontFolders() {
 #if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
+    // The order of search of the desktop convention.
     const auto listOf = [](const char* variable, const QString& otherwise) {
         const QString value = qEnvironmentVariable(variable);
         return (value.isEmpty() ? otherwise : value).split(u':', Qt::SkipEmptyParts);
@@ -25,25 +26,29 @@ QStringList FontFolders() {
 #endif
 }
 
-} // namespace
+QString FontFileKey(const QString& path) {
+    return path.mid(path.lastIndexOf(u'/') + 1).toLower();
+}
 
-QStringList FindFontFiles() {
+QStringList FindFontFiles(const QStringList& patterns) {
     QStringList files;
     QSet<QString> seen;
     for (const QString& folder : FontFolders()) {
         QStringList found;
-        QDirIterator entries(folder, {QStringLiteral("*.tt*")}, QDir::Files,
+        QDirIterator entries(folder, patterns, QDir::Files,
                              QDirIterator::Subdirectories | QDirIterator::FollowSymlinks);
         while (entries.hasNext())
             found += entries.next();
-        found.sort(); // the same order on every computer
+        found.sort();
         for (const QString& path : found) {
-            const QString name = path.mid(path.lastIndexOf(u'/') + 1).toLower();
-            if (!seen.contains(name)) {
-                seen.insert(name);
+            const QString key = FontFileKey(path);
+            if (!seen.contains(key)) {
+                seen.insert(key);
                 files += path;
             }
         }
     }
     return files;
 }
+
+} // namespace platform
