@@ -10,6 +10,7 @@
 #include <QString>
 
 #include <functional>
+#include <memory>
 #include <type_traits>
 #include <utility>
 
@@ -82,15 +83,16 @@ public:
 
     template <class T, class Owner>
     CBinding<T> operator[](T Owner::*field) const {
-        return {[this, field, last = T()]() mutable {
+        const auto shown = std::make_shared<T>(); // while there is none
+        return {[this, field, shown] {
                     if (const Item* item = m_find())
-                        last = item->*field;
-                    return last;
+                        *shown = item->*field;
+                    return *shown;
                 },
-                [this, field](const T& value) {
+                [this, field, shown](const T& value) {
                     Item* item = m_find();
                     if (item != nullptr)
-                        item->*field = value;
+                        *shown = item->*field = value;
                     return item != nullptr;
                 },
                 this};

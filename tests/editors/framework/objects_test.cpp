@@ -158,6 +158,7 @@ TEST_F(Objects, FollowTheCurrentOne) {
     person.Give("Size", "7");
     EXPECT_EQ(dialog.m_objects[1].m_size, 7);
     person.Choose("Which", 2); // none: what shows stays, and what is typed goes nowhere
+    EXPECT_EQ(person.TextOf("Size"), "7");
     person.Give("Size", "8");
     person.Choose("Which", 0);
     EXPECT_EQ(person.Find<QLineEdit>("Name").text(), "one");
