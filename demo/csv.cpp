@@ -1,21 +1,14 @@
 #include "csv.h"
 
+#include <QDateTime>
 #include <QFile>
 #include <QStringDecoder>
-#include <QStringList>
 #include <algorithm>
 #include <cmath>
-#include <optional>
 
 namespace {
 
 constexpr qint64 kMostBytes = 1 << 20;
-constexpr std::size_t kMostRows = 1000; // a pie of more sectors shows nothing
-
-struct Record {
-    int line = 1; ///< where it begins
-    QStringList cells;
-};
 
 /// Takes a text apart into records and cells.
 class Splitter {
@@ -27,8 +20,8 @@ public:
     bool AtEnd() const { return m_at >= m_text.size(); }
 
     /// The next record; its cells are trimmed. Nothing if a quote is never closed.
-    std::optional<Record> Next() {
-        Record record{m_line, {}};
+    std::optional<CsvRow> Next() {
+        CsvRow record{m_line, {}};
         do {
             const std::optional<QString> cell = NextCell();
             if (!cell)
@@ -90,6 +83,49 @@ private:
     int m_line = 1;
 };
 
+CsvTable Failed(const QString& error) {
+    CsvTable failed;
+    failed.error = error;
+    return failed;
+}
+
+bool IsHeading(const CsvRow& row, QChar separator) {
+    return row.cells.size() > 1 &&
+           std::none_of(
+               row.cells.begin() + 1, row.cells.end(),
+               [separator](const QString& cell) { return ToNumber(cell, separator).has_value(); });
+}
+
+CsvTable ReadTable(const QString& text) {
+    CsvTable table;
+    Splitter records(text);
+    table.separator = records.Separator();
+    qsizetype columns = 0;
+    while (!records.AtEnd()) {
+        const std::optional<CsvRow> row = records.Next();
+        if (!row)
+            return Failed(AtLine(records.Line(), QStringLiteral("a quote is opened and never closed.")));
+        if (row->cells.size() == 1 && row->cells[0].isEmpty())
+            continue;
+        if (columns != 0 && row->cells.size() != columns)
+            return Failed(AtLine(row->line, QStringLiteral("%1 columns, where the lines before have %2.")
+                                                .arg(row->cells.size())
+                                                .arg(columns)));
+        if (columns == 0 && IsHeading(*row, table.separator))
+            table.heading = row->cells;
+        else
+            table.rows.push_back(*row);
+        columns = row->cells.size();
+    }
+    return table.rows.empty() ? Failed(QStringLiteral("The file has no line with a value.")) : table;
+}
+
+} // namespace
+
+QString AtLine(int line, const QString& what) {
+    return QStringLiteral("Line %1: %2").arg(line).arg(what);
+}
+
 std::optional<double> ToNumber(QString text, QChar separator) {
     if (separator != u',')
         text.replace(u',', u'.');
@@ -98,71 +134,29 @@ std::optional<double> ToNumber(QString text, QChar separator) {
     return good && std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
-QString AtLine(int line, const QString& what) {
-    return QStringLiteral("Line %1: %2").arg(line).arg(what);
+std::optional<double> ToTime(const QString& text) {
+    QDateTime time = QDateTime::fromString(text, QStringLiteral("yyyy-MM-dd HH:mm"));
+    for (const char* format : {"yyyy-MM-dd", "dd.MM.yyyy"})
+        if (!time.isValid())
+            time = QDate::fromString(text, QString::fromUtf8(format)).startOfDay(Qt::UTC);
+    if (!time.isValid() || time.date().year() < 1)
+        return std::nullopt;
+    constexpr double kDay = 86400; // seconds
+    return static_cast<double>(QDate(1, 1, 1).daysTo(time.date())) * kDay +
+           time.time().msecsSinceStartOfDay() / 1000.0;
 }
 
-/// What is wrong with a record that ought to be a label and a value; empty if nothing is.
-QString FaultOf(const Record& record, const std::optional<double>& value) {
-    if (record.cells.size() != 2) {
-        return QStringLiteral("a label and a value are wanted, and here are %1 columns.")
-            .arg(record.cells.size());
-    }
-    if (!value)
-        return QStringLiteral("\"%1\" is not a number.").arg(record.cells[1]);
-    return *value < 0 ? QStringLiteral("%1 is below 0, and a pie has no place for it.").arg(record.cells[1])
-                      : QString();
-}
-
-CsvResult Failed(const QString& error) {
-    return {{}, error};
-}
-
-CsvResult ReadRecords(const QString& text) {
-    CsvResult result;
-    Splitter records(text);
-    for (bool first = true; !records.AtEnd();) {
-        const std::optional<Record> record = records.Next();
-        if (!record)
-            return Failed(AtLine(records.Line(), QStringLiteral("a quote is opened and never closed.")));
-        if (record->cells.size() == 1 && record->cells[0].isEmpty())
-            continue;
-        const std::optional<double> value = ToNumber(record->cells.value(1), records.Separator());
-        const bool heading = first && record->cells.size() == 2 && !value;
-        first = false;
-        if (heading)
-            continue;
-        if (const QString fault = FaultOf(*record, value); !fault.isEmpty())
-            return Failed(AtLine(record->line, fault));
-        if (result.data.values.size() == kMostRows)
-            return Failed(AtLine(record->line, QStringLiteral("more than %1 rows.").arg(kMostRows)));
-        result.data.labels.push_back(record->cells[0]);
-        result.data.values.push_back(*value);
-    }
-    return result;
-}
-
-} // namespace
-
-CsvResult ReadCsv(const QByteArray& bytes) {
+CsvTable ReadCsv(const QByteArray& bytes) {
     if (bytes.size() > kMostBytes)
         return Failed(QStringLiteral("The file is larger than a megabyte."));
     QStringDecoder decoder(QStringDecoder::Utf8); // drops the mark at the start, if there is one
     const QString text = decoder(bytes);
     if (decoder.hasError() || text.contains(QChar(0)))
         return Failed(QStringLiteral("The file is not a text in UTF-8."));
-    CsvResult result = ReadRecords(text);
-    const std::vector<double>& values = result.data.values;
-    if (!result.error.isEmpty())
-        return result;
-    if (values.empty())
-        return Failed(QStringLiteral("The file has no line with a label and a value."));
-    if (*std::max_element(values.begin(), values.end()) <= 0)
-        return Failed(QStringLiteral("All values are 0: there is nothing to share out."));
-    return result;
+    return ReadTable(text);
 }
 
-CsvResult ReadCsvFile(const QString& path) {
+CsvTable ReadCsvFile(const QString& path) {
     QFile file(path);
     if (!file.open(QIODevice::ReadOnly))
         return Failed(QStringLiteral("The file cannot be read: %1.").arg(file.errorString()));

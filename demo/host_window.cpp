@@ -1,6 +1,6 @@
 #include "host_window.h"
 
-#include <QApplication>
+#include <QDoubleSpinBox>
 #include <QDragEnterEvent>
 #include <QFileDialog>
 #include <QFileInfo>
@@ -12,9 +12,14 @@
 #include <QMimeData>
 #include <QPushButton>
 #include <QScrollArea>
+#include <QSignalBlocker>
+#include <QSlider>
 #include <QStatusBar>
+#include <algorithm>
 
 namespace {
+
+constexpr int kSliderSteps = 1000;
 
 /// The file of a drag that brings one file; empty for any other.
 QString DraggedFile(const QMimeData* mime) {
@@ -31,7 +36,7 @@ QString TitleOf(const QString& path) {
 
 } // namespace
 
-HostWindow::HostWindow(const Charts& charts) : m_charts(charts) {
+HostWindow::HostWindow() : m_examples(MakeExamples()) {
     setWindowTitle(QStringLiteral("Chart editors"));
     setAcceptDrops(true);
     MakeMenu();
@@ -42,9 +47,9 @@ HostWindow::HostWindow(const Charts& charts) : m_charts(charts) {
     sides->addWidget(MakeKinds());
     sides->addWidget(MakeChart(), 1);
     setCentralWidget(body);
-    statusBar()->showMessage(
-        QStringLiteral("An example. Drop a CSV file of labels and values for your own."));
-    ShowChart();
+    statusBar()->showMessage(QStringLiteral(
+        "Examples. Drop a CSV file for your own numbers: its columns tell the kind of chart."));
+    ShowKind(0);
 }
 
 void HostWindow::MakeMenu() {
@@ -54,21 +59,22 @@ void HostWindow::MakeMenu() {
     file->addSeparator();
     file->addAction(QStringLiteral("&Quit"), QKeySequence::Quit, this, &QWidget::close);
     QMenu* chart = menuBar()->addMenu(QStringLiteral("&Chart"));
-    chart->addAction(QStringLiteral("&Edit..."), QKeySequence(Qt::CTRL | Qt::Key_E), this, &HostWindow::Edit);
+    chart->addAction(QStringLiteral("&Edit chart..."), QKeySequence(Qt::CTRL | Qt::Key_E), this,
+                     &HostWindow::Edit);
+    chart->addAction(QStringLiteral("Edit &layout..."), QKeySequence(Qt::CTRL | Qt::Key_L), this,
+                     &HostWindow::EditLayout);
 }
 
 QWidget* HostWindow::MakeKinds() {
     m_kinds = new QListWidget(this);
     m_kinds->setAccessibleName(QStringLiteral("Kinds of chart"));
-    for (const ChartKind& kind : ChartKinds()) {
-        const QString name = QString::fromUtf8(kind.name);
-        const bool ready = kind.edit != nullptr;
-        auto* item = new QListWidgetItem(ready ? name : name + QStringLiteral(" (no editor yet)"), m_kinds);
-        item->setFlags(ready ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
-    }
+    for (const std::unique_ptr<Example>& example : m_examples)
+        m_kinds->addItem(QString::fromUtf8(example->Name()));
     m_kinds->setFixedWidth(m_kinds->sizeHintForColumn(0) + 3 * m_kinds->fontMetrics().averageCharWidth());
-    m_kinds->setCurrentRow(0);
-    connect(m_kinds, &QListWidget::currentRowChanged, this, &HostWindow::ShowChart);
+    connect(m_kinds, &QListWidget::currentRowChanged, this, [this] {
+        ShowDial();
+        ShowChart();
+    });
     connect(m_kinds, &QListWidget::itemActivated, this, &HostWindow::Edit);
     return m_kinds;
 }
@@ -81,17 +87,20 @@ QWidget* HostWindow::MakeChart() {
     scroll->setWidget(m_picture);
     scroll->setWidgetResizable(true);
     scroll->setBackgroundRole(QPalette::Base);
-    scroll->setMinimumSize(m_charts.layout.m_width + 2 * scroll->frameWidth(),
-                           m_charts.layout.m_height + 2 * scroll->frameWidth());
+    scroll->setMinimumSize(660, 500); // most of the examples
 
     auto* edit = new QPushButton(QStringLiteral("&Edit chart..."), this);
+    auto* layoutButton = new QPushButton(QStringLiteral("Edit &layout..."), this);
     auto* save = new QPushButton(QStringLiteral("Save &picture..."), this);
     edit->setDefault(true);
     connect(edit, &QPushButton::clicked, this, &HostWindow::Edit);
+    connect(layoutButton, &QPushButton::clicked, this, &HostWindow::EditLayout);
     connect(save, &QPushButton::clicked, this, &HostWindow::AskForPicture);
     auto* buttons = new QHBoxLayout;
+    buttons->addWidget(MakeDial(), 1);
     buttons->addStretch();
     buttons->addWidget(edit);
+    buttons->addWidget(layoutButton);
     buttons->addWidget(save);
 
     auto* side = new QWidget(this);
@@ -102,47 +111,111 @@ QWidget* HostWindow::MakeChart() {
     return side;
 }
 
-const ChartKind& HostWindow::Kind() const {
-    return ChartKinds()[static_cast<std::size_t>(std::max(m_kinds->currentRow(), 0))];
+/// The value of a meter, as a slider and a number.
+QWidget* HostWindow::MakeDial() {
+    m_dial = new QWidget(this);
+    auto* row = new QHBoxLayout(m_dial);
+    row->setContentsMargins(0, 0, 0, 0);
+    auto* label = new QLabel(QStringLiteral("&Value:"), m_dial);
+    m_slider = new QSlider(Qt::Horizontal, m_dial);
+    m_slider->setAccessibleName(QStringLiteral("Value"));
+    m_slider->setRange(0, kSliderSteps);
+    m_value = new QDoubleSpinBox(m_dial);
+    m_value->setAccessibleName(QStringLiteral("Value"));
+    m_value->setDecimals(1);
+    label->setBuddy(m_value);
+    row->addWidget(label);
+    row->addWidget(m_slider, 1);
+    row->addWidget(m_value);
+    connect(m_slider, &QSlider::valueChanged, this, [this](int step) {
+        const double share = static_cast<double>(step) / kSliderSteps;
+        TakeDial(m_value->minimum() + share * (m_value->maximum() - m_value->minimum()));
+    });
+    connect(m_value, &QDoubleSpinBox::valueChanged, this, &HostWindow::TakeDial);
+    return m_dial;
+}
+
+void HostWindow::ShowDial() {
+    const std::optional<Dial> dial = Shown().GetDial();
+    m_dial->setVisible(dial.has_value());
+    if (!dial)
+        return;
+    const QSignalBlocker quietValue(m_value);
+    const QSignalBlocker quietSlider(m_slider);
+    m_value->setRange(dial->lowest, dial->highest);
+    m_value->setValue(dial->value);
+    const double range = dial->highest - dial->lowest;
+    m_slider->setValue(range > 0 ? qRound((dial->value - dial->lowest) / range * kSliderSteps) : 0);
+}
+
+void HostWindow::TakeDial(double value) {
+    Shown().SetDial(value);
+    ShowDial();
+    ShowChart();
+}
+
+Example& HostWindow::Shown() const {
+    return *m_examples[static_cast<std::size_t>(std::max(m_kinds->currentRow(), 0))];
+}
+
+void HostWindow::ShowKind(int kind) {
+    m_kinds->setCurrentRow(kind); // which shows it
 }
 
 void HostWindow::ShowChart() {
     CChartPicture picture;
-    Kind().render(m_charts, ChartPictureFormat::Bmp, picture);
+    Shown().Render(ChartPictureFormat::Bmp, picture);
     QPixmap pixmap;
     pixmap.loadFromData(picture.Data(), static_cast<uint>(picture.Size()));
     m_picture->setPixmap(pixmap);
 }
 
 void HostWindow::Edit() {
-    if (Kind().edit(m_charts))
+    if (Shown().Edit()) {
+        ShowDial();
+        ShowChart();
+    }
+}
+
+void HostWindow::EditLayout() {
+    if (Shown().EditLayout())
         ShowChart();
 }
 
-void HostWindow::OpenData(const QString& path) {
-    const CsvResult read = ReadCsvFile(path);
+bool HostWindow::OpenData(const QString& path, QString* error) {
+    const CsvTable table = ReadCsvFile(path);
+    Understood read = Understand(table);
     const QString name = QFileInfo(path).fileName();
+    const auto taker = std::find_if(m_examples.begin(), m_examples.end(), [&](const auto& example) {
+        return read.error.isEmpty() && example->Take(read.data, TitleOf(path));
+    });
+    if (read.error.isEmpty() && taker == m_examples.end())
+        read.error = QStringLiteral("No chart here shows rows of several columns.");
     if (!read.error.isEmpty()) {
-        Complain(QStringLiteral("%1\n\n%2").arg(name, read.error));
-        return;
+        if (error != nullptr)
+            *error = read.error;
+        else
+            Complain(QStringLiteral("%1\n\n%2").arg(name, read.error));
+        return false;
     }
-    ShowData(m_charts, read.data, TitleOf(path));
-    statusBar()->showMessage(QStringLiteral("%1: %2 values").arg(name).arg(read.data.values.size()));
+    const auto kind = static_cast<int>(taker - m_examples.begin());
+    statusBar()->showMessage(QStringLiteral("%1: %2 rows").arg(name).arg(table.rows.size()));
+    ShowKind(kind);
     ShowChart();
+    return true;
 }
 
 void HostWindow::SavePicture(const QString& path) {
     const bool bitmap = path.endsWith(QStringLiteral(".bmp"), Qt::CaseInsensitive);
     CChartPicture picture;
-    Kind().render(m_charts, bitmap ? ChartPictureFormat::Bmp : ChartPictureFormat::Png, picture);
+    Shown().Render(bitmap ? ChartPictureFormat::Bmp : ChartPictureFormat::Png, picture);
     if (!picture.Save(QFile::encodeName(path).constData()))
         Complain(QStringLiteral("The picture cannot be written to %1.").arg(path));
 }
 
 void HostWindow::AskForData() {
-    const QString path =
-        QFileDialog::getOpenFileName(this, QStringLiteral("Open data"), QString(),
-                                     QStringLiteral("Labels and values (*.csv *.tsv *.txt)"));
+    const QString path = QFileDialog::getOpenFileName(this, QStringLiteral("Open data"), QString(),
+                                                      QStringLiteral("Rows and columns (*.csv *.tsv *.txt)"));
     if (!path.isEmpty())
         OpenData(path);
 }

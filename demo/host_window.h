@@ -1,23 +1,29 @@
 #pragma once
 // The window of the host: the kinds of chart at the left, the finished chart with the host's numbers beside.
 
-#include "charts.h"
+#include "example.h"
 
 #include <QMainWindow>
 
+class QAction;
+class QDoubleSpinBox;
 class QLabel;
 class QListWidget;
-class QPushButton;
+class QSlider;
 
 class HostWindow : public QMainWindow {
     Q_OBJECT
 public:
-    explicit HostWindow(const Charts& charts);
+    HostWindow();
 
-    /// Shows the numbers of a file; for a bad one, says what is wrong and keeps those that it has.
-    void OpenData(const QString& path);
-    /// Opens the editor of the kind that is shown.
+    Examples& Charts() { return m_examples; }
+    void ShowKind(int kind);
+    /// Shows the numbers of a file, as the kind that its columns tell; for a bad one, says what was not
+    /// understood and keeps what it has. False, with `error`, if it is given, in the place of a box.
+    bool OpenData(const QString& path, QString* error = nullptr);
+    /// Opens the editor of the kind that is shown, or that of its layout.
     void Edit();
+    void EditLayout();
     /// Writes the chart that is shown as a picture; the name decides whether PNG or BMP.
     void SavePicture(const QString& path);
 
@@ -29,13 +35,19 @@ private:
     void MakeMenu();
     QWidget* MakeKinds();
     QWidget* MakeChart();
+    QWidget* MakeDial();
     void AskForData();
     void AskForPicture();
     void ShowChart();
+    void ShowDial();
+    void TakeDial(double value);
     void Complain(const QString& text);
-    const ChartKind& Kind() const;
+    Example& Shown() const;
 
-    Charts m_charts;
+    Examples m_examples;
     QListWidget* m_kinds = nullptr;
     QLabel* m_picture = nullptr;
+    QWidget* m_dial = nullptr;
+    QSlider* m_slider = nullptr;
+    QDoubleSpinBox* m_value = nullptr;
 };

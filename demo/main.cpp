@@ -5,7 +5,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <cstdio>
 
 namespace {
@@ -32,7 +31,7 @@ int main(int argc, char** argv) {
 
     QCommandLineParser parser;
     parser.setApplicationDescription(QStringLiteral("Edits the look of a chart and draws numbers with it."));
-    const QCommandLineOption data(QStringLiteral("data"), QStringLiteral("CSV file of labels and values."),
+    const QCommandLineOption data(QStringLiteral("data"), QStringLiteral("CSV file of rows and columns."),
                                   QStringLiteral("FILE"));
     const QCommandLineOption pictures(QStringLiteral("pictures"),
                                       QStringLiteral("Write pictures of all there is to see, and end."),
@@ -41,23 +40,21 @@ int main(int argc, char** argv) {
     parser.addHelpOption();
     parser.process(application);
 
-    Charts charts = ExampleCharts();
+    HostWindow window;
     if (parser.isSet(data)) {
         const QString path = parser.value(data);
-        const CsvResult read = ReadCsvFile(path);
-        if (!read.error.isEmpty()) {
-            std::fprintf(stderr, "%s: %s\n", qUtf8Printable(path), qUtf8Printable(read.error));
+        QString error;
+        if (!window.OpenData(path, &error)) {
+            std::fprintf(stderr, "%s: %s\n", qUtf8Printable(path), qUtf8Printable(error));
             return 1;
         }
-        ShowData(charts, read.data, QFileInfo(path).completeBaseName());
     }
     if (parser.isSet(pictures))
-        return WritePictures(charts, parser.value(pictures)) ? 0 : 1;
+        return WritePictures(window, parser.value(pictures)) ? 0 : 1;
     if (blind) {
         std::fputs("There is no display. --pictures DIR writes pictures of all there is to see.\n", stderr);
         return 1;
     }
-    HostWindow window(charts);
     window.show();
     return QApplication::exec();
 }

@@ -4,47 +4,66 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QRegularExpression>
+#include <QTabBar>
 #include <QTimer>
 #include <cstdio>
 
 namespace {
 
-/// Opens the editor as a host does, takes its picture while its modal loop runs, and closes it.
-QPixmap PictureOfEditor(const ChartKind& kind, Charts charts) {
-    QPixmap picture;
-    QTimer timer; // none of its ticks may come after this function
-    QObject::connect(&timer, &QTimer::timeout, [&picture] {
-        if (QWidget* dialog = QApplication::activeModalWidget()) {
-            picture = dialog->grab();
-            dialog->close();
-        }
-    });
-    timer.start(0);
-    kind.edit(charts);
-    return picture;
-}
-
 class Writer {
 public:
     explicit Writer(const QString& folder) : m_folder(folder) {}
 
-    bool Write(const QString& name, const QPixmap& picture) {
-        const QString path = m_folder.filePath(name);
+    void Write(const QString& name, const QPixmap& picture) {
+        const QString path = m_folder.filePath(name + QStringLiteral(".png"));
         if (picture.isNull() || !picture.save(path, "PNG")) {
             std::fprintf(stderr, "%s cannot be written.\n", qUtf8Printable(path));
-            return false;
+            m_good = false;
+            return;
         }
         std::printf("%s\n", qUtf8Printable(path));
-        return true;
     }
+    bool Good() const { return m_good; }
 
 private:
     QDir m_folder;
+    bool m_good = true;
 };
 
-QPixmap PictureOfChart(const ChartKind& kind, const Charts& charts) {
+/// Every page of a dialog, each named by its tab.
+void WritePages(Writer& writer, QWidget& dialog, const QString& name) {
+    QTabBar* tabs = nullptr;
+    for (QTabBar* bar : dialog.findChildren<QTabBar*>())
+        if (tabs == nullptr && bar->isVisible())
+            tabs = bar;
+    writer.Write(name, dialog.grab());
+    for (int i = 1; tabs != nullptr && i < tabs->count(); ++i) {
+        tabs->setCurrentIndex(i);
+        QApplication::processEvents();
+        const QString page = tabs->tabText(i).toLower().remove(QRegularExpression(QStringLiteral("[^a-z]+")));
+        writer.Write(name + u'-' + page, dialog.grab());
+    }
+}
+
+/// Opens an editor as a host does, takes its pictures while its modal loop runs, and cancels it.
+template <class Open>
+void WriteEditor(Writer& writer, const QString& name, const Open& open) {
+    QTimer timer; // none of its ticks may come after this function
+    QObject::connect(&timer, &QTimer::timeout, [&] {
+        if (QWidget* dialog = QApplication::activeModalWidget()) {
+            timer.stop();
+            WritePages(writer, *dialog, name);
+            dialog->close();
+        }
+    });
+    timer.start(0);
+    open();
+}
+
+QPixmap PictureOf(const Example& example) {
     CChartPicture picture;
-    kind.render(charts, ChartPictureFormat::Png, picture);
+    example.Render(ChartPictureFormat::Png, picture);
     QPixmap pixmap;
     pixmap.loadFromData(picture.Data(), static_cast<uint>(picture.Size()));
     return pixmap;
@@ -52,20 +71,19 @@ QPixmap PictureOfChart(const ChartKind& kind, const Charts& charts) {
 
 } // namespace
 
-bool WritePictures(const Charts& charts, const QString& folder) {
+bool WritePictures(HostWindow& window, const QString& folder) {
     if (!QDir().mkpath(folder)) {
         std::fprintf(stderr, "%s cannot be made.\n", qUtf8Printable(folder));
         return false;
     }
     Writer writer(folder);
-    HostWindow window(charts);
-    bool good = writer.Write(QStringLiteral("window.png"), window.grab());
-    for (const ChartKind& kind : ChartKinds()) {
-        if (kind.edit == nullptr)
-            continue;
-        const QString name = QString::fromUtf8(kind.file);
-        good = writer.Write(name + QStringLiteral("-editor.png"), PictureOfEditor(kind, charts)) && good;
-        good = writer.Write(name + QStringLiteral("-chart.png"), PictureOfChart(kind, charts)) && good;
+    writer.Write(QStringLiteral("window"), window.grab());
+    for (const std::unique_ptr<Example>& example : window.Charts()) {
+        const QString name = QString::fromUtf8(example->File());
+        writer.Write(name + QStringLiteral("-chart"), PictureOf(*example));
+        WriteEditor(
+            writer, name + QStringLiteral("-editor"), [&] { example->Edit(); });
+        WriteEditor(writer, name + QStringLiteral("-layout"), [&] { example->EditLayout(); });
     }
-    return good;
+    return writer.Good();
 }

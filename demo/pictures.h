@@ -1,8 +1,10 @@
 #pragma once
 // The demo without a person: pictures of what there is to see.
 
-#include "charts.h"
+class HostWindow;
+class QString;
 
-/// Writes the window, each editor and each finished chart as PNG files into `folder`, which is made. Says on
-/// the standard output what it has written; false, and why on the error output, if that fails.
-bool WritePictures(const Charts& charts, const QString& folder);
+/// Writes the window, each finished chart, and each page of each editor as PNG files into `folder`, which is
+/// made. Says on the standard output what it has written; false, and why on the error output, if that fails.
+/// A kind whose editor does not open has no pictures of it.
+bool WritePictures(HostWindow& window, const QString& folder);

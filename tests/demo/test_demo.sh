@@ -16,7 +16,7 @@ printf 'What,Value\nSpam,3\nEggs,"4"\n' >"$work/good.csv"
 printf 'Spam,3\nEggs,four\n' >"$work/bad.csv"
 
 "$demo" --data "$work/good.csv" --pictures "$work/made/pictures" >"$work/said"
-for name in window pie-editor pie-chart; do
+for name in window pie-editor pie-chart finance-chart angular-meter-chart linear-meter-chart polar-chart; do
     picture=$work/made/pictures/$name.png
     [ "$(head -c 4 "$picture" | tail -c 3)" = PNG ] || fail "$name.png is no picture"
     grep -qF "$picture" "$work/said" || fail "$name.png is not told of"
