@@ -23,12 +23,16 @@ double PolarFrame::pixels(double value) const {
     return std::isnan(from) ? from : std::max(0.0, from);
 }
 
-QPainterPath PolarFrame::ring(double pixels) const {
+QPainterPath PolarFrame::circle(double pixels) const {
     QPainterPath path;
-    if (!polygon || spokes.size() < 3) {
-        path.addEllipse(centre + kToBorders, pixels, pixels);
-        return path;
-    }
+    path.addEllipse(centre + kToBorders, pixels, pixels);
+    return path;
+}
+
+QPainterPath PolarFrame::ring(double pixels) const {
+    if (!polygon || spokes.size() < 3)
+        return circle(pixels);
+    QPainterPath path;
     for (const double turn : spokes) {
         const QPointF corner = at(turn, pixels) + kToBorders;
         path.elementCount() == 0 ? path.moveTo(corner) : path.lineTo(corner);
@@ -83,6 +87,11 @@ QPainterPath PolarFrame::sector(double fromTurn, double turns) const {
     path.arcTo(circle, 90 - fromTurn * 360, -turns * 360); // the toolkit's angles run the other way
     path.closeSubpath();
     return path;
+}
+
+QPainterPath PolarFrame::sectorBehind(std::size_t spoke) const {
+    const double end = spoke + 1 < spokes.size() ? spokes[spoke + 1] : spokes.front() + 1;
+    return sector(spokes[spoke], end - spokes[spoke]);
 }
 
 } // namespace chartdraw

@@ -21,12 +21,15 @@ struct PolarFrame {
     /// Pixels from the centre, not below 0; what lies beyond the scale is beyond the radius. NaN for gaps.
     double pixels(double value) const;
 
+    QPainterPath circle(double pixels) const;
     /// A full ring line: a circle, or a polygon where three or more spokes make one.
     QPainterPath ring(double pixels) const;
     /// The ring between two radii, in either order.
     QPainterPath band(double from, double to) const;
     /// The part of the plot from a part of the turn on.
     QPainterPath sector(double fromTurn, double turns) const;
+    /// The part from a spoke to the next one.
+    QPainterPath sectorBehind(std::size_t spoke) const;
 
 private:
     /// The point of a polygon's outermost ring at a part of the turn.

@@ -125,12 +125,13 @@ void PolarLayer::draw(Canvas& canvas, const PolarFrame& frame, const AngularAxis
     const auto points = this->points(frame, axis);
     QPainter& painter = canvas.painter();
     painter.save();
-    // What goes beyond the scale is cut off at the rim; smooth curves may do so between two points.
+    // What goes beyond the scale is cut off at the circle, which holds all of the scale; a polygon of the
+    // grid does not. Smooth curves may go beyond it between two points.
     const bool leaves = isSmooth() || std::any_of(points.begin(), points.end(), [&](const auto& point) {
                             return point && point->pixels > frame.radius;
                         });
     if (leaves)
-        painter.setClipPath(frame.ring(frame.radius + m_lineWidth / 2.0 + 1));
+        painter.setClipPath(frame.circle(frame.radius + m_lineWidth / 2.0 + 1));
     if (isArea())
         drawArea(canvas, points);
     else

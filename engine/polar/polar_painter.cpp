@@ -2,6 +2,7 @@
 
 #include "engine/axis/round_labels.h"
 #include "engine/data/no_value.h"
+#include "engine/paint/clip.h"
 #include "engine/polar/polar_chart.h"
 
 #include <algorithm>
@@ -31,6 +32,21 @@ QPainterPath outlineOf(const QPainterPath& lines, double width) {
     return outline;
 }
 
+/// Alternating sectors one by one: as one outline, thousands that meet in a point would take minutes.
+void drawThinSectors(Canvas& canvas, const PolarFrame& frame, Colour first, Colour second) {
+    const QPainterPath whole = frame.ring(frame.radius);
+    const QRectF extent = whole.boundingRect();
+    // Cutting them is quicker than leaving it to the painter.
+    const QRectF picture = canvas.painter().worldTransform().inverted().mapRect(
+        QRectF(-2, -2, canvas.width() + 4, canvas.height() + 4));
+    // An opaque colour lies over the first one, so that nothing shows through between the two.
+    const bool covers = canvas.colours().solid(second).alpha() == 255;
+    if (covers)
+        canvas.fillPath(whole, first, &extent);
+    for (std::size_t i = covers ? 1 : 0; i < frame.spokes.size(); i += covers ? 2 : 1)
+        canvas.fillPath(clipPath(frame.sectorBehind(i), picture), i % 2 == 0 ? first : second, &extent);
+}
+
 } // namespace
 
 void PolarChart::drawArea(Canvas& canvas, const Plot& plot) const {
@@ -42,6 +58,12 @@ void PolarChart::drawArea(Canvas& canvas, const Plot& plot) const {
 
 void PolarChart::drawAlternating(Canvas& canvas, const Plot& plot) const {
     const Colour colours[] = {orDefault(m_first, m_background), orDefault(m_second, m_background)};
+    constexpr std::size_t kManySpokes = 720;
+    const QRectF extent = plot.frame.ring(m_radius).boundingRect();
+    if (!m_alternateRings && plot.frame.spokes.size() > kManySpokes) {
+        drawThinSectors(canvas, plot.frame, colours[0], colours[1]);
+        return;
+    }
     // All parts of a colour are one outline and are filled at once, so that no seams show between them.
     QPainterPath parts[2];
     std::size_t index = 0;
@@ -55,13 +77,9 @@ void PolarChart::drawAlternating(Canvas& canvas, const Plot& plot) const {
     } else if (plot.frame.spokes.size() < 2) {
         parts[0] = plot.frame.ring(m_radius);
     } else {
-        const std::vector<double>& spokes = plot.frame.spokes;
-        for (std::size_t i = 0; i < spokes.size(); ++i) {
-            const double end = i + 1 < spokes.size() ? spokes[i + 1] : spokes.front() + 1;
-            parts[i % 2].addPath(plot.frame.sector(spokes[i], end - spokes[i]));
-        }
+        for (std::size_t i = 0; i < plot.frame.spokes.size(); ++i)
+            parts[i % 2].addPath(plot.frame.sectorBehind(i));
     }
-    const QRectF extent = plot.frame.ring(m_radius).boundingRect();
     canvas.fillPath(parts[0], colours[0], &extent);
     canvas.fillPath(parts[1], colours[1], &extent);
 }

@@ -130,6 +130,28 @@ TEST(PolarChart, AlternatesRingsAndSectors) {
     EXPECT_EQ(at(image, 45, 21), kWhite);
 }
 
+TEST(PolarChart, AlternatesThousandsOfSectorsFarBeyondThePicture) {
+    Polar p; // 7200 of them, those at the right 7 pixels high, from (-7800, 150) to x 200
+    CPolarChart_setPlotArea(p.polar, -7800, 150, 8000, -1, -1, 1);
+    CPolarChart_setPlotAreaBg(p.polar, kGreen, kBlue, false);
+    CAngularAxis_setLinearScale(p.angular, 0, 360, 0.05, 0);
+    const QImage image = p.picture();
+    EXPECT_EQ(image.pixelColor(100, 153), QColor(kGreen));
+    EXPECT_EQ(image.pixelColor(100, 160), QColor(kBlue));
+    EXPECT_EQ(image.pixelColor(100, 146), QColor(kBlue));
+    EXPECT_EQ(image.pixelColor(210, 150), QColor(kWhite));
+}
+
+TEST(PolarChart, CutsDataOffAtTheCircleAndNotAtThePolygon) {
+    Polar p;
+    CPolarChart_setGridStyle(p.polar, true, true);
+    CAngularAxis_setLinearScale(p.angular, 0, 360, 90, 0);
+    p.line({10, 95, CHART_NO_VALUE, 150}, {45, 45, 45, 200}, kRed);
+    const QImage image = p.picture();
+    EXPECT_EQ(at(image, 45, 85), static_cast<unsigned>(kRed)); // the polygon ends at 71
+    EXPECT_EQ(at(image, 200, 110), kWhite);
+}
+
 TEST(PolarChart, ShowsZonesAsRingsAndSectors) {
     Polar p;
     CAxis_addZone(p.radial, 80, 60, kRed);
