@@ -27,7 +27,7 @@ static Layer* BoxWhiskerLayer2Layer(BoxWhiskerLayer* layer) {
     return BaseBoxLayer2Layer(BoxWhiskerLayer2BaseBoxLayer(layer));
 }
 
-Layer* AddBoxWhiskers(const XYLayerScene& scene, const CXYBoxWhiskerLayer& look, CXYLayerData& data) {
+Layer* AddBoxWhiskers(const XYLayerScene& scene, const CXYBoxWhiskerLayer& look, CXYLayerSource& data) {
     const XYBoxes boxes = data.WhiskerBoxes();
     const int fillColor = look.m_fillColor.GetChartColor(scene.Base());
     const int whiskerColor = look.m_whiskerColor.GetChartColor(scene.Base());
@@ -36,14 +36,14 @@ Layer* AddBoxWhiskers(const XYLayerScene& scene, const CXYBoxWhiskerLayer& look,
     return layer;
 }
 
-Layer* AddBoxes(const XYLayerScene& scene, const CXYBoxLayer& look, CXYLayerData& data) {
+Layer* AddBoxes(const XYLayerScene& scene, const CXYBoxLayer& look, CXYLayerSource& data) {
     const XYBoxes boxes = data.Boxes();
     return BoxWhiskerLayer2Layer(CXYChart_addBoxLayer(
         scene.Chart(), boxes.top.data(), Count(boxes.top), boxes.bottom.data(), Count(boxes.bottom),
         look.m_group.m_color.GetChartColor(scene.Base()), CUtf8Text(look.m_name)));
 }
 
-Layer* AddPriceBars(const XYLayerScene& scene, const CXYHLOCLayer& look, CXYLayerData& data) {
+Layer* AddPriceBars(const XYLayerScene& scene, const CXYHLOCLayer& look, CXYLayerSource& data) {
     const XYPrices prices = data.Prices();
     HLOCLayer* bars =
         CXYChart_addHLOCLayer(scene.Chart(), prices.high.data(), Count(prices.high), prices.low.data(),
@@ -57,7 +57,7 @@ Layer* AddPriceBars(const XYLayerScene& scene, const CXYHLOCLayer& look, CXYLaye
     return layer;
 }
 
-Layer* AddCandles(const XYLayerScene& scene, const CXYCandleStickLayer& look, CXYLayerData& data) {
+Layer* AddCandles(const XYLayerScene& scene, const CXYCandleStickLayer& look, CXYLayerSource& data) {
     const XYPrices prices = data.Prices();
     const int riseColor = look.m_riseColor.GetChartColor(scene.Base());
     const int fallColor = look.m_fallColor.GetChartColor(scene.Base());
@@ -106,7 +106,7 @@ static void ColorTasks(BoxWhiskerLayer* boxes, const TaskGroups& groups, const X
                                   static_cast<int>(std::ssize(names)));
 }
 
-Layer* AddTasks(const XYLayerScene& scene, const CXYGanttLayer& look, CXYLayerData& data) {
+Layer* AddTasks(const XYLayerScene& scene, const CXYGanttLayer& look, CXYLayerSource& data) {
     CXYChart_swapXY(scene.Chart(), true); // whatever the chart says: bars of a plan lie
     const TaskGroups groups(scene.Base(), look);
     auto tasks = data.Tasks(look.m_groups.size());

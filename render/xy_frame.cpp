@@ -58,7 +58,7 @@ static void DrawBackground(const XYAxes& axes, PlotArea* plotArea, bool sample) 
 }
 
 /// All axes with their looks. Ties come when every axis is there, since one may follow a later one.
-static void DrawAxes(XYAxes& axes, CXYData& data) {
+static void DrawAxes(XYAxes& axes, CXYSource& data) {
     const CXYChart& look = axes.look;
     Axis* xAxis = CXYChart_xAxis(axes.chart);
     data.LabelRows(xAxis);
@@ -86,13 +86,13 @@ static void DrawAxes(XYAxes& axes, CXYData& data) {
             SyncAxis(axes, axes.additional[static_cast<std::size_t>(i)], *model);
 }
 
-static void DrawXYLayers(const XYLayerScene& scene, XYLayers layers, CXYData& data) {
+static void DrawXYLayers(const XYLayerScene& scene, XYLayers layers, CXYSource& data) {
     for (const CXYChartLayer* layer : layers)
         if (const auto layerData = data.Layer(*layer))
             DrawXYLayer(scene, *layer, *layerData);
 }
 
-CChartHolder MakeXYChart(const CXYChart& look, const CChartLayout& layout, XYLayers layers, CXYData& data) {
+CChartHolder MakeXYChart(const CXYChart& look, const CChartLayout& layout, XYLayers layers, CXYSource& data) {
     XYChart* chart =
         CXYChart_create(layout.m_width, layout.m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
     CChartHolder holder(XYChart2BaseChart(chart));

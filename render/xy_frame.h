@@ -3,11 +3,11 @@
 
 #include "render/chart_holder.h"
 #include "render/chart_preview.h"
-#include "render/xy_data.h"
+#include "render/xy_source.h"
 
 /// Makes a chart of `layers`, which are layers of `look`, and nothing of its others.
 CChartHolder MakeXYChart(const CXYChart& look, const CChartLayout& layout,
-                         std::span<const CXYChartLayer* const> layers, CXYData& data);
+                         std::span<const CXYChartLayer* const> layers, CXYSource& data);
 
 /// All layers of a chart, in their order.
 std::vector<const CXYChartLayer*> LayersOf(const CXYChart& look);

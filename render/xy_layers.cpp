@@ -38,7 +38,7 @@ static void DressBars(const XYLayerScene& scene, BarLayer* bars, const CXYBarLay
                               look.m_effect.GetRaisedEffect());
 }
 
-static Layer* AddBars(const XYLayerScene& scene, const CXYBarLayer& look, CXYLayerData& data) {
+static Layer* AddBars(const XYLayerScene& scene, const CXYBarLayer& look, CXYLayerSource& data) {
     BarLayer* bars = CXYChart_addBarLayer2(scene.Chart(), look.m_combineMethod, 0);
     Layer* layer = BarLayer2Layer(bars);
     const CUtf8Text name(look.m_name);
@@ -79,7 +79,7 @@ static void DressSymbols(BaseChart* chart, Layer* layer, int index, const CXYLin
 }
 
 /// The model's colour is that of the first line.
-static Layer* AddLines(const XYLayerScene& scene, const CXYLineLayer& look, CXYLayerData& data) {
+static Layer* AddLines(const XYLayerScene& scene, const CXYLineLayer& look, CXYLayerSource& data) {
     const auto sets = data.Lines();
     const CUtf8Text name(look.m_name);
     const XYSeries first = sets->At(0);
@@ -95,7 +95,7 @@ static Layer* AddLines(const XYLayerScene& scene, const CXYLineLayer& look, CXYL
     return layer;
 }
 
-static Layer* AddPoints(const XYLayerScene& scene, const CXYScatterLayer& look, CXYLayerData& data) {
+static Layer* AddPoints(const XYLayerScene& scene, const CXYScatterLayer& look, CXYLayerSource& data) {
     const XYPoints points = data.Points();
     const int size = look.m_useSymbolColor ? look.m_symbolSize : 5;
     const int color =
@@ -109,7 +109,7 @@ static Layer* AddPoints(const XYLayerScene& scene, const CXYScatterLayer& look, 
     return LineLayer2Layer(layer);
 }
 
-static Layer* AddAreas(const XYLayerScene& scene, const CXYAreaLayer& look, CXYLayerData& data) {
+static Layer* AddAreas(const XYLayerScene& scene, const CXYAreaLayer& look, CXYLayerSource& data) {
     const auto sets = data.Areas();
     Layer* layer = AreaLayer2Layer(CXYChart_addAreaLayer2(scene.Chart(), look.m_combineMethod, 0));
     const CUtf8Text name(look.m_name);
@@ -121,7 +121,7 @@ static Layer* AddAreas(const XYLayerScene& scene, const CXYAreaLayer& look, CXYL
 }
 
 /// Null for a layer of no kind.
-static Layer* AddLayer(const XYLayerScene& scene, const CXYChartLayer& layer, CXYLayerData& data) {
+static Layer* AddLayer(const XYLayerScene& scene, const CXYChartLayer& layer, CXYLayerSource& data) {
     switch (layer.GetType()) {
     case 0:
         return AddBars(scene, static_cast<const CXYBarLayer&>(layer), data);
@@ -162,7 +162,7 @@ static bool LabelsEachValue(const CXYChartLayer& layer) {
     return layer.GetType() != 0 || static_cast<const CXYBarLayer&>(layer).m_labelForEachSeg;
 }
 
-void DrawXYLayer(const XYLayerScene& scene, const CXYChartLayer& look, CXYLayerData& data) {
+void DrawXYLayer(const XYLayerScene& scene, const CXYChartLayer& look, CXYLayerSource& data) {
     Layer* layer = AddLayer(scene, look, data);
     if (!layer)
         return;

@@ -2,7 +2,7 @@
 // The layers of an XY chart, of all kinds.
 
 #include "render/xy_axes.h"
-#include "render/xy_data.h"
+#include "render/xy_source.h"
 #include <charteditors/chart_layout.h>
 
 /// What layers are drawn with.
@@ -16,7 +16,7 @@ struct XYLayerScene {
 };
 
 /// Adds a layer of the kind that `layer` is, with its data, and all that the models say of it.
-void DrawXYLayer(const XYLayerScene& scene, const CXYChartLayer& layer, CXYLayerData& data);
+void DrawXYLayer(const XYLayerScene& scene, const CXYChartLayer& layer, CXYLayerSource& data);
 
 /// Text and box of data labels; `textBox` is what a label style operation is to return.
 using XYLabelStyle = TextBox* (*)(Layer*, const char*, double, int, double);
@@ -24,8 +24,8 @@ using XYLabelStyle = TextBox* (*)(Layer*, const char*, double, int, double);
 void DressXYLabels(const XYLayerScene& scene, Layer* layer, XYLabelStyle setStyle);
 
 /// The kinds of one body a row: boxes, prices, and the bars of plans.
-Layer* AddBoxWhiskers(const XYLayerScene& scene, const CXYBoxWhiskerLayer& look, CXYLayerData& data);
-Layer* AddBoxes(const XYLayerScene& scene, const CXYBoxLayer& look, CXYLayerData& data);
-Layer* AddPriceBars(const XYLayerScene& scene, const CXYHLOCLayer& look, CXYLayerData& data);
-Layer* AddTasks(const XYLayerScene& scene, const CXYGanttLayer& look, CXYLayerData& data);
-Layer* AddCandles(const XYLayerScene& scene, const CXYCandleStickLayer& look, CXYLayerData& data);
+Layer* AddBoxWhiskers(const XYLayerScene& scene, const CXYBoxWhiskerLayer& look, CXYLayerSource& data);
+Layer* AddBoxes(const XYLayerScene& scene, const CXYBoxLayer& look, CXYLayerSource& data);
+Layer* AddPriceBars(const XYLayerScene& scene, const CXYHLOCLayer& look, CXYLayerSource& data);
+Layer* AddTasks(const XYLayerScene& scene, const CXYGanttLayer& look, CXYLayerSource& data);
+Layer* AddCandles(const XYLayerScene& scene, const CXYCandleStickLayer& look, CXYLayerSource& data);

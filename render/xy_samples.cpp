@@ -94,7 +94,7 @@ private:
     SampleTasks m_tasks;
 };
 
-class LayerSamples : public CXYLayerData {
+class LayerSamples : public CXYLayerSource {
 public:
     LayerSamples(const CXYChart& chart, int seed)
         : m_chart(chart), m_seed(seed), m_range(chart.m_yAxis),
@@ -173,6 +173,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<CXYLayerData> CXYSamples::Layer(const CXYChartLayer& layer) {
+std::unique_ptr<CXYLayerSource> CXYSamples::Layer(const CXYChartLayer& layer) {
     return std::make_unique<LayerSamples>(m_chart, layer.GetSeed());
 }

@@ -113,7 +113,8 @@ TextBox* Axis::setLabels(std::vector<double> values, std::string format) {
     m_scale.type = ScaleSettings::Type::Labels;
     m_scale.labels = std::move(values);
     if (!format.empty())
-        m_ticks.labelFormat = std::move(format);
+        m_ticks.labelFormat.clear();
+    m_scale.rowFormat = std::move(format);
     return m_labelBox;
 }
 

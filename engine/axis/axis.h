@@ -32,6 +32,7 @@ struct ScaleSettings {
     Increments increments;
     AutoScale automatic;
     std::vector<double> labels; ///< of Type::Labels: a value a row, before trimming
+    std::string rowFormat;      ///< of Type::Labels: how these values are shown
     bool reverse = false;
     int marginTop = 0, marginBottom = 0; ///< pixels free at the upper and the lower end of the scale
     enum class Indent : unsigned char { AsLayersNeed, No, Yes } indent = Indent::AsLayersNeed;

@@ -3,7 +3,6 @@
 #include "engine/axis/label_fit.h"
 #include "engine/axis/row_ticks.h"
 #include "engine/chart/chart.h"
-#include "engine/scale/format.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,8 +36,10 @@ private:
         const ScaleSettings& labels = copied != nullptr ? copied->scale() : axis.scale();
         const TickSettings& own = axis.ticks();
         RowContent result;
-        if (labels.type == Type::Labels)
+        if (labels.type == Type::Labels) {
             result.labels = labels.labels;
+            result.rowFormat = labels.rowFormat;
+        }
         const bool useCopied = copied != nullptr;
         result.format = useCopied && own.labelFormat.empty() ? copied->ticks().labelFormat : own.labelFormat;
         result.rules = useCopied && own.rules.empty() ? copied->ticks().rules : own.rules;

@@ -4,6 +4,7 @@
 
 #include "engine/axis/axis.h"
 #include "engine/axis/axis_map.h"
+#include "engine/scale/format.h"
 #include "engine/scale/scale.h"
 #include "engine/text/text_block.h"
 
@@ -59,18 +60,21 @@ bool showsRows(const Axis& axis, int rowCount);
 /// not enough) labels are left out, those at the ends last.
 AxisPlan planAxis(const Axis& axis, const AxisRequest& request);
 
-/// The values behind the labels of rows and the texts that they have without a format: dates where all of
-/// them look like chart times, else numbers. Refers to the values.
+/// The values behind the labels of rows and the texts that they have: by the format that the rows were given
+/// with, or else dates where all of them look like chart times, or numbers. Refers to the values.
 class RowTexts {
 public:
-    explicit RowTexts(std::span<const double> values);
+    explicit RowTexts(std::span<const double> values, std::string_view format = {});
     /// The row's own number past the end of the values.
     double value(std::size_t row) const;
     std::string text(std::size_t row) const;
 
 private:
+    std::string plainText(std::size_t row) const;
+
     std::span<const double> m_values;
     std::string_view m_dateSpec; ///< empty for numbers
+    Format m_format;             ///< empty: none
 };
 
 } // namespace chartdraw

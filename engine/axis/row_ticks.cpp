@@ -72,7 +72,8 @@ bool hasRules(std::span<const FormatRule> rules) {
     return !std::all_of(rules.begin(), rules.end(), doesNothing);
 }
 
-RowTexts::RowTexts(std::span<const double> values) : m_values(values) {
+RowTexts::RowTexts(std::span<const double> values, std::string_view format)
+    : m_values(values), m_format(format) {
     const double from = chartTime(1900, 1, 1), to = chartTime(2200, 1, 1);
     bool wholeDays = true;
     bool any = false;
@@ -92,10 +93,14 @@ double RowTexts::value(std::size_t row) const {
     return row < m_values.size() ? m_values[row] : static_cast<double>(row);
 }
 
+std::string RowTexts::plainText(std::size_t row) const {
+    return m_dateSpec.empty() ? numberText(value(row)) : dateText(value(row), m_dateSpec);
+}
+
 std::string RowTexts::text(std::size_t row) const {
     if (row >= m_values.size() && !m_values.empty())
         return {};
-    return m_dateSpec.empty() ? numberText(value(row)) : dateText(value(row), m_dateSpec);
+    return m_format.isEmpty() ? plainText(row) : m_format.apply(TickFields(value(row), plainText(row)));
 }
 
 LabelMaker::LabelMaker(const Axis& axis, const RowContent& content)
@@ -136,7 +141,7 @@ void addRowTicks(std::vector<PlannedTick>& ticks, const LabelMaker& maker, RowSp
     std::vector<Candidate> found = candidates(maker, rows);
     const double length = std::abs(map.upperPixel() - map.lowerPixel());
     thinCandidates(found, length);
-    const RowTexts texts(maker.content().labels);
+    const RowTexts texts(maker.content().labels, maker.content().rowFormat);
     std::vector<int> ranks;
     const double pitch = length / std::max<double>(1, static_cast<double>(found.size()));
     for (const Candidate& candidate : found) {

@@ -15,6 +15,7 @@ namespace chartdraw {
 /// What the labels of an axis are made of; refers to the axis that they come from.
 struct RowContent {
     std::span<const double> labels; ///< empty: rows show their number
+    std::string_view rowFormat;     ///< how the labels are shown, before `format`
     std::string format;
     std::span<const FormatRule> rules;
 };

@@ -3,11 +3,19 @@
 #include "engine/scale/date_text.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace chartdraw {
 namespace {
 
 constexpr int kPercentDecimals = 2;
+constexpr std::string_view kListStart = "|\t";
+
+void appendEntry(std::string& out, double value, const std::vector<std::string>& texts) {
+    const double place = std::floor(value + 0.5);
+    if (place >= 0 && place < static_cast<double>(texts.size()))
+        out += texts[static_cast<std::size_t>(place)];
+}
 
 } // namespace
 
@@ -22,13 +30,19 @@ Format::Format(std::string_view text) : m_text(text) {
         const std::size_t next = m_text.find_first_of("{}", open + 1);
         if (next == std::string::npos)
             break;
-        if (m_text[next] == '{') {
+        const std::size_t bar = std::string_view(m_text).substr(open, next - open).find(kListStart);
+        const bool list = bar != std::string::npos;
+        if (m_text[next] == '{' && !list) {
             open = next;
             continue;
         }
         addLiteral(literal, open);
-        addField(open, next);
-        literal = next + 1;
+        if (list) {
+            literal = addList(open, open + bar);
+        } else {
+            addField(open, next);
+            literal = next + 1;
+        }
         open = m_text.find('{', literal);
     }
     addLiteral(literal, m_text.size());
@@ -52,6 +66,25 @@ void Format::addField(std::size_t open, std::size_t close) {
     m_pieces.push_back(piece);
 }
 
+/// Reads a list of texts that begins at `bar`, and gives the place behind its field. An open end closes it.
+std::size_t Format::addList(std::size_t open, std::size_t bar) {
+    std::vector<std::string> texts(1);
+    std::size_t i = bar + kListStart.size();
+    for (; i < m_text.size() && m_text[i] != '}'; ++i) {
+        if (m_text[i] == '\t') {
+            texts.emplace_back();
+            continue;
+        }
+        if (m_text[i] == '\\' && i + 1 < m_text.size())
+            ++i;
+        texts.back() += m_text[i];
+    }
+    const std::size_t end = std::min(i + 1, m_text.size());
+    m_pieces.push_back({Piece::Kind::ListField, open, end, bar, m_lists.size()});
+    m_lists.push_back(std::move(texts));
+    return end;
+}
+
 std::string_view Format::name(const Piece& piece) const {
     return std::string_view(m_text).substr(piece.begin + 1, piece.nameEnd - piece.begin - 1);
 }
@@ -70,6 +103,8 @@ void Format::appendField(std::string& out, const Piece& piece, const FieldValue&
         out += value.shown;
     else if (piece.kind == Piece::Kind::NumberField)
         appendNumber(out, value.value, m_specs[piece.spec]);
+    else if (piece.kind == Piece::Kind::ListField)
+        appendEntry(out, value.value, m_lists[piece.spec]);
     else if (piece.kind == Piece::Kind::DateField)
         appendDate(out, value.value,
                    whole.substr(piece.nameEnd + 1 - piece.begin, piece.end - piece.nameEnd - 2));

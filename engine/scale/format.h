@@ -34,6 +34,11 @@
 //   characters; a backslash makes the next character stand for itself. A spec is a date when it begins with a
 //   run of forms.
 //
+//   list   := tab text { tab text }
+//   Instead of a number, one of the texts: the first for 0, the second for 1 and so on, by the nearest whole
+//   number; nothing where there is none. A backslash makes the next character of a text stand for itself,
+//   which "}", "{", a tab and the backslash need.
+//
 // NaN, infinities and missing values are shown as empty text.
 
 #include "engine/scale/number_text.h"
@@ -84,19 +89,21 @@ public:
 
 private:
     struct Piece {
-        enum class Kind : std::uint8_t { Literal, Field, NumberField, DateField };
+        enum class Kind : std::uint8_t { Literal, Field, NumberField, DateField, ListField };
         Kind kind;
         std::size_t begin, end; // the piece in m_text, braces included
         std::size_t nameEnd;    // of fields: the name is [begin + 1, nameEnd)
-        std::size_t spec;       // of number fields: index into m_specs
+        std::size_t spec;       // of number fields: index into m_specs; of list fields: into m_lists
     };
     std::string_view name(const Piece& piece) const;
     void addField(std::size_t open, std::size_t close);
+    std::size_t addList(std::size_t open, std::size_t bar);
     void appendField(std::string& out, const Piece& piece, const FieldValue& value) const;
 
     std::string m_text;
     std::vector<Piece> m_pieces;
     std::vector<NumberSpec> m_specs;
+    std::vector<std::vector<std::string>> m_lists;
 };
 
 /// A single value by a format: a bare spec ("2,.", "G", "yyyy-mm-dd") is applied to the value, a text with

@@ -78,8 +78,7 @@ RowRange XYChart::rows(std::size_t count) const {
 
 RowTexts XYChart::rowTexts() const {
     const ScaleSettings& scale = xAxis()->scale();
-    return RowTexts(scale.type == ScaleSettings::Type::Labels ? std::span<const double>(scale.labels)
-                                                              : std::span<const double>());
+    return scale.type == ScaleSettings::Type::Labels ? RowTexts(scale.labels, scale.rowFormat) : RowTexts({});
 }
 
 void XYChart::collectKeys(std::vector<LegendKey>& keys) const {

@@ -42,7 +42,8 @@
  *
  * Formats are texts with fields in braces, as "{dataSetName}: {value|2,.}": decimals, then the thousand
  * separator, then the decimal point, then the sign. "G" is the shortest form. Letters of dates give a date:
- * "{value|yyyy-mm-dd hh:nn:ss}". A field with an unknown name stays as it stands.
+ * "{value|yyyy-mm-dd hh:nn:ss}". A tab gives a list of texts, the first for 0: "{value|\tlow\tmiddle\thigh}",
+ * with a backslash before a brace, tab or backslash in them. A field with an unknown name stays as it stands.
  *
  * Colours are int values 0xAARRGGBB in which AA is transparency: 0x00 opaque, 0xff fully transparent. The
  * values 0xffff0000 + n are the entries of the palette, n from 0 to 39 (CHART_BACKGROUND_COLOR and on).
@@ -543,9 +544,13 @@ CHARTDRAW_API void CAxis_setTitlePos(Axis* axis, int alignment, int gap);
 /** Looks of the labels; the box stands for each of them. color: -1 is that of CAxis_setColors. */
 CHARTDRAW_API TextBox* CAxis_setLabelStyle(Axis* axis, const char* font, double size, int color,
                                            double angle);
-/** Format of the labels, "{value}" with the decimals of the step, "{label}" on a label axis. */
+/** Format of the labels: "{value}", or "{label}", shows what they would be without one. */
 CHARTDRAW_API void CAxis_setLabelFormat(Axis* axis, const char* format);
-/** Makes a label axis, a row a value, the values (often chart times) being shown by format. */
+/**
+ * Makes a label axis, a row a value, the values (often chart times) being shown by format; null shows dates
+ * or numbers. Rows with names have the values 0, 1, 2... and a format that lists the names:
+ * "{value|\tA\tB\tC}".
+ */
 CHARTDRAW_API TextBox* CAxis_setLabels2(Axis* axis, const double* values, int count, const char* format);
 /**
  * Two formats for the labels of a label or date axis: format1 for those that pass filter1, format2 for others

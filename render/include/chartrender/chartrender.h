@@ -18,3 +18,4 @@
 #include <chartrender/picture.h>
 #include <chartrender/pie.h>
 #include <chartrender/polar.h>
+#include <chartrender/xy.h>

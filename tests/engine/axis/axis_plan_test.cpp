@@ -178,6 +178,16 @@ TEST_F(AxisPlanTest, RowTextsTellDatesFromNumbers) {
     EXPECT_EQ(RowTexts({}).value(3), 3);
 }
 
+TEST_F(AxisPlanTest, AFormatOfLabelsDressesWhatTheRowsAreCalled) {
+    x.setLabels({0, 1}, "{value|\tJan\tFeb}");
+    EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, ofRows(2))), (std::vector<std::string>{"Jan", "Feb"}));
+    x.setLabelFormat("{value}/{label}/{value|1}");
+    EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, ofRows(2))),
+              (std::vector<std::string>{"Jan/Jan/0.0", "Feb/Feb/1.0"}));
+    x.setLabels({0, 1}, "{value|2}"); // the rows' own format is the last word
+    EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, ofRows(2))), (std::vector<std::string>{"0.00", "1.00"}));
+}
+
 TEST_F(AxisPlanTest, TiedAxisShowsItsOwnRoundNumbers) {
     AxisRequest request;
     request.root = &x;
@@ -197,7 +207,7 @@ TEST_F(AxisPlanTest, TiedAxisShowsItsOwnRoundNumbers) {
     request.rootScale = Scale::items(3, true);
     EXPECT_EQ(textsOf(layoutAt(y, Right, request)), (Texts{"<7>", "<8>", "<9>"}));
     y.setLabelFormat("{value}!");
-    EXPECT_EQ(textsOf(layoutAt(y, Right, request)), (Texts{"7!", "8!", "9!"}));
+    EXPECT_EQ(textsOf(layoutAt(y, Right, request)), (Texts{"<7>!", "<8>!", "<9>!"}));
 }
 
 TEST_F(AxisPlanTest, RingsOfTiesAreIgnored) {

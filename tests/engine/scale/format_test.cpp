@@ -165,6 +165,16 @@ TEST(FormatFields, KnownUnknownAndUnclosed) {
     EXPECT_FALSE(Format("percent {percents}").has("percent"));
 }
 
+TEST(FormatFields, ListsGiveTheTextOfANumber) {
+    const std::pair<double, const char*> cases[] = {{0, "<low>"}, {1, "<a}{|b>"}, {1.4, "<a}{|b>"},
+                                                    {2, "<>"},    {3, "<\tc\\>"}, {4, "<>"},
+                                                    {-1, "<>"},   {NAN, "<>"}};
+    for (const auto& [value, text] : cases)
+        EXPECT_EQ(formatValue(value, "<{value|\tlow\ta\\}\\{|b\t\t\\\tc\\\\}>"), text) << value;
+    EXPECT_EQ(formatValue(1, "{value|\ta\tb\\}"), "b}"); // the end is missing
+    EXPECT_EQ(formatValue(1, "{value|\ta\tb"), "{value|\ta\tb");
+}
+
 TEST(FormatFields, CostIsLinearInHostileText) {
     const Bar bar;
     constexpr std::size_t size = 1'000'000;

@@ -58,9 +58,9 @@ struct XYTasks {
 
 /// The data of one layer. A drawing asks for what the layer's kind shows, and then for RowValues. Arrays are
 /// good until the object ends, unless something else is said.
-class CXYLayerData {
+class CXYLayerSource {
 public:
-    virtual ~CXYLayerData() = default;
+    virtual ~CXYLayerSource() = default;
 
     /// The colour of series `k` if the model gives it none.
     virtual int SeriesColor(int k) const = 0;
@@ -78,14 +78,14 @@ public:
 };
 
 /// The data of a chart.
-class CXYData {
+class CXYSource {
 public:
-    virtual ~CXYData() = default;
+    virtual ~CXYSource() = default;
 
     /// Whether the data are made up: what only a preview shows goes with them.
     virtual bool IsSample() const = 0;
     /// Gives the x axis the names of the rows, if they have any.
     virtual void LabelRows(Axis* xAxis) = 0;
     /// Null if nothing is to be drawn.
-    virtual std::unique_ptr<CXYLayerData> Layer(const CXYChartLayer& layer) = 0;
+    virtual std::unique_ptr<CXYLayerSource> Layer(const CXYChartLayer& layer) = 0;
 };
