@@ -11,7 +11,8 @@ namespace chartdraw {
 
 namespace {
 
-constexpr int kLabelGap = 3; // pixels between a tick and its label
+constexpr int kLabelGap = 3;     // pixels between a tick and its label
+constexpr int kLeastTitle = 100; // pixels that a title has before it is broken
 
 /// Away from the line, in pixels of the picture.
 QPointF outward(int side) {
@@ -149,6 +150,62 @@ void placeLabels(AxisLayout& layout, AxisPlan& plan, const Axis& axis, double di
     }
 }
 
+/// Moves labels along the axis until none lies over another, each as near to its place as the rest allow and
+/// inside the picture. The last ones go where there are too many.
+void spread(std::vector<AxisLayout::Label>& all, const AxisPlace& place) {
+    const auto start = [&](const AxisLayout::Label& label) { return alongOf(place, label.box().topLeft()); };
+    const auto length = [&](const AxisLayout::Label& label) {
+        return alongOf(place, label.box().bottomRight()) - start(label);
+    };
+    const double low = place.upright() ? place.picture.top() : place.picture.left();
+    const double high = low + (place.upright() ? place.picture.height() : place.picture.width());
+    double taken = 0;
+    all.erase(std::find_if(all.begin(), all.end(),
+                           [&](const AxisLayout::Label& label) {
+                               taken += length(label);
+                               return taken > high - low;
+                           }),
+              all.end());
+    std::vector<AxisLayout::Label*> labels;
+    for (AxisLayout::Label& label : all)
+        labels.push_back(&label);
+    std::stable_sort(labels.begin(), labels.end(), [&](const auto* a, const auto* b) {
+        return start(*a) + length(*a) / 2 < start(*b) + length(*b) / 2;
+    });
+    // Labels that touch become a group, which stands in the middle of where its members want to be.
+    struct Group {
+        std::size_t first, count;
+        double wished; // sum of where each member wants the group to start
+        double length;
+        double at(double lowest, double highest) const {
+            const double most = std::max(lowest, highest - length);
+            return std::clamp(wished / static_cast<double>(count), lowest, most);
+        }
+    };
+    std::vector<Group> groups;
+    for (std::size_t i = 0; i < labels.size(); ++i) {
+        groups.push_back({i, 1, start(*labels[i]), length(*labels[i])});
+        while (groups.size() > 1) {
+            Group& before = groups[groups.size() - 2];
+            const Group& last = groups.back();
+            if (before.at(low, high) + before.length <= last.at(low, high))
+                break;
+            before.wished += last.wished - before.length * static_cast<double>(last.count);
+            before.length += last.length;
+            before.count += last.count;
+            groups.pop_back();
+        }
+    }
+    for (const Group& group : groups) {
+        double at = group.at(low, high);
+        for (std::size_t i = group.first; i < group.first + group.count; ++i) {
+            const double by = at - start(*labels[i]);
+            at += length(*labels[i]);
+            labels[i]->move(place.upright() ? QPointF(0, by) : QPointF(by, 0));
+        }
+    }
+}
+
 /// The labels of the marks stand among those of the ticks, which give way to them.
 void placeMarks(AxisLayout& layout, const Axis& axis, double distance) {
     for (const Mark* mark : axis.marks()) {
@@ -164,22 +221,12 @@ void placeMarks(AxisLayout& layout, const Axis& axis, double distance) {
             continue;
         LabelPlacer(layout.place, mark->look().angle, distance)
             .put(label, layout.map.wholePixel(mark->value()));
-        label.move(alongOnly(layout.place, intoPicture(label.box(), layout.place.picture)));
-        for (const AxisLayout::Label& other : layout.marks) {
-            const QRectF box = label.box();
-            if (box.intersects(other.box())) {
-                const bool before =
-                    alongOf(layout.place, box.center()) < alongOf(layout.place, other.box().center());
-                const QPointF by = before ? other.box().topLeft() - box.bottomRight()
-                                          : other.box().bottomRight() - box.topLeft();
-                label.move(alongOnly(layout.place, by));
-            }
-        }
-        const QRectF box = label.box();
-        std::erase_if(layout.labels,
-                      [&](const AxisLayout::Label& tick) { return tick.box().intersects(box); });
         layout.marks.push_back(std::move(label));
     }
+    spread(layout.marks, layout.place);
+    for (const AxisLayout::Label& mark : layout.marks)
+        std::erase_if(layout.labels,
+                      [&](const AxisLayout::Label& tick) { return tick.box().intersects(mark.box()); });
 }
 
 int reachOf(const AxisLayout& layout, double ticks) {
@@ -199,12 +246,33 @@ int reachOf(const AxisLayout& layout, double ticks) {
 }
 
 /// A title on the line of the axis stands beyond its end; all others stand beside it, outside the labels.
+bool titleStandsBeyond(const Axis& axis, const AxisPlace& place) {
+    const int code = axis.titleAlignment();
+    return place.upright() ? code == TopCenter || code == BottomCenter : code == Left || code == Right;
+}
+
+/// Beside the axis a long title is broken, so that it does not run into that of the next side.
+TextBlock titleBlock(const Axis& axis, const AxisPlace& place) {
+    const bool beyond = titleStandsBeyond(axis, place);
+    TextLook look = axis.titleLook(place.upright() && !beyond);
+    const bool along = std::fmod(look.angle, 180) == (place.upright() ? 90 : 0);
+    const int picture = place.upright() ? place.picture.height() : place.picture.width();
+    if (!beyond && (along || std::fmod(look.angle, 180) == (place.upright() ? -90 : 0)) && !look.vertical)
+        look.wrapWidth = std::max(place.to - place.from + 1, std::min(picture, kLeastTitle));
+    return {look, axis.title().text(), axis.chart().fonts()};
+}
+
+/// From the line to the labels.
+double labelDistance(const Axis& axis) {
+    return std::max(0, axis.width() - 1) + std::max(0, axis.ticks().majorLength) + kLabelGap + 0.5;
+}
+
 void placeTitle(AxisLayout& layout, const Axis& axis) {
     const AxisPlace& place = layout.place;
     const int code = axis.titleAlignment();
     const bool upright = place.upright();
-    const bool beyond = upright ? code == TopCenter || code == BottomCenter : code == Left || code == Right;
-    TextBlock block(axis.titleLook(upright && !beyond), axis.title().text(), axis.chart().fonts());
+    const bool beyond = titleStandsBeyond(axis, place);
+    TextBlock block = titleBlock(axis, place);
     if (block.empty())
         return;
     AxisLayout::Label title{.value = 0,
@@ -268,6 +336,20 @@ void AxisLayout::Label::draw(Canvas& canvas) const {
         block.drawAt(canvas, anchor, alignment);
 }
 
+double labelRoomOf(const Axis& axis, const AxisPlace& place) {
+    const QRect& picture = place.picture;
+    double room = place.side == Left        ? place.across - picture.left()
+                  : place.side == Right     ? picture.right() - place.across
+                  : place.side == TopCenter ? place.across - picture.top()
+                                            : picture.bottom() - place.across;
+    if (!axis.title().pos() && !titleStandsBeyond(axis, place)) {
+        const TextBlock title = titleBlock(axis, place);
+        const int height = place.upright() ? title.size().width() : title.size().height();
+        room -= title.empty() ? 0 : height + std::max(0, axis.titleGap());
+    }
+    return std::max(1.0, room - labelDistance(axis));
+}
+
 AxisLayout layoutAxis(const Axis& axis, AxisPlan plan, const AxisPlace& place) {
     AxisLayout layout;
     layout.map = plan.map(place.lower, place.upper);
@@ -276,7 +358,7 @@ AxisLayout layoutAxis(const Axis& axis, AxisPlan plan, const AxisPlace& place) {
         layout.ticks.push_back({tick.value, layout.map.wholePixel(tick.value), tick.major});
     const double ticks = std::max({0, axis.ticks().majorLength, axis.ticks().minorLength});
     const double line = std::max(0, axis.width() - 1);
-    const double distance = line + std::max(0, axis.ticks().majorLength) + kLabelGap + 0.5;
+    const double distance = labelDistance(axis);
     placeLabels(layout, plan, axis, distance);
     placeMarks(layout, axis, distance);
     if (axis.chart().colours().invisible(axis.labelBox().look().colour))

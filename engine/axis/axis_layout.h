@@ -60,6 +60,10 @@ struct AxisLayout {
     int reach = 0; ///< pixels from `place.across` outwards to the end of what is drawn, the title left out
 };
 
+/// How far labels may reach away from the line, for an AxisRequest: from the ticks to the border of the
+/// picture, less what a title beside them takes. At least a pixel.
+double labelRoomOf(const Axis& axis, const AxisPlace& place);
+
 /// `plan` should come from a request with the length and orientation of the place.
 AxisLayout layoutAxis(const Axis& axis, AxisPlan plan, const AxisPlace& place);
 

@@ -3,6 +3,7 @@
 #include "engine/axis/label_fit.h"
 #include "engine/axis/row_ticks.h"
 #include "engine/chart/chart.h"
+#include "engine/scale/short_labels.h"
 
 #include <algorithm>
 #include <cmath>
@@ -129,8 +130,14 @@ private:
         for (int attempt = 1;; ++attempt) {
             const Scale own = ownScale(density);
             AxisPlan plan = emptyPlan(own);
-            const Ticks ticks = makeTicks(own, settings().increments, density);
-            const std::vector<int> ranks = addMajor(plan, ticks, own);
+            Ticks ticks = makeTicks(own, settings().increments, density);
+            std::vector<int> ranks = addMajor(plan, ticks, own);
+            if (own.kind() == ScaleKind::Linear && m_request.labelRoom > 0 && m_fit.reachesByLength() &&
+                m_fit.widest(plan.ticks) > m_request.labelRoom) {
+                shortenNumbers(ticks, own);
+                plan.ticks.clear();
+                ranks = addMajor(plan, ticks, own);
+            }
             const AxisMap map = plan.map(0, m_request.length);
             const double wanted = m_fit.wantedDistance(plan.ticks, map);
             const bool fixed = settings().increments.major > 0 || plan.ticks.size() < 3;
@@ -142,6 +149,16 @@ private:
             }
             density.majorPx = std::max(wanted, density.majorPx * 1.25);
         }
+    }
+
+    /// Numbers by the thousand, million and so on, or with exponents, whichever is shorter than now.
+    static void shortenNumbers(Ticks& ticks, const Scale& own) {
+        std::vector<double> values;
+        for (const Tick& tick : ticks.major)
+            values.push_back(tick.value);
+        const std::vector<std::string> texts = shortLabels(values, own.upper() - own.lower());
+        for (std::size_t i = 0; i < texts.size(); ++i)
+            ticks.major[i].label = texts[i];
     }
 
     /// Adds the major ticks with their labels; gives the ranks of the labels where rules chose them.
@@ -172,7 +189,8 @@ private:
         AxisPlan plan = emptyPlan(ownScale({}));
         const AxisMap map = plan.map(0, m_request.length);
         const LabelMaker maker(m_axis, m_content);
-        addRowTicks(plan.ticks, maker, {m_request.firstRow, m_request.rowCount}, map, m_fit);
+        addRowTicks(plan.ticks, maker, {m_request.firstRow, m_request.rowCount}, map, m_fit,
+                    m_request.labelRoom);
         return plan;
     }
 

@@ -25,6 +25,7 @@ struct AxisRequest {
     bool indent = false;  ///< half a row free at the ends, if the axis does not say
     double length = 100;  ///< pixels between the ends of the scale, its margins taken off
     bool upright = false; ///< labels stand above each other, not side by side
+    double labelRoom = 0; ///< pixels that a label may reach away from the line; 0: any
     /// For a tied axis: the axis at the end of the chain, its scale, and the tie from end to end. An axis
     /// tied one to one shows what that axis shows, with looks and formats of its own where it has any.
     const Axis* root = nullptr;
@@ -57,7 +58,8 @@ struct AxisPlan {
 bool showsRows(const Axis& axis, int rowCount);
 
 /// Labels never lie over each other: ticks stand wider apart until labels fit, and where that is not free (or
-/// not enough) labels are left out, those at the ends last.
+/// not enough) labels are left out, those at the ends last. Where the room is too narrow for the numbers of
+/// an axis all of them take a shorter form, and names are wrapped or shortened.
 AxisPlan planAxis(const Axis& axis, const AxisRequest& request);
 
 /// The values behind the labels of rows and the texts that they have: by the format that the rows were given

@@ -18,6 +18,13 @@ LabelFit::LabelFit(const TextLook& look, const FontSet& fonts, bool upright) : m
     m_gap = sideBySide ? std::max(4.0, m_lineHeight * 0.4) : 1.0;
 }
 
+double LabelFit::widest(const std::vector<PlannedTick>& ticks) const {
+    double most = 0;
+    for (const PlannedTick& tick : ticks)
+        most = tick.label ? std::max(most, reach(*tick.label)) : most;
+    return most;
+}
+
 std::vector<double> LabelFit::halfExtents(const std::vector<PlannedTick>& ticks) const {
     std::vector<double> result(ticks.size(), 0);
     double longest = 0, strip = 0;

@@ -10,6 +10,16 @@ public:
     /// `look` of the labels; `upright`: along an upright axis.
     LabelFit(const TextLook& look, const FontSet& fonts, bool upright);
 
+    /// The most that a label reaches away from the line.
+    double widest(const std::vector<PlannedTick>& ticks) const;
+    /// The same of one label.
+    double reach(const TextBlock& label) const {
+        return m_upright ? label.size().width() : label.size().height();
+    }
+    /// Whether a shorter text reaches less far; not where labels run along the axis.
+    bool reachesByLength() const { return m_slant > 0.05; }
+    /// Whether labels lie along the axis's own direction of reading, so that a long one can be wrapped.
+    bool wraps() const { return m_upright && m_slant > 0.999; }
     /// Pixels of a label of one line.
     double lineHeight() const { return m_lineHeight; }
     /// The distance that the labels' ticks want for all to have room; 0 if they have it. `ticks` ascending,

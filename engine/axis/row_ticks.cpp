@@ -136,8 +136,37 @@ PlannedTick LabelMaker::tick(double position, double value, std::string_view sho
     return result;
 }
 
+void LabelMaker::shorten(PlannedTick& tick, const LabelFit& fit, double room, double pitch) const {
+    if (room <= 0 || !tick.label || !fit.reachesByLength() || fit.reach(*tick.label) <= room)
+        return;
+    const FontSet& fonts = m_axis.chart().fonts();
+    if (fit.wraps()) {
+        TextLook look = m_axis.labelBox().look();
+        look.wrapWidth = std::max(1, static_cast<int>(room) - look.marginLeft - look.marginRight);
+        TextBlock wrapped(look, tick.text, fonts);
+        if (fit.reach(wrapped) <= room && wrapped.size().height() <= pitch) {
+            tick.label = std::move(wrapped);
+            return;
+        }
+    }
+    // As many characters as fit, by halving; markup is not looked for, and at worst shows.
+    const std::string whole = std::move(tick.text);
+    std::size_t fits = 0, tooMany = whole.size();
+    const auto cut = [&](std::size_t length) {
+        while (length > 0 && (static_cast<unsigned char>(whole[length]) & 0xc0) == 0x80)
+            --length;
+        return whole.substr(0, length) + "\u2026";
+    };
+    while (tooMany - fits > 1) {
+        const std::size_t middle = (fits + tooMany) / 2;
+        (fit.reach(m_axis.labelBox().block(cut(middle))) <= room ? fits : tooMany) = middle;
+    }
+    tick.text = cut(fits);
+    tick.label = m_axis.labelBox().block(tick.text);
+}
+
 void addRowTicks(std::vector<PlannedTick>& ticks, const LabelMaker& maker, RowSpan rows, const AxisMap& map,
-                 const LabelFit& fit) {
+                 const LabelFit& fit, double room) {
     std::vector<Candidate> found = candidates(maker, rows);
     const double length = std::abs(map.upperPixel() - map.lowerPixel());
     thinCandidates(found, length);
@@ -155,6 +184,7 @@ void addRowTicks(std::vector<PlannedTick>& ticks, const LabelMaker& maker, RowSp
         }
         ticks.push_back(maker.tick(candidate.row, texts.value(row), texts.text(row), candidate.rule));
         ranks.push_back(candidate.rule);
+        maker.shorten(ticks.back(), fit, room, pitch);
     }
     fit.thin(ticks, map,
              hasRules(maker.content().rules) ? std::span<const int>(ranks) : std::span<const int>());

@@ -33,6 +33,9 @@ public:
     /// A major tick at `position`. `value` and `shown`, its text without a format, go into the format of the
     /// rule (or the axis's own); the format "-" gives no label.
     PlannedTick tick(double position, double value, std::string_view shown, int rule) const;
+    /// Makes a label reach no farther than `room` from the line, and be no higher than `pitch` where it is
+    /// wrapped for that.
+    void shorten(PlannedTick& tick, const LabelFit& fit, double room, double pitch) const;
 
 private:
     const Axis& m_axis;
@@ -46,8 +49,9 @@ struct RowSpan {
     int first = 0, count = 0;
 };
 
-/// The ticks of the rows, thinned so that labels have room and ticks do not run into a bar of colour.
+/// The ticks of the rows, thinned so that labels have room and ticks do not run into a bar of colour. A label
+/// that reaches farther than `room` pixels from the line is wrapped or ends in an ellipsis; 0: any does.
 void addRowTicks(std::vector<PlannedTick>& ticks, const LabelMaker& maker, RowSpan rows, const AxisMap& map,
-                 const LabelFit& fit);
+                 const LabelFit& fit, double room);
 
 } // namespace chartdraw

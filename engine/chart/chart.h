@@ -87,6 +87,8 @@ public:
 
     /// Keys of the named data sets or sectors, in order.
     virtual void collectKeys(std::vector<LegendKey>& keys) const;
+    /// The pixels that data may cover, where they are known: a legend there is given a ground.
+    virtual QRect dataArea() const { return {}; }
 
     /// A chart shown inside another one tells it of changes and of its end.
     void addHost(Chart* host);

@@ -5,10 +5,22 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numeric>
 
 namespace chartdraw {
 
 namespace {
+
+constexpr int kBorder = 2;                  // pixels that the box keeps from the side of the picture
+constexpr Colour kLightGround = 0x30ffffff; // and a little of what it stands on
+constexpr Colour kDarkGround = 0x30000000;
+
+/// What a text of this colour is read on.
+Colour groundFor(Colour text) {
+    const bool plain = (text >> 24) == 0;
+    const bool light = plain && (text >> 16 & 0xff) + (text >> 8 & 0xff) + (text & 0xff) > 3 * 0x90;
+    return light ? kDarkGround : kLightGround;
+}
 
 class NameSource final : public FieldSource {
 public:
@@ -98,6 +110,38 @@ LegendKey LegendBox::keyOf(const OwnKey& own, Colour next) {
     return key;
 }
 
+/// Keys in one row where they fit, else in as many columns as fit, or in one if they are to stand below each
+/// other. `between`: pixels between two keys of a row.
+QSize LegendBox::placeKeys(Plan& plan, int available, int between) const {
+    const std::size_t count = plan.placed.size();
+    const auto width = [&](const Placed& placed) {
+        return placed.symbolWidth + plan.gap + placed.text.size().width();
+    };
+    std::vector<int> columns;
+    int total = 0;
+    // No key is narrower than its symbol, which bounds the columns to try.
+    const auto most = static_cast<std::size_t>(std::max(1, available / (plan.symbolHeight + between) + 1));
+    for (std::size_t tried = m_vertical ? 1 : std::min(count, most); tried > 0; --tried) {
+        columns.assign(tried, 0);
+        for (std::size_t i = 0; i < count; ++i)
+            columns[i % tried] = std::max(columns[i % tried], width(plan.placed[i]));
+        total = std::accumulate(columns.begin(), columns.end(), between * static_cast<int>(tried - 1));
+        if (total <= available)
+            break;
+    }
+    int x = 0, y = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::size_t column = i % columns.size();
+        if (column == 0 && i > 0) {
+            x = 0;
+            y += plan.lineHeight + 1;
+        }
+        plan.placed[i].at = QPoint(x, y);
+        x += columns[column] + between;
+    }
+    return {total, y + plan.lineHeight};
+}
+
 LegendBox::Plan LegendBox::plan() const {
     Plan plan;
     chart().collectKeys(plan.keys);
@@ -113,35 +157,25 @@ LegendBox::Plan LegendBox::plan() const {
     bare.alignment = Left;
 
     const int em = TextBlock(bare, "X", chart().fonts()).boxSize().height();
+    const int available = (look().width > 0 ? look().width : chart().width() - pos()->x() - kBorder) -
+                          look().marginLeft - look().marginRight;
     plan.symbolHeight = std::max(5, em * 2 / 3);
     plan.gap = std::max(3, em / 3);
     const bool anyWide = std::any_of(plan.keys.begin(), plan.keys.end(), [](auto& key) { return key.wide; });
     const Format format(text());
     plan.placed.reserve(plan.keys.size());
     for (const LegendKey& key : plan.keys) {
-        TextBlock block(bare, key.fields ? format.apply(*key.fields) : key.text, chart().fonts());
-        plan.lineHeight = std::max({plan.lineHeight, block.size().height(), plan.symbolHeight});
         // In a column all texts start at one edge; in a row each symbol is as wide as it needs.
         const bool wide = m_vertical ? anyWide : key.wide;
-        plan.placed.push_back({&key, std::move(block), wide ? em * 3 / 2 : plan.symbolHeight, {}});
+        const int symbolWidth = wide ? em * 3 / 2 : plan.symbolHeight;
+        bare.wrapWidth = std::max(2 * em, available - symbolWidth - plan.gap);
+        TextBlock block(bare, key.fields ? format.apply(*key.fields) : key.text, chart().fonts());
+        plan.lineHeight = std::max({plan.lineHeight, block.size().height(), plan.symbolHeight});
+        plan.placed.push_back({&key, std::move(block), symbolWidth, {}});
     }
-
-    const int available = (look().width > 0 ? look().width : chart().width() - pos()->x()) -
-                          look().marginLeft - look().marginRight;
-    const int between = em;
-    int x = 0, y = 0, widest = 0;
-    for (Placed& placed : plan.placed) {
-        const int width = placed.symbolWidth + plan.gap + placed.text.size().width();
-        if (x > 0 && (m_vertical || x + width > available)) {
-            x = 0;
-            y += plan.lineHeight + 1;
-        }
-        placed.at = QPoint(x, y);
-        widest = std::max(widest, x + width);
-        x += width + between;
-    }
-    const int fittedWidth = widest + look().marginLeft + look().marginRight;
-    const int fittedHeight = y + plan.lineHeight + look().marginTop + look().marginBottom;
+    const QSize keys = placeKeys(plan, available, em);
+    const int fittedWidth = keys.width() + look().marginLeft + look().marginRight;
+    const int fittedHeight = keys.height() + look().marginTop + look().marginBottom;
     plan.box = QSize(look().width > 0 ? look().width : fittedWidth,
                      look().height > 0 ? look().height : fittedHeight);
     return plan;
@@ -152,7 +186,11 @@ void LegendBox::draw(Canvas& canvas) {
     if (plan.placed.empty())
         return;
     const TextLook& style = look();
-    canvas.box(QRect(*pos(), plan.box), style.background, style.edge, style.effect, style.corners);
+    const QRect box(*pos(), plan.box);
+    // On data, keys would be hard to read without a ground of their own.
+    const bool bare = canvas.colours().invisible(style.background) && box.intersects(chart().dataArea());
+    canvas.box(box, bare ? groundFor(style.colour) : style.background, style.edge, style.effect,
+               style.corners);
     const QPoint origin = *pos() + QPoint(style.marginLeft, style.marginTop);
     for (const Placed& placed : plan.placed) {
         const QPoint corner = origin + placed.at;

@@ -58,6 +58,7 @@ private:
     struct Plan;
     static LegendKey keyOf(const OwnKey& own, Colour next);
     Plan plan() const;
+    QSize placeKeys(Plan& plan, int available, int between) const;
 
     bool m_vertical = false;
     std::vector<OwnKey> m_keys;

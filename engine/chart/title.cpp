@@ -6,6 +6,12 @@
 
 namespace chartdraw {
 
+namespace {
+
+constexpr int kBorder = 4; // pixels that a long title keeps from the sides of the picture
+
+} // namespace
+
 QPoint TitleStacks::place(QSize size, int alignment) {
     const int column = horizontalOf(alignment);
     const int row = verticalOf(alignment);
@@ -41,6 +47,9 @@ TextBlock Title::laidOut() const {
     TextLook full = look();
     if (m_strip && full.width <= 0)
         full.width = chart().width();
+    const bool level = full.angle == 0 && !full.vertical;
+    if (level && full.wrapWidth == 0)
+        full.wrapWidth = std::max(1, chart().width() - 2 * kBorder - full.marginLeft - full.marginRight);
     return {full, text(), chart().fonts()};
 }
 

@@ -254,11 +254,14 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
                 continue;
             const DataSet* set = dataSets()[piece.set];
             const double tip = alongY(frame, piece.to);
-            const double middle = (tip + alongY(frame, piece.from)) / 2;
-            labels.draw({row, set, set->data()[row], piece.share}, {(x0 + x1) / 2.0, inside ? middle : tip,
-                                                                    inside          ? LabelSide::Inside
-                                                                    : piece.to >= 0 ? LabelSide::Above
-                                                                                    : LabelSide::Below});
+            const double root = alongY(frame, piece.from);
+            labels.draw({row, set, set->data()[row], piece.share},
+                        {.alongX = (x0 + x1) / 2.0,
+                         .alongY = inside ? (tip + root) / 2 : tip,
+                         .side = inside          ? LabelSide::Inside
+                                 : piece.to >= 0 ? LabelSide::Above
+                                                 : LabelSide::Below,
+                         .body = inside ? std::max(1.0, std::abs(tip - root)) : 0});
         }
     }
 }

@@ -54,6 +54,13 @@ int BaseBoxLayer::edgeWidth(int alongX, int alongY) const {
     return std::min({lineWidth(), (alongX - 1) / 3, (alongY - 1) / 2});
 }
 
+bool BaseBoxLayer::standsOnBody(const PlotFrame& frame, double from, double to) {
+    if (frame.depth == 0 || !isValue(from) || !isValue(to))
+        return false;
+    const double reach = frame.y.pixel(to) - frame.y.pixel(from);
+    return frame.swapped ? reach > 0 : reach < 0;
+}
+
 DataRange BaseBoxLayer::xRange() const {
     return widenedXRange(*this, Layer::xRange());
 }
@@ -112,12 +119,22 @@ void BaseBoxLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
         double value = kNoValue;
         fields.clear();
         if (labelOf(place.row, value, fields)) {
-            double highest = value;
-            for (const auto& [name, number] : fields)
+            double highest = value, lowest = value;
+            for (const auto& [name, number] : fields) {
                 highest = isValue(number) ? std::max(highest, number) : highest;
+                lowest = isValue(number) ? std::min(lowest, number) : lowest;
+            }
+            // On a wick a label would be struck through, in a plain box it is not.
+            const bool wicks = std::any_of(fields.begin() + 2, fields.end(),
+                                           [](const auto& field) { return isValue(field.second); });
+            const double above = pixel(frame, highest), below = pixel(frame, lowest);
+            // The first two fields are the ends of the body; the label is at that of the first.
+            const bool upsideDown = fields[0].second < fields[1].second;
             labels.draw({place.row, &set(), value, NAN, fields},
-                        {static_cast<double>(place.middle), static_cast<double>(pixel(frame, highest)),
-                         LabelSide::Above});
+                        {.alongX = static_cast<double>(place.middle),
+                         .alongY = upsideDown ? below : above,
+                         .side = upsideDown ? LabelSide::Below : LabelSide::Above,
+                         .otherY = wicks ? (upsideDown ? above : below) : NAN});
         }
     });
 }
@@ -174,8 +191,12 @@ void BoxWhiskerLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Plac
                          : isValue(top)                  ? top
                                                          : bottom;
     const double maximum = at(Maximum, place.row), minimum = at(Minimum, place.row);
-    drawWhisker(canvas, frame, place, isValue(upper) ? upper : minimum, maximum);
-    drawWhisker(canvas, frame, place, isValue(lower) ? lower : maximum, minimum);
+    const std::pair<double, double> whiskers[] = {{isValue(upper) ? upper : minimum, maximum},
+                                                  {isValue(lower) ? lower : maximum, minimum}};
+    // In 3D one of the two stands on the face that is seen.
+    for (const auto& [from, to] : whiskers)
+        if (!standsOnBody(frame, from, to))
+            drawWhisker(canvas, frame, place, from, to);
     if (isValue(top) && isValue(bottom)) {
         BarLook look;
         look.fill = fillOf(place.row);
@@ -188,6 +209,9 @@ void BoxWhiskerLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Plac
         look.depth = frame.depth;
         drawBar(canvas, pixelRect(frame, place.first, place.last, from, to), SquareShape, 8, look);
     }
+    for (const auto& [from, to] : whiskers)
+        if (standsOnBody(frame, from, to))
+            drawWhisker(canvas, frame, place, from, to);
     if (isValue(middle)) {
         const int y = pixel(frame, middle);
         const QRect pixels = pixelRect(frame, place.first, place.last, y, y);

@@ -52,6 +52,9 @@ protected:
     double at(std::size_t series, std::size_t row) const;
     /// The pixel along y of a value. Not for gaps.
     static int pixel(const PlotFrame& frame, double value);
+    /// Whether a wick from a body's end to `to` rises from a face of the body that is seen, so that it is to
+    /// be drawn after the body.
+    static bool standsOnBody(const PlotFrame& frame, double from, double to);
     const DataSet& set() const { return *dataSets().front(); }
     /// How wide the edge of a body is, given its pixels along x and along y: the line width, or what leaves
     /// the fill a third of the one and a pixel of the other.

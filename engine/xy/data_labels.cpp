@@ -9,7 +9,8 @@ namespace chartdraw {
 
 namespace {
 
-constexpr int kCell = 2; // pixels
+constexpr int kCell = 2;   // pixels
+constexpr int kDigits = 6; // significant ones of a value without a format
 
 class Fields final : public FieldSource {
 public:
@@ -17,8 +18,11 @@ public:
         : m_layer(layer), m_rows(rows), m_content(content) {}
 
     FieldValue field(std::string_view name) const override {
-        if (name == "value")
-            return FieldValue::number(m_content.value);
+        if (name == "value") {
+            // Noise of computing is no part of a value.
+            m_text = numberText(m_content.value, {.form = NumberSpec::Form::General, .digits = kDigits});
+            return FieldValue::number(m_content.value, m_text);
+        }
         if (name == "xLabel") {
             m_text = m_rows.text(m_content.row);
             return FieldValue::number(m_rows.value(m_content.row), m_text);
@@ -113,7 +117,8 @@ DataLabels::DataLabels(Canvas& canvas, const Layer& layer, const PlotFrame& fram
 
 QRectF DataLabels::boxAt(const LabelSpot& spot, LabelSide side, QSizeF size) const {
     QRectF box(QPointF(), size);
-    box.moveCenter(m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5));
+    const double alongY = side != spot.side && !std::isnan(spot.otherY) ? spot.otherY : spot.alongY;
+    box.moveCenter(m_frame.at(spot.alongX, alongY) + QPointF(0.5, 0.5));
     if (side != LabelSide::Inside) {
         const bool growing = (m_frame.y.upperPixel() > m_frame.y.lowerPixel()) == (side == LabelSide::Above);
         const double sign = growing ? 1 : -1;
@@ -127,8 +132,14 @@ QRectF DataLabels::boxAt(const LabelSpot& spot, LabelSide side, QSizeF size) con
     return box;
 }
 
+bool DataLabels::fitsBody(const LabelSpot& spot, QSizeF size) const {
+    return spot.body <= 0 || (m_frame.swapped ? size.width() : size.height()) <= spot.body + 4;
+}
+
 bool DataLabels::place(QRectF& box, const LabelSpot& spot, QSizeF size) const {
     const LabelSide other = spot.side == LabelSide::Above ? LabelSide::Below : LabelSide::Above;
+    if (!fitsBody(spot, size))
+        return false;
     const LabelSide inside[] = {LabelSide::Inside};
     const LabelSide outside[] = {spot.side, other};
     for (const LabelSide side : spot.side == LabelSide::Inside ? std::span<const LabelSide>(inside)

@@ -7,6 +7,7 @@
 #include "engine/scale/format.h"
 #include "engine/xy/layer.h"
 
+#include <cmath>
 #include <memory>
 #include <span>
 #include <string_view>
@@ -34,6 +35,8 @@ struct LabelSpot {
     double alongX = 0, alongY = 0;
     LabelSide side = LabelSide::Above;
     int gap = 2;
+    double otherY = NAN; ///< the point on the other side, where that is not the same
+    double body = 0;     ///< Inside: pixels along y that the label has, 0 any
 };
 
 /// Which parts of a picture labels have taken, to the nearest two pixels. One for all layers of a picture.
@@ -60,6 +63,7 @@ public:
 
 private:
     QRectF boxAt(const LabelSpot& spot, LabelSide side, QSizeF size) const;
+    bool fitsBody(const LabelSpot& spot, QSizeF size) const;
     bool place(QRectF& box, const LabelSpot& spot, QSizeF size) const;
 
     Canvas& m_canvas;

@@ -55,19 +55,31 @@ private:
         return static_cast<std::size_t>(found - m_axes.begin());
     }
 
+    /// The x range of a layer on an axis of numbers: there no indent gives rows the room that bodies need.
+    static DataRange numericXRange(const Layer& layer) {
+        DataRange range = layer.xRange();
+        if (layer.wantsIndent() && !layer.hasXData() && !range.empty) {
+            const auto [first, last] = std::pair(range.min, range.max);
+            range.add(first - 0.5);
+            range.add(last + 0.5);
+        }
+        return range;
+    }
+
     void askLayers() {
         std::size_t rows = 0;
-        bool numbers = false;
-        for (const Layer* layer : m_chart.layers()) {
+        const std::vector<Layer*>& layers = m_chart.layers();
+        const bool numbers =
+            std::any_of(layers.begin(), layers.end(), [](const Layer* layer) { return layer->hasXData(); });
+        for (const Layer* layer : layers) {
             Bound& x = m_bound[kFirstX];
-            x.data.add(layer->xRange());
+            x.data.add(numbers ? numericXRange(*layer) : layer->xRange());
             x.any = true;
             Bound& y = m_bound[indexOf(&layer->yAxis())];
             (layer->fillsRange() ? y.whole : y.data).add(layer->yRange());
             y.any = true;
             y.includeZero = y.includeZero || layer->needsZero();
             rows = std::max(rows, layer->rows().size());
-            numbers = numbers || layer->hasXData();
             m_indent = m_indent || layer->wantsIndent();
         }
         if (numbers)
@@ -175,6 +187,7 @@ private:
         }
         request.length = place.scaleLength();
         request.upright = place.upright();
+        request.labelRoom = labelRoomOf(axis, place);
         return request;
     }
 

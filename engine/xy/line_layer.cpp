@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 #include <utility>
 
 namespace chartdraw {
@@ -51,6 +52,12 @@ int wholeSize(std::span<const double> sizes, std::size_t row) {
     return static_cast<int>(std::lround(std::clamp<double>(size, 0, kMaxSymbolSize)));
 }
 
+/// Values up to this one have no place on the scale.
+double notShown(const PlotFrame& frame) {
+    const bool log = frame.y.scale().kind() == ScaleKind::Log;
+    return log ? 0 : -std::numeric_limits<double>::infinity();
+}
+
 } // namespace
 
 LineLayer::LineLayer(XYChart& chart, Form form, int depth)
@@ -73,7 +80,7 @@ void LineLayer::setSymbolSizes(std::vector<double> widths, std::vector<double> h
 }
 
 std::vector<QPointF> LineLayer::curve(const DataSet& set, const PlotFrame& frame) const {
-    std::vector<QPointF> points = reducedPoints(*this, set.data(), frame);
+    std::vector<QPointF> points = reducedPoints(*this, set.data(), frame, notShown(frame));
     switch (m_form) {
     case Form::Smooth:
         return smoothCurve(points);
@@ -86,7 +93,7 @@ std::vector<QPointF> LineLayer::curve(const DataSet& set, const PlotFrame& frame
 }
 
 void LineLayer::drawLongLine(Canvas& canvas, const DataSet& set) const {
-    LineReduction reduction(*this, set.data(), m_frame);
+    LineReduction reduction(*this, set.data(), m_frame, notShown(m_frame));
     std::vector<QPointF> points;
     for (; reduction.more(points, kPiece); points.clear()) {
         snapLevels(points);

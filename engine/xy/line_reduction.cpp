@@ -27,8 +27,9 @@ struct LineReduction::Run {
     std::size_t lowest = 0, highest = 0; ///< rows of the extreme values
 };
 
-LineReduction::LineReduction(const Layer& layer, std::span<const double> values, const PlotFrame& frame)
-    : m_frame(frame), m_x(layer.xData()), m_y(values), m_affine(frame.x.affine()) {
+LineReduction::LineReduction(const Layer& layer, std::span<const double> values, const PlotFrame& frame,
+                             double above)
+    : m_frame(frame), m_x(layer.xData()), m_y(values), m_above(above), m_affine(frame.x.affine()) {
     const RowRange rows = layer.rows();
     m_end = std::min(rows.end, values.size());
     if (layer.hasXData())
@@ -40,7 +41,7 @@ LineReduction::LineReduction(const Layer& layer, std::span<const double> values,
 }
 
 bool LineReduction::isGap(std::size_t row) const {
-    return !isValue(m_y[row]) || (!m_x.empty() && !isValue(m_x[row]));
+    return !isShown(m_y[row]) || (!m_x.empty() && !isValue(m_x[row]));
 }
 
 LineReduction::Run LineReduction::scan(std::size_t row, double half) const {
@@ -59,7 +60,7 @@ LineReduction::Run LineReduction::scan(std::size_t row, double half) const {
         if (!m_x.empty() && !(m_x[next] >= low && m_x[next] < high))
             break;
         const double value = m_y[next];
-        if (!isValue(value))
+        if (!isShown(value))
             break;
         if (value < least) {
             least = value;
@@ -137,10 +138,10 @@ bool LineReduction::more(std::vector<QPointF>& points, std::size_t most) {
     return points.size() > before;
 }
 
-std::vector<QPointF> reducedPoints(const Layer& layer, std::span<const double> values,
-                                   const PlotFrame& frame) {
+std::vector<QPointF> reducedPoints(const Layer& layer, std::span<const double> values, const PlotFrame& frame,
+                                   double above) {
     std::vector<QPointF> points;
-    LineReduction(layer, values, frame).more(points, std::numeric_limits<std::size_t>::max());
+    LineReduction(layer, values, frame, above).more(points, std::numeric_limits<std::size_t>::max());
     return points;
 }
 

@@ -8,6 +8,7 @@
 
 #include <QPointF>
 #include <cstddef>
+#include <limits>
 #include <optional>
 #include <span>
 #include <vector>
@@ -24,8 +25,9 @@ struct CoveredColumn {
 class LineReduction {
 public:
     /// `values` holds a number or a gap a row of the layer, before trimming; it and the layer must outlive
-    /// the reduction. `frame` tells the positions.
-    LineReduction(const Layer& layer, std::span<const double> values, const PlotFrame& frame);
+    /// the reduction. `frame` tells the positions. Values that are not above `above` are gaps too.
+    LineReduction(const Layer& layer, std::span<const double> values, const PlotFrame& frame,
+                  double above = -std::numeric_limits<double>::infinity());
 
     /// Appends points (positions along x and along y, a NaN for each gap), about `most` of them or all that
     /// are left; false when there are none. A line goes on from the last point of one call to the first of
@@ -42,6 +44,7 @@ private:
         const double x = xOf(row);
         return m_affine ? m_affine->offset + m_affine->factor * x : m_frame.x.pixel(x);
     }
+    bool isShown(double value) const { return isValue(value) && value > m_above; }
     bool isGap(std::size_t row) const;
     Run scan(std::size_t row, double half) const;
     void append(std::vector<QPointF>& points, std::size_t row) const;
@@ -49,6 +52,7 @@ private:
 
     PlotFrame m_frame;
     std::span<const double> m_x, m_y;
+    double m_above;
     std::size_t m_begin, m_end, m_next;
     std::optional<AxisMap::Affine> m_affine;
     bool m_joined = false; ///< the row before `m_next` is a point of the line
@@ -56,7 +60,7 @@ private:
 };
 
 /// All points of a series at once.
-std::vector<QPointF> reducedPoints(const Layer& layer, std::span<const double> values,
-                                   const PlotFrame& frame);
+std::vector<QPointF> reducedPoints(const Layer& layer, std::span<const double> values, const PlotFrame& frame,
+                                   double above = -std::numeric_limits<double>::infinity());
 
 } // namespace chartdraw

@@ -151,8 +151,13 @@ void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Pla
     }
     const double top = std::max(open, close), bottom = std::min(open, close);
     const int from = pixel(frame, top), to = pixel(frame, bottom);
-    wick(high, from);
-    wick(low, to);
+    const std::pair<double, double> wicks[] = {{top, at(High, place.row)}, {bottom, at(Low, place.row)}};
+    const auto drawWicks = [&](bool onBody) {
+        for (const auto& [root, end] : wicks)
+            if (standsOnBody(frame, root, end) == onBody)
+                wick(pixel(frame, end), pixel(frame, root));
+    };
+    drawWicks(false);
     BarLook look;
     look.fill = fillOf(open, close, !canvas.colours().invisible(edge));
     look.edge = edge;
@@ -162,6 +167,7 @@ void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Pla
     look.edgeWidth = edgeWidth(place.last - place.first + 1, std::abs(to - from) + 1);
     look.depth = frame.depth;
     drawBar(canvas, pixelRect(frame, place.first, place.last, from, to), SquareShape, 8, look);
+    drawWicks(true);
 }
 
 Colour CandleStickLayer::fillOf(double open, double close, bool hasEdge) const {

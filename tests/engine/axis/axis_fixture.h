@@ -31,6 +31,7 @@ inline AxisLayout layoutAt(const Axis& axis, AxisPlace place, AxisRequest reques
     place.setScaleEnds(axis.scale());
     request.length = place.scaleLength();
     request.upright = place.upright();
+    request.labelRoom = labelRoomOf(axis, place);
     return layoutAxis(axis, planAxis(axis, request), place);
 }
 

@@ -238,4 +238,60 @@ TEST(AreaLayer, PartsOfAHundredFillTheWhole) {
     }
 }
 
+TEST(CandleStickLayer, WicksShowInDepthToo) {
+    // From the middle of the top face upwards, and none of the lower one above the body's own end.
+    Chart chart;
+    BaseBoxLayer* box =
+        CandleStickLayer2BaseBoxLayer(candles(chart, {{80, kGap, kGap, kGap, kGap, kGap}, {20}, {40}, {60}}));
+    CLayer_set3D(BaseBoxLayer2Layer(box), 20, 0);
+    const QImage image = chart.picture();
+    const int middle = (120 + 100) / 2 - 10; // half up the top face, whose back edge is on row 90
+    EXPECT_EQ(at(image, 75 + 10, 230 - 2 * 80 - 10 + 5), 0u);
+    EXPECT_EQ(at(image, 75 + 10, middle - 5), 0u);
+}
+
+TEST(BoxLayer, LabelStandsAtTheEndThatItTells) {
+    const auto labelRows = [](double top, double bottom) {
+        Chart chart;
+        const std::vector<double> tops = {top, kGap, kGap}, bottoms = {bottom, kGap, kGap};
+        Layer* layer = BaseBoxLayer2Layer(BoxWhiskerLayer2BaseBoxLayer(
+            CXYChart_addBoxLayer(chart.xy, tops.data(), 3, bottoms.data(), 3, kGreen, nullptr)));
+        TextBox* label = CLayer_setDataLabelStyle(layer, nullptr, 8, kNone, 0);
+        CBox_setBackground(TextBox2Box(label), kRed, kRed, 0);
+        return boundsOf(chart.picture(), kRed);
+    };
+    EXPECT_LT(labelRows(60, 30).bottom(), 230 - 2 * 60);
+    EXPECT_GT(labelRows(60, 30).top(), 80);
+    EXPECT_GT(labelRows(30, 60).top(), 230 - 2 * 30);
+}
+
+TEST(Rows, HaveTheirRoomBesidePoints) {
+    // Six bars and three points on one axis that finds its own limits: the first bar is as wide as the
+    // others.
+    Chart chart;
+    bars(chart, CHART_COMBINE_SIDE, {{50, 50, 50, 50, 50, 50}});
+    const double x[] = {0, 1, 5}, y[] = {90, 90, 90};
+    CXYChart_addScatterLayer(chart.xy, x, 3, y, 3, nullptr, CHART_SQUARE_SYMBOL, 5, kBlue, kBlue);
+    const QImage image = chart.picture();
+    std::vector<int> widths;
+    for (int column = 0, run = 0; column < 400; ++column) {
+        const bool inked = at(image, column, 200) == static_cast<unsigned>(kRed);
+        run = inked ? run + 1 : 0;
+        if (inked && at(image, column + 1, 200) != static_cast<unsigned>(kRed))
+            widths.push_back(run);
+    }
+    ASSERT_EQ(widths.size(), 6u);
+    for (const int width : widths)
+        EXPECT_NEAR(width, widths[2], 1);
+}
+
+TEST(LineLayer, HasGapsWhereALogAxisHasNoPlace) {
+    Chart chart;
+    CAxis_setLogScale3(CXYChart_yAxis(chart.xy), nullptr);
+    line(chart, {10, 100, 0, -5, 100, 10}, kRed, 3);
+    const QImage image = chart.picture();
+    EXPECT_EQ(boundsOf(image.copy(115, 0, 170, 300), kRed), QRect()); // between rows 1 and 4
+    EXPECT_NE(boundsOf(image.copy(50, 0, 55, 300), kRed), QRect());
+}
+
 } // namespace

@@ -1,0 +1,135 @@
+// XY charts whose texts have too little room: what gives way, and how.
+
+#include "tools/gallery/gallery.h"
+
+#include <vector>
+
+namespace {
+
+using gallery::points;
+
+constexpr int kClear = CHART_TRANSPARENT;
+const char kLong[] = "A title of many words that has no place on a single line of this small picture";
+
+struct Chart {
+    XYChart* xy = CXYChart_create(360, 260, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
+    BaseChart* base = XYChart2BaseChart(xy);
+    Axis* x = CXYChart_xAxis(xy);
+    Axis* y = CXYChart_yAxis(xy);
+
+    explicit Chart(int left = 50) {
+        CXYChart_setPlotArea(xy, left, 35, 345 - left, 180, -1, -1, -1, -1, -1);
+        for (Axis* axis : {x, y})
+            CAxis_setLabelStyle(axis, nullptr, points(8), -1, 0);
+    }
+    void addLine(const std::vector<double>& data) const {
+        CXYChart_addLineLayer(xy, data.data(), static_cast<int>(data.size()), -1, nullptr, 0);
+    }
+    void addBars(const std::vector<double>& data, const char* name = nullptr) const {
+        CXYChart_addBarLayer(xy, data.data(), static_cast<int>(data.size()), -1, name, 0);
+    }
+};
+
+BaseChart* largeNumbers() {
+    const Chart chart(40);
+    chart.addLine({1.2e12, 2.1e12, 1.7e12, 3.3e12});
+    return chart.base;
+}
+
+BaseChart* marks() {
+    const Chart chart;
+    chart.addLine({12, 35, 22, 28});
+    for (const double value : {20.0, 20.5, 21.0})
+        CAxis_addMark(chart.y, value, 0xcc0000,
+                      value == 20   ? "least"
+                      : value == 21 ? "most"
+                                    : "usual",
+                      nullptr, points(8));
+    return chart.base;
+}
+
+BaseChart* wicksInDepth() {
+    const Chart chart;
+    const double high[] = {40, 55, 48}, low[] = {10, 22, 18}, open[] = {20, 30, 40}, close[] = {30, 42, 25};
+    CandleStickLayer* candles =
+        CXYChart_addCandleStickLayer(chart.xy, high, 3, low, 3, open, 3, close, 3, 0x33aa33, 0xcc3333, -1);
+    CLayer_set3D(BaseBoxLayer2Layer(CandleStickLayer2BaseBoxLayer(candles)), 16, 0);
+    return chart.base;
+}
+
+BaseChart* barsAndPoints() {
+    const Chart chart;
+    chart.addBars({25, 18, 31, 22, 38, 29});
+    const double x[] = {0, 1, 5}, y[] = {35, 28, 40};
+    CXYChart_addScatterLayer(chart.xy, x, 3, y, 3, nullptr, CHART_CIRCLE_SYMBOL, 9, 0xcc0000, -1);
+    return chart.base;
+}
+
+BaseChart* gapsOfALog() {
+    const Chart chart;
+    CAxis_setLogScale3(chart.y, nullptr);
+    chart.addLine({10, 120, 0, 300, 40, -5, 900});
+    return chart.base;
+}
+
+BaseChart* longTitles() {
+    const Chart chart(70);
+    chart.addBars({25, 18, 31});
+    CBaseChart_addTitle(chart.base, kLong, "bold", points(9), -1, kClear, kClear);
+    CAxis_setTitle(chart.x, kLong, nullptr, points(8), -1);
+    CAxis_setTitle(chart.y, kLong, nullptr, points(8), -1);
+    return chart.base;
+}
+
+BaseChart* longNames() {
+    const Chart chart;
+    chart.addBars({25, 18, 31});
+    const double rows[] = {0, 1, 2};
+    CAxis_setLabels2(chart.x, rows, 3, "{value|\tNorthern Territories\tSouth\tUnincorporated areas}");
+    CAxis_setLabelStyle(chart.x, nullptr, points(8), -1, 60);
+    CAxis_setTitle(chart.x, "Region", nullptr, points(8), -1);
+    return chart.base;
+}
+
+BaseChart* namesBesideLyingBars() {
+    const Chart chart(80);
+    chart.addBars({25, 18, 31});
+    CXYChart_swapXY(chart.xy, true);
+    const double rows[] = {0, 1, 2};
+    CAxis_setLabels2(chart.x, rows, 3, "{value|\tNorthern Territories\tSouth\tUnincorporatedareas}");
+    return chart.base;
+}
+
+BaseChart* legendOnData() {
+    const Chart chart;
+    for (const char* name : {"North", "A longer name", "West", "East and beyond", "South"})
+        chart.addBars({25, 18, 31}, name);
+    LegendBox* legend = CBaseChart_addLegend(chart.base, 150, 60, false, nullptr, points(8));
+    CBox_setBackground(TextBox2Box(LegendBox2TextBox(legend)), kClear, kClear, 0);
+    return chart.base;
+}
+
+BaseChart* noise() {
+    const Chart chart;
+    chart.addBars({0.1 + 0.2, 1.0 / 3, 0.7, 2.0 / 3});
+    const double data[] = {0.1 + 0.2, 1.0 / 3, 0.02, 2.0 / 3};
+    Layer* layer = BarLayer2Layer(CXYChart_addBarLayer2(chart.xy, CHART_COMBINE_STACK, 0));
+    CLayer_addDataSet(layer, data, 4, 0x88bbee, nullptr);
+    CLayer_addDataSet(layer, data, 4, 0xeebb88, nullptr);
+    CLayer_setDataLabelStyle(layer, nullptr, points(8), -1, 0);
+    return chart.base;
+}
+
+const gallery::Family family("room",
+                             {{"Numbers too long for the edge take a shorter form", largeNumbers},
+                              {"Labels of close marks spread", marks},
+                              {"Wicks rise from the top faces", wicksInDepth},
+                              {"Bars keep their room beside points", barsAndPoints},
+                              {"A log axis: gaps where nothing is above 0", gapsOfALog},
+                              {"Long titles are broken", longTitles},
+                              {"Turned names end before the title", longNames},
+                              {"Names beside lying bars are wrapped or shortened", namesBesideLyingBars},
+                              {"A legend on data: columns on a ground", legendOnData},
+                              {"Values without noise, where they fit their bars", noise}});
+
+} // namespace
