@@ -1,6 +1,5 @@
 #include "render/render_xy_source.h"
 #include "render/utf8_text.h"
-#include <cstring>
 #include <deque>
 #include <numeric>
 #include <string>
@@ -9,33 +8,6 @@ namespace {
 
 constexpr int kLinear = 2; // m_scaleType of an axis
 constexpr int kDates = 3;
-
-/// Copies a structure of the host's, which may be of another version: what an older one lacks keeps its
-/// default, what a newer one adds is left out. False for a size that is none.
-template <class Structure>
-bool ReadStructure(const void* from, Structure& to) {
-    std::size_t size = 0;
-    std::memcpy(&size, from, sizeof size);
-    if (size < sizeof(Structure)) // the first version is still the newest
-        return false;
-    std::memcpy(&to, from, sizeof(Structure));
-    return true;
-}
-
-/// The same for an array, whose elements are all of the first one's size.
-template <class Structure>
-bool ReadStructures(const Structure* from, int count, std::vector<Structure>& to) {
-    if (count < 0 || (count > 0 && !from))
-        return false;
-    to.resize(static_cast<std::size_t>(count));
-    const char* bytes = reinterpret_cast<const char*>(from);
-    for (Structure& structure : to) {
-        if (!ReadStructure(bytes, structure) || structure.size != to.front().size)
-            return false;
-        bytes += structure.size;
-    }
-    return true;
-}
 
 bool HasArray(const CXYLayerData& data, int type) {
     switch (type) {
@@ -53,41 +25,37 @@ bool HasArray(const CXYLayerData& data, int type) {
     }
 }
 
-bool ReadSeries(XYHostData::Layer& layer, int rowCount) {
-    if (!ReadStructures(layer.data.series, layer.data.seriesCount, layer.series))
-        return false;
-    for (const CXYSeriesData& series : layer.series)
-        if (series.count != rowCount || (rowCount > 0 && !series.values))
+bool SeriesFit(const CSizedArray<CXYSeriesData>& series, int rowCount) {
+    for (int i = 0; series.IsGood() && i < series.Count(); ++i)
+        if (series[i].count != rowCount || (rowCount > 0 && !series[i].values))
             return false;
-    return true;
+    return series.IsGood();
 }
 
-bool ReadTasks(XYHostData::Layer& layer, int rowCount) {
-    if (!ReadStructures(layer.data.tasks, layer.data.count, layer.tasks))
-        return false;
-    for (const CXYTaskData& task : layer.tasks)
-        if (task.row < 0 || task.row >= rowCount)
+bool TasksFit(const CSizedArray<CXYTaskData>& tasks, int rowCount) {
+    for (int i = 0; tasks.IsGood() && i < tasks.Count(); ++i)
+        if (tasks[i].row < 0 || tasks[i].row >= rowCount)
             return false;
-    return true;
+    return tasks.IsGood();
 }
 
 bool IsOfSeries(int type) {
     return type == 0 || type == 1 || type == 3;
 }
 
-bool ShowsAnything(const XYHostData::Layer& layer, int type) {
-    return IsOfSeries(type) ? !layer.series.empty() : layer.data.count > 0;
-}
-
-bool ReadLayer(XYHostData::Layer& layer, int type, int rowCount) {
+bool LayerFits(const XYHostData::Layer& layer, int type, int rowCount) {
     if (IsOfSeries(type))
-        return ReadSeries(layer, rowCount);
+        return SeriesFit(layer.series, rowCount);
     if (type == 7)
-        return ReadTasks(layer, rowCount);
+        return TasksFit(layer.tasks, rowCount);
     const CXYLayerData& data = layer.data;
     if (data.count < 0 || (data.count > 0 && !HasArray(data, type)))
         return false;
     return type == 2 || !HasArray(data, type) || data.count == rowCount;
+}
+
+bool ShowsAnything(const XYHostData::Layer& layer, int type) {
+    return IsOfSeries(type) ? layer.series.Count() > 0 : layer.data.count > 0;
 }
 
 /// The host's list of names, as the format that lists them.
@@ -107,10 +75,10 @@ std::string FormatOfNames(const char* const* names, int count) {
 
 class HostSeries : public CXYSeriesList {
 public:
-    explicit HostSeries(const std::vector<CXYSeriesData>& series) : m_series(series) {}
-    int Count() const override { return static_cast<int>(std::ssize(m_series)); }
+    explicit HostSeries(const CSizedArray<CXYSeriesData>& series) : m_series(series) {}
+    int Count() const override { return m_series.Count(); }
     XYSeries At(int index) override {
-        const CXYSeriesData& series = m_series[static_cast<std::size_t>(index)];
+        const CXYSeriesData& series = m_series[index];
         const XYColumn values(series.values, static_cast<std::size_t>(series.count));
         if (!series.name)
             return {values};
@@ -118,16 +86,16 @@ public:
     }
 
 private:
-    const std::vector<CXYSeriesData>& m_series;
+    CSizedArray<CXYSeriesData> m_series;
     std::deque<CUtf8Text> m_names; // which do not move
 };
 
 struct HostTasks : XYTasks {
-    explicit HostTasks(const std::vector<CXYTaskData>& tasks) {
-        for (const CXYTaskData& task : tasks) {
-            m_rows.push_back(task.row);
-            m_starts.push_back(task.start);
-            m_ends.push_back(task.end);
+    explicit HostTasks(const CSizedArray<CXYTaskData>& tasks) {
+        for (int i = 0; i < tasks.Count(); ++i) {
+            m_rows.push_back(tasks[i].row);
+            m_starts.push_back(tasks[i].start);
+            m_ends.push_back(tasks[i].end);
         }
         groups = m_rows;
         start = m_starts;
@@ -163,8 +131,8 @@ public:
     }
     std::unique_ptr<XYTasks> Tasks(int) override {
         m_placed = true;
-        for (const CXYTaskData& task : m_layer.tasks)
-            m_taskRows.push_back(task.row);
+        for (int i = 0; i < m_layer.tasks.Count(); ++i)
+            m_taskRows.push_back(m_layer.tasks[i].row);
         return std::make_unique<HostTasks>(m_layer.tasks);
     }
     XYColumn RowValues() override {
@@ -192,23 +160,23 @@ private:
 } // namespace
 
 std::optional<XYHostData> XYHostData::Read(const CXYChart& chart, const CXYChartData& data) {
-    XYHostData result;
-    if (!ReadStructure(&data, result.chart) || result.chart.rowCount < 0)
+    const CSizedArray<CXYLayerData> entries(data.layers, data.layerCount);
+    if (data.size < sizeof(CXYChartData) || data.rowCount < 0 || !entries.IsGood())
         return std::nullopt;
-    std::vector<CXYLayerData> layers;
-    if (!ReadStructures(result.chart.layers, result.chart.layerCount, layers))
-        return std::nullopt;
+    XYHostData result{data};
     const int layerCount = chart.m_layers.GetLayerCount();
     result.layers.resize(static_cast<std::size_t>(layerCount));
-    for (const CXYLayerData& layer : layers) {
-        if (layer.layer < 0 || layer.layer >= layerCount)
+    for (int i = 0; i < entries.Count(); ++i) {
+        const CXYLayerData& entry = entries[i];
+        if (entry.layer < 0 || entry.layer >= layerCount)
             return std::nullopt;
-        std::optional<Layer>& place = result.layers[static_cast<std::size_t>(layer.layer)];
-        const CXYChartLayer* model = chart.m_layers.GetLayer(layer.layer);
+        std::optional<Layer>& place = result.layers[static_cast<std::size_t>(entry.layer)];
+        const CXYChartLayer* model = chart.m_layers.GetLayer(entry.layer);
         if (place || !model)
             return std::nullopt;
-        place = Layer{layer, {}, {}};
-        if (!ReadLayer(*place, model->GetType(), result.chart.rowCount))
+        place.emplace(Layer{entry, CSizedArray(entry.series, entry.seriesCount),
+                            CSizedArray(entry.tasks, entry.count)});
+        if (!LayerFits(*place, model->GetType(), data.rowCount))
             return std::nullopt;
         if (!ShowsAnything(*place, model->GetType()))
             place.reset();

@@ -1,23 +1,24 @@
 #pragma once
 // The host's arrays as the source of what an XY chart shows.
 
+#include "render/sized_array.h"
 #include "render/xy_source.h"
 #include <chartrender/xy.h>
 #include <optional>
 #include <vector>
 
-/// The data of a chart, checked and brought to today's structures. The arrays stay the host's.
+/// The data of a chart, found to fit each other and the model. The arrays stay the host's.
 struct XYHostData {
-    /// Nothing if the data do not fit each other or the model.
+    /// Nothing if they do not fit.
     static std::optional<XYHostData> Read(const CXYChart& chart, const CXYChartData& data);
 
     struct Layer {
-        CXYLayerData data;
-        std::vector<CXYSeriesData> series;
-        std::vector<CXYTaskData> tasks;
+        const CXYLayerData& data;
+        CSizedArray<CXYSeriesData> series;
+        CSizedArray<CXYTaskData> tasks;
     };
-    CXYChartData chart;
-    std::vector<std::optional<Layer>> layers; ///< Of each layer of the model, if it has data.
+    const CXYChartData& chart;
+    std::vector<std::optional<Layer>> layers = {}; ///< Of each layer of the model, if it has data.
 };
 
 class CXYHostSource : public CXYSource {

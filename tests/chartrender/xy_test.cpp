@@ -162,7 +162,7 @@ const Case cases[] = {
          plot.data.labels = names;
          plot.data.dates = kFirst; // names go first
      },
-     {"CAxis_setLabels2(Axis#1, [0, 1, 2], \"{value|\ta\\{b\\\\\t\tK\xc3\xb6ln}\")",
+     {"CAxis_setLabels2(Axis#1, [0, 1, 2], \"{value|\ta\\\\{b\\\\\\\\\t\tK\xc3\xb6ln}\")",
       "CAxis_setWidth(Axis#1, 1)"}},
     {"DatesOfRows",
      1,
