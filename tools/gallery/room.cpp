@@ -83,6 +83,7 @@ BaseChart* longTitles() {
 
 BaseChart* longNames() {
     const Chart chart;
+    CXYChart_setPlotArea(chart.xy, 50, 35, 295, 130, -1, -1, -1, -1, -1);
     chart.addBars({25, 18, 31});
     const double rows[] = {0, 1, 2};
     CAxis_setLabels2(chart.x, rows, 3, "{value|\tNorthern Territories\tSouth\tUnincorporated areas}");
