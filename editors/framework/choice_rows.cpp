@@ -1,6 +1,7 @@
 #include "editors/framework/choice_rows.h"
 
 #include "editors/framework/form.h"
+#include "platform/widgets/clear_buttons.h"
 #include "platform/widgets/complaint.h"
 #include "platform/widgets/quiet_combo.h"
 
@@ -11,7 +12,7 @@
 #include <QSignalBlocker>
 
 CCheckRow::CCheckRow(CForm& form, CBinding<bool> field, const char* text)
-    : CValueRow(form, std::move(field)), m_box(new QCheckBox(QString::fromUtf8(text), &form.Page())) {
+    : CValueRow(form, std::move(field)), m_box(new CCheckBox(QString::fromUtf8(text), &form.Page())) {
     // Not by its clicks alone: a screen reader toggles it.
     QObject::connect(m_box, &QCheckBox::toggled, m_box, [this](bool on) {
         Show(!on); // until the focused edit has committed, which reads the page
@@ -93,7 +94,7 @@ CRadioRow::CRadioRow(CForm& form, CBinding<std::int32_t> field, std::vector<CCho
     auto* row = new QHBoxLayout(m_box);
     row->setContentsMargins(0, 0, 0, 0);
     for (const CChoice& choice : m_choices.Rows()) {
-        auto* button = new QRadioButton(QString::fromUtf8(choice.text), m_box);
+        auto* button = new CRadioButton(QString::fromUtf8(choice.text), m_box);
         button->setObjectName(button->text());
         button->setAccessibleName(button->text());
         m_buttons->addButton(button, choice.code);

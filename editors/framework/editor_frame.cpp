@@ -1,10 +1,15 @@
 #include "editors/framework/editor_frame.h"
 
+#include "editors/framework/scroll_room.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/dialog.h"
 
 #include <QDialogButtonBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QMap>
+#include <QScreen>
+#include <QTabWidget>
 #include <QVBoxLayout>
 #include <algorithm>
 #include <vector>
@@ -13,24 +18,43 @@ namespace {
 
 constexpr QSize kSmallestScreen(1366, 768);
 constexpr int kSpace = 10;
-constexpr QSize kFrame(8, 64); // title bar, borders and a task bar
+constexpr QSize kFrame(12, 44); // borders and title bar
+constexpr QSize kLeastPreview(100, 100);
 
-/// `wanted`, but not below `least` and, beyond that, not above `most`.
-int Between(int least, int wanted, int most) {
-    return std::max(least, std::min(wanted, most));
+/// What the screen holds of a dialog inside its frame. Where nobody looks, the smallest screen that the
+/// editors are made for.
+QSize Room(const CDialog& dialog) {
+    const bool seen = QGuiApplication::platformName() != QStringLiteral("offscreen");
+    return (seen ? dialog.screen()->availableSize() : kSmallestScreen) - kFrame;
 }
 
-void SizePreview(CChartPreviewView& preview, const QSize& above, const QSize& body, const QSize& buttons) {
-    // A picture that just fills its pane is scaled down: one pixel more on each side shows it as it is.
-    const int border = 2 * preview.frameWidth() + 2;
-    const QSize natural =
-        QSize(preview.m_layout->m_width, preview.m_layout->m_height) + QSize(border, border);
-    const int besides = body.width() + 3 * kSpace;
-    const int below = above.height() + buttons.height() + 3 * kSpace;
-    const QSize room = kSmallestScreen - kFrame - QSize(besides, below);
-    preview.setFixedWidth(Between((besides + 1) / 2, natural.width(), room.width()));
-    preview.setMinimumHeight(Between(body.height() - above.height(), natural.height(), room.height()));
+/// The size that a person has given to a dialog, by its caption, as long as the library is loaded.
+QSize& KeptSize(const QString& caption) {
+    static QMap<QString, QSize> sizes;
+    return sizes[caption];
 }
+
+/// Keeps the size of a dialog that closes with another one than it was opened with.
+class CSizeKeeper : public QObject {
+public:
+    explicit CSizeKeeper(CDialog& dialog) : QObject(&dialog), m_dialog(dialog) {
+        connect(
+            &dialog, &QDialog::finished, this,
+            [this] {
+                if (m_dialog.size() != m_opened)
+                    KeptSize(m_dialog.windowTitle()) = m_dialog.size();
+            });
+    }
+    void Open(const QSize& natural) {
+        const QSize kept = KeptSize(m_dialog.windowTitle());
+        m_dialog.resize((kept.isValid() ? kept : natural).boundedTo(Room(m_dialog)));
+        m_opened = m_dialog.size();
+    }
+
+private:
+    CDialog& m_dialog;
+    QSize m_opened;
+};
 
 /// The widgets that stand in `layout`, in its order.
 void CollectWidgets(QLayout* layout, std::vector<QWidget*>& widgets) {
@@ -46,8 +70,11 @@ void CollectWidgets(QLayout* layout, std::vector<QWidget*>& widgets) {
 /// Tab goes through the parts in their order, and inside of each as its controls were made.
 void OrderTabs(QDialog& dialog, const CEditorParts& parts) {
     std::vector<QWidget*> widgets;
-    for (QLayout* part : {parts.abovePreview, parts.left, parts.body})
-        CollectWidgets(part, widgets);
+    CollectWidgets(parts.abovePreview, widgets);
+    if (parts.preview != nullptr)
+        widgets.push_back(parts.preview);
+    CollectWidgets(parts.left, widgets);
+    CollectWidgets(parts.body, widgets);
     QWidget* last = nullptr;
     for (QWidget* widget : widgets) {
         std::vector<QWidget*> stops;
@@ -65,50 +92,80 @@ void OrderTabs(QDialog& dialog, const CEditorParts& parts) {
 QLayout* PreviewColumn(CChartPreviewView& preview, QLayout* above) {
     preview.setObjectName(QStringLiteral("Preview"));
     preview.setAccessibleName(QStringLiteral("Preview"));
-    preview.setFocusPolicy(Qt::ClickFocus);
+    preview.setFocusPolicy(Qt::StrongFocus);
+    // It has what the others leave: more in a larger dialog, less on a small screen.
+    preview.setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Ignored);
+    preview.setMinimumSize(kLeastPreview);
     auto* column = new QVBoxLayout;
     column->setSpacing(kSpace);
     if (above != nullptr)
         column->addLayout(above);
-    column->addWidget(&preview);
+    column->addWidget(&preview, 1);
     return column;
+}
+
+/// Pages in tabs scroll below their tabs, everything else as a whole.
+bool ScrollsItself(const QLayout& body) {
+    return body.count() == 1 && qobject_cast<QTabWidget*>(body.itemAt(0)->widget()) != nullptr;
 }
 
 void LayOut(CDialog& dialog, const CEditorParts& parts) {
     auto* sides = new QHBoxLayout;
     sides->setSpacing(kSpace);
     if (parts.preview != nullptr)
-        sides->addLayout(PreviewColumn(*parts.preview, parts.abovePreview));
-    auto* editing = new QHBoxLayout;
-    editing->setSpacing(kSpace);
+        sides->addLayout(PreviewColumn(*parts.preview, parts.abovePreview), 1);
     if (parts.left != nullptr)
-        editing->addLayout(parts.left);
-    editing->addLayout(parts.body);
-    sides->addLayout(editing);
+        sides->addWidget(new CScrollRoom(parts.left));
+    if (ScrollsItself(*parts.body))
+        sides->addLayout(parts.body);
+    else
+        sides->addWidget(new CScrollRoom(parts.body));
     auto* all = new QVBoxLayout(&dialog);
     all->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
     all->setSpacing(kSpace);
-    all->addLayout(sides);
+    all->addLayout(sides, 1);
     OrderTabs(dialog, parts);
     all->addWidget(dialog.MakeOkCancel());
-    all->setSizeConstraint(QLayout::SetFixedSize);
+    dialog.SetResizable();
+}
+
+/// The size of `dialog` with all in it at its natural size, and the preview as the left third.
+QSize NaturalSize(CDialog& dialog, const CEditorParts& parts, bool low) {
+    for (QWidget* room : dialog.findChildren<QWidget*>())
+        if (auto* scrolls = dynamic_cast<CScrollRoom*>(room))
+            scrolls->Measure(low);
+    dialog.layout()->invalidate();
+    dialog.layout()->activate();
+    const auto sizeOf = [](const auto* item) { return item != nullptr ? item->sizeHint() : QSize(0, 0); };
+    const QLayout* sides = dialog.layout()->itemAt(0)->layout();
+    QSize editing(0, 0);
+    for (int i = parts.preview != nullptr ? 1 : 0; i < sides->count(); ++i) {
+        const QSize part = sides->itemAt(i)->sizeHint();
+        editing = QSize(editing.width() + part.width() + kSpace, std::max(editing.height(), part.height()));
+    }
+    const int width = editing.width() + kSpace;
+    const int foot = sizeOf(dialog.findChild<QDialogButtonBox*>()).height() + 3 * kSpace;
+    if (parts.preview == nullptr)
+        return {width, editing.height() + foot};
+    const int third = (width + kSpace + 1) / 2;
+    const int head = parts.abovePreview != nullptr ? sizeOf(parts.abovePreview).height() + kSpace : 0;
+    return {width + third, std::max(editing.height(), head + third * 3 / 4) + foot};
 }
 
 } // namespace
 
 void OpenEditor(CDialog& dialog, const CEditorParts& parts) {
-    if (dialog.layout() == nullptr)
+    if (dialog.layout() == nullptr) {
         LayOut(dialog, parts);
-    if (parts.preview == nullptr)
-        return;
+        new CSizeKeeper(dialog);
+    }
     // Sizes can be known once all stands in its place and has its style.
     for (const QWidget* widget : dialog.findChildren<QWidget*>())
         widget->ensurePolished();
-    dialog.layout()->activate();
-    const auto sizeOf = [](const auto* item) { return item != nullptr ? item->sizeHint() : QSize(0, 0); };
-    QSize editing = sizeOf(parts.body);
-    if (parts.left != nullptr)
-        editing = editing.expandedTo(sizeOf(parts.left)) + QSize(parts.left->sizeHint().width() + kSpace, 0);
-    SizePreview(*parts.preview, sizeOf(parts.abovePreview), editing,
-                sizeOf(dialog.findChild<QDialogButtonBox*>()));
+    QSize natural = NaturalSize(dialog, parts, false);
+    if (natural.height() > Room(dialog).height())
+        natural = NaturalSize(dialog, parts, true);
+    for (QObject* child : dialog.children())
+        if (auto* keeper = dynamic_cast<CSizeKeeper*>(child))
+            keeper->Open(natural);
 }

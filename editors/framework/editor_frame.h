@@ -14,8 +14,9 @@ struct CEditorParts {
     QLayout* body = nullptr;
 };
 
-/// Lays out `dialog`, with OK and Cancel, when it is opened for the first time, and gives it the fixed size
-/// that this needs, each time. The preview takes a third of the dialog at least, and shows its picture at
-/// natural size where the smallest screen that the editors are made for leaves the room. It takes the focus
-/// by a click only; Tab goes through the parts in their order. The parts belong to the dialog then.
+/// Lays out `dialog`, with OK and Cancel, when it is opened for the first time, and gives it its size, each
+/// time: the natural one, in which the preview is the left third, or the one that a person has left a dialog
+/// of its caption with. Where the screen does not hold that, the preview gives room first, then what edits
+/// scrolls; OK and Cancel are always seen. In a larger dialog the preview takes the growth. Tab goes through
+/// the parts in their order. The parts belong to the dialog then.
 void OpenEditor(CDialog& dialog, const CEditorParts& parts);

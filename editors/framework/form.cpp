@@ -2,6 +2,7 @@
 
 #include "editors/framework/conventions.h"
 #include "editors/framework/mnemonics.h"
+#include "platform/widgets/clear_buttons.h"
 #include "platform/widgets/complaint.h"
 #include "platform/widgets/field_changed.h"
 #include "platform/widgets/numeric_edit.h"
@@ -165,7 +166,7 @@ std::vector<QPushButton*> CForm::Buttons(const std::vector<std::pair<const char*
     auto* layout = new QHBoxLayout(row);
     layout->setContentsMargins(0, 0, 0, 0);
     for (const auto& [text, click] : buttons) {
-        auto* button = new QPushButton(QString::fromUtf8(text), row);
+        auto* button = new CPushButton(QString::fromUtf8(text), row);
         button->setObjectName(button->text());
         button->setAccessibleName(button->text());
         button->setFocusPolicy(Qt::StrongFocus);
@@ -324,6 +325,9 @@ void CForm::FieldChanged(int key) {
         if (key != 0 && row->Key() == key && !row->Store() && !row->TellsAlways())
             return;
     Notify();
+    for (const auto& row : m_rows)
+        if (key != 0 && row->Key() == key)
+            row->Afterwards();
 }
 
 void CForm::LoadRows(const void* owner) {

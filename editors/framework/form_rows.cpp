@@ -37,6 +37,13 @@ void CFormRow::SetEnabled(bool enabled) {
         m_label->setEnabled(enabled);
 }
 
+void CFormRow::SetTip(const QString& tip) {
+    Control()->setToolTip(tip);
+    Control()->setAccessibleDescription(tip);
+    if (m_label != nullptr)
+        m_label->setToolTip(tip);
+}
+
 void CFormRow::SetName(const QString& name) {
     Control()->setObjectName(name);
     Control()->setAccessibleName(name);

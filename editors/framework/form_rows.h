@@ -47,6 +47,8 @@ public:
     void SetEnabled(bool enabled);
     /// Greys what the values of the page say. Called after every change of them.
     virtual void ShowState();
+    /// What shows while the mouse rests on the row or its label, and what screen readers tell of it.
+    void SetTip(const QString& tip);
     /// The name for screen readers and scripts.
     void SetName(const QString& name);
     QString Name() const;
@@ -120,6 +122,11 @@ public:
     /// Greys the row while `enabled` is false.
     Self& EnabledIf(std::function<bool()> enabled) {
         this->m_enabledIf = std::move(enabled);
+        return Me();
+    }
+    /// What the value means: its unit, its range, and what a special value stands for.
+    Self& Tip(const char* tip) {
+        this->SetTip(QString::fromUtf8(tip));
         return Me();
     }
     /// Another name for screen readers and scripts than the label.

@@ -4,12 +4,14 @@
 #include "editors/framework/form.h"
 #include "platform/widgets/simple_combo.h"
 
+#include <QPixmap>
 #include <algorithm>
 
 CListBase::CListBase(CForm& form, CSimpleCombo& combo, const char* noneSelected)
     : m_form(form), m_combo(combo), m_noneSelected(noneSelected) {
     QObject::connect(
         &combo, &CSimpleCombo::SelectionChanged, &combo, [this](int row) { SyncFromItem(row); });
+    QObject::connect(&combo, &CSimpleCombo::DeletePressed, &combo, [this] { Remove(); });
 }
 
 void CListBase::MakeButtons() {
@@ -37,6 +39,7 @@ void CListBase::RefreshCaption() {
         return;
     m_combo.Delete(row);
     m_combo.Insert(row, CaptionOf(row));
+    ShowSwatch(row);
     m_combo.Select(row);
     SyncFromItem(row);
 }
@@ -49,6 +52,7 @@ void CListBase::Add() {
 void CListBase::ShowAppended() {
     const int last = Count() - 1;
     m_combo.Add(CaptionOf(last));
+    ShowSwatch(last);
     m_combo.Select(last);
     SyncFromItem(last);
     m_form.Notify();
@@ -69,10 +73,20 @@ int CListBase::SelectedOrWarn() {
 
 void CListBase::FillAndSelect(int row) {
     m_combo.Clear();
-    for (int i = 0; i < Count(); ++i)
+    for (int i = 0; i < Count(); ++i) {
         m_combo.Add(CaptionOf(i));
+        ShowSwatch(i);
+    }
     m_combo.Select(std::min(row, Count() - 1));
     SyncFromItem(m_combo.Selected());
+}
+
+void CListBase::ShowSwatch(int row) {
+    const qreal scale = m_combo.devicePixelRatioF();
+    QImage swatch = row < 0 ? QImage() : SwatchOf(row, (QSizeF(m_combo.SwatchSize()) * scale).toSize());
+    swatch.setDevicePixelRatio(scale);
+    if (!swatch.isNull())
+        m_combo.SetSwatch(row, QPixmap::fromImage(swatch));
 }
 
 QString RowCaption(const char* caption, int index, const QString& text) {

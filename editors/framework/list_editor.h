@@ -4,6 +4,7 @@
 
 #include "editors/framework/binding.h"
 
+#include <QImage>
 #include <QString>
 #include <functional>
 #include <type_traits>
@@ -27,6 +28,8 @@ public:
     void SyncFromItem(int index);
     /// Replaces the selected row by its new caption.
     void RefreshCaption();
+    /// Shows the selected item's new colour in its row.
+    void RefreshSwatch() { ShowSwatch(Selected()); }
 
 protected:
     virtual int Count() const = 0;
@@ -34,6 +37,8 @@ protected:
     virtual bool Append() = 0;
     virtual void Erase(int index) = 0;
     virtual QString CaptionOf(int index) const = 0;
+    /// A sample of the item's colour, null for items without one. `size` is in pixels of the screen.
+    virtual QImage SwatchOf(int /*index*/, QSize /*size*/) const { return {}; }
     /// A fresh default item to show while nothing is selected.
     virtual void RenewDefault() {}
 
@@ -50,6 +55,8 @@ protected:
     void ShowAppended();
 
 private:
+    void ShowSwatch(int row);
+
     CForm& m_form;
     CSimpleCombo& m_combo;
     const char* m_noneSelected;
@@ -86,7 +93,19 @@ public:
         m_name = [text](const Item& item) { return ValueAs<QString>(item.*text); };
         return Bind<T>([text](Item& item) -> T& { return item.*text; }, [this] { RefreshCaption(); });
     }
-    /// The same two, for containers of plain values.
+    /// The colour of the selected item that stands as a swatch in the rows, for a row of the form. `draw`
+    /// makes a sample of it.
+    template <class T>
+    CBinding<T> Swatch(T Item::*color, QImage (*draw)(const T& color, QSize size)) {
+        m_swatch = [color, draw](const Item& item, QSize size) { return draw(item.*color, size); };
+        return Bind<T>([color](Item& item) -> T& { return item.*color; }, [this] { RefreshSwatch(); });
+    }
+    /// The same, for containers of colours.
+    CBinding<Item> Swatch(QImage (*draw)(const Item& color, QSize size)) {
+        m_swatch = draw;
+        return Bind<Item>([](Item& item) -> Item& { return item; }, [this] { RefreshSwatch(); });
+    }
+    /// A field and a text, for containers of plain values.
     CBinding<Item> Whole() {
         return Bind<Item>([](Item& item) -> Item& { return item; });
     }
@@ -104,6 +123,9 @@ protected:
     void Erase(int index) override { m_items.erase(m_items.begin() + index); }
     QString CaptionOf(int index) const override {
         return RowCaption(m_caption, index, m_name ? m_name(m_items[index]) : QString());
+    }
+    QImage SwatchOf(int index, QSize size) const override {
+        return m_swatch ? m_swatch(m_items[index], size) : QImage();
     }
     void RenewDefault() override { m_default = m_make ? m_make() : Item(); }
 
@@ -124,5 +146,6 @@ private:
     const char* m_caption;
     std::function<Item()> m_make;
     std::function<QString(const Item&)> m_name;
+    std::function<QImage(const Item&, QSize)> m_swatch;
     Item m_default;
 };

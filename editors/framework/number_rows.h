@@ -36,6 +36,11 @@ public:
         m_step = step;
         return this->Me();
     }
+    /// As for every row; the range is added, so it is said first.
+    Self& Tip(const char* tip) {
+        this->SetTip(QString::fromUtf8(tip) + RangeText());
+        return this->Me();
+    }
     Self& Floor(T floor) { return Range(floor, std::numeric_limits<T>::max()); }
     Self& Range(T floor, T ceiling) {
         m_floor = floor;
@@ -78,6 +83,14 @@ protected:
     T m_step = 1;
 
 private:
+    QString RangeText() const {
+        if (m_floor == std::numeric_limits<T>::lowest())
+            return {};
+        const QString floor = QStringLiteral(", %1 ").arg(m_floor);
+        return floor + (m_ceiling == std::numeric_limits<T>::max() ? QStringLiteral("or more")
+                                                                   : QStringLiteral("to %1").arg(m_ceiling));
+    }
+
     T m_floor = std::numeric_limits<T>::lowest();
     T m_ceiling = std::numeric_limits<T>::max();
     std::function<T(T)> m_limit;

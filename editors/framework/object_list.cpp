@@ -18,6 +18,8 @@ CObjectList::CObjectList(CForm& form, CSimpleCombo& combo, CObjects objects, con
             "^", [this] { Move(-1); });
         more.emplace_back("v", [this] { Move(1); });
     }
+    if (m_objects.exchange)
+        QObject::connect(&combo, &CSimpleCombo::MovePressed, &combo, [this](int way) { Move(way); });
     if (!more.empty())
         form.Buttons(more);
 }

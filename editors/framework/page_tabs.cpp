@@ -2,6 +2,7 @@
 
 #include "editors/framework/mnemonics.h"
 #include "editors/framework/page_stack.h"
+#include "editors/framework/scroll_room.h"
 #include "platform/widgets/complaint.h"
 #include "platform/widgets/dialog.h"
 #include "resources/string_table.h"
@@ -26,12 +27,12 @@ CPageTabs::CPageTabs(CDialog& dialog) : QTabWidget(&dialog), m_dialog(dialog) {
 }
 
 CPageStack* CPageTabs::Stack(int index) const {
-    return static_cast<CPageStack*>(widget(index));
+    return static_cast<CPageStack*>(static_cast<CScrollRoom*>(widget(index))->widget());
 }
 
 void CPageTabs::AttachPage(CDialog& page, const QString& caption) {
     if (!caption.isEmpty())
-        addTab(new CPageStack, caption);
+        addTab(new CScrollRoom(new CPageStack), caption);
     Stack(count() - 1)->Attach(page);
 }
 

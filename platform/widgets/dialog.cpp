@@ -1,5 +1,6 @@
 #include "platform/widgets/dialog.h"
 
+#include "platform/widgets/clear_buttons.h"
 #include "platform/widgets/complaint.h"
 #include "platform/widgets/field_changed.h"
 
@@ -26,12 +27,13 @@ CDialog::CDialog(const QString& caption) {
 int CDialog::DoModal() {
     // The owner is found when the dialog is shown, as the active window can change until then.
     if (QWidget* active = QApplication::activeWindow(); active != nullptr && active != this) {
-        setParent(active, Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint | Qt::WindowTitleHint |
-                              Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
+        setParent(active,
+                  Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowCloseButtonHint);
     }
     if (!OnInitDialog())
         return kCancel;
-    if (layout() != nullptr)
+    setWindowFlag(Qt::MSWindowsFixedSizeDialogHint, !m_resizable);
+    if (layout() != nullptr && !m_resizable)
         layout()->setSizeConstraint(QLayout::SetFixedSize);
     const int result = exec();
     setParent(nullptr);
@@ -76,9 +78,11 @@ void CDialog::OnCancel() {
 }
 
 QWidget* CDialog::MakeOkCancel() {
-    auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, this);
-    QPushButton* ok = buttons->button(QDialogButtonBox::Ok);
-    QPushButton* cancel = buttons->button(QDialogButtonBox::Cancel);
+    auto* buttons = new QDialogButtonBox(this);
+    QPushButton* ok = new CPushButton(buttons);
+    QPushButton* cancel = new CPushButton(buttons);
+    buttons->addButton(ok, QDialogButtonBox::AcceptRole);
+    buttons->addButton(cancel, QDialogButtonBox::RejectRole);
     for (const auto& [button, text] :
          {std::pair(ok, QStringLiteral("OK")), {cancel, QStringLiteral("Cancel")}}) {
         button->setText(text);

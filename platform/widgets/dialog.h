@@ -45,6 +45,9 @@ public:
     /// Says what the virtual operations below work on; it must live as long as the dialog is used.
     void SetControls(CDialogControls* controls) { m_controls = controls; }
 
+    /// The person may change the size of the dialog, which is fixed if this is not said.
+    void SetResizable() { m_resizable = true; }
+
     /// The row of buttons at the foot of a modal dialog.
     QWidget* MakeOkCancel();
 
@@ -66,6 +69,7 @@ protected:
 private:
     CDialogControls* m_controls = nullptr;
     bool m_hosted = false; ///< a part of another dialog
+    bool m_resizable = false;
 };
 
 /// A message box with a warning icon and one button.

@@ -1,7 +1,9 @@
 #include "platform/widgets/simple_combo.h"
 
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
+#include <QPixmap>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -32,6 +34,8 @@ CSimpleCombo::CSimpleCombo(QWidget* parent)
     layout->addWidget(m_edit);
     layout->addWidget(m_list);
     setFocusProxy(m_list);
+    m_edit->setFocusPolicy(Qt::ClickFocus);
+    m_list->installEventFilter(this);
     m_edit->setFocusPolicy(
         Qt::ClickFocus); // the list is the one stop of the Tab key, and finds rows by their text too
     connect(this, &QObject::objectNameChanged, this, [this](const QString& name) {
@@ -50,15 +54,11 @@ CSimpleCombo::CSimpleCombo(QWidget* parent)
     connect(
         m_list, &QListWidget::itemDoubleClicked, this,
         [this](QListWidgetItem* item) { emit DoubleClicked(m_list->row(item)); });
-    connect(m_edit, &QLineEdit::textEdited, this, [this](const QString& text) {
-        int row = -1;
-        for (int i = 0; i < Count() && row < 0 && !text.isEmpty(); ++i) {
-            row = Text(i).startsWith(text, Qt::CaseInsensitive) ? i : -1;
-        }
-        if (row != Selected()) {
+    connect(m_edit, &QLineEdit::textEdited, this, [this] {
+        if (Selected() >= 0) {
             const QSignalBlocker quiet(m_list);
-            m_list->setCurrentRow(row);
-            emit SelectionChanged(row);
+            m_list->setCurrentRow(-1);
+            emit SelectionChanged(-1);
         }
     });
 }
@@ -100,6 +100,32 @@ void CSimpleCombo::Select(int row) {
     const QSignalBlocker quiet(m_list);
     m_list->setCurrentRow(row);
     ShowTextOf(row);
+}
+
+void CSimpleCombo::SetSwatch(int row, const QPixmap& swatch) {
+    m_list->setIconSize(SwatchSize());
+    if (QListWidgetItem* item = m_list->item(row))
+        item->setIcon(swatch);
+}
+
+QSize CSimpleCombo::SwatchSize() const {
+    const int height = fontMetrics().ascent();
+    return {height * 3 / 2, height};
+}
+
+bool CSimpleCombo::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() != QEvent::KeyPress)
+        return false;
+    const auto& key = *static_cast<QKeyEvent*>(event);
+    const Qt::KeyboardModifiers held = key.modifiers() & ~Qt::KeypadModifier;
+    const bool up = key.key() == Qt::Key_Up;
+    if (key.key() == Qt::Key_Delete && held == Qt::NoModifier)
+        emit DeletePressed();
+    else if ((up || key.key() == Qt::Key_Down) && held == Qt::AltModifier)
+        emit MovePressed(up ? -1 : 1);
+    else
+        return false;
+    return true;
 }
 
 void CSimpleCombo::ShowTextOf(int row) {

@@ -76,6 +76,32 @@ inline void NothingIsCutOff(QWidget& window) {
     }
 }
 
+inline bool HasText(const QWidget& widget) {
+    const auto* label = qobject_cast<const QLabel*>(&widget);
+    return (label != nullptr && !label->text().isEmpty()) ||
+           qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+           qobject_cast<const QComboBox*>(&widget) != nullptr || widget.inherits("QAbstractSpinBox") ||
+           widget.inherits("QAbstractItemView") || widget.inherits("QPlainTextEdit") ||
+           widget.inherits("QTabBar");
+}
+
+/// No two controls that show a text lie over each other, as far as they can be seen.
+inline void NoTextsOverlap(QWidget& window) {
+    std::vector<std::pair<const QWidget*, QRect>> texts;
+    for (const QWidget* widget : window.findChildren<QWidget*>())
+        if (widget->isVisibleTo(&window) && HasText(*widget)) {
+            const QRect seen = widget->visibleRegion().boundingRect();
+            texts.emplace_back(widget, seen.translated(widget->mapTo(&window, QPoint())));
+        }
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        for (std::size_t j = 0; j < i; ++j) {
+            const auto& [one, where] = texts[i];
+            const auto& [other, place] = texts[j];
+            EXPECT_TRUE(!where.intersects(place) || one->isAncestorOf(other) || other->isAncestorOf(one))
+                << Describe(*one) << " lies over " << Describe(*other);
+        }
+}
+
 /// Tab goes on in the columns of a page from the top down, and from left to right in a line: never to a
 /// control that stands above in the same column.
 inline void TabFollowsReading(QWidget& window) {
@@ -145,6 +171,7 @@ inline void LettersAreUnique(QWidget& window) {
 inline void Everything(QWidget& window) {
     EveryControlHasAName(window);
     NothingIsCutOff(window);
+    NoTextsOverlap(window);
     TabFollowsReading(window);
     TabReachesEveryControl(window);
     LettersAreUnique(window);

@@ -32,7 +32,7 @@ public:
     double m_startAngle = 0;           ///< Degrees clockwise from straight up. Default 0.
     bool m_clockWise = true;           ///< Order of the sectors. Default true.
     std::int32_t m_labelLayout = 1;    ///< 0 labels at the sides, 1 around the circle. Default 1.
-    std::int32_t m_labelPosition = -1; ///< Pixels between pie and label; less than 0 inside. Default -1.
+    std::int32_t m_labelPosition = -1; ///< Pixels between pie and label; less than 0: automatic. Default -1.
     std::int32_t m_labelAlignment = 5; ///< Alignment code of the labels' text boxes; the pie editor does not
                                        ///< show it. Default 5, centre.
     bool m_show3D = false;             ///< Default false.

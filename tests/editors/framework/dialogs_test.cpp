@@ -13,7 +13,6 @@ TEST_F(Dialogs, OpenOnTheFirstPageWithTheFocusOnTheDialog) {
     EXPECT_TRUE(editor.m_valuesPage.isVisible());
     EXPECT_FALSE(editor.m_itemsPage.isVisible());
     EXPECT_TRUE(editor.hasFocus());
-    EXPECT_EQ(editor.minimumSize(), editor.maximumSize());
 
     // A page fills what the tab control has for it, and nothing shows above or beside it.
     const QRect page(editor.m_valuesPage.mapTo(&editor, QPoint()), editor.m_valuesPage.size());

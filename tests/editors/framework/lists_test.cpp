@@ -123,13 +123,22 @@ TEST_F(Lists, WithNoRowSelectedEditsReachNoModel) {
     EXPECT_EQ(editor.Told(), 0);
 }
 
-TEST_F(Lists, TypingInTheEditSelectsTheRowThatBeginsSo) {
+TEST_F(Lists, TextTypedAboveTheListMeansNothing) {
     OpenWith({"a", "b"});
     QLineEdit& edit = *person.Find<CSimpleCombo>("Titles").Edit();
     edit.clear();
     QTest::keyClicks(&edit, "title 2");
-    EXPECT_EQ(Row(), 1);
-    EXPECT_EQ(Text(), "b");
+    EXPECT_EQ(Row(), -1);
+    EXPECT_EQ(editor.Told(), 0);
+}
+
+TEST_F(Lists, TheDeleteKeyDeletesTheRow) {
+    OpenWith({"a", "b"});
+    person.Select("Titles", 0);
+    QTest::keyClick(&person.List("Titles"), Qt::Key_Delete);
+    EXPECT_EQ(Rows(), QStringList{"Title 1 ( b )"});
+    EXPECT_EQ(titles.size(), 1);
+    EXPECT_EQ(editor.Told(), 1);
 }
 
 } // namespace

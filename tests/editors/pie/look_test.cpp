@@ -25,7 +25,6 @@ TEST(PieLook, FitsASmallScreenAtEveryFontAndPictureSize) {
                 EXPECT_LE(window.width(), 1366);
                 EXPECT_LE(window.height(), 768 - 30);
                 EXPECT_GE(person.Preview().width() * 3, window.width());
-                EXPECT_EQ(window.minimumSize(), window.maximumSize());
                 audit::Everything(window);
                 person.Cancel();
             }));

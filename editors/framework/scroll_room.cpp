@@ -1,0 +1,45 @@
+#include "editors/framework/scroll_room.h"
+
+#include <QLayout>
+#include <QScrollBar>
+#include <algorithm>
+
+namespace {
+
+QWidget* Holding(QLayout* layout) {
+    auto* holder = new QWidget;
+    layout->setContentsMargins(0, 0, 0, 0);
+    holder->setLayout(layout);
+    return holder;
+}
+
+} // namespace
+
+CScrollRoom::CScrollRoom(QWidget* content) {
+    setFrameShape(NoFrame);
+    setFocusPolicy(Qt::NoFocus); // its controls have it, and are scrolled to
+    setWidgetResizable(true);
+    setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred);
+    setWidget(content);
+    content->setAutoFillBackground(false);
+    viewport()->setAutoFillBackground(false);
+}
+
+CScrollRoom::CScrollRoom(QLayout* content) : CScrollRoom(Holding(content)) {}
+
+void CScrollRoom::Measure(bool low) {
+    m_low = low;
+    widget()->setMinimumSize(0, 0);
+    widget()->setMinimumSize(widget()->sizeHint());
+    updateGeometry();
+}
+
+QSize CScrollRoom::sizeHint() const {
+    const QSize natural = widget()->sizeHint();
+    return natural + QSize(m_low ? verticalScrollBar()->sizeHint().width() : 0, 0);
+}
+
+QSize CScrollRoom::minimumSizeHint() const {
+    const QSize least(fontMetrics().averageCharWidth() * 16, fontMetrics().lineSpacing() * 6);
+    return least.boundedTo(sizeHint());
+}
