@@ -67,14 +67,15 @@ void CollectWidgets(QLayout* layout, std::vector<QWidget*>& widgets) {
     }
 }
 
-/// Tab goes through the parts in their order, and inside of each as its controls were made.
+/// Tab goes through the parts in their order, and inside of each as its controls were made; then to the
+/// preview, which has nothing to edit.
 void OrderTabs(QDialog& dialog, const CEditorParts& parts) {
     std::vector<QWidget*> widgets;
     CollectWidgets(parts.abovePreview, widgets);
-    if (parts.preview != nullptr)
-        widgets.push_back(parts.preview);
     CollectWidgets(parts.left, widgets);
     CollectWidgets(parts.body, widgets);
+    if (parts.preview != nullptr)
+        widgets.push_back(parts.preview);
     QWidget* last = nullptr;
     for (QWidget* widget : widgets) {
         std::vector<QWidget*> stops;

@@ -18,5 +18,5 @@ struct CEditorParts {
 /// time: the natural one, in which the preview is the left third, or the one that a person has left a dialog
 /// of its caption with. Where the screen does not hold that, the preview gives room first, then what edits
 /// scrolls; OK and Cancel are always seen. In a larger dialog the preview takes the growth. Tab goes through
-/// the parts in their order. The parts belong to the dialog then.
+/// the parts in their order and then to the preview. The parts belong to the dialog then.
 void OpenEditor(CDialog& dialog, const CEditorParts& parts);

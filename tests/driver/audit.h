@@ -115,7 +115,9 @@ inline void TabFollowsReading(QWidget& window) {
             const QRect to(next->mapTo(&window, QPoint()), next->size());
             const bool below = to.top() > from.top();
             const bool right = to.left() > from.left();
-            EXPECT_TRUE(below || right) << Describe(*last) << " -> " << Describe(*next);
+            // The preview comes when all that edits has been passed.
+            EXPECT_TRUE(below || right || next->accessibleName() == "Preview")
+                << Describe(*last) << " -> " << Describe(*next);
         }
         last = next;
     }
