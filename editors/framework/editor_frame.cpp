@@ -148,9 +148,10 @@ QSize NaturalSize(CDialog& dialog, const CEditorParts& parts, bool low) {
     const int foot = sizeOf(dialog.findChild<QDialogButtonBox*>()).height() + 3 * kSpace;
     if (parts.preview == nullptr)
         return {width, editing.height() + foot};
-    const int third = (width + kSpace + 1) / 2;
+    const int besides = width + kSpace;
+    const int third = (besides + 1) / 2;
     const int head = parts.abovePreview != nullptr ? sizeOf(parts.abovePreview).height() + kSpace : 0;
-    return {width + third, std::max(editing.height(), head + third * 3 / 4) + foot};
+    return {besides + third, std::max(editing.height(), head + third * 3 / 4) + foot};
 }
 
 } // namespace
