@@ -26,7 +26,9 @@ CLayoutGeneralPage::CLayoutGeneralPage(CChartLayout& layout, QWidget& owner) : m
     m_form.Column();
     m_form.Check("RoundedFrame", layout.m_roundedFrame).Unvalidated();
     m_form.Group("WallPaper:");
-    m_form.Check("WallPaper", layout.m_useWallPaper).Unvalidated();
+    m_form.Check("WallPaper", layout.m_useWallPaper)
+        .Unvalidated()
+        .Tip("Puts the image in the middle of the background");
     m_form.Field<CChartImageField>(nullptr, layout.m_wallPaperImage);
     m_form.Group("ToolTip:");
     m_form.Check("Show ToolTip", layout.m_showToolTip).Unvalidated();
@@ -41,15 +43,19 @@ CLayoutTitlePage::CLayoutTitlePage(CChartLayout& layout, QWidget& owner) : m_for
     m_form.Alignment("Alignment:", titles[&CChartTitle::m_alignment]);
     m_form.Lines("Title:", titles.Caption(&CChartTitle::m_text));
     m_form.Group("Angle:");
-    m_form.Check("Vertical", titles[&CChartTitle::m_vertical]).Unvalidated();
+    m_form.Check("Vertical", titles[&CChartTitle::m_vertical])
+        .Unvalidated()
+        .Tip("Letters stacked from top to bottom");
     m_form.Part();
-    m_form.Real(nullptr, titles[&CChartTitle::m_angle]).Step(10);
+    m_form.Real(nullptr, titles[&CChartTitle::m_angle]).Step(10).Tip("Degrees counter-clockwise");
     m_form.Column();
     m_form.Group("Position:");
-    m_form.Check("Use Position", titles[&CChartTitle::m_usePosition]).Unvalidated();
+    m_form.Check("Use Position", titles[&CChartTitle::m_usePosition])
+        .Unvalidated()
+        .Tip("Places the title by X and Y; without, by \"Alignment:\"");
     m_form.Part();
-    m_form.Integer("X:", titles[&CChartTitle::m_x]).Step(10);
-    m_form.Integer("Y:", titles[&CChartTitle::m_y]).Step(10);
+    m_form.Integer("X:", titles[&CChartTitle::m_x]).Step(10).Tip("Pixels from the left");
+    m_form.Integer("Y:", titles[&CChartTitle::m_y]).Step(10).Tip("Pixels from the top");
     LookRows(m_form, LookOf(titles));
 }
 
@@ -58,9 +64,9 @@ CLayoutLabelPage::CLayoutLabelPage(CChartLayout& layout, QWidget& owner) : m_for
     CTextRow& label = m_form.Lines("Label:", layout.m_labelFormat);
     DataFormats(m_form).For(label);
     m_form.Group("Angle:");
-    m_form.Real(nullptr, layout.m_labelAngle).Step(10);
+    m_form.Real(nullptr, layout.m_labelAngle).Step(10).Tip("Degrees counter-clockwise");
     m_form.Part();
-    m_form.Check("Vertical", layout.m_labelVertical).Unvalidated();
+    m_form.Check("Vertical", layout.m_labelVertical).Unvalidated().Tip("Letters stacked from top to bottom");
     m_form.Column();
     LookRows(m_form, {layout.m_labelFont, layout.m_labelFontColor, layout.m_labelBackColor,
                       layout.m_labelEdgeColor, layout.m_labelEffect});
@@ -70,10 +76,10 @@ CLayoutLegendPage::CLayoutLegendPage(CChartLayout& layout, QWidget& owner) : m_f
     m_form.Check("Show Legend", layout.m_showLegend).Unvalidated();
     CFormatRow& formats = DataFormats(m_form);
     formats.For(m_form.Lines("Label:", layout.m_legendFormat));
-    m_form.Check("Vertical", layout.m_legendVertical).Unvalidated();
+    m_form.Check("Vertical", layout.m_legendVertical).Unvalidated().Tip("Keys below each other");
     m_form.Group("Position:");
-    m_form.Integer("X:", layout.m_legendX).Step(10);
-    m_form.Integer("Y:", layout.m_legendY).Step(10);
+    m_form.Integer("X:", layout.m_legendX).Step(10).Tip("Pixels from the left");
+    m_form.Integer("Y:", layout.m_legendY).Step(10).Tip("Pixels from the top");
     m_form.Column();
     LookRows(m_form, {layout.m_legendFont, layout.m_legendFontColor, layout.m_legendBackColor,
                       layout.m_legendEdgeColor, layout.m_legendEffect});

@@ -6,18 +6,18 @@ constexpr int kStep = 10; // pixels or degrees, one press
 
 void CircleRows(CForm& form, const char* group, CPieChartPA& area) {
     form.Group(group);
-    form.Integer("Center X:", area.m_centerX).Step(kStep);
-    form.Integer("Center Y:", area.m_centerY).Step(kStep);
-    form.Integer("Radius:", area.m_radius).Step(kStep).Floor(0);
+    form.Integer("Center X:", area.m_centerX).Step(kStep).Tip("Pixels from the left");
+    form.Integer("Center Y:", area.m_centerY).Step(kStep).Tip("Pixels from the top");
+    form.Integer("Radius:", area.m_radius).Step(kStep).Floor(0).Tip("Pixels");
 }
 
 template <class Area>
 void RectangleRows(CForm& form, const char* group, Area& area) {
     form.Group(group);
-    form.Integer("Left:", area.m_left).Step(kStep);
-    form.Integer("Top:", area.m_top).Step(kStep);
-    form.Integer("Width:", area.m_width).Step(kStep).Floor(0);
-    form.Integer("Height:", area.m_height).Step(kStep).Floor(0);
+    form.Integer("Left:", area.m_left).Step(kStep).Tip("Pixels from the left");
+    form.Integer("Top:", area.m_top).Step(kStep).Tip("Pixels from the top");
+    form.Integer("Width:", area.m_width).Step(kStep).Floor(0).Tip("Pixels");
+    form.Integer("Height:", area.m_height).Step(kStep).Floor(0).Tip("Pixels");
 }
 
 } // namespace
@@ -33,11 +33,14 @@ CPolarSizePage::CPolarSizePage(CChartLayout& layout, QWidget& owner) : m_form(*t
 CAngularSizePage::CAngularSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
     CAngularMeterPA& area = layout.m_angularPlotArea;
     m_form.Group("Angular Meter:");
-    m_form.Integer("CenterX:", area.m_centerX).Step(kStep);
-    m_form.Integer("CenterY:", area.m_centerY).Step(kStep);
-    m_form.Integer("Radius:", area.m_radius).Step(kStep).Floor(0);
-    m_form.Real("StartAngle:", area.m_startAngle).Step(kStep);
-    m_form.Real("EndAngle:", area.m_endAngle).Step(kStep).QuietOnLeave();
+    m_form.Integer("CenterX:", area.m_centerX).Step(kStep).Tip("Pixels from the left");
+    m_form.Integer("CenterY:", area.m_centerY).Step(kStep).Tip("Pixels from the top");
+    m_form.Integer("Radius:", area.m_radius).Step(kStep).Floor(0).Tip("Pixels");
+    m_form.Real("StartAngle:", area.m_startAngle).Step(kStep).Tip("Degrees clockwise from straight up");
+    m_form.Real("EndAngle:", area.m_endAngle)
+        .Step(kStep)
+        .QuietOnLeave()
+        .Tip("Degrees clockwise from straight up");
 }
 
 CXYSizePage::CXYSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
@@ -46,12 +49,12 @@ CXYSizePage::CXYSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, o
 
 CFinanceSizePage::CFinanceSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
     m_form.Group("FinanceChart:");
-    m_form.Integer("Width:", layout.m_financeWidth).Step(kStep).Floor(0);
+    m_form.Integer("Width:", layout.m_financeWidth).Step(kStep).Floor(0).Tip("Pixels");
 }
 
 CLinearSizePage::CLinearSizePage(CChartLayout& layout, QWidget& owner) : m_form(*this, owner) {
     CLinearMeterPA& area = layout.m_linearPlotArea;
     RectangleRows(m_form, "Linear Meter:", area);
-    m_form.Side("AxisPos:", area.m_axisPos);
-    m_form.Check("Reverse", area.m_reverse).NotLoaded();
+    m_form.Side("AxisPos:", area.m_axisPos).Tip("The side that the scale stands on");
+    m_form.Check("Reverse", area.m_reverse).NotLoaded().Tip("Values run the other way");
 }

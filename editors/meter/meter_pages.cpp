@@ -13,16 +13,18 @@ template <class Meter>
 CMeterGeneralPage::CMeterGeneralPage(Meter& meter, QWidget& owner) : m_form(*this, owner) {
     m_form.Group("LineWidth");
     if constexpr (std::is_same_v<Meter, CAngularMeter>)
-        m_form.Integer("AxisWidth:", meter.m_axisWidth).Step(1).Floor(0);
-    m_form.Integer("MajorTickWidth:", meter.m_majorTickWidth).Step(1).Floor(0);
-    m_form.Integer("MinorTickWidth:", meter.m_minorTickWidth).Step(1).Floor(0);
-    m_form.Integer("MicroTickWidth:", meter.m_microTickWidth).Step(1).Floor(0);
+        m_form.Integer("AxisWidth:", meter.m_axisWidth).Step(1).Floor(0).Tip("Pixels; 0 for none");
+    m_form.Integer("MajorTickWidth:", meter.m_majorTickWidth).Step(1).Floor(0).Tip("Pixels; 0 for none");
+    m_form.Integer("MinorTickWidth:", meter.m_minorTickWidth).Step(1).Floor(0).Tip("Pixels; 0 for none");
+    m_form.Integer("MicroTickWidth:", meter.m_microTickWidth).Step(1).Floor(0).Tip("Pixels; 0 for none");
     m_form.Group("Scale");
-    m_form.Real("LowerLimit:", meter.m_lowerLimit).Step(10);
-    m_form.Real("UpperLimit:", meter.m_upperLimit).Step(10);
-    m_form.Real("MajorTickInc:", meter.m_majorTickInc).Step(10);
-    m_form.Real("MinorTickInc:", meter.m_minorTickInc).Step(5);
-    m_form.Real("MicroTickInc:", meter.m_microTickInc).Step(1);
+    m_form.Real("LowerLimit:", meter.m_lowerLimit).Step(10).Tip("The value at the start of the scale");
+    m_form.Real("UpperLimit:", meter.m_upperLimit).Step(10).Tip("The value at the end of the scale");
+    m_form.Real("MajorTickInc:", meter.m_majorTickInc)
+        .Step(10)
+        .Tip("From one labelled tick to the next; 0 automatic");
+    m_form.Real("MinorTickInc:", meter.m_minorTickInc).Step(5).Tip("From one tick to the next; 0 for none");
+    m_form.Real("MicroTickInc:", meter.m_microTickInc).Step(1).Tip("From one tick to the next; 0 for none");
 }
 
 template CMeterGeneralPage::CMeterGeneralPage(CAngularMeter& meter, QWidget& owner);
@@ -36,7 +38,7 @@ CMeterPointerPage::CMeterPointerPage(CMeterPointers& pointers, QWidget& owner, c
             .List(pointers, LoadChartString(ChartText::PointerRow), LoadChartString(ChartText::SelectPointer))
             .New([fresh] { return fresh; });
     m_form.Column();
-    m_form.Real("Value:", list[&CMeterPointer::m_value]).Step(1);
+    m_form.Real("Value:", list[&CMeterPointer::m_value]).Step(1).Tip("Where the pointer points on the scale");
     m_form.Field<CChartColorField>(fillLabel, list[&CMeterPointer::m_fillColor]).OnlyWithItem();
     m_form.Field<CChartColorField>("EdgeColor:", list[&CMeterPointer::m_edgeColor]).OnlyWithItem();
     m_form.Group("Shape:");
@@ -45,8 +47,8 @@ CMeterPointerPage::CMeterPointerPage(CMeterPointers& pointers, QWidget& owner, c
                {"DiamondPointer", "TriangularPointer", "ArrowPointer", "ArrowPointer2", "LinePointer",
                 "PencilPointer"})
         .Otherwise(0);
-    m_form.Real("LengthRatio:", list[&CMeterPointer::m_lengthRatio]).Step(0.1);
-    m_form.Real("WidthRatio:", list[&CMeterPointer::m_widthRatio]).Step(0.1);
+    m_form.Real("LengthRatio:", list[&CMeterPointer::m_lengthRatio]).Step(0.1).Tip("1 is the usual length");
+    m_form.Real("WidthRatio:", list[&CMeterPointer::m_widthRatio]).Step(0.1).Tip("1 is the usual width");
 }
 
 CMeterTextPage::CMeterTextPage(CChartTextBoxs& texts, QWidget& owner, std::function<CChartTextBox()> fresh)
@@ -57,13 +59,15 @@ CMeterTextPage::CMeterTextPage(CChartTextBoxs& texts, QWidget& owner, std::funct
     m_form.Lines("Text:", list.Caption(&CChartTextBox::m_text));
     m_form.Alignment("Alignment:", list[&CChartTextBox::m_alignment]);
     m_form.Group("Angle:");
-    m_form.Real(nullptr, list[&CChartTextBox::m_angle]).Step(10);
+    m_form.Real(nullptr, list[&CChartTextBox::m_angle]).Step(10).Tip("Degrees counter-clockwise");
     m_form.Part();
-    m_form.Check("Vertical", list[&CChartTextBox::m_vertical]).Unvalidated();
+    m_form.Check("Vertical", list[&CChartTextBox::m_vertical])
+        .Unvalidated()
+        .Tip("Letters stacked from top to bottom");
     m_form.Column();
     m_form.Group("Position:");
-    m_form.Integer("X:", list[&CChartTextBox::m_x]).Step(10);
-    m_form.Integer("Y:", list[&CChartTextBox::m_y]).Step(10);
+    m_form.Integer("X:", list[&CChartTextBox::m_x]).Step(10).Tip("Pixels from the left");
+    m_form.Integer("Y:", list[&CChartTextBox::m_y]).Step(10).Tip("Pixels from the top");
     LookRows(m_form, LookOf(list));
 }
 
