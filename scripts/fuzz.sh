@@ -1,5 +1,6 @@
 #!/usr/bin/env bash
-# Feeds the readers of images, fonts, formats and markup with hostile input under libFuzzer and the sanitizers.
+# Feeds the readers of images, fonts, tables, formats and markup, the layout of texts and the operations of the
+# drawing library with hostile input under libFuzzer and the sanitizers.
 #
 #   scripts/fuzz.sh [SECONDS [NAME...]]     60 seconds each, all of tests/fuzz/fuzz_NAME.cpp
 #
@@ -24,7 +25,7 @@ build=build-fuzz
 mkdir -p "$build"
 checks=address,undefined
 # shellcheck disable=SC2046 # words of a list of flags
-flags=(-std=c++20 -O1 -g1 -fPIC -I. -fno-omit-frame-pointer -fno-sanitize-recover=undefined
+flags=(-std=c++20 -O1 -g1 -fPIC -I. -Iengine/include "-I$build" -fno-omit-frame-pointer -fno-sanitize-recover=undefined
     $(pkg-config --cflags Qt6Gui Qt6Core | sed 's/-I/-isystem /g'))
 # shellcheck disable=SC2207
 libraries=($(pkg-config --libs Qt6Gui Qt6Core))
@@ -39,10 +40,14 @@ compile() {
     fi
 }
 objects=()
-for source in platform/fonts/*.cpp engine/{object,data,scale,paint,text}/*.cpp; do
+for source in platform/fonts/*.cpp engine/*/*.cpp demo/csv.cpp; do
     compile "$source"
     objects+=("$build/$(tr / _ <<<"${source%.cpp}").o")
 done
+
+# The operations, by their names, for the calls that the input picks.
+sed -nE 's/^CHARTDRAW_API [^(]*[ *]([A-Za-z0-9_]+)\(.*/OPERATION(\1)/p' engine/include/chartdraw/surface.h \
+    >"$build/operations.inc"
 
 # What to start from: valid files, from which the fuzzer soon makes hostile ones.
 mkdir -p "$build/image" "$build/font"
@@ -62,6 +67,7 @@ for name in "${names[@]}"; do
     clang++ "${flags[@]}" -fsanitize=fuzzer,$checks "tests/fuzz/fuzz_$name.cpp" "${objects[@]}" \
         "${libraries[@]}" -o "$build/fuzz_$name"
     mkdir -p "$build/$name"
+    [ -d "tests/fuzz/corpus/$name" ] && cp -n "tests/fuzz/corpus/$name/"* "$build/$name/"
     if ! "$build/fuzz_$name" -max_total_time="$seconds" -timeout=10 -rss_limit_mb=3000 -print_final_stats=1 \
         -artifact_prefix="$build/$name/" "$build/$name" >"$build/$name.log" 2>&1; then
         failed+=("$name")
