@@ -15,6 +15,12 @@ else()
         target_compile_options(chart_flags INTERFACE -Wno-restrict)
     endif()
 endif()
+# Installed libraries are hard to turn against their host: checks of the stack and of copies, tables that are
+# bound at once and then read only.
+if(CMAKE_SYSTEM_NAME STREQUAL Linux AND CMAKE_BUILD_TYPE STREQUAL Release)
+    target_compile_options(chart_flags INTERFACE -fstack-protector-strong -U_FORTIFY_SOURCE -D_FORTIFY_SOURCE=2)
+    target_link_options(chart_flags INTERFACE -Wl,-z,relro,-z,now)
+endif()
 if(CHART_SANITIZE)
     target_compile_options(chart_flags INTERFACE -fsanitize=${CHART_SANITIZE} -fno-omit-frame-pointer)
     if(CHART_SANITIZE STREQUAL "thread")
