@@ -3,13 +3,24 @@
 #include <QFile>
 #include <QImage>
 #include <QSaveFile>
+#include <QtEndian>
 #include <utility>
 
-static QByteArray EncodePng(const QByteArray& bitmapFile) {
+/// The pixels are taken as they lie in the file: the toolkit's reader refuses large ones.
+static QByteArray EncodePng(const char* bitmapFile, int length) {
+    constexpr int widthAt = 18, heightAt = 22, headerBytes = 54, pixelsPerMetre = 3780; // 96 an inch
+    const auto number = [&](int at) {
+        return length > headerBytes ? qFromLittleEndian<qint32>(bitmapFile + at) : 0;
+    };
+    const auto* pixels = reinterpret_cast<const uchar*>(bitmapFile + headerBytes);
+    const int width = number(widthAt), height = number(heightAt), stride = (width * 3 + 3) / 4 * 4;
+    QImage image = QImage(pixels, width, height, stride, QImage::Format_BGR888).mirrored(); // bottom up
+    image.setDotsPerMeterX(pixelsPerMetre);
+    image.setDotsPerMeterY(pixelsPerMetre);
     QByteArray bytes;
     QBuffer buffer(&bytes);
     buffer.open(QIODevice::WriteOnly);
-    return QImage::fromData(bitmapFile, "BMP").save(&buffer, "PNG") ? bytes : QByteArray();
+    return !image.isNull() && image.save(&buffer, "PNG") ? bytes : QByteArray();
 }
 
 CChartPicture::CChartPicture() : m_bytes(nullptr) {}
@@ -50,7 +61,7 @@ ChartRenderResult CChartPictureAccess::Make(CChartPicture& picture, BaseChart* c
     if (!CBaseChart_makeChart2(chart, CHART_FORMAT_BMP, &bytes, &length))
         return ChartRenderResult::NoPicture;
     picture.m_bytes = format == ChartPictureFormat::Png
-                          ? new QByteArray(EncodePng(QByteArray::fromRawData(bytes, length)))
+                          ? new QByteArray(EncodePng(bytes, length))
                           : new QByteArray(bytes, length); // a copy, since the chart's bytes end with it
     return picture.Empty() ? ChartRenderResult::NoPicture : ChartRenderResult::Ok;
 }

@@ -99,6 +99,17 @@ TEST(Render, MakesTheSamePictureInBothFormats) {
     EXPECT_EQ(image.pixel(260, 200), 0xff336699); // right of straight up stands the first sector
 }
 
+TEST(Render, LargePicturesCanBePngToo) {
+    CChartLayout layout; // more than the toolkit reads by itself
+    layout.m_width = 6000;
+    layout.m_height = 5900;
+    const double values[] = {3, 2};
+    CChartPicture picture;
+    ASSERT_EQ(RenderPieChart(twoSectors(), layout, {values, nullptr, 2}, ChartPictureFormat::Png, picture),
+              ChartRenderResult::Ok);
+    EXPECT_EQ(bytesOf(picture).mid(16, 8), QByteArray("\0\0\x17\x70\0\0\x17\x0c", 8)); // width and height
+}
+
 TEST(Render, AnswersBadInputWithoutAPicture) {
     const double values[] = {1};
     CChartLayout layout;
