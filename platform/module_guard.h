@@ -13,7 +13,8 @@ public:
     ModuleGuard(const ModuleGuard&) = delete;
     ModuleGuard& operator=(const ModuleGuard&) = delete;
 
-    /// False where the host's application object can show no widgets.
+    /// False where the host's application object can show no widgets, or belongs to another thread than the
+    /// caller's; the latter is told on the toolkit's warning channel.
     bool CanShowDialogs() const { return m_canShowDialogs; }
 
 private:

@@ -9,6 +9,7 @@
 #include <QWidget>
 #include <cstdlib>
 #include <gtest/gtest.h>
+#include <thread>
 
 using platform::ModuleGuard;
 
@@ -53,6 +54,15 @@ TEST(ModuleGuard, ManagesWithoutADisplay) {
         qputenv("DISPLAY", ":973");
         const ModuleGuard guard;
         return QGuiApplication::platformName() == "offscreen";
+    });
+}
+
+TEST(ModuleGuard, RefusesAThreadThatIsNotTheObjects) {
+    expectInOwnProcess([] {
+        bool first = false, later = true;
+        std::thread([&] { first = ModuleGuard().CanShowDialogs(); }).join();
+        later = ModuleGuard().CanShowDialogs();
+        return first && !later;
     });
 }
 
