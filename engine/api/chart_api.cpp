@@ -181,18 +181,15 @@ int CBaseChart_patternColor2(BaseChart* base, const char* file, int startX, int 
 }
 
 const char* CBaseChart_formatValue(BaseChart* base, double value, const char* format) {
-    const char* text = use(
-        base, [&](Chart& chart) { return chart.keepText(chartdraw::formatValue(value, toText(format))); });
+    const char* text = use(base, [&](Chart& chart) { // The format may be no UTF-8; what is given out is.
+        return chart.keepText(
+            QString::fromStdString(chartdraw::formatValue(value, toText(format))).toStdString());
+    });
     return text != nullptr ? text : "";
 }
 
-void CDrawArea_destroy(DrawArea* area) {
-    return use(
-        area,
-        [&](chartdraw::DrawArea& target) {
-            if (!target.ownedByChart())
-                delete &target;
-        });
+void CDrawArea_destroy(DrawArea* /*area*/) {
+    // Every area there is belongs to a chart and ends with it.
 }
 
 int CDrawArea_getWidth(DrawArea* area) {

@@ -17,23 +17,21 @@ bool DrawArea::load(const std::string& path) {
     if (read.isNull())
         return false;
     m_image = std::move(read);
-    if (m_chart != nullptr)
-        m_chart->setSize(m_image.width(), m_image.height());
+    m_chart.setSize(m_image.width(), m_image.height());
     return true;
 }
 
 void DrawArea::changed() {
-    if (m_chart != nullptr)
-        m_chart->changed();
+    m_chart.changed();
 }
 
 QSize DrawArea::size() const {
-    return m_chart != nullptr ? QSize(m_chart->width(), m_chart->height()) : m_image.size();
+    return {m_chart.width(), m_chart.height()};
 }
 
 Chart::Chart(Kind kind, int width, int height, Colour background, Colour edge, int effect)
     : Object(kind), m_width(width), m_height(height), m_background(background), m_edge(edge),
-      m_effect(effect), m_drawArea(this) {
+      m_effect(effect), m_drawArea(*this) {
     ensureApplication();
 }
 
@@ -72,7 +70,7 @@ void Chart::setDefaultFonts(FontSet fonts) {
 
 void Chart::setAntiAlias(bool shapes, int textMode) {
     m_smoothShapes = shapes;
-    m_textMode = textMode;
+    m_fonts.smooth = textMode != 0;
 }
 
 TextBox* Chart::addTitle(int alignment, std::string text, const TextLook& look, bool strip) {
@@ -149,7 +147,6 @@ bool Chart::makePicture(double scale, const char** data, int* length) {
 
 void Chart::draw(Canvas& canvas) {
     canvas.painter().setRenderHint(QPainter::Antialiasing, m_smoothShapes);
-    canvas.painter().setRenderHint(QPainter::TextAntialiasing, m_textMode != 0);
     drawBackground(canvas);
     if (!m_drawArea.image().isNull())
         canvas.painter().drawImage(0, 0, m_drawArea.image());

@@ -21,17 +21,16 @@ class DrawArea : public Object {
 public:
     static constexpr Kind kKind = Kind::DrawArea;
 
-    explicit DrawArea(Chart* chart) : Object(Kind::DrawArea), m_chart(chart) {}
+    explicit DrawArea(Chart& chart) : Object(Kind::DrawArea), m_chart(chart) {}
 
     /// Reads an image file; the area then has the image's size and shows it. False leaves all as it was.
     bool load(const std::string& path);
     QSize size() const;
     const QImage& image() const { return m_image; }
-    bool ownedByChart() const { return m_chart != nullptr; }
     void changed() override;
 
 private:
-    Chart* m_chart;
+    Chart& m_chart;
     QImage m_image;
 };
 
@@ -128,7 +127,6 @@ private:
     Colour m_exterior = kTransparent;
     Corners m_corners = {};
     bool m_smoothShapes = true;
-    int m_textMode = 2;
 
     FontSet m_fonts;
     ColourTable m_colours;

@@ -173,7 +173,7 @@ const QStringList& fallbackFamilies() {
     return families;
 }
 
-QFont makeFont(const Face& face, double points, double widthPoints) {
+QFont makeFont(const Face& face, double points, double widthPoints, bool smooth) {
     QFont result;
     if (face.family.isEmpty())
         result.setFamilies(QFontDatabase::systemFont(QFontDatabase::GeneralFont).families() +
@@ -187,7 +187,8 @@ QFont makeFont(const Face& face, double points, double widthPoints) {
     if (widthPoints > 0)
         result.setStretch(std::clamp(static_cast<int>(std::lround(100 * widthPoints / points)), 1, 4000));
     result.setHintingPreference(QFont::PreferVerticalHinting);
-    result.setStyleStrategy(QFont::StyleStrategy(QFont::PreferAntialias | QFont::NoSubpixelAntialias));
+    result.setStyleStrategy(QFont::StyleStrategy((smooth ? QFont::PreferAntialias : QFont::NoAntialias) |
+                                                 QFont::NoSubpixelAntialias));
     return result;
 }
 
@@ -196,6 +197,7 @@ struct RecentFont {
     std::string name;
     double points = 0, widthPoints = 0;
     int application = 0, facesGivenBack = 0;
+    bool smooth = true;
     QFont font;
 };
 
@@ -225,15 +227,15 @@ QFont font(const FontSet& set, std::string_view name, double points, double widt
     const int application = applicationCount(), givenBack = s_facesGivenBack.load();
     const auto found = std::ranges::find_if(recent, [&](const RecentFont& r) {
         return r.points == points && r.widthPoints == widthPoints && r.application == application &&
-               r.facesGivenBack == givenBack && r.name == resolved;
+               r.facesGivenBack == givenBack && r.smooth == set.smooth && r.name == resolved;
     });
     if (found != recent.end())
         return found->font;
     static FaceCache cache;
-    const QFont made = makeFont(cache.find(resolved), points, widthPoints);
+    const QFont made = makeFont(cache.find(resolved), points, widthPoints, set.smooth);
     if (recent.size() >= kRecent)
         recent.erase(recent.begin());
-    recent.push_back({std::move(resolved), points, widthPoints, application, givenBack, made});
+    recent.push_back({std::move(resolved), points, widthPoints, application, givenBack, set.smooth, made});
     return made;
 }
 

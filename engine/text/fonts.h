@@ -13,6 +13,7 @@ namespace chartdraw {
 /// The four default fonts of a chart: what the style words mean. Empty entries are the library's own.
 struct FontSet {
     std::array<std::string, 4> files; ///< normal, bold, italic, bold italic
+    bool smooth = true;               ///< letters have smooth edges
 
     /// The file behind a name: a style word or an empty name looked up, anything else as it stands. A style
     /// word without a file gives the word itself, "normal" for the empty name.

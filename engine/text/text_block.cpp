@@ -74,12 +74,13 @@ struct TextBlock::Layout {
     Colour background, edge;
     int effect;
     Corners corners;
+    bool smooth; ///< outlines that are filled
 };
 
 TextBlock::Layout::Layout(const TextLook& look, std::string_view utf8, const FontSet& fonts)
     : text(layOutGlyphs(look, utf8, fonts)), angle(limitedAngle(look.angle)),
       blank(isBlank(utf8) || text.pieces.empty()), background(look.background), edge(look.edge),
-      effect(look.effect), corners(look.corners) {
+      effect(look.effect), corners(look.corners), smooth(fonts.smooth) {
     const auto margin = [](int pixels) { return std::clamp(pixels, -kMaxBoxSide, kMaxBoxSide); };
     const int left = margin(look.marginLeft), top = margin(look.marginTop);
     const int acrossMargins = left + margin(look.marginRight), downMargins = top + margin(look.marginBottom);
@@ -205,7 +206,7 @@ void TextBlock::Layout::drawOutlines(Canvas& canvas, const QTransform& place) co
     const QRectF picture = place.inverted().mapRect(QRectF(0, 0, canvas.width(), canvas.height()));
     painter.save();
     painter.setTransform(QTransform::fromTranslate(textCorner.x(), textCorner.y()) * place, true);
-    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, smooth);
     painter.setPen(Qt::NoPen);
     for (const GlyphPiece& piece : text.pieces) {
         if (canvas.colours().invisible(piece.colour))

@@ -16,10 +16,6 @@ namespace chartdraw {
 
 namespace {
 
-int whole(double position) {
-    return static_cast<int>(std::floor(position + 0.5));
-}
-
 double valueAt(const DataSet& set, std::size_t row) {
     return row < set.data().size() ? set.data()[row] : kNoValue;
 }

@@ -11,13 +11,7 @@
 
 namespace chartdraw {
 
-namespace {
-
-int whole(double position) {
-    return static_cast<int>(std::floor(position + 0.5));
-}
-
-} // namespace
+namespace {} // namespace
 
 BaseBoxLayer::BaseBoxLayer(Kind kind, XYChart& chart, std::vector<std::vector<double>> series, Colour colour,
                            std::string name)

@@ -1,5 +1,6 @@
 #include "engine/xy/data_labels.h"
 
+#include "engine/axis/round_labels.h"
 #include "engine/xy/xy_chart.h"
 
 #include <algorithm>
@@ -52,13 +53,6 @@ private:
 
 QPointF wholeCorner(const QRectF& box) {
     return {std::round(box.left()), std::round(box.top())};
-}
-
-/// Moved into `room`, its left and upper sides first.
-QRectF movedInto(QRectF box, const QRectF& room) {
-    box.moveLeft(std::max(room.left(), std::min(box.left(), room.right() - box.width())));
-    box.moveTop(std::max(room.top(), std::min(box.top(), room.bottom() - box.height())));
-    return box;
 }
 
 /// Each label is laid out before it is known to fit. Several times as many as a picture has room for are

@@ -31,8 +31,6 @@ public:
     Colour shadowEdge() const { return m_shadowEdge; }
 
     const DataSymbol& symbol() const { return m_symbol; }
-    Colour symbolFill() const { return orDefault(m_symbol.fill, m_colour); }
-    Colour symbolEdge() const { return orDefault(m_symbol.edge, symbolFill()); }
 
     void setName(std::string name);
     /// -1 for the data colour keeps it; for the others it is their default.

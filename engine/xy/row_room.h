@@ -4,6 +4,7 @@
 
 #include "engine/xy/layer.h"
 
+#include <cmath>
 #include <span>
 
 namespace chartdraw {
@@ -16,6 +17,11 @@ double rowRoom(const Layer& layer, const PlotFrame& frame);
 
 /// The x range of a layer whose rows take up room: half a row more at both ends.
 DataRange widenedXRange(const Layer& layer, const DataRange& range);
+
+/// The nearest whole position.
+inline int whole(double position) {
+    return static_cast<int>(std::floor(position + 0.5));
+}
 
 /// The pixels between whole positions along x and along y, ends included and in either order.
 QRect pixelRect(const PlotFrame& frame, int x0, int x1, int y0, int y1);

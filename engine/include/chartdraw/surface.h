@@ -33,8 +33,9 @@
  *
  * Fonts are named by file: "name.ttf", "name.ttc|2" for a further face of a collection, or a path; or by the
  * style words "normal", "bold", "italic", "boldItalic", which stand for the default fonts of the chart. A
- * file that cannot be found gives a sans serif face. Font sizes are in points, 1 to 1000; 8 where a size is
- * not above 0.
+ * file that cannot be found gives a sans serif face. Paths are for the functions that take a font: a tag in
+ * a text names faces of the system's font folders only, since texts may come from anywhere. Font sizes are in
+ * points, 1 to 1000; 8 where a size is not above 0.
  *
  * Texts may carry markup in tags of an angle bracket and an asterisk: "<*font=bold,size=12,color=FF0000*>",
  * "<*underline=1*>", "<*sub*>", "<*super*>", and "<*br*>" for a new line; a tag that holds a slash alone goes
@@ -62,7 +63,13 @@
  * No argument makes a function crash. A picture without area or over 16384 pixels a side is not made.
  *
  * Threads. A chart, a table or an array object is used by one thread at a time; different ones may be used
- * by different threads at once.
+ * by different threads at once. Texts need the application object of the toolkit: a host that has none gets
+ * one from the first function that makes a chart, on the thread that calls it. Dialogs of the editors open
+ * only on that thread, so a host that shows them makes its first chart, or opens its first dialog, on the
+ * thread of its windows. Once the process ends (exit has begun), functions do nothing, as with a null handle.
+ *
+ * Memory. No function throws. One that memory does not suffice for does nothing and returns null, 0 or false;
+ * a picture is then false and no bytes.
  */
 #ifndef CHARTDRAW_SURFACE_H
 #define CHARTDRAW_SURFACE_H
@@ -240,8 +247,8 @@ enum {
 /**
  * Creators. width and height: pixels, 1 to 16384 (a size outside makes a chart that gives no picture until
  * CBaseChart_setSize). background: of the picture; -1 is CHART_BACKGROUND_COLOR. edge: of its border; -1 is
- * CHART_TRANSPARENT. effect: of its border. The caller owns the result, never null, and ends it with
- * CBaseChart_destroy.
+ * CHART_TRANSPARENT. effect: of its border. The caller owns the result and ends it with CBaseChart_destroy.
+ * Null only where memory does not suffice.
  */
 CHARTDRAW_API XYChart* CXYChart_create(int width, int height, int background, int edge, int effect);
 /** A pie chart; see CXYChart_create. Without CPieChart_setPieSize the pie fills the picture. */
@@ -259,7 +266,7 @@ CHARTDRAW_API MultiChart* CMultiChart_create(int width, int height, int backgrou
  * Puts a chart on the picture, its top left corner at (x, y), over those added before; one that is there
  * already moves. The chart stays the caller's and is drawn as it is when the picture is made, its background
  * included; where that shows through, so do the charts below. A chart that is destroyed is no longer shown.
- * Null, this chart itself and one that shows it are ignored.
+ * Null, this chart itself, one that shows it, and one that would stand more than 16 deep are ignored.
  */
 CHARTDRAW_API void CMultiChart_addChart(MultiChart* multi, int x, int y, BaseChart* chart);
 /**
@@ -586,7 +593,8 @@ CHARTDRAW_API DataSet* CLayer_addDataSet(Layer* layer, const double* data, int c
                                          const char* name);
 /** The series at an index from 0; null past the end. */
 CHARTDRAW_API DataSet* CLayer_getDataSet(Layer* layer, int index);
-/** Depth in pixels, -1 automatic, 0 flat; zGap: pixels between this layer and the next behind. */
+/** Depth in pixels, -1 automatic, 0 flat, at most the longer side of the picture; zGap: pixels between this
+ * layer and the next behind. */
 CHARTDRAW_API void CLayer_set3D(Layer* layer, int depth, int zGap);
 /** Width of the lines in pixels, 1 by default; below 1 draws none. */
 CHARTDRAW_API void CLayer_setLineWidth(Layer* layer, int width);
@@ -952,8 +960,8 @@ CHARTDRAW_API int CDrawArea_getWidth(DrawArea* area);
 CHARTDRAW_API int CDrawArea_getHeight(DrawArea* area);
 /** Reads an image file, and takes its size; false, and no change, where it cannot be read. */
 CHARTDRAW_API bool CDrawArea_load(DrawArea* area, const char* imageFile);
-/** Ends an area that the caller made. Ignored for one of CBaseChart_getDrawArea, which ends with its chart.
- */
+/** Ends an area that the caller made. One of CBaseChart_getDrawArea, the only kind that there is, ends with
+ * its chart, and this is ignored. */
 CHARTDRAW_API void CDrawArea_destroy(DrawArea* area);
 
 /* ---- Casts: the same object as its base kind; null for null or another kind ------------------------- */

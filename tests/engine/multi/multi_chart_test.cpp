@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <climits>
+#include <vector>
 
 namespace {
 
@@ -154,6 +155,44 @@ TEST(MultiChart, RefusesCirclesOfCharts) {
     CMultiChart_addChart(outer.multi, 0, 0, nullptr);
     EXPECT_EQ(pictures::boundsOf(outer.picture(), kRed), QRect(60, 0, 10, 10)) << "charts within charts";
     CBaseChart_destroy(red);
+}
+
+TEST(MultiChart, NestsSixteenLevelsAndNoMore) {
+    std::vector<MultiChart*> chain;
+    for (int i = 0; i < 40000; ++i) {
+        chain.push_back(CMultiChart_create(20, 20, i == 15 ? kRed : CHART_TRANSPARENT, CHART_TRANSPARENT, 0));
+        if (i > 0) // outwards and inwards alike
+            CMultiChart_addChart(chain[static_cast<std::size_t>(i - 1)], 0, 0,
+                                 MultiChart2BaseChart(chain.back()));
+    }
+    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(chain[0]), false), 5, 5),
+              static_cast<unsigned>(kRed));
+    CBaseChart_setBackground(MultiChart2BaseChart(chain[15]), kBlue, -1, 0);
+    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(chain[0]), false), 5, 5),
+              static_cast<unsigned>(kBlue));
+    CMultiChart_addChart(chain[15], 0, 0, MultiChart2BaseChart(chain[20])); // one too many
+    CBaseChart_setBackground(MultiChart2BaseChart(chain[20]), kGreen, -1, 0);
+    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(chain[0]), false), 5, 5),
+              static_cast<unsigned>(kBlue));
+    for (MultiChart* multi : chain)
+        CBaseChart_destroy(MultiChart2BaseChart(multi));
+}
+
+TEST(MultiChart, OfALadderDrawsEachChartOnce) {
+    // Each of two charts a level shows both of the next: 2 to the 15th ways lead to the last ones.
+    std::vector<MultiChart*> all;
+    for (int i = 0; i < 30; ++i)
+        all.push_back(CMultiChart_create(400, 400, i < 28 ? CHART_TRANSPARENT : kRed, CHART_TRANSPARENT, 0));
+    for (std::size_t i = 0; i + 2 < all.size(); ++i)
+        for (const std::size_t next : {(i / 2 + 1) * 2, (i / 2 + 1) * 2 + 1})
+            CMultiChart_addChart(all[i], 0, 0, MultiChart2BaseChart(all[next]));
+    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(all[0]), false), 5, 5),
+              static_cast<unsigned>(kRed));
+    CBaseChart_setBackground(MultiChart2BaseChart(all[29]), kBlue, -1, 0);
+    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(all[1]), false), 5, 5),
+              static_cast<unsigned>(kBlue));
+    for (MultiChart* multi : all)
+        CBaseChart_destroy(MultiChart2BaseChart(multi));
 }
 
 TEST(MultiChart, DrawsEachChartWithItsOwnColoursAndSmoothness) {

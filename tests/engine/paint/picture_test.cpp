@@ -1,5 +1,7 @@
 #include "engine/paint/picture.h"
 
+#include "engine/paint/file_bytes.h"
+
 #include <QBuffer>
 #include <QColor>
 #include <QDir>
@@ -102,6 +104,30 @@ TEST(Picture, OtherFormatsAndOversizeAreNot) {
     EXPECT_TRUE(decodePicture(bytes({0, 0, 0xff, 0xff, 0xff, 0x7f, 0xff, 0xff, 0xff, 0x7f, 1})).isNull());
 }
 
+TEST(Picture, CutShortIsNone) {
+    const QImage large = sample().scaled(64, 48);
+    for (const QImage::Format format :
+         {QImage::Format_RGB32, QImage::Format_RGB16, QImage::Format_Indexed8, QImage::Format_Mono})
+        for (const char* kind : {"bmp", "png", "jpeg"}) {
+            const QByteArray whole = encoded(large.convertToFormat(format), kind);
+            ASSERT_EQ(decodePicture(whole).size(), large.size()) << kind;
+            for (const qsizetype part : {whole.size() - 8, whole.size() / 2, whole.size() / 4})
+                EXPECT_TRUE(decodePicture(whole.left(part)).isNull()) << kind << ' ' << part;
+        }
+}
+
+TEST(Picture, OfABitmapMayStandTopDown) {
+    const QImage image = sample();
+    QByteArray file = bitmapFile(image);
+    const int stride = (image.width() * 3 + 3) / 4 * 4, height = image.height();
+    QByteArray rows;
+    for (int y = height; y-- > 0;)
+        rows += file.mid(54 + y * stride, stride);
+    for (int i = 0; i < 4; ++i)
+        file[22 + i] = static_cast<char>(static_cast<unsigned>(-height) >> (8 * i));
+    EXPECT_EQ(decodePicture(file.left(54) + rows), decodePicture(bitmapFile(image)));
+}
+
 class PictureFile : public testing::Test {
 protected:
     std::string path(const QString& name) const { return m_folder.filePath(name).toStdString(); }
@@ -128,8 +154,9 @@ TEST_F(PictureFile, NamedInUtf8WithAnySuffix) {
 TEST_F(PictureFile, WhatIsNoFileIsNull) {
     const std::string pipe = path("pipe");
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0); // reading it would wait for ever
-    for (const std::string& name : {pipe, path("missing.png"), path(""), std::string(),
-                                    std::string("\xff\xfe"), std::string("/dev/zero"), write("empty", "")})
+    for (const std::string& name :
+         {pipe, path("missing.png"), path(""), std::string(), std::string("\xff\xfe"),
+          std::string("/dev/zero"), write("empty", ""), std::string("/proc/self/maps")})
         EXPECT_TRUE(loadPicture(name).isNull()) << name;
 }
 
@@ -151,6 +178,16 @@ int at(const QByteArray& file, int offset, int count) {
         value |= static_cast<uchar>(file[offset + i]) << (8 * i);
     return value;
 }
+
+#ifdef __linux__
+TEST_F(PictureFile, BytesComeFromRegularFilesOfAKnownSizeOnly) {
+    const QFileInfo file(QString::fromStdString(write("bytes", "123456")));
+    EXPECT_EQ(fileBytes(file, 6), "123456");
+    EXPECT_EQ(fileBytes(file, 5), "");
+    EXPECT_EQ(fileBytes(QFileInfo("/proc/self/maps"), 1000), ""); // its size is 0 until it is read
+    EXPECT_EQ(fileBytes(QFileInfo("/dev/zero"), 1000), "");
+}
+#endif
 
 TEST(BitmapFile, BytesByHand) {
     QImage image(3, 2, QImage::Format_ARGB32_Premultiplied);

@@ -3,6 +3,8 @@
 #include "tests/engine/text/ink.h"
 
 #include <QGuiApplication>
+#include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <gtest/gtest.h>
 #include <thread>
@@ -91,6 +93,41 @@ TEST_F(ApplicationDeathTest, AHostWithoutAGuiGetsNoText) {
         look.setMargins(5, 5, 5, 5);
         const QImage image = drawn(look, "Text\n<*font=bold*>text");
         leave(!textAvailable() && ink(image).size() == QSize(10, 10));
+    };
+    EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ApplicationDeathTest, AHostThatOnlyDrawsNeedsNoDisplay) {
+    const auto run = [] {
+        setenv("QT_QPA_PLATFORM", "xcb", 1);
+        unsetenv("DISPLAY");
+        leave(drawsText("bold"));
+    };
+    EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
+}
+
+TEST_F(ApplicationDeathTest, NothingRunsAfterTheEnd) {
+    const auto run = [] {
+        std::atexit([] { // runs last, when what was drawn with is gone
+            if (const ProcessUse use; use)
+                std::_Exit(1);
+        });
+        drawsText("bold");
+        watchForTheEnd(); // as the first pictures do
+        static std::atomic<bool> drawing = false;
+        std::thread([] {
+            for (;;) {
+                const ProcessUse use;
+                if (!use)
+                    break;
+                drawing = true;
+                drawsText("bold");
+            }
+            std::this_thread::sleep_for(std::chrono::minutes(1));
+        }).detach();
+        while (!drawing)
+            std::this_thread::yield();
+        leave(true);
     };
     EXPECT_EXIT(run(), testing::ExitedWithCode(0), "");
 }

@@ -5,6 +5,7 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <QFontDatabase>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
@@ -76,6 +77,45 @@ TEST(Fonts, StyleWords) {
 
 // Widths of letters in thousandths of the size, as published for the metrics that these faces share with the
 // classic sans, serif and typewriter faces.
+TEST(Fonts, MadeUpNamesAndSpellingsTakeNothingAway) {
+    const auto faces = [] { return QFontDatabase::families().filter(QStringLiteral("chartdraw-")).size(); };
+    const int bold = widthOf(lookOf("bold"), "Hamburg");
+    for (int i = 0; i < 1000; ++i)
+        widthOf(lookOf("made-up-" + std::to_string(i)), "a");
+    EXPECT_EQ(widthOf(lookOf("bold"), "Hamburg"), bold);
+
+    const std::string path = findFontFile("DejaVuSans.ttf").toStdString();
+    const int plain = widthOf(lookOf(path), "Hamburg");
+    const auto before = faces();
+    const std::string folder = path.substr(0, path.rfind('/'));
+    for (std::string way = folder; way.size() < folder.size() + 400; way += "/.")
+        EXPECT_EQ(widthOf(lookOf(way + path.substr(folder.size())), "Hamburg"), plain);
+    EXPECT_EQ(faces(), before);
+}
+
+TEST(Fonts, TheLongestUnusedFacesGo) {
+    const QTemporaryDir folder;
+    const QString face = findFontFile("LiberationMono-Regular.ttf");
+    const int mono = widthOf(lookOf("LiberationMono-Regular.ttf"), "iiiiii");
+    for (int i = 0; i < 100; ++i) {
+        const QString copy = folder.filePath(QString::number(i) + ".ttf");
+        ASSERT_TRUE(QFile::copy(face, copy));
+        EXPECT_EQ(widthOf(lookOf(copy.toStdString()), "iiiiii"), mono) << i;
+    }
+    EXPECT_LE(QFontDatabase::families().filter(QStringLiteral("chartdraw-")).size(), 64);
+    EXPECT_EQ(widthOf(lookOf("LiberationMono-Regular.ttf"), "iiiiii"), mono);
+}
+
+TEST(Fonts, ATextNamesNoFilesOutsideTheFontFolders) {
+    const QTemporaryDir folder;
+    const QString copy = folder.filePath("own.ttf");
+    ASSERT_TRUE(QFile::copy(findFontFile("LiberationMono-Regular.ttf"), copy));
+    const TextLook look = lookOf("normal");
+    EXPECT_EQ(widthOf(look, "<*font=" + copy.toStdString() + "*>iiiiii"), widthOf(look, "iiiiii"));
+    EXPECT_GT(widthOf(look, "<*font=LiberationMono-Regular.ttf*>iiiiii"), widthOf(look, "iiiiii"));
+    EXPECT_GT(widthOf(lookOf(copy.toStdString()), "iiiiii"), widthOf(look, "iiiiii"));
+}
+
 TEST(Fonts, TheFileNamedIsTheFaceDrawn) {
     const std::string serif = findFontFile("LiberationSerif-Regular.ttf").toStdString();
     const struct {
