@@ -54,7 +54,7 @@ public:
                 return *control;
         for (QWidget* control : Inputs()) // a picker beside another control has its name alone
             if (GroupOf(*control) == Read(group) &&
-                (control->accessibleName() == label || control->accessibleName() == label + "..."))
+                (control->objectName() == label || control->objectName() == label + "..."))
                 return *control;
         throw std::runtime_error(("no control \"" + group + "\" \"" + label + '"').toStdString());
     }
