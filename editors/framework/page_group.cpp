@@ -8,6 +8,7 @@
 CPageGroup::CPageGroup(CDialog& dialog)
     : QGroupBox(&dialog), m_dialog(dialog), m_stack(new CPageStack(this)) {
     auto* room = new QVBoxLayout(this);
+    room->setContentsMargins(0, 0, 0, 0); // the pages have theirs
     room->addWidget(m_stack);
 }
 

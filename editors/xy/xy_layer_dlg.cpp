@@ -12,6 +12,7 @@ CXYLayerDlg::CXYLayerDlg()
                                      &m_area.m_layer, &m_boxWhisker.m_layer, &m_box.m_layer,
                                      &m_hloc.m_layer, &m_gantt.m_layer,      &m_candleStick.m_layer} {
     m_form.Text("Name:", m_name).Then([this] { CurrentLayer().m_name = m_name; });
+    m_form.Part();
     std::vector<CChoice> kinds;
     for (int type = 0; type < kLayerKinds; ++type)
         kinds.emplace_back(LayerKindText(type));
