@@ -16,6 +16,10 @@ CPieChartSector NewSector() {
     return sector;
 }
 
+QImage SwatchOf(const CChartColor& color, QSize size) {
+    return MakeSwatch(color, size, 1);
+}
+
 } // namespace
 
 CPieChartDlg::CPieChartDlg()
@@ -83,5 +87,5 @@ void CPieChartDlg::TableOfSectors(CPieChart& chart) {
         .Floor(0)
         .DigitsOnly()
         .Tip("Pixels");
-    m_form.Field<CChartColorField>("Color:", sectors.Swatch(&CPieChartSector::m_color, MakeSwatch));
+    m_form.Field<CChartColorField>("Color:", sectors.Swatch(&CPieChartSector::m_color, SwatchOf));
 }
