@@ -56,35 +56,38 @@ private:
     QSize m_opened;
 };
 
-/// The widgets that stand in `layout`, in its order.
-void CollectWidgets(QLayout* layout, std::vector<QWidget*>& widgets) {
+/// The controls that stand in `layout`, in its order: what has a layout of its own is a room for others.
+void CollectControls(const QLayout* layout, std::vector<QWidget*>& controls) {
     for (int i = 0; layout != nullptr && i < layout->count(); ++i) {
-        QLayoutItem* item = layout->itemAt(i);
-        if (item->widget() != nullptr)
-            widgets.push_back(item->widget());
+        const QLayoutItem* item = layout->itemAt(i);
+        QWidget* widget = item->widget();
+        if (widget == nullptr || (widget->layout() != nullptr && widget->focusPolicy() == Qt::NoFocus))
+            CollectControls(widget == nullptr ? const_cast<QLayoutItem*>(item)->layout() : widget->layout(),
+                            controls);
         else
-            CollectWidgets(item->layout(), widgets);
+            controls.push_back(widget);
     }
 }
 
-/// Tab goes through the parts in their order, and inside of each as its controls were made; then to the
-/// preview, which has nothing to edit.
+/// Tab goes through the parts in their order, as they are laid out; then to the preview, which has nothing to
+/// edit, and to the buttons at the foot.
 void OrderTabs(QDialog& dialog, const CEditorParts& parts) {
-    std::vector<QWidget*> widgets;
-    CollectWidgets(parts.abovePreview, widgets);
-    CollectWidgets(parts.left, widgets);
-    CollectWidgets(parts.body, widgets);
+    std::vector<QWidget*> controls;
+    CollectControls(parts.abovePreview, controls);
+    CollectControls(parts.left, controls);
+    CollectControls(parts.body, controls);
     if (parts.preview != nullptr)
-        widgets.push_back(parts.preview);
-    QWidget* last = nullptr;
-    for (QWidget* widget : widgets) {
+        controls.push_back(parts.preview);
+    if (const auto* foot = dialog.findChild<QDialogButtonBox*>())
+        CollectControls(foot->layout(), controls);
+    QWidget* last = &dialog;
+    for (QWidget* control : controls) {
         std::vector<QWidget*> stops;
         for (QWidget* next = dialog.nextInFocusChain(); next != &dialog; next = next->nextInFocusChain())
-            if (next->focusPolicy() != Qt::NoFocus && (next == widget || widget->isAncestorOf(next)))
+            if (next->focusPolicy() != Qt::NoFocus && (next == control || control->isAncestorOf(next)))
                 stops.push_back(next);
         for (QWidget* stop : stops) {
-            if (last != nullptr)
-                QWidget::setTabOrder(last, stop);
+            QWidget::setTabOrder(last, stop);
             last = stop;
         }
     }
@@ -125,8 +128,8 @@ void LayOut(CDialog& dialog, const CEditorParts& parts) {
     all->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
     all->setSpacing(kSpace);
     all->addLayout(sides, 1);
-    OrderTabs(dialog, parts);
     all->addWidget(dialog.MakeOkCancel());
+    OrderTabs(dialog, parts);
     dialog.SetResizable();
 }
 

@@ -104,8 +104,14 @@ void CSimpleCombo::Select(int row) {
 
 void CSimpleCombo::SetSwatch(int row, const QPixmap& swatch) {
     m_list->setIconSize(SwatchSize());
-    if (QListWidgetItem* item = m_list->item(row))
-        item->setIcon(swatch);
+    QListWidgetItem* item = m_list->item(row);
+    if (item == nullptr)
+        return;
+    // A colour is the same in a row that is selected or greyed.
+    QIcon icon(swatch);
+    icon.addPixmap(swatch, QIcon::Selected);
+    icon.addPixmap(swatch, QIcon::Disabled);
+    item->setIcon(icon);
 }
 
 QSize CSimpleCombo::SwatchSize() const {

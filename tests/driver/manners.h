@@ -9,6 +9,7 @@
 #include <malloc.h>
 #endif
 
+#include <QPixmapCache>
 #include <map>
 #include <regex>
 
@@ -74,7 +75,7 @@ void TestLook(const Object& start, const CChartLayout& layout) {
                 EXPECT_LE(person.Window().width(), 1366);
                 EXPECT_LE(person.Window().height(), 768 - 30);
                 if (person.Window().width() < 1350) // the preview gives room first where the screen is full
-                    EXPECT_GE(person.Preview().width() * 3, person.Window().width());
+                    EXPECT_GE(person.Preview().width() * 3 + 20, person.Window().width()); // its margins
                 const QStringList tabs = person.Tabs();
                 for (const QString& tab : tabs.isEmpty() ? QStringList({QString()}) : tabs) {
                     SCOPED_TRACE(testing::Message() << qPrintable(tab) << " at " << scale);
@@ -101,6 +102,7 @@ void TestMemoryIsFlat(const Object& start, const CChartLayout& layout) {
                 person.Ok();
             }));
         }
+        QPixmapCache::clear(); // which is bounded, and holds the icons of lists for a while
     };
     const int times = std::max(20, qEnvironmentVariableIntValue("CHART_OPENINGS"));
     open(10); // fonts, styles and caches come once

@@ -38,7 +38,7 @@ TEST(PieLook, TabGoesThroughTheControlsInReadingOrder) {
     EXPECT_FALSE(Edit(pie, [](Person& person) {
         QStringList order;
         person.Find("Show 3D").setFocus();
-        for (int i = 0; i < 21; ++i) {
+        for (int i = 0; i < 22; ++i) {
             QWidget* focus = QApplication::focusWidget();
             auto* button = qobject_cast<QPushButton*>(focus);
             const bool plain = button != nullptr && focus->accessibleName().isEmpty();
@@ -66,6 +66,7 @@ TEST(PieLook, TabGoesThroughTheControlsInReadingOrder) {
                                       "Use Distance",
                                       "Distance",
                                       "Color, #000000, opaque",
+                                      "Preview",
                                       "OK"}));
         person.Cancel();
     }));
