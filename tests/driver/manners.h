@@ -110,7 +110,9 @@ void TestMemoryIsFlat(const Object& start, const CChartLayout& layout) {
     const std::size_t before = mallinfo2().uordblks;
     open(times);
     const std::size_t after = mallinfo2().uordblks;
-    EXPECT_LT(after, before + static_cast<std::size_t>(times) * 200) << "bytes in use, was " << before;
+    // Caches may still settle; what leaks grows with the openings.
+    EXPECT_LT(after, before + 32768 + static_cast<std::size_t>(times) * 200)
+        << "bytes in use, was " << before;
 #else
     open(times);
 #endif
