@@ -48,6 +48,8 @@ public:
         line->m_yAxisKind = 8; // the axis at the right
         m_look.m_layers.AddLayer(line);
         m_look.m_useY2Axis = true;
+        m_look.m_y2Axis.m_scaleType = 1; // a scale of its own
+        m_look.m_y2Axis.m_syncKind = 0;
         m_look.m_majorHGridColor.m_color = 0xE2E2E2;
         m_look.m_lineColor.m_color = kTransparent;
     }
