@@ -52,7 +52,8 @@ function(chart_test name)
     add_executable(${name} ${sources})
     target_link_libraries(${name} PRIVATE chart_flags ${ARGN} chart_test_main)
     add_test(NAME ${name} COMMAND ${name})
-    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8")
+    # No test looks at a clock: what never ends is ended here, on the slowest machine and under the sanitizers too.
+    set_tests_properties(${name} PROPERTIES ENVIRONMENT "QT_QPA_PLATFORM=offscreen;LC_ALL=C.UTF-8" TIMEOUT 900)
 endfunction()
 
 # chart_bench(NAME DEPS...): one Google Benchmark program from NAME.cpp; CTest runs it once, briefly, so

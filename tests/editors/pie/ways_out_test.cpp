@@ -2,7 +2,6 @@
 
 #include "tests/editors/pie/pie.h"
 
-#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <chrono>
 #include <clocale>
@@ -127,8 +126,6 @@ TEST(PieWaysOut, TenThousandSectorsAreNoTrouble) {
     CPieChart pie;
     for (int i = 0; i < 10000; ++i)
         pie.m_sectors.push_back(Sector("many", static_cast<std::uint32_t>(i)));
-    QElapsedTimer clock;
-    clock.start();
     EXPECT_TRUE(Edit(pie, [&](Person& person) {
         EXPECT_EQ(person.List("Sector").count(), 10000);
         QTest::keyClick(&person.List("Sector"), Qt::Key_End);
@@ -138,7 +135,6 @@ TEST(PieWaysOut, TenThousandSectorsAreNoTrouble) {
     }));
     EXPECT_EQ(pie.m_sectors.size(), 9999);
     EXPECT_EQ(pie.m_sectors[9998].m_color.m_color, 9998u);
-    EXPECT_LT(clock.elapsed(), 20000) << "milliseconds, also on a slow machine under the checkers";
 }
 
 // ---- Hosts that are no programs of the toolkit, or only half of one: each in a process of its own.

@@ -3,7 +3,6 @@
 #include "tests/engine/chart/round.h"
 
 #include <QColor>
-#include <chrono>
 #include <cmath>
 #include <limits>
 
@@ -288,13 +287,10 @@ TEST(AngularMeter, ShowsAReadableScaleWhateverTheIncrements) {
         {1e9, 1e9 + 1e-6, 1, 1, 1},
     };
     for (const auto& row : rows) {
-        const auto begun = std::chrono::steady_clock::now();
         Meter m(-90, 90, false);
         CBaseMeter_setScale(m.base, row.lower, row.upper, row.major, row.minor, row.micro);
         CBaseMeter_addPointer(m.base, (row.lower + row.upper) / 2, kRed, -1);
         const QImage image = m.picture();
-        const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begun;
-        EXPECT_LT(taken.count(), 1) << row.lower << " to " << row.upper;
         EXPECT_GE(runsAt(image, 98), 1) << row.lower << " to " << row.upper << " by " << row.major;
         EXPECT_LE(runsAt(image, 98), 160) << "a tick for every two pixels at most";
     }
