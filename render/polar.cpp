@@ -35,7 +35,9 @@ PolarHolder BeginPolarChart(const CPolarChart& look, const CChartLayout& layout)
 }
 
 static PolarLayer* AddLine(PolarLineLayer* line, const CPolarLayer& look) {
-    CPolarLineLayer_setCloseLoop(line, static_cast<const CPolarLineLayer&>(look).m_closeLoop);
+    // The number of a kind may belie its object.
+    const auto* lines = dynamic_cast<const CPolarLineLayer*>(&look);
+    CPolarLineLayer_setCloseLoop(line, lines && lines->m_closeLoop);
     return PolarLineLayer2PolarLayer(line);
 }
 

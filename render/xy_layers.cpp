@@ -120,27 +120,35 @@ static Layer* AddAreas(const XYLayerScene& scene, const CXYAreaLayer& look, CXYL
     return layer;
 }
 
+/// Null where the number of a kind belies its object.
+template <class Kind>
+static Layer* AddAs(const XYLayerScene& scene, const CXYChartLayer& layer, CXYLayerSource& data,
+                    Layer* (*add)(const XYLayerScene&, const Kind&, CXYLayerSource&)) {
+    const auto* kind = dynamic_cast<const Kind*>(&layer);
+    return kind ? add(scene, *kind, data) : nullptr;
+}
+
 /// Null for a layer of no kind.
 static Layer* AddLayer(const XYLayerScene& scene, const CXYChartLayer& layer, CXYLayerSource& data) {
     switch (layer.GetType()) {
     case 0:
-        return AddBars(scene, static_cast<const CXYBarLayer&>(layer), data);
+        return AddAs<CXYBarLayer>(scene, layer, data, AddBars);
     case 1:
-        return AddLines(scene, static_cast<const CXYLineLayer&>(layer), data);
+        return AddAs<CXYLineLayer>(scene, layer, data, AddLines);
     case 2:
-        return AddPoints(scene, static_cast<const CXYScatterLayer&>(layer), data);
+        return AddAs<CXYScatterLayer>(scene, layer, data, AddPoints);
     case 3:
-        return AddAreas(scene, static_cast<const CXYAreaLayer&>(layer), data);
+        return AddAs<CXYAreaLayer>(scene, layer, data, AddAreas);
     case 4:
-        return AddBoxWhiskers(scene, static_cast<const CXYBoxWhiskerLayer&>(layer), data);
+        return AddAs<CXYBoxWhiskerLayer>(scene, layer, data, AddBoxWhiskers);
     case 5:
-        return AddBoxes(scene, static_cast<const CXYBoxLayer&>(layer), data);
+        return AddAs<CXYBoxLayer>(scene, layer, data, AddBoxes);
     case 6:
-        return AddPriceBars(scene, static_cast<const CXYHLOCLayer&>(layer), data);
+        return AddAs<CXYHLOCLayer>(scene, layer, data, AddPriceBars);
     case 7:
-        return AddTasks(scene, static_cast<const CXYGanttLayer&>(layer), data);
+        return AddAs<CXYGanttLayer>(scene, layer, data, AddTasks);
     case 8:
-        return AddCandles(scene, static_cast<const CXYCandleStickLayer&>(layer), data);
+        return AddAs<CXYCandleStickLayer>(scene, layer, data, AddCandles);
     default:
         return nullptr;
     }
@@ -159,7 +167,8 @@ static void UseYAxis(const XYLayerScene& scene, Layer* layer, const CXYChartLaye
 }
 
 static bool LabelsEachValue(const CXYChartLayer& layer) {
-    return layer.GetType() != 0 || static_cast<const CXYBarLayer&>(layer).m_labelForEachSeg;
+    const auto* bars = dynamic_cast<const CXYBarLayer*>(&layer);
+    return !bars || bars->m_labelForEachSeg;
 }
 
 void DrawXYLayer(const XYLayerScene& scene, const CXYChartLayer& look, CXYLayerSource& data) {

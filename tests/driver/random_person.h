@@ -58,8 +58,13 @@ private:
         }
         for (int i = 0; i < 40 && m_left > 0 && QApplication::activeModalWidget() == modal; ++i, --m_left)
             Send(controls[Below(static_cast<int>(controls.size()))]);
-        if (Below(10) == 0 && QApplication::activeModalWidget() == modal)
-            QTest::mouseClick(modal->findChild<QWidget*>(Below(4) == 0 ? "Cancel" : "OK"), Qt::LeftButton);
+        if (Below(10) == 0 && QApplication::activeModalWidget() == modal) {
+            auto* end = modal->findChild<QWidget*>(Below(4) == 0 ? "Cancel" : "OK");
+            if (end != nullptr)
+                QTest::mouseClick(end, Qt::LeftButton);
+            else
+                static_cast<QDialog*>(modal)->reject(); // a box that complains
+        }
         m_tried = nullptr;
     }
 
