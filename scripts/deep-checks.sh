@@ -9,6 +9,7 @@ cmake --preset dev >/dev/null
 cmake --build --preset dev --target chart-gallery
 cmake --preset asan >/dev/null
 cmake --build --preset asan
+ASAN_OPTIONS=detect_leaks=0 UBSAN_OPTIONS=print_stacktrace=1 ctest --preset asan -j"$(nproc)"
 scripts/random_events.sh 60s "$(date +%-j)" # other events every day
 # A minute of calls without sense, with ends of charts in between and nothing left behind.
 CHART_RANDOM_SECONDS=60 QT_QPA_PLATFORM=offscreen ASAN_OPTIONS=detect_leaks=1 \
