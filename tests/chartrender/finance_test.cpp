@@ -1,8 +1,7 @@
 // Finance charts of the host's prices: in order, gaps marked, and clear answers to what is no data.
 
 #include "render/finance/draw_finance.h"
-#include "tests/recorder/recorder.h"
-#include <QImage>
+#include "tests/render/calls.h"
 #include <chartrender/chartrender.h>
 #include <gmock/gmock.h>
 #include <limits>
@@ -15,13 +14,7 @@ constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
 TEST(RenderFinance, OfTheSamplePricesIsThePreview) {
-    class Preview : public CChartPreview {
-        int ClientWidth() const override { return 0; }
-        int ClientHeight() const override { return 0; }
-        void SetScrollSizes() override {}
-        void PaintSample(const char*, int) override {}
-    } preview;
-    preview.m_layout = &preview.m_ownLayout;
+    PreviewFake preview;
     preview.m_ownLayout.m_showLegend = false; // the preview's has a key that is only a sample
     preview.m_ownFinanceChart.m_showVolBars = preview.m_ownFinanceChart.m_showRsi = true;
     DrawFinanceChart(preview);
@@ -137,23 +130,21 @@ TEST(RenderFinance, AnswersBadDataWithoutAPicture) {
         EXPECT_EQ(picture.Empty(), answer != ChartRenderResult::Ok);
         return answer;
     };
-    EXPECT_EQ(result(volBars, [](CFinanceChartData&) {}), ChartRenderResult::Ok); // there are no volumes
-    EXPECT_EQ(result(
-                  nothing, [](CFinanceChartData&) {}),
-              ChartRenderResult::Ok);
-    EXPECT_EQ(result(
-                  volBars, [](CFinanceChartData& data) { data = {.count = 0}; }),
-              ChartRenderResult::Ok);
-    EXPECT_EQ(result(
-                  volBars, [](CFinanceChartData& data) { data.leadingRows = 2147483647; }),
-              ChartRenderResult::Ok);
-    EXPECT_EQ(result(
-                  volBars, [](CFinanceChartData& data) { data.count = -1; }),
-              ChartRenderResult::BadData);
-    EXPECT_EQ(result(
-                  volBars, [](CFinanceChartData& data) { data.close = nullptr; }),
-              ChartRenderResult::BadData);
-    EXPECT_EQ(result(volBars, [](CFinanceChartData& data) { --data.size; }), ChartRenderResult::BadData);
+    const struct {
+        const CFinanceChart& look;
+        void (*edit)(CFinanceChartData&);
+        ChartRenderResult answer;
+    } rows[] = {
+        {volBars, [](CFinanceChartData&) {}, ChartRenderResult::Ok}, // there are no volumes
+        {nothing, [](CFinanceChartData&) {}, ChartRenderResult::Ok},
+        {volBars, [](CFinanceChartData& data) { data = {.count = 0}; }, ChartRenderResult::Ok},
+        {volBars, [](CFinanceChartData& data) { data.leadingRows = 2147483647; }, ChartRenderResult::Ok},
+        {volBars, [](CFinanceChartData& data) { data.count = -1; }, ChartRenderResult::BadData},
+        {volBars, [](CFinanceChartData& data) { data.close = nullptr; }, ChartRenderResult::BadData},
+        {volBars, [](CFinanceChartData& data) { --data.size; }, ChartRenderResult::BadData},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(result(row.look, row.edit), row.answer) << (&row - rows);
     for (const int width : {0, -2147483647 - 1, 2147483647, 80}) {
         layout.m_financeWidth = width; // 80 is all margins
         EXPECT_EQ(result(volBars, [](CFinanceChartData&) {}),

@@ -215,82 +215,49 @@ TEST(RenderXY, NamesRowsAlongTheAxis) {
 }
 
 TEST(RenderXY, AnswersWhatDoesNotFitWithoutAPicture) {
-    const std::function<void(Plot&)> faults[] = {
-        [](Plot& plot) { plot.data.rowCount = -1; },
-        [](Plot& plot) { plot.data.layerCount = -1; },
-        [](Plot& plot) { plot.data.layers = nullptr; },
-        [](Plot& plot) { plot.data.size = 8; },
-        [](Plot& plot) { plot.layer.layer = 1; },
-        [](Plot& plot) { plot.layer.layer = -1; },
-        [](Plot& plot) { plot.layer.size = 0; },
-        [](Plot& plot) { plot.layer.seriesCount = -1; },
-        [](Plot& plot) { plot.layer.series = nullptr; },
-        [](Plot& plot) { plot.sets[1].count = 2; },
-        [](Plot& plot) { plot.sets[0].values = nullptr; },
-        [](Plot& plot) { plot.sets[1].size -= 8; },
-        [](Plot& plot) {
-            static CXYLayerData twice[2];
-            twice[0] = twice[1] = plot.layer;
-            plot.data.layers = twice;
-            plot.data.layerCount = 2;
-        },
+    struct Fault {
+        int type;
+        void (*make)(Plot&);
     };
-    for (std::size_t i = 0; i < std::size(faults); ++i) {
-        Plot plot(0);
+    const Fault faults[] = {
+        {0, [](Plot& plot) { plot.data.rowCount = -1; }},
+        {0, [](Plot& plot) { plot.data.layerCount = -1; }},
+        {0, [](Plot& plot) { plot.data.layers = nullptr; }},
+        {0, [](Plot& plot) { plot.data.size = 8; }},
+        {0, [](Plot& plot) { plot.layer.layer = 1; }},
+        {0, [](Plot& plot) { plot.layer.layer = -1; }},
+        {0, [](Plot& plot) { plot.layer.size = 0; }},
+        {0, [](Plot& plot) { plot.layer.seriesCount = -1; }},
+        {0, [](Plot& plot) { plot.layer.series = nullptr; }},
+        {0, [](Plot& plot) { plot.sets[1].count = 2; }},
+        {0, [](Plot& plot) { plot.sets[0].values = nullptr; }},
+        {0, [](Plot& plot) { plot.sets[1].size -= 8; }},
+        {2, [](Plot& plot) { plot.layer.y = nullptr; }},
+        {4, [](Plot& plot) { plot.layer.top = plot.layer.bottom = nullptr; }},
+        {5, [](Plot& plot) { plot.layer.count = 2; }},
+        {7, [](Plot& plot) { plot.tasks[1].row = 3; }},
+        {8, [](Plot& plot) { plot.layer.count = -1; }},
+        {0,
+         [](Plot& plot) {
+             static CXYLayerData twice[2];
+             twice[0] = twice[1] = plot.layer;
+             plot.data.layers = twice;
+             plot.data.layerCount = 2;
+         }},
+    };
+    for (const Fault& fault : faults) {
+        SCOPED_TRACE(&fault - faults);
+        Plot plot(fault.type);
         plot.UseSets();
+        plot.layer.x = plot.layer.top = plot.layer.high = kFirst;
+        plot.layer.y = plot.layer.bottom = plot.layer.low = kThird;
+        plot.layer.tasks = plot.tasks;
         CChartPicture picture;
         ASSERT_EQ(plot.Render(picture), ChartRenderResult::Ok);
-        faults[i](plot);
-        EXPECT_EQ(plot.Render(picture), ChartRenderResult::BadData) << i;
+        fault.make(plot);
+        EXPECT_EQ(plot.Render(picture), ChartRenderResult::BadData);
         EXPECT_TRUE(picture.Empty());
     }
-    struct Arrays {
-        int type;
-        std::function<void(Plot&)> tell;
-    };
-    const Arrays arrays[] = {
-        {2, [](Plot& plot) { plot.layer.x = kFirst; }},
-        {4, [](Plot&) {}},
-        {5,
-         [](Plot& plot) {
-             plot.layer.top = plot.layer.bottom = kFirst;
-             plot.layer.count = 2;
-         }},
-        {7,
-         [](Plot& plot) {
-             plot.layer.tasks = plot.tasks;
-             plot.tasks[1].row = 3;
-         }},
-        {8,
-         [](Plot& plot) {
-             plot.layer.high = kFirst;
-             plot.layer.count = -1;
-         }},
-    };
-    for (const Arrays& fault : arrays) {
-        Plot plot(fault.type);
-        fault.tell(plot);
-        CChartPicture picture;
-        EXPECT_EQ(plot.Render(picture), ChartRenderResult::BadData) << fault.type;
-    }
-}
-
-TEST(RenderXY, TakesStructuresThatHaveGrown) {
-    struct Grown {
-        CXYSeriesData set;
-        double more = 5;
-    } sets[2];
-    Plot plot(0);
-    plot.UseSets();
-    for (int i = 0; i < 2; ++i) {
-        sets[i].set = plot.sets[i];
-        sets[i].set.size = sizeof(Grown);
-    }
-    plot.layer.series = &sets[0].set;
-    const recorder::Recording recording;
-    CChartPicture picture;
-    EXPECT_EQ(plot.Render(picture), ChartRenderResult::Ok);
-    EXPECT_EQ(recording.Count("CLayer_addDataSet"), 2);
 }
 
 TEST(RenderXY, TwoThreadsDoNotDisturbEachOther) {

@@ -12,6 +12,7 @@ TEST(Recorder, KnowsAllOperations) {
 }
 
 TEST(Recorder, WritesNumbersTextsAndArraysInOneForm) {
+    CChart_metalColor(1, 2); // before the recording
     const Recording recording;
     CChart_chartTime(2001, 1, -1, 0, 65535, 65536);
     CChart_metalColor(-1, static_cast<int>(0xff000000));
@@ -49,23 +50,4 @@ TEST(Recorder, NumbersHandlesUntilTheyEnd) {
                             "CRanTable_destroy(RanTable#2)", "CRanTable_create(1, 1, 1)",
                             "CRanTable_create(2, 1, 1)", "CRanTable_destroy(RanTable#3)",
                             "CRanTable_setCol(RanTable#4, 0, 1, 1)", "CRanTable_destroy(RanTable#4)"));
-}
-
-TEST(Recorder, PassesCallsOnAndLeavesOutParametersOut) {
-    const Recording recording;
-    RanTable* table = CRanTable_create(0, 2, 3);
-    CRanTable_setCol(table, 1, 7, 7);
-    const double* column = nullptr;
-    int count = 0;
-    CRanTable_getCol(table, 1, &column, &count);
-    ASSERT_EQ(count, 3);
-    EXPECT_EQ(column[2], 7);
-    CRanTable_destroy(table);
-    EXPECT_EQ(recording.Lines()[2], "CRanTable_getCol(RanTable#1, 1)");
-}
-
-TEST(Recorder, WritesNothingWithoutARecording) {
-    CChart_metalColor(1, 2);
-    const Recording recording;
-    EXPECT_TRUE(recording.Lines().empty());
 }

@@ -1,6 +1,6 @@
 // Looks as texts: there and back, patches, what newer versions say, and texts that are none.
 
-#include "tests/driver/random_model.h"
+#include "tests/model/models.h"
 #include <chartstyle/chartstyle.h>
 #include <cstdlib>
 #include <cstring>
@@ -46,9 +46,9 @@ const char* const kPie = R"({"chartStyle": 1, "kind": "pie",
 TYPED_TEST(RoundTrip, GivesEveryFieldBack) {
     const char* models = std::getenv("CHART_RANDOM_MODELS"); // a long run by hand
     for (unsigned seed = 0; seed < (models ? std::strtoul(models, nullptr, 10) : 100); ++seed) {
-        const TypeParam chart = driver::RandomModel(seed).Make<TypeParam>();
-        const auto layout = driver::RandomModel(seed + 1).Make<CChartLayout>();
-        TypeParam other = driver::RandomModel(seed + 2).Make<TypeParam>();
+        const TypeParam chart = models::Random(seed).Make<TypeParam>();
+        const auto layout = models::Random(seed + 1).Make<CChartLayout>();
+        TypeParam other = models::Random(seed + 2).Make<TypeParam>();
         CChartLayout otherLayout;
         std::string report;
         ASSERT_EQ(Read(Write(chart, &layout), other, &otherLayout, &report), ChartStyleResult::Ok) << report;
@@ -154,7 +154,7 @@ TEST(Style, SurvivesBrokenTexts) {
     std::mt19937 random(7);
     const CChartLayout plain;
     for (unsigned seed = 0; seed < 30; ++seed) {
-        const auto chart = driver::RandomModel(seed).Make<CXYChart>();
+        const auto chart = models::Random(seed).Make<CXYChart>();
         const std::string good = Write(chart, &plain);
         for (int i = 0; i < 30; ++i) {
             std::string text = good;

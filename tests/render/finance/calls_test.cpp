@@ -1,274 +1,192 @@
-// The calls of the preview, in order and value: those of new models, and what each flag adds to them.
+// The calls of the preview, in order and value: those of an empty main pane, and what each flag adds to them,
+// with a number of its own in each field.
 
 #include "render/finance/draw_finance.h"
-#include "tests/render/finance/finance_lines.h"
-#include "tests/render/preview_fake.h"
-#include <functional>
+#include "tests/model/models.h"
+#include "tests/render/calls.h"
 #include <gmock/gmock.h>
 
 namespace {
 
-using testing::ElementsAreArray;
-
-const Lines dressing = {
-    "CMultiChart_create(500, 1, 0xffff0000, 0xff000000, 0)",
-    "CBaseChart_setBackground(BaseChart#1, 0x00ffffff, 0x33808080, 0)",
-    R"(CBaseChart_setDefaultFonts(BaseChart#1, "gulim.ttc", "gulim.ttc", "gulim.ttc", "gulim.ttc"))",
-    R"(CBaseChart_addLegend(BaseChart#1, 320, 12, false, "gulim.ttc", 12))",
-    "CTextBox_setFontColor(TextBox#1, 0)",
-    "CBox_setBackground(Box#1, -1, 0, 0)",
-    R"(CTextBox_setText(TextBox#1, "{dataSetName}"))",
-    R"(CLegendBox_addKey(LegendBox#1, "Legend", -1, 0, null))",
-};
-const Lines samplePrices = {
-    "CRanTable_create(9, 6, 130)",
-    "CChart_chartTime(2002, 9, 4, 0, 0, 0)",
-    "CRanTable_setDateCol(RanTable#1, 0, 63166694400, 86400, true)",
-    "CRanTable_setHLOCCols(RanTable#1, 1, 100, -5, 5, 0, 1e+308)",
-    "CRanTable_setCol(RanTable#1, 5, 5e+07, 2.5e+08)",
-};
-const Lines mainPane = {
-    "CXYChart_create(500, 265, 0xff000000, 0xff000000, 0)",
-    "CXYChart_setTrimData(XYChart#1, 30, 0x7fffffff)",
-    "CAxis_setLabels2(Axis#1, [130], null)",
-    "CChart_encodeFilter(5, 1, 0.05)",
-    "CChart_encodeFilter(4, 1, 0.05)",
-    R"(CAxis_setMultiFormat(Axis#1, 0x540041f4, "<*font=bold*>{value|mmm yy}", 0x500041f4, "{value|mmm}", 1, true))",
-    "CChart_encodeFilter(4, 1, 0.05)",
-    R"(CAxis_setMultiFormat2(Axis#1, 0x500041f4, "-", 1, false))",
-    "CMultiChart_addChart(MultiChart#1, 0, 0, BaseChart#2)",
-    "CBaseChart_setSize(BaseChart#1, 500, 266)",
-    "CXYChart_setPlotArea(XYChart#1, 40, 30, 420, 200, 0x00fffff0, -1, -1, 0x00c0c0c0, 0xff000000)",
-    "CPlotArea_setGridColor(PlotArea#1, 0x00dddddd, 0x00dddddd, 0x00dddddd, 0x00dddddd)",
-    "CBaseChart_setAntiAlias(BaseChart#2, true, 2)",
-    R"(CBaseChart_addLegend(BaseChart#2, 40, 30, false, "normal", 8))",
-    "CBox_setBackground(Box#2, 0x80ccccff, -1, 0)",
-    "CTextBox_setMargin2(TextBox#3, 5, 0, 2, 0)",
-    "CBox_setSize(Box#2, 420, 0)",
-    "CAxis_setIndent(Axis#1, true)",
-    "CAxis_setTickLength2(Axis#1, 2, 0)",
-    R"(CAxis_setLabelStyle(Axis#1, "normal", 8, -65534, 0))",
-    "CXYChart_setYAxisOnRight(XYChart#1, true)",
-    "CAxis_setAutoScale(Axis#2, 0, 0.05, 0)",
-    "CAxis_setMargin(Axis#2, 13, 0)",
-    R"(CAxis_setLabelStyle(Axis#2, "normal", 8, -65534, 0))",
-    "CAxis_setTickLength2(Axis#2, -4, -2)",
-    "CMultiChart_setMainChart(MultiChart#1, BaseChart#2)",
-    "CAxis_setMargin(Axis#2, 26, 0)",
-    "CAxis_setLinearScale3(Axis#2, null)",
-};
-
-/// A pane of 60 pixels under the empty main pane.
-Lines lowerPane() {
-    return {
-        "CXYChart_create(500, 125, 0xff000000, 0xff000000, 0)",
-        "CXYChart_setTrimData(XYChart#2, 30, 0x7fffffff)",
-        "CAxis_setColors(Axis#1, -65535, 0xff000000, -1, -1)",
-        "CAxis_copyAxis(Axis#3, Axis#1)",
-        "CMultiChart_addChart(MultiChart#1, 0, 201, BaseChart#3)",
-        "CBaseChart_setSize(BaseChart#1, 500, 327)",
-        "CXYChart_setPlotArea(XYChart#2, 40, 30, 420, 60, 0x00fffff0, -1, -1, 0x00c0c0c0, 0xff000000)",
-        "CPlotArea_setGridColor(PlotArea#2, 0x00dddddd, 0x00dddddd, 0x00dddddd, 0x00dddddd)",
-        "CBaseChart_setAntiAlias(BaseChart#3, true, 2)",
-        R"(CBaseChart_addLegend(BaseChart#3, 40, 30, false, "normal", 8))",
-        "CBox_setBackground(Box#3, 0x80ccccff, -1, 0)",
-        "CTextBox_setMargin2(TextBox#5, 5, 0, 2, 0)",
-        "CBox_setSize(Box#3, 420, 0)",
-        "CAxis_setIndent(Axis#3, true)",
-        "CAxis_setTickLength2(Axis#3, 2, 0)",
-        R"(CAxis_setLabelStyle(Axis#3, "normal", 8, -65534, 0))",
-        "CXYChart_setYAxisOnRight(XYChart#2, true)",
-        "CAxis_setAutoScale(Axis#4, 0, 0.05, 0)",
-        "CAxis_setTickDensity(Axis#4, 15, -1)",
-        "CAxis_setMargin(Axis#4, 13, 0)",
-        R"(CAxis_setLabelStyle(Axis#4, "normal", 8, -65534, 0))",
-        "CAxis_setTickLength2(Axis#4, -4, -2)",
-    };
-}
-
-Lines operator+(Lines first, const Lines& second) {
-    first.insert(first.end(), second.begin(), second.end());
-    return first;
-}
+constexpr bool CFinanceChart::*kFlags[] = {
+    &CFinanceChart::m_showSma,     &CFinanceChart::m_showHloc,        &CFinanceChart::m_showBollingerBand,
+    &CFinanceChart::m_showVolBars, &CFinanceChart::m_showCandleStick, &CFinanceChart::m_showDonchianChannel,
+    &CFinanceChart::m_showRsi,     &CFinanceChart::m_showMomentum,    &CFinanceChart::m_showSlowStochastic,
+    &CFinanceChart::m_showMacd};
 
 struct Case {
     const char* name;
-    std::function<void(CFinanceChart&)> edit; // of a model with an empty main pane
-    Lines added;
+    bool CFinanceChart::*flag;
+    void (*edit)(CFinanceChart&);
+    const char* calls;
+    const char* absent = nullptr;
 };
 
-class FinanceFlags : public testing::TestWithParam<Case> {};
+class FinanceCalls : public testing::TestWithParam<Case> {};
 
-TEST_P(FinanceFlags, MakeTheCallsInOrder) {
-    PreviewFake view;
-    view.m_ownFinanceChart.m_showHloc = false;
-    GetParam().edit(view.m_ownFinanceChart);
-    const recorder::Recording recording;
-    DrawFinanceChart(view);
-    Lines end = {"CBaseChart_makeChart2(BaseChart#1, 4)", "CRanTable_destroy(RanTable#1)"};
-    for (int pane = 0; pane < recording.Count("CXYChart_create"); ++pane)
-        end.push_back("CBaseChart_destroy(BaseChart#" + std::to_string(pane + 2) + ")");
-    end.push_back("CBaseChart_destroy(BaseChart#1)");
-    EXPECT_THAT(MakingCalls(recording),
-                ElementsAreArray(dressing + samplePrices + mainPane + GetParam().added + end));
-}
-
-const char* const tip =
-    R"("title='[{xLabel|mmm d, yyyy}] Op:{open|G}, Hi:{high|G}, Lo:{low|G}, Cl:{close|G}'")";
-const char* const lastPrices = R"("Op:123.423, Hi:124.351, Lo:119.893, Cl:122.024")";
-
-Lines volBars(const char* margin) {
-    return {
-        R"(CXYChart_addBarLayer(XYChart#1, [130], 0x0099ff99, "", 0))",
-        "CLayer_setBorderColor(Layer#1, 0xff000000, 0)",
-        R"(CXYChart_addBarLayer(XYChart#1, [130], 0x00ff9999, "", 0))",
-        "CLayer_setBorderColor(Layer#2, 0xff000000, 0)",
-        R"(CXYChart_addBarLayer(XYChart#1, [130], 0x00808080, "", 0))",
-        "CLayer_setBorderColor(Layer#3, 0xff000000, 0)",
-        "CAxis_setAutoScale(Axis#3, 0, 0.05, 0)",
-        "CAxis_setTickDensity(Axis#3, 15, -1)",
-        "CAxis_setMargin(Axis#3, 13, 0)",
-        R"(CAxis_setLabelStyle(Axis#3, "normal", 8, -65534, 0))",
-        "CAxis_setTickLength2(Axis#3, -4, -2)",
-        std::string("CAxis_setMargin(Axis#3, ") + margin + ", 0)",
-        "CLayer_setUseYAxis2(Layer#1, true)",
-        "CLayer_setUseYAxis2(Layer#2, true)",
-        "CLayer_setUseYAxis2(Layer#3, true)",
-        R"(CAxis_setLabelFormat(Axis#3, "{value}M"))",
-        R"(CDataSet_setDataName(DataSet#2, "Vol: 55.0941M"))",
-    };
-}
-
-Lines band(const char* name, const char* line, const char* fill) {
-    const std::string call = "CXYChart_addLineLayer(XYChart#1, [130], " + std::string(line) + ", ";
-    return {call + '"' + name + "\", 0)", call + "null, 0)",
-            "CXYChart_addInterLineLayer(XYChart#1, Line#1, Line#2, " + std::string(fill) + ", -1)"};
-}
-
-void showRsi(CFinanceChart& look) {
-    look.m_showRsi = true;
-    look.m_rsiHeight = 60;
-}
-
-const Lines rsiLine = {R"(CXYChart_addLineLayer(XYChart#2, [130], 0x00800080, "RSI (14): 43.1095", 0))"};
-const Lines percents = {"CAxis_setLinearScale(Axis#4, 0, 100, 0, 0)"};
-
-const Case cases[] = {
-    {"EmptyMainPane", [](CFinanceChart&) {}, {}},
-    {"Sma",
-     [](CFinanceChart& look) { look.m_showSma = true; },
-     {R"(CXYChart_addLineLayer(XYChart#1, [130], 0x00663300, "SMA (5): 120.65", 0))"}},
-    {"Hloc",
-     [](CFinanceChart& look) { look.m_showHloc = true; },
-     {std::string("CLegendBox_addKey(LegendBox#2, ") + lastPrices + ", 0x00ff0000, 0, null)",
-      "CXYChart_addHLOCLayer(XYChart#1, [130], [130], [130], [130], -1)",
-      "CHLOCLayer_setColorMethod(HLOCLayer#1, 2, 32768, 0x00ff0000, -1.7e+308)",
-      std::string("CLayer_setHTMLImageMap(Layer#1, \"\", \"\", ") + tip + ")",
-      "CBaseBoxLayer_setDataGap(BaseBoxLayer#1, 0)"}},
-    {"Candles",
-     [](CFinanceChart& look) { look.m_showCandleStick = true; },
-     {std::string("CLegendBox_addKey(LegendBox#2, ") + lastPrices + ", 0x00ff0000, 0, null)",
-      "CXYChart_addCandleStickLayer(XYChart#1, [130], [130], [130], [130], 65280, 0x00ff0000, -65535)",
-      std::string("CLayer_setHTMLImageMap(Layer#1, \"\", \"\", ") + tip + ")",
-      "CBaseBoxLayer_setDataGap(BaseBoxLayer#1, 0)", "CBaseBoxLayer_setDataWidth(BaseBoxLayer#1, 5)"}},
-    {"Bollinger", [](CFinanceChart& look) { look.m_showBollingerBand = true; },
-     band("Bollinger (20, 2): 107.542 - 129.401", "0x009999ff", "0xc06666ff")},
-    {"BollingerOfHalfAStep",
-     [](CFinanceChart& look) {
-         look.m_showBollingerBand = true;
-         look.m_bbPeriod = 200; // longer than the data
-         look.m_bbBandWidth = 2.5;
-     },
-     band("Bollinger (200, 2.5)", "0x009999ff", "0xc06666ff")},
-    {"Donchian",
-     [](CFinanceChart& look) {
-         look.m_showDonchianChannel = true;
-         look.m_dcLineColor.m_color = 0x112233;
-         look.m_dcFillColor.m_color = 0x80445566;
-     },
-     band("Donchian (20): 106.097 - 128.438", "0x00112233", "0x80445566")},
-    {"VolBars", [](CFinanceChart& look) { look.m_showVolBars = true; }, volBars("143")}, // 200 - 70 + 13
-    {"VolBarsHigherThanThePane",
-     [](CFinanceChart& look) {
-         look.m_showVolBars = true;
-         look.m_volBarsHeight = 220;
-     },
-     [] {
-         Lines lines = volBars("0");
-         std::erase(lines, "CAxis_setTickDensity(Axis#3, 15, -1)");
-         return lines;
-     }()},
-    {"Rsi", showRsi,
-     lowerPane() + rsiLine +
-         Lines{R"(CAxis_addMark(Axis#4, 70, 0x00ff0000, "70", null, 8))",
-               R"(CAxis_addMark(Axis#4, 30, 255, "30", null, 8))",
-               "CXYChart_addInterLineLayer(XYChart#2, Line#1, Line#2, 0x00ff0000, 0xff000000)",
-               "CXYChart_addInterLineLayer(XYChart#2, Line#1, Line#3, 0xff000000, 255)"} +
-         percents},
-    {"RsiWithoutRange",
-     [](CFinanceChart& look) {
-         showRsi(look);
-         look.m_rsiRange = 0;
-     },
-     lowerPane() + rsiLine + percents},
-    {"RsiOfTheWholeRange",
-     [](CFinanceChart& look) {
-         showRsi(look);
-         look.m_rsiRange = 50;
-     },
-     lowerPane() + rsiLine + percents},
-    {"Momentum",
-     [](CFinanceChart& look) {
-         look.m_showMomentum = true;
-         look.m_momentumHeight = 60;
-     },
-     lowerPane() + Lines{R"(CXYChart_addLineLayer(XYChart#2, [130], 255, "Momentum (12): 2.17947", 0))"}},
-    {"SlowStochastic",
-     [](CFinanceChart& look) {
-         look.m_showSlowStochastic = true;
-         look.m_ssHeight = 60;
-     },
-     lowerPane() +
-         Lines{R"(CXYChart_addLineLayer(XYChart#2, [130], 24672, "Slow Stochastic %K (14): 73.6267", 0))",
-               R"(CXYChart_addLineLayer(XYChart#2, [130], 0x00606000, "%D (3): 67.6753", 0))"} +
-         percents},
-    {"Macd",
-     [](CFinanceChart& look) {
-         look.m_showMacd = true;
-         look.m_macdHeight = 60;
-     },
-     lowerPane() + Lines{R"(CXYChart_addLineLayer(XYChart#2, [130], 255, "MACD (26, 12): 0.708824", 0))",
-                         R"(CXYChart_addLineLayer(XYChart#2, [130], 0x00ff00ff, "EXP (9): 0.207592", 0))",
-                         R"(CXYChart_addBarLayer(XYChart#2, [130], 32768, "Divergence: 0.501232", 0))",
-                         "CLayer_setBorderColor(Layer#1, 0xff000000, 0)"}},
-};
-
-INSTANTIATE_TEST_SUITE_P(Finance, FinanceFlags, testing::ValuesIn(cases),
-                         [](const auto& test) { return test.param.name; });
-
-TEST(FinanceOrder, StacksThePanesAndSkipsWhatIsNone) {
+TEST_P(FinanceCalls, FollowFromTheModel) {
     PreviewFake view;
     CFinanceChart& look = view.m_ownFinanceChart;
-    look.m_showRsi = look.m_showMacd = true;
-    look.m_mainHeight = 150;
-    look.m_rsiHeight = 40;
-    look.m_macdHeight = 30;
-    const std::int32_t order[] = {4, 7, 0, -1, 1};
-    std::copy(std::begin(order), std::end(order), look.m_order);
-    const recorder::Recording recording;
-    DrawFinanceChart(view);
-    Lines places;
-    for (const std::string& line : MakingCalls(recording))
-        if (line.starts_with("CMultiChart_") || line.starts_with("CAxis_copyAxis"))
-            places.push_back(line);
-    EXPECT_THAT(places, testing::ElementsAre("CMultiChart_create(500, 1, 0xffff0000, 0xff000000, 0)",
-                                             "CMultiChart_addChart(MultiChart#1, 0, 0, BaseChart#2)",
-                                             "CAxis_copyAxis(Axis#3, Axis#1)",
-                                             "CMultiChart_addChart(MultiChart#1, 0, 31, BaseChart#3)",
-                                             "CMultiChart_setMainChart(MultiChart#1, BaseChart#3)",
-                                             "CAxis_copyAxis(Axis#5, Axis#3)",
-                                             "CMultiChart_addChart(MultiChart#1, 0, 182, BaseChart#4)"));
-    EXPECT_EQ(view.m_pictureHeight, 31 + 151 + 41 + 65);
+    if (GetParam().flag) {
+        models::Number numbers;
+        models::Each(look, numbers);
+        look.m_mainHeight = 200;
+    }
+    for (const auto flag : kFlags)
+        look.*flag = flag == GetParam().flag;
+    GetParam().edit(look);
+    expectCalls(callsOf(DrawFinanceChart, view), GetParam().calls + 1, GetParam().absent);
 }
+
+void asItIs(CFinanceChart&) {}
+
+const Case cases[] = {
+    {"EmptyMainPane", nullptr, asItIs, R"-(
+CMultiChart_create(500, 1, 0xffff0000, 0xff000000, 0)
+CBaseChart_setBackground(BaseChart#1...CLegendBox_addKey(LegendBox#1, "Legend", -1, 0, null)
+CRanTable_create(9, 6, 130)
+CChart_chartTime(2002, 9, 4, 0, 0, 0)
+CRanTable_setDateCol(RanTable#1, 0, 63166694400, 86400, true)
+CRanTable_setHLOCCols(RanTable#1, 1, 100, -5, 5, 0, 1e+308)
+CRanTable_setCol(RanTable#1, 5, 5e+07, 2.5e+08)
+CXYChart_create(500, 265, 0xff000000, 0xff000000, 0)
+CXYChart_setTrimData(XYChart#1, 30, 0x7fffffff)
+CAxis_setLabels2(Axis#1, [130], null)
+CChart_encodeFilter(5, 1, 0.05)
+CChart_encodeFilter(4, 1, 0.05)
+CAxis_setMultiFormat(Axis#1, 0x540041f4, "<*font=bold*>{value|mmm yy}", 0x500041f4, "{value|mmm}", 1, true)
+CChart_encodeFilter(4, 1, 0.05)
+CAxis_setMultiFormat2(Axis#1, 0x500041f4, "-", 1, false)
+CMultiChart_addChart(MultiChart#1, 0, 0, BaseChart#2)
+CBaseChart_setSize(BaseChart#1, 500, 266)
+CXYChart_setPlotArea(XYChart#1, 40, 30, 420, 200, 0x00fffff0, -1, -1, 0x00c0c0c0, 0xff000000)
+CPlotArea_setGridColor(PlotArea#1, 0x00dddddd, 0x00dddddd, 0x00dddddd, 0x00dddddd)
+CBaseChart_setAntiAlias(BaseChart#2, true, 2)
+CBaseChart_addLegend(BaseChart#2, 40, 30, false, "normal", 8)
+CBox_setBackground(Box#2, 0x80ccccff, -1, 0)
+CTextBox_setMargin2(TextBox#3, 5, 0, 2, 0)
+CBox_setSize(Box#2, 420, 0)
+CAxis_setIndent(Axis#1, true)
+CAxis_setTickLength2(Axis#1, 2, 0)
+CAxis_setLabelStyle(Axis#1, "normal", 8, -65534, 0)
+CXYChart_setYAxisOnRight(XYChart#1, true)
+CAxis_setAutoScale(Axis#2, 0, 0.05, 0)
+CAxis_setMargin(Axis#2, 13, 0)
+CAxis_setLabelStyle(Axis#2, "normal", 8, -65534, 0)
+CAxis_setTickLength2(Axis#2, -4, -2)
+CMultiChart_setMainChart(MultiChart#1, BaseChart#2)
+CAxis_setMargin(Axis#2, 26, 0)
+CAxis_setLinearScale3(Axis#2, null)
+CBaseChart_makeChart2(BaseChart#1, 4)
+CRanTable_destroy(RanTable#1)
+CBaseChart_destroy(BaseChart#2)
+CBaseChart_destroy(BaseChart#1)
+)-"},
+    {"Sma", &CFinanceChart::m_showSma, asItIs, R"-(
+CXYChart_addLineLayer(XYChart#1, [130], 3, "SMA (2): 122.723", 0)
+)-"},
+    {"Hloc", &CFinanceChart::m_showHloc, asItIs, R"-(
+CLegendBox_addKey(LegendBox#2, "Op:123.423, Hi:124.351, Lo:119.893, Cl:122.024", 5, 0, null)
+CXYChart_addHLOCLayer(XYChart#1, [130], [130], [130], [130], -1)
+CHLOCLayer_setColorMethod(HLOCLayer#1, 2, 4, 5, -1.7e+308)
+CLayer_setHTMLImageMap(Layer#1, "", "", "title='[{xLabel|mmm d, yyyy}] Op:{open|G}, Hi:{high|G}, Lo:{low|G}, Cl:{close|G}'")
+CBaseBoxLayer_setDataGap(BaseBoxLayer#1, 0)
+)-"},
+    {"Candles", &CFinanceChart::m_showCandleStick, asItIs, R"-(
+CLegendBox_addKey(LegendBox#2, "Op:123.423, Hi:124.351, Lo:119.893, Cl:122.024", 15, 0, null)
+CXYChart_addCandleStickLayer(XYChart#1, [130], [130], [130], [130], 14, 15, -65535)
+CLayer_setHTMLImageMap(Layer#1, "", "", "title='[{xLabel|mmm d, yyyy}] Op:{open|G}, Hi:{high|G}, Lo:{low|G}, Cl:{close|G}'")
+CBaseBoxLayer_setDataGap(BaseBoxLayer#1, 0)
+CBaseBoxLayer_setDataWidth(BaseBoxLayer#1, 5)
+)-"},
+    {"Bollinger", &CFinanceChart::m_showBollingerBand, asItIs, R"-(
+CXYChart_addLineLayer(XYChart#1, [130], 9, "Bollinger (6, 7.5): 89.9764 - 148.619", 0)
+CXYChart_addLineLayer(XYChart#1, [130], 9, null, 0)
+CXYChart_addInterLineLayer(XYChart#1, Line#1, Line#2, 8, -1)
+)-"},
+    {"BollingerLongerThanTheData", &CFinanceChart::m_showBollingerBand,
+     [](CFinanceChart& look) { look.m_bbPeriod = 200; }, R"-(
+CXYChart_addLineLayer(XYChart#1, [130], 9, "Bollinger (200, 7.5)", 0)
+)-"},
+    {"Donchian", &CFinanceChart::m_showDonchianChannel, asItIs, R"-(
+CXYChart_addLineLayer(XYChart#1, [130], 18, "Donchian (16): 106.097 - 128.438", 0)
+CXYChart_addLineLayer(XYChart#1, [130], 18, null, 0)
+CXYChart_addInterLineLayer(XYChart#1, Line#1, Line#2, 17, -1)
+)-"},
+    {"VolBars", &CFinanceChart::m_showVolBars, asItIs, R"-(
+CXYChart_addBarLayer(XYChart#1, [130], 11, "", 0)
+CLayer_setBorderColor(Layer#1, 0xff000000, 0)
+CXYChart_addBarLayer(XYChart#1, [130], 12, "", 0)
+CLayer_setBorderColor(Layer#2, 0xff000000, 0)
+CXYChart_addBarLayer(XYChart#1, [130], 13, "", 0)
+CLayer_setBorderColor(Layer#3, 0xff000000, 0)
+CXYChart_yAxis2(XYChart#1)
+CAxis_setAutoScale(Axis#3, 0, 0.05, 0)
+CAxis_setTickDensity(Axis#3, 15, -1)
+CAxis_setMargin(Axis#3, 13, 0)
+CAxis_setLabelStyle(Axis#3, "normal", 8, -65534, 0)
+CAxis_setTickLength2(Axis#3, -4, -2)
+CAxis_setMargin(Axis#3, 203, 0)
+CLayer_setUseYAxis2(Layer#1, true)
+CLayer_setUseYAxis2(Layer#2, true)
+CLayer_setUseYAxis2(Layer#3, true)
+CXYChart_yAxis2(XYChart#1)
+CAxis_setLabelFormat(Axis#3, "{value}M")
+CDataSet_setDataName(DataSet#2, "Vol: 55.0941M")
+)-"},
+    {"VolBarsHigherThanThePane", &CFinanceChart::m_showVolBars,
+     [](CFinanceChart& look) { look.m_volBarsHeight = 220; }, "\nCAxis_setMargin(Axis#3, 0, 0)\n"},
+    {"Rsi", &CFinanceChart::m_showRsi, asItIs, R"-(
+CXYChart_create(500, 84, 0xff000000, 0xff000000, 0)
+CXYChart_setTrimData(XYChart#2, 30, 0x7fffffff)
+CAxis_setColors(Axis#1, -65535, 0xff000000, -1, -1)
+CAxis_copyAxis(Axis#3, Axis#1)
+CMultiChart_addChart(MultiChart#1, 0, 201, BaseChart#3)
+CBaseChart_setSize(BaseChart#1, 500, 286)
+CXYChart_setPlotArea(XYChart#2, 40, 30, 420, 19, 0x00fffff0, -1, -1, 0x00c0c0c0, 0xff000000)
+CPlotArea_setGridColor(PlotArea#2, 0x00dddddd, 0x00dddddd, 0x00dddddd, 0x00dddddd)
+CBaseChart_setAntiAlias(BaseChart#3, true, 2)
+CBaseChart_addLegend(BaseChart#3, 40, 30, false, "normal", 8)
+CBox_setBackground(Box#3, 0x80ccccff, -1, 0)
+CTextBox_setMargin2(TextBox#5, 5, 0, 2, 0)
+CBox_setSize(Box#3, 420, 0)
+CAxis_setIndent(Axis#3, true)
+CAxis_setTickLength2(Axis#3, 2, 0)
+CAxis_setLabelStyle(Axis#3, "normal", 8, -65534, 0)
+CXYChart_setYAxisOnRight(XYChart#2, true)
+CAxis_setAutoScale(Axis#4, 0, 0.05, 0)
+CAxis_setTickDensity(Axis#4, 15, -1)
+CAxis_setMargin(Axis#4, 13, 0)
+CAxis_setLabelStyle(Axis#4, "normal", 8, -65534, 0)
+CAxis_setTickLength2(Axis#4, -4, -2)
+CXYChart_addLineLayer(XYChart#2, [130], 22, "RSI (20): 47.4105", 0)
+CAxis_addMark(Axis#4, 71.5, 23, "71.5", null, 8)
+CAxis_addMark(Axis#4, 28.5, 24, "28.5", null, 8)
+CXYChart_addInterLineLayer(XYChart#2, Line#1, Line#2, 23, 0xff000000)
+CXYChart_addInterLineLayer(XYChart#2, Line#1, Line#3, 0xff000000, 24)
+CAxis_setLinearScale(Axis#4, 0, 100, 0, 0)
+)-"},
+    {"RsiWithoutRange", &CFinanceChart::m_showRsi, [](CFinanceChart& look) { look.m_rsiRange = 0; },
+     "\nCAxis_setLinearScale(Axis#4, 0, 100, 0, 0)\n", "CAxis_addMark"},
+    {"RsiOfTheWholeRange", &CFinanceChart::m_showRsi, [](CFinanceChart& look) { look.m_rsiRange = 50; },
+     "\nCAxis_setLinearScale(Axis#4, 0, 100, 0, 0)\n", "CAxis_addMark"},
+    {"Momentum", &CFinanceChart::m_showMomentum, asItIs, R"-(
+CXYChart_setPlotArea(XYChart#2, 40, 30, 420, 25...CXYChart_addLineLayer(XYChart#2, [130], 27, "Momentum (26): 1.54572", 0)
+)-"},
+    {"SlowStochastic", &CFinanceChart::m_showSlowStochastic, asItIs, R"-(
+CXYChart_setPlotArea(XYChart#2, 40, 30, 420, 28...CXYChart_addLineLayer(XYChart#2, [130], 31, "Slow Stochastic %K (29): 72.4823", 0)
+CXYChart_addLineLayer(XYChart#2, [130], 32, "%D (30): 67.3109", 0)
+CAxis_setLinearScale(Axis#4, 0, 100, 0, 0)
+)-"},
+    {"Macd", &CFinanceChart::m_showMacd, asItIs, R"-(
+CXYChart_setPlotArea(XYChart#2, 40, 30, 420, 33...CXYChart_addLineLayer(XYChart#2, [130], 37, "MACD (34, 35): -0.121063", 0)
+CXYChart_addLineLayer(XYChart#2, [130], 38, "EXP (36): -0.166127", 0)
+CXYChart_addBarLayer(XYChart#2, [130], 39, "Divergence: 0.0450644", 0)
+CLayer_setBorderColor(Layer#1, 0xff000000, 0)
+)-"},
+};
+
+INSTANTIATE_TEST_SUITE_P(Finance, FinanceCalls, testing::ValuesIn(cases),
+                         [](const auto& test) { return test.param.name; });
 
 } // namespace

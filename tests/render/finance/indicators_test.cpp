@@ -97,17 +97,13 @@ void volume(FinanceChart& chart) {
 const Prices rising = {{1, 2, 4, 7, 5}, {}, {}, {}};
 const Prices constant = {{5, 5, 5, 5, 5}, {}, {}, {}};
 const Prices missing = {{1, 2, _, 4, 5, 7}, {}, {}, {}};
-const Prices one = {{8}, {}, {}, {}};
 const Prices none = {};
 
 const Case cases[] = {
     {"Sma", rising, sma(2), {{_, 1.5, 3, 5.5, 6}}, {"SMA (2): 6"}},
     {"SmaMissingDay", missing, sma(2), {{_, 1.5, _, _, 4.5, 6}}, {"SMA (2): 6"}},
-    {"SmaConstant", constant, sma(3), {{_, _, 5, 5, 5}}, {"SMA (3): 5"}},
-    {"SmaPeriod1", rising, sma(1), {{1, 2, 4, 7, 5}}, {"SMA (1): 5"}},
     {"SmaPeriod0", rising, sma(0), {{1, 2, 4, 7, 5}}, {"SMA (0): 5"}},
     {"SmaLongerThanData", rising, sma(6), {{_, _, _, _, _}}, {"SMA (6)"}},
-    {"SmaOneRow", one, sma(2), {{_}}, {"SMA (2)"}},
     {"SmaNoRows", none, sma(2), {{}}, {"SMA (2)"}},
 
     // Of two rows the deviation is half their difference: 0.5, 1, 1.5, 1. Upper line first, lower named
@@ -128,17 +124,11 @@ const Case cases[] = {
      bollinger(3, 1.5),
      {{_, _, 3.2247448713915890491}, {_, _, 0.77525512860841095}},
      {"Bollinger (3, 1.5): 0.775255 - 3.22474", ""}},
-    {"BollingerConstant",
-     constant,
-     bollinger(4, 2),
-     {{_, _, _, 5, 5}, {_, _, _, 5, 5}},
-     {"Bollinger (4, 2): 5 - 5", ""}},
     {"BollingerPeriod0",
      rising,
      bollinger(0, 2),
      {{1, 2, 4, 7, 5}, {1, 2, 4, 7, 5}},
      {"Bollinger (0, 2): 5 - 5", ""}},
-    {"BollingerNoRows", none, bollinger(2, 2), {{}, {}}, {"Bollinger (2, 2)", ""}},
 
     {"Donchian",
      {{2, 4, 1}, {3, 5, 4}, {1, 2, 0}, {}},
@@ -150,23 +140,14 @@ const Case cases[] = {
      donchian(3),
      {{_, _, _, _, _, 7}, {_, _, _, _, _, 4}},
      {"Donchian (3): 4 - 7", ""}},
-    {"DonchianPeriod1",
-     {{2, 4}, {3, 5}, {1, 2}, {}},
-     donchian(1),
-     {{3, 5}, {1, 2}},
-     {"Donchian (1): 2 - 5", ""}},
 
     // Changes 1, 2, -1, 0, 0: rises of 1.5, 1, 0, 0 on the average of two, in all 1.5, 1.5, 0.5, 0.
     {"Rsi", {{1, 2, 4, 3, 3, 3}, {}, {}, {}}, rsi(2), {{_, _, 100, 200.0 / 3, 0, 50}}, {"RSI (2): 50"}},
     {"RsiMissingDay", missing, rsi(1), {{_, 100, _, _, 100, 100}}, {"RSI (1): 100"}},
     {"RsiConstant", constant, rsi(2), {{_, _, 50, 50, 50}}, {"RSI (2): 50"}},
-    {"RsiOneRow", one, rsi(1), {{_}}, {"RSI (1)"}},
-    {"RsiLongerThanData", rising, rsi(5), {{_, _, _, _, _}}, {"RSI (5)"}},
 
     {"Momentum", rising, momentum(2), {{_, _, 3, 5, 1}}, {"Momentum (2): 1"}},
     {"MomentumMissingDay", missing, momentum(1), {{_, 1, _, _, 1, 2}}, {"Momentum (1): 2"}},
-    {"MomentumPeriod0", rising, momentum(0), {{_, 1, 2, 3, -2}}, {"Momentum (0): -2"}},
-    {"MomentumLongerThanData", rising, momentum(9), {{_, _, _, _, _}}, {"Momentum (9)"}},
 
     // Of two rows lowest 2, 2, 4, 4 and highest 6, 8, 8, 8; the close stands at 75, 50, 100 and 0 % of that.
     {"Stochastic",
@@ -179,12 +160,6 @@ const Case cases[] = {
      stochastic(2, 1),
      {{_, _, _, 50, 50}, {_, _, _, 50, 50}},
      {"Slow Stochastic %K (2): 50", "%D (1): 50"}},
-    {"StochasticPeriod1",
-     rising,
-     stochastic(1, 1),
-     {{_, _, 50, 50, 50}, {_, _, 50, 50, 50}},
-     {"Slow Stochastic %K (1): 50", "%D (1): 50"}},
-    {"StochasticOneRow", one, stochastic(2, 2), {{_}, {_}}, {"Slow Stochastic %K (2)", "%D (2)"}},
 
     // Factors 1/2, 1 and 1/2: the slow average is 8, 12, 10.
     {"Macd",
@@ -192,22 +167,11 @@ const Case cases[] = {
      macd(3, 1, 3),
      {{0, 4, -2}, {0, 2, 0}, {0, 2, -2}},
      {"MACD (3, 1): -2", "EXP (3): 0", "Divergence: -2"}},
-    {"MacdTheOtherWay",
-     {{8, 16, 8}, {}, {}, {}},
-     macd(1, 3, 3),
-     {{0, -4, 2}, {0, -2, 0}, {0, -2, 2}},
-     {"MACD (1, 3): 2", "EXP (3): 0", "Divergence: 2"}},
     {"MacdMissingDay",
      {{8, _, 16, 8}, {}, {}, {}},
      macd(3, 1, 3),
      {{0, _, 4, -2}, {0, _, 2, 0}, {0, _, 2, -2}},
      {"MACD (3, 1): -2", "EXP (3): 0", "Divergence: -2"}},
-    {"MacdConstant",
-     constant,
-     macd(26, 12, 9),
-     {{0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}, {0, 0, 0, 0, 0}},
-     {"MACD (26, 12): 0", "EXP (9): 0", "Divergence: 0"}},
-    {"MacdNoRows", none, macd(26, 12, 9), {{}, {}, {}}, {"MACD (26, 12)", "EXP (9)", "Divergence"}},
 
     // In thousands: the first row has no change, so it is in no layer.
     {"Volume",

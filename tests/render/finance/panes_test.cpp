@@ -1,9 +1,7 @@
 // How panes stand under one another: their places in the picture, and the dates under the last one.
 
 #include "render/finance/draw_finance.h"
-#include "tests/recorder/recorder.h"
-#include "tests/render/preview_fake.h"
-#include <QImage>
+#include "tests/render/calls.h"
 #include <functional>
 #include <gmock/gmock.h>
 #include <numeric>
@@ -69,13 +67,6 @@ TEST(FinanceDates, AreChosenByTheTimeShown) {
             << row.rows << " rows of " << row.step << " s";
 }
 
-QImage picture(const PreviewFake& view) {
-    const auto& bytes = view.m_picture.Bytes();
-    return QImage::fromData(reinterpret_cast<const uchar*>(bytes.data()), static_cast<int>(bytes.size()),
-                            "BMP")
-        .convertToFormat(QImage::Format_RGB32);
-}
-
 TEST(FinancePanes, StandToThePixelInEveryOrder) {
     const int heights[] = {90, 45, 52, 61, 74};
     PreviewFake view;
@@ -98,7 +89,7 @@ TEST(FinancePanes, StandToThePixelInEveryOrder) {
         const auto isShown = [&](int pane) { return pane == 0 || (shown & (1 << (pane - 1))) != 0; };
         view.m_picture.Clear();
         DrawFinanceChart(view);
-        const QImage image = picture(view);
+        const QImage image = pictureOf(view);
         // The first and last rows of the plot areas, which are their frames.
         int y = 30;
         std::vector<int> edges;
