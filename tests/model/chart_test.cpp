@@ -127,22 +127,6 @@ TEST(XYChart, FailingCopyLeavesNoPointerIntoTheSource) {
     EXPECT_EQ(relations(*copy), related);
 }
 
-TEST(XYChart, CopyingCostsAnAmountInStepWithItsSize) {
-    const auto costOfCopying = [](int size) {
-        CXYChart chart;
-        for (int i = 0; i < size; i++)
-            addAxis(chart, "axis");
-        for (int i = 0; i < 10 * size; i++)
-            addLayer(chart, i % 9, "layer", chart.m_axes.GetAxis(i % size));
-        const long before = model_test::allocations();
-        const CXYChart copy(chart);
-        return model_test::allocations() - before;
-    };
-    // Nine axes and ninety layers more, ten of each kind, cost the same in a small chart and in a large one.
-    EXPECT_EQ(costOfCopying(108) - costOfCopying(99), costOfCopying(18) - costOfCopying(9));
-    EXPECT_LT(costOfCopying(108), 12 * costOfCopying(9));
-}
-
 TEST(AxisMgr, LooksAtWhatItIsAskedFor) {
     CXYChartAxisMgr axes;
     EXPECT_EQ(axes.GetAxisCount(), 0);

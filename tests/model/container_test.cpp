@@ -1,4 +1,4 @@
-// The ten containers behave as one: the same cases run over each.
+// The ten containers are one behind their names: the cases run over three of them.
 
 #include "tests/model/memory_probe.h"
 #include <charteditors/charteditors.h>
@@ -7,59 +7,24 @@
 
 namespace {
 
-// A mark that tells the elements of each container apart.
-void mark(CChartString& element, int number) {
-    element = std::to_string(number).c_str();
+// The text that tells the elements of each container apart.
+CChartString& textOf(CChartString& element) {
+    return element;
 }
-void mark(CChartColor& element, int number) {
-    mark(element.m_patternFile, number);
+CChartString& textOf(CChartColor& element) {
+    return element.m_patternFile;
 }
-void mark(CBoxGroup& element, int number) {
-    mark(element.m_name, number);
-}
-void mark(CMeterPointer& element, int number) {
-    mark(element.m_edgeColor, number);
-}
-template <class Element>
-requires requires(Element& element) {
-    element.m_text;
-}
-void mark(Element& element, int number) {
-    mark(element.m_text, number);
-}
-template <class Element>
-requires requires(Element& element) {
-    element.m_fillColor;
-}
-void mark(Element& element, int number) {
-    mark(element.m_fillColor, number);
+CChartString& textOf(CPieChartSector& element) {
+    return element.m_text;
 }
 
-std::string markOf(const CChartString& element) {
-    return element.data();
+void mark(auto& element, int number) {
+    textOf(element) = std::to_string(number).c_str();
 }
-std::string markOf(const CChartColor& element) {
-    return markOf(element.m_patternFile);
-}
-std::string markOf(const CBoxGroup& element) {
-    return markOf(element.m_name);
-}
-std::string markOf(const CMeterPointer& element) {
-    return markOf(element.m_edgeColor);
-}
+
 template <class Element>
-requires requires(Element& element) {
-    element.m_text;
-}
 std::string markOf(const Element& element) {
-    return markOf(element.m_text);
-}
-template <class Element>
-requires requires(Element& element) {
-    element.m_fillColor;
-}
-std::string markOf(const Element& element) {
-    return markOf(element.m_fillColor);
+    return textOf(const_cast<Element&>(element)).data();
 }
 
 template <class Container>
@@ -86,9 +51,7 @@ protected:
     }
 };
 
-using Containers =
-    testing::Types<CChartStrings, CChartColors, CChartTitles, CBoxGroups, CPieChartSectors,
-                   CMeterZoneAngulars, CMeterZoneLinears, CChartTextBoxs, CMeterPointers, CAngularRings>;
+using Containers = testing::Types<CChartStrings, CChartColors, CPieChartSectors>;
 TYPED_TEST_SUITE(ContainerTest, Containers);
 
 } // namespace
@@ -165,13 +128,3 @@ TYPED_TEST(ContainerTest, StaysAsItWasWhenMemoryRunsOut) {
     EXPECT_GE(pushing, 2);
     EXPECT_EQ(this->marks(grown), "01233");
 }
-
-#ifndef NDEBUG
-TYPED_TEST(ContainerTest, StopsAtAnIndexOutOfRange) {
-    TypeParam list = this->filled(2);
-    const TypeParam empty;
-    EXPECT_DEATH(list[2], "index");
-    EXPECT_DEATH(list.erase(-1), "index");
-    EXPECT_DEATH(empty[0], "index");
-}
-#endif
