@@ -157,8 +157,10 @@ void BarLayer::drawPiece(Canvas& canvas, const PlotFrame& frame, const Places& p
     const DataSet& set = *dataSets()[piece.set];
     const Colour edge = set.edge(borderColour());
     const bool edged = !canvas.colours().invisible(edge) && lineWidth() > 0;
-    const int base = whole(alongY(frame, piece.from));
-    const int tip = whole(alongY(frame, piece.to));
+    const double from = alongY(frame, piece.from), to = alongY(frame, piece.to);
+    if (std::isnan(from) || std::isnan(to)) // a stack beyond all numbers
+        return;
+    const int base = whole(from), tip = whole(to);
     // The pixel of the base line itself stays free; pieces of a stack share the line between them.
     const int gap = edged && piece.from != 0 ? 0 : 1;
     QRect pixels;
