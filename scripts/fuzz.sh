@@ -40,7 +40,7 @@ compile() {
     fi
 }
 objects=()
-for source in platform/fonts/*.cpp engine/*/*.cpp demo/csv.cpp; do
+for source in platform/fonts/*.cpp engine/*/*.cpp demo/csv.cpp editors/font/font_file.cpp platform/narrow_text.cpp; do
     compile "$source"
     objects+=("$build/$(tr / _ <<<"${source%.cpp}").o")
 done
@@ -54,8 +54,10 @@ mkdir -p "$build/image" "$build/font"
 clang++ "${flags[@]}" tests/fuzz/make_seeds.cpp "${libraries[@]}" -o "$build/make_seeds"
 "$build/make_seeds" "$build/image"
 # The smallest faces at hand, behind the byte that picks one of a collection.
+mkdir -p "$build/face"
 find /usr/share/fonts -name '*.tt[fc]' -size -60k | sort | head -n 6 | while read -r face; do
     { printf '\0'; cat "$face"; } >"$build/font/seed-${face##*/}"
+    cp "$build/font/seed-${face##*/}" "$build/face/"
 done
 
 export QT_QPA_PLATFORM=offscreen

@@ -5,6 +5,7 @@
 #include "platform/narrow_text.h"
 #include "resources/string_table.h"
 
+#include <algorithm>
 #include <cstring>
 
 std::unordered_map<std::string, std::string> g_fontFileToFace;
@@ -14,6 +15,7 @@ bool g_fontCatalogueLoaded = false;
 namespace {
 
 constexpr unsigned kNameLength = 512; // bytes
+constexpr int kMostFaces = 256;       // of one file; a collection may say that it has millions
 
 void Enter(const std::string& fileKey, const char* face) {
     g_fontFileToFace[fileKey] = face;
@@ -31,7 +33,7 @@ void LoadFontCatalogue() {
         const std::string path = platform::Utf8ToNarrow(found.toStdString());
         const std::string file = path.substr(path.rfind('/') + 1);
         char name[kNameLength];
-        const int faces = ReadFaceName(path.c_str(), name, kNameLength, 0);
+        const int faces = std::min(ReadFaceName(path.c_str(), name, kNameLength, 0), kMostFaces);
         if (faces > 0)
             Enter(file, name);
         for (int i = 1; i < faces; ++i)

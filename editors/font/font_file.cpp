@@ -46,25 +46,27 @@ std::optional<QString> NameIn(std::int64_t table, qsizetype longest) {
         return std::nullopt;
     const int count = g_open.U16(table + 2);
     const std::int64_t storage = table + g_open.U16(table + 4);
-    std::optional<QString> name;
+    std::int64_t text = -1;
+    int length = 0;
     for (int i = 0; i < count; ++i) {
         const std::int64_t record = table + 6 + 12 * i;
         if (g_open.Bytes(record, 12).isEmpty())
             return std::nullopt;
         const auto field = [record](int n) -> unsigned { return g_open.U16(record + 2 * n); };
         const bool candidate = (field(0) == 0 || field(0) == 3) && field(3) == kFullName;
-        const bool taken = field(2) == native || (field(2) == kEnglish && !name);
+        const bool taken = field(2) == native || (field(2) == kEnglish && text < 0);
         if (!candidate || !taken)
             continue;
-        const int length = static_cast<int>(field(4));
-        const std::int64_t text = storage + field(5);
+        length = static_cast<int>(field(4));
+        text = storage + field(5);
         if (g_open.Bytes(text, length).size() != length)
             return std::nullopt;
-        QString units;
-        for (int at = 0; at + 1 < length && units.size() < longest; at += 2)
-            units += QChar(g_open.U16(text + at));
-        name = units;
     }
+    if (text < 0)
+        return std::nullopt;
+    QString name;
+    for (int at = 0; at + 1 < length && name.size() < longest; at += 2)
+        name += QChar(g_open.U16(text + at));
     return name;
 }
 

@@ -78,3 +78,9 @@ TEST_F(FontCatalogue, NamesFiles) {
     EXPECT_STREQ(GetFontFileName("Unknown"), "");
     EXPECT_EQ(g_fontFaceToFile.size(), 2U); // the question is remembered
 }
+
+TEST_F(FontCatalogue, TakesNotMillionsOfFacesFromAFileThatSaysSo) {
+    Put("one/fonts/many.ttc", Collection(std::vector<QByteArray>(300, Named("Again"))));
+    LoadFontCatalogue();
+    EXPECT_EQ(g_fontFileToFace.size(), 256u);
+}
