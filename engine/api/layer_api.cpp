@@ -16,16 +16,21 @@
 
 using chartdraw::edit;
 using chartdraw::handle;
+using chartdraw::Numbers;
 using chartdraw::object;
 using chartdraw::read;
 using chartdraw::toColour;
-using chartdraw::toDoubles;
+using chartdraw::toSpan;
 using chartdraw::toText;
 using Chart = chartdraw::XYChart;
 using Combine = chartdraw::BarLayer::Combine;
 using Form = chartdraw::LineLayer::Form;
 
 namespace {
+
+std::vector<Numbers> allNumbers(std::initializer_list<std::span<const double>> arrays) {
+    return {arrays.begin(), arrays.end()};
+}
 
 Combine toCombine(int code) {
     switch (code) {
@@ -53,7 +58,7 @@ Handle* addLine(XYChart* chart, Form form, const double* data, int count, int co
         chart,
         [&](Chart& target) {
             auto* layer = target.addLayer<chartdraw::LineLayer>(form, depth);
-            layer->addDataSet(toDoubles(data, count), toColour(color), toText(name));
+            layer->addDataSet(toSpan(data, count), toColour(color), toText(name));
             return handle<Handle>(layer);
         });
 }
@@ -109,8 +114,8 @@ LineLayer* CXYChart_addScatterLayer(XYChart* chart, const double* x, int xCount,
             const int count = std::min(x != nullptr ? xCount : 0, y != nullptr ? yCount : 0);
             auto* layer = target.addLayer<chartdraw::LineLayer>(Form::Straight, 0);
             layer->setLineWidth(0);
-            layer->setXData(toDoubles(x, count));
-            layer->addDataSet(toDoubles(y, count), toColour(fill), toText(name))
+            layer->setXData(toSpan(x, count));
+            layer->addDataSet(toSpan(y, count), toColour(fill), toText(name))
                 ->setSymbol({symbol, size, chartdraw::kDefaultColour,
                              chartdraw::orDefault(toColour(edge), chartdraw::kLineColour), 1});
             return handle<LineLayer>(layer);
@@ -125,11 +130,10 @@ BoxWhiskerLayer* CXYChart_addBoxWhiskerLayer(XYChart* chart, const double* top, 
     return edit(
         chart,
         [&](Chart& target) {
-            std::vector<std::vector<double>> series = {
-                toDoubles(top, topCount), toDoubles(bottom, bottomCount), toDoubles(maximum, maximumCount),
-                toDoubles(minimum, minimumCount), toDoubles(middle, middleCount)};
             return handle<BoxWhiskerLayer>(target.addLayer<chartdraw::BoxWhiskerLayer>(
-                std::move(series), toColour(fill), toColour(whisker), toColour(edge), std::string()));
+                allNumbers({toSpan(top, topCount), toSpan(bottom, bottomCount), toSpan(maximum, maximumCount),
+                            toSpan(minimum, minimumCount), toSpan(middle, middleCount)}),
+                toColour(fill), toColour(whisker), toColour(edge), std::string()));
         });
 }
 
@@ -147,9 +151,8 @@ HLOCLayer* CXYChart_addHLOCLayer(XYChart* chart, const double* high, int highCou
     return edit(
         chart,
         [&](Chart& target) {
-            std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
-                                                       toDoubles(open, openCount),
-                                                       toDoubles(close, closeCount)};
+            std::vector<Numbers> series = allNumbers({toSpan(high, highCount), toSpan(low, lowCount),
+                                                      toSpan(open, openCount), toSpan(close, closeCount)});
             return handle<HLOCLayer>(
                 target.addLayer<chartdraw::HLOCLayer>(std::move(series), toColour(color)));
         });
@@ -162,9 +165,8 @@ CandleStickLayer* CXYChart_addCandleStickLayer(XYChart* chart, const double* hig
     return edit(
         chart,
         [&](Chart& target) {
-            std::vector<std::vector<double>> series = {toDoubles(high, highCount), toDoubles(low, lowCount),
-                                                       toDoubles(open, openCount),
-                                                       toDoubles(close, closeCount)};
+            std::vector<Numbers> series = allNumbers({toSpan(high, highCount), toSpan(low, lowCount),
+                                                      toSpan(open, openCount), toSpan(close, closeCount)});
             return handle<CandleStickLayer>(target.addLayer<chartdraw::CandleStickLayer>(
                 std::move(series), toColour(rise), toColour(fall), toColour(edge)));
         });
@@ -184,7 +186,7 @@ DataSet* CLayer_addDataSet(Layer* layer, const double* data, int count, int colo
     return edit(
         layer,
         [&](chartdraw::Layer& target) {
-            return handle<DataSet>(target.addDataSet(toDoubles(data, count), toColour(color), toText(name)));
+            return handle<DataSet>(target.addDataSet(toSpan(data, count), toColour(color), toText(name)));
         });
 }
 
@@ -210,7 +212,7 @@ void CLayer_setBorderColor(Layer* layer, int color, int effect) {
 
 void CLayer_setXData(Layer* layer, const double* data, int count) {
     return edit(
-        layer, [&](chartdraw::Layer& target) { target.setXData(toDoubles(data, count)); });
+        layer, [&](chartdraw::Layer& target) { target.setXData(toSpan(data, count)); });
 }
 
 void CLayer_setUseYAxis(Layer* layer, Axis* axis) {
@@ -309,7 +311,7 @@ void CLineLayer_setSymbolScale(LineLayer* layer, const double* xScale, int xCoun
     return edit(
         layer,
         [&](chartdraw::LineLayer& target) {
-            target.setSymbolSizes(toDoubles(xScale, xCount), toDoubles(yScale, yCount));
+            target.setSymbolSizes(chartdraw::toDoubles(xScale, xCount), chartdraw::toDoubles(yScale, yCount));
         });
 }
 

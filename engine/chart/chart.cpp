@@ -1,6 +1,7 @@
 #include "engine/chart/chart.h"
 
 #include "engine/paint/picture.h"
+#include "engine/paint/spare_image.h"
 #include "engine/text/application.h"
 
 #include <algorithm>
@@ -118,7 +119,8 @@ QByteArray Chart::drawnPicture(double scale) {
     if (m_width <= 0 || m_height <= 0 || m_width > kMaxSide || m_height > kMaxSide ||
         drawn(m_width) > kMaxSide || drawn(m_height) > kMaxSide)
         return {};
-    QImage image(drawn(m_width), drawn(m_height), QImage::Format_ARGB32_Premultiplied);
+    SpareImage spare({drawn(m_width), drawn(m_height)});
+    QImage& image = spare.image();
     if (image.isNull())
         return {};
     image.fill(Qt::white);
@@ -133,6 +135,7 @@ QByteArray Chart::drawnPicture(double scale) {
 bool Chart::makePicture(double scale, const char** data, int* length) {
     if (m_stale || scale != m_pictureScale) {
         m_picture.clear(); // also what a picture leaves that memory does not suffice for
+        m_stale = true;
         m_picture = drawnPicture(scale);
         m_pictureScale = scale;
         m_stale = m_picture.isEmpty();

@@ -1,5 +1,7 @@
 #include "engine/chart/data_symbol.h"
 
+#include "engine/data/fast_loop.h"
+
 #include <algorithm>
 #include <cmath>
 #include <span>
@@ -49,6 +51,27 @@ std::span<const QPointF> corners(int shape) {
     }
 }
 
+constexpr int kLanes = 8; ///< pixels that are blended together
+
+/// Lays premultiplied pixels over others, as the raster engine does to the last bit. `width` is a multiple of
+/// the lanes, and the rows of `from` have no more.
+CHART_FAST_LOOP void blendRows(QRgb* __restrict to, std::size_t stride, const QRgb* __restrict from,
+                               std::size_t width, std::size_t rows) {
+    constexpr QRgb pair = 0xff00ff; // every second channel
+    for (; rows > 0; --rows, to += stride, from += width) {
+        for (std::size_t x = 0; x < width; x += kLanes) {
+#pragma GCC unroll 1 // only what stays a loop is turned into operations on many pixels
+            for (std::size_t k = x; k < x + kLanes; ++k) {
+                const QRgb above = from[k], below = to[k], part = 255 - (above >> 24);
+                QRgb even = (below & pair) * part, odd = (below >> 8 & pair) * part;
+                even = (even + (even >> 8 & pair) + 0x800080) >> 8 & pair;
+                odd = (odd + (odd >> 8 & pair) + 0x800080) & ~pair;
+                to[k] = above + (even | odd);
+            }
+        }
+    }
+}
+
 } // namespace
 
 DataSymbol DataSymbol::resolved(Colour dataColour) const {
@@ -79,7 +102,14 @@ SymbolPainter::SymbolPainter(Canvas& canvas, const DataSymbol& symbol)
     : m_canvas(canvas), m_symbol(symbol),
       m_visible(symbol.shape >= kSquare && symbol.shape <= kCross2 && symbol.size > 0 &&
                 !(canvas.colours().invisible(symbol.fill) && canvas.colours().invisible(symbol.edge))),
-      m_wholePixels(symbol.shape == kSquare || symbol.shape == kCross) {}
+      m_wholePixels(symbol.shape == kSquare || symbol.shape == kCross) {
+    if (const Canvas::Pixels open = canvas.pixels(); open.image != nullptr) {
+        m_bits = reinterpret_cast<QRgb*>(open.image->bits());
+        m_stride = static_cast<std::size_t>(open.image->bytesPerLine()) / sizeof(QRgb);
+        m_origin = open.origin;
+        m_limits = open.limits;
+    }
+}
 
 void SymbolPainter::draw(QPointF centre) {
     constexpr int kLargestSprite = 64;
@@ -89,16 +119,21 @@ void SymbolPainter::draw(QPointF centre) {
     }
     if (!m_visible || !(std::abs(centre.x()) < kFarthest && std::abs(centre.y()) < kFarthest))
         return;
-    const double steps = m_wholePixels ? 1 : kPhases;
+    // The nearest of the places that there are sprites for.
+    const int steps = m_wholePixels ? 1 : kPhases;
     const auto place = [&](double along, int& phase) {
-        const double snapped = std::floor(along * steps + 0.5) / steps;
-        const double whole = std::floor(snapped);
-        phase = static_cast<int>((snapped - whole) * kPhases);
+        const double wanted = along * steps + 0.5;
+        const int cut = static_cast<int>(wanted), nearest = cut - (wanted < cut ? 1 : 0);
+        const int whole = m_wholePixels ? nearest : nearest >> 2;
+        phase = m_wholePixels ? 0 : nearest & 3;
         return whole - m_symbol.size / 2 - 1;
     };
+    static_assert(kPhases == 4);
     int phaseX = 0, phaseY = 0;
-    const QPointF corner(place(centre.x(), phaseX), place(centre.y(), phaseY));
-    m_canvas.painter().drawImage(corner, sprite(phaseX, phaseY));
+    const int left = place(centre.x(), phaseX), top = place(centre.y(), phaseY);
+    const Sprite& drawn = sprite(phaseX, phaseY);
+    if (!blend(drawn, left, top))
+        m_canvas.painter().drawImage(QPoint(left, top), drawn.image);
 }
 
 void SymbolPainter::draw(QPointF centre, QSizeF size) {
@@ -109,17 +144,44 @@ void SymbolPainter::draw(QPointF centre, QSizeF size) {
 }
 
 /// A pixel free on all sides of the symbol, and one for its place between pixels.
-const QImage& SymbolPainter::sprite(int phaseX, int phaseY) {
-    QImage& image = m_sprites[static_cast<std::size_t>(phaseY * kPhases + phaseX)];
-    if (image.isNull()) {
-        image = QImage(m_symbol.size + 3, m_symbol.size + 3, QImage::Format_ARGB32_Premultiplied);
-        image.fill(Qt::transparent);
-        Canvas canvas(image, m_canvas.colours(), m_canvas.painter().testRenderHint(QPainter::Antialiasing));
+const SymbolPainter::Sprite& SymbolPainter::sprite(int phaseX, int phaseY) {
+    Sprite& sprite = m_sprites[static_cast<std::size_t>(phaseY * kPhases + phaseX)];
+    if (sprite.pixels != nullptr)
+        return sprite;
+    const int side = m_symbol.size + 3;
+    sprite.image = QImage((side + kLanes - 1) / kLanes * kLanes, side, QImage::Format_ARGB32_Premultiplied);
+    sprite.image.fill(Qt::transparent);
+    {
+        Canvas canvas(sprite.image, m_canvas.colours(),
+                      m_canvas.painter().testRenderHint(QPainter::Antialiasing));
         const double middle = 1 + m_symbol.size / 2;
         paint(canvas, QPointF(middle + 1.0 * phaseX / kPhases, middle + 1.0 * phaseY / kPhases),
               QSizeF(m_symbol.size, m_symbol.size));
     }
-    return image;
+    const auto isEmpty = [&sprite](int row) {
+        const auto* pixels = reinterpret_cast<const QRgb*>(sprite.image.constScanLine(row));
+        return std::all_of(pixels, pixels + sprite.image.width(), [](QRgb pixel) { return pixel == 0; });
+    };
+    int end = side;
+    while (sprite.first < end && isEmpty(sprite.first))
+        ++sprite.first;
+    while (end > sprite.first && isEmpty(end - 1))
+        --end;
+    sprite.rows = end - sprite.first;
+    sprite.width = sprite.image.width();
+    sprite.pixels = reinterpret_cast<const QRgb*>(sprite.image.constBits()) + sprite.first * sprite.width;
+    return sprite;
+}
+
+bool SymbolPainter::blend(const Sprite& sprite, int left, int top) const {
+    left += m_origin.x();
+    top += m_origin.y() + sprite.first;
+    if (m_bits == nullptr || left < m_limits.left() || left + sprite.width > m_limits.right() + 1 ||
+        top < m_limits.top() || top + sprite.rows > m_limits.bottom() + 1)
+        return false;
+    blendRows(m_bits + static_cast<std::size_t>(top) * m_stride + left, m_stride, sprite.pixels,
+              static_cast<std::size_t>(sprite.width), static_cast<std::size_t>(sprite.rows));
+    return true;
 }
 
 void SymbolPainter::paint(Canvas& canvas, QPointF centre, QSizeF size) const {

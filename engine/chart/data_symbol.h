@@ -43,14 +43,28 @@ private:
     /// Places between whole pixels that a sprite is made for, in x and in y: symbols on a curve do not dance.
     static constexpr int kPhases = 4;
 
+    /// The pixels of a symbol. Empty ones on its right make the width a multiple of what is blended together.
+    struct Sprite {
+        QImage image;
+        const QRgb* pixels = nullptr; ///< of the rows that are not empty
+        int first = 0, rows = 0;      ///< these rows
+        int width = 0;
+    };
+
     void paint(Canvas& canvas, QPointF centre, QSizeF size) const;
-    const QImage& sprite(int phaseX, int phaseY);
+    const Sprite& sprite(int phaseX, int phaseY);
+    /// Straight into the image; false where that cannot be.
+    bool blend(const Sprite& sprite, int left, int top) const;
 
     Canvas& m_canvas;
     DataSymbol m_symbol;
     bool m_visible;
-    bool m_wholePixels; ///< straight sides are crisp on whole pixels only
-    std::array<QImage, kPhases * kPhases> m_sprites;
+    bool m_wholePixels;     ///< straight sides are crisp on whole pixels only
+    QRgb* m_bits = nullptr; ///< of what is drawn on, where that may be written to
+    std::size_t m_stride = 0;
+    QPoint m_origin; ///< of the picture
+    QRect m_limits;
+    std::array<Sprite, kPhases * kPhases> m_sprites;
 };
 
 } // namespace chartdraw

@@ -53,7 +53,7 @@ std::optional<QRectF> asRect(const QPainterPath& path) {
 } // namespace
 
 Canvas::Canvas(QImage& image, const ColourTable& colours, bool antiAlias, const QTransform& transform)
-    : m_painter(&image), m_colours(colours), m_scale(transform.m11()) {
+    : m_image(image), m_painter(&image), m_colours(colours), m_scale(transform.m11()) {
     m_painter.setWorldTransform(transform);
     m_painter.setRenderHint(QPainter::Antialiasing, antiAlias);
     m_painter.setRenderHint(QPainter::SmoothPixmapTransform);
@@ -102,9 +102,43 @@ void Canvas::fillImage(const QRect& pixels, Colour colour, const QRectF& extent)
     m_painter.setWorldTransform(before);
 }
 
+void Canvas::pushClip(const QRect& rect) {
+    const QRect pixels = m_painter.worldTransform().mapRect(QRectF(rect)).toAlignedRect();
+    m_clips.push_back(pixels & (m_clips.empty() ? m_image.rect() : m_clips.back()));
+    m_painter.save();
+    m_painter.setClipRect(rect, Qt::IntersectClip);
+}
+
+void Canvas::popClip() {
+    m_painter.restore();
+    m_clips.pop_back();
+}
+
+Canvas::Pixels Canvas::pixels() const {
+    const QTransform& transform = m_painter.worldTransform();
+    const QPoint origin(static_cast<int>(transform.dx()), static_cast<int>(transform.dy()));
+    if (transform.type() > QTransform::TxTranslate || origin.x() != transform.dx() ||
+        origin.y() != transform.dy() || m_painter.hasClipping() == m_clips.empty() ||
+        m_painter.opacity() != 1 || m_painter.compositionMode() != QPainter::CompositionMode_SourceOver)
+        return {};
+    return {&m_image, origin, m_clips.empty() ? m_image.rect() : m_clips.back()};
+}
+
+bool Canvas::fillStraight(const QRect& pixels, QRgb colour) const {
+    const Pixels open = this->pixels();
+    if (open.image == nullptr)
+        return false;
+    const QRect place = pixels.translated(open.origin) & open.limits;
+    for (int y = place.top(); y <= place.bottom(); ++y)
+        std::fill_n(reinterpret_cast<QRgb*>(open.image->scanLine(y)) + place.left(), place.width(), colour);
+    return true;
+}
+
 void Canvas::fillPixels(const QRect& pixels, Colour colour, const QRectF& extent) {
     if (scale() != 1)
         fillImage(onImage(pixels), colour, extent);
+    else if (colour <= 0xffffff && fillStraight(pixels, m_colours.solid(colour).rgb()))
+        return;
     else if (colour < kTransparent)
         m_painter.fillRect(pixels, m_colours.solid(colour));
     else if (!m_colours.invisible(colour))

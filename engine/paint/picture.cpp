@@ -1,6 +1,7 @@
 #include "engine/paint/picture.h"
 
 #include "engine/paint/file_bytes.h"
+#include "engine/paint/pack.h"
 
 #include <QBuffer>
 #include <QDateTime>
@@ -8,6 +9,7 @@
 #include <QtEndian>
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 #include <list>
 #include <mutex>
 
@@ -166,8 +168,9 @@ QByteArray bitmapFile(const QImage& image) {
         return {};
     constexpr int kHeaderBytes = 54;
     const int stride = (width * 3 + 3) / 4 * 4;
-    QByteArray file(kHeaderBytes + static_cast<qsizetype>(stride) * height, '\0');
+    QByteArray file(kHeaderBytes + static_cast<qsizetype>(stride) * height, Qt::Uninitialized);
     auto* bytes = reinterpret_cast<uchar*>(file.data());
+    std::memset(bytes, 0, kHeaderBytes);
     const auto put = [bytes](int at, int count, qint64 value) {
         for (int i = 0; i < count; ++i)
             bytes[at + i] = static_cast<uchar>(value >> (8 * i));
@@ -184,18 +187,14 @@ QByteArray bitmapFile(const QImage& image) {
     put(38, 4, kPixelsPerMetre);
     put(42, 4, kPixelsPerMetre);
 
-    const QImage pixels = image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage converted = image.format() == QImage::Format_ARGB32_Premultiplied
+                                 ? QImage()
+                                 : image.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const QImage& pixels = converted.isNull() ? image : converted;
     for (int y = 0; y < height; ++y) {
-        const auto* from = reinterpret_cast<const QRgb*>(pixels.constScanLine(height - 1 - y));
-        uchar* to = bytes + kHeaderBytes + static_cast<qsizetype>(stride) * y;
-        for (int x = 0; x < width; ++x, to += 3) {
-            // The file has no alpha: what shows through is white paper.
-            const QRgb pixel = from[x];
-            const QRgb white = 255 - (pixel >> 24);
-            to[0] = static_cast<uchar>((pixel & 0xff) + white);
-            to[1] = static_cast<uchar>((pixel >> 8 & 0xff) + white);
-            to[2] = static_cast<uchar>((pixel >> 16 & 0xff) + white);
-        }
+        uchar* row = bytes + kHeaderBytes + static_cast<qsizetype>(stride) * y;
+        packRow(reinterpret_cast<const QRgb*>(pixels.constScanLine(height - 1 - y)), width, row);
+        std::memset(row + 3 * width, 0, static_cast<std::size_t>(stride - 3 * width));
     }
     return file;
 }

@@ -47,6 +47,7 @@ public:
         std::stable_sort(m_items.begin(), m_items.end(), [this](const Item& a, const Item& b) {
             return direction(m_spots[a.spot].angle).y() < direction(m_spots[b.spot].angle).y();
         });
+        dropWhatNeverFits();
         while (!tryPlace())
             dropLightestOf(m_tooLong);
         for (const Item& item : m_items)
@@ -63,6 +64,60 @@ private:
     struct Range {
         std::size_t begin, end;
     };
+
+    /// What the tries would come to by themselves as long as they fail with the labels that overlap where
+    /// they would like to stand: of hundreds of labels most go so, and each try compares all that are left.
+    void dropWhatNeverFits() {
+        struct Wish {
+            std::vector<std::size_t> overlaps; ///< items before this one, in order
+            std::size_t first = 0;             ///< of these that is still there
+            bool dropped = false;
+        };
+        std::vector<Wish> wishes(m_items.size());
+        for (std::size_t b = 0; b < m_items.size(); ++b) {
+            wishes[b].dropped = !stack({b, b + 1});
+            for (std::size_t a = 0; a < b && !wishes[b].dropped; ++a)
+                if (!wishes[a].dropped && m_items[a].box.intersects(m_items[b].box))
+                    wishes[b].overlaps.push_back(a);
+        }
+        for (std::size_t drop = 0; drop < m_items.size();) {
+            // Each item is linked to the one before it down to the first that any of those behind overlaps.
+            std::vector<std::size_t> left;
+            std::size_t lowest = m_items.size();
+            for (std::size_t b = m_items.size(); b-- > 0;) {
+                Wish& wish = wishes[b];
+                if (wish.dropped)
+                    continue;
+                while (wish.first < wish.overlaps.size() && wishes[wish.overlaps[wish.first]].dropped)
+                    ++wish.first;
+                if (wish.first < wish.overlaps.size())
+                    lowest = std::min(lowest, wish.overlaps[wish.first]);
+                m_items[b].linked = lowest < b;
+                left.push_back(b);
+            }
+            std::reverse(left.begin(), left.end());
+            drop = m_items.size();
+            for (std::size_t begin = 0, end; begin < left.size() && drop == m_items.size(); begin = end) {
+                double sum = m_items[left[begin]].wish.height();
+                for (end = begin + 1; end < left.size() && m_items[left[end]].linked; ++end)
+                    sum += kGap + m_items[left[end]].wish.height();
+                if (sum > m_room.height())
+                    drop = *std::min_element(left.begin() + static_cast<std::ptrdiff_t>(begin),
+                                             left.begin() + static_cast<std::ptrdiff_t>(end),
+                                             [this](std::size_t a, std::size_t b) {
+                                                 return m_spots[m_items[a].spot].weight <
+                                                        m_spots[m_items[b].spot].weight;
+                                             });
+            }
+            if (drop < m_items.size())
+                wishes[drop].dropped = true;
+        }
+        std::vector<Item> kept;
+        for (std::size_t i = 0; i < m_items.size(); ++i)
+            if (!wishes[i].dropped)
+                kept.push_back(m_items[i]);
+        m_items = std::move(kept);
+    }
 
     /// Stacks labels that would overlap, more of them in each round. False: a stack is longer than the room.
     bool tryPlace() {

@@ -1,11 +1,11 @@
 #include "engine/scale/auto_scale.h"
 
 #include "engine/data/chart_time.h"
+#include "engine/data/fast_loop.h"
 #include "engine/scale/nice_numbers.h"
 #include "engine/scale/tick_steps.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 #include <limits>
 
@@ -90,6 +90,38 @@ double floorTo125(double value) {
     return decade * (mantissa >= 5 ? 5 : mantissa >= 2 ? 2 : 1);
 }
 
+constexpr std::size_t kLanes = 8;
+constexpr double kNone = std::numeric_limits<double>::infinity();
+
+/// Ranges that the processor finds together, of every eighth value each.
+struct Lanes {
+    double low[kLanes], high[kLanes], positive[kLanes];
+
+    Lanes() {
+        std::ranges::fill(low, kNone);
+        std::ranges::fill(high, -kNone);
+        std::ranges::fill(positive, kNone);
+    }
+};
+
+/// `count` is a multiple of the lanes. A line may have millions of points.
+CHART_FAST_LOOP void addToLanes(const double* values, std::size_t count, Lanes& lanes) {
+    constexpr double gap = std::numeric_limits<double>::quiet_NaN(); // neither above nor below anything
+    Lanes found = lanes;
+    for (std::size_t i = 0; i < count; i += kLanes) {
+        for (std::size_t k = 0; k < kLanes; ++k) {
+            const double value = values[i + k];
+            // One comparison finds gaps and the sizes about 1e308, which show on no axis.
+            const double known = std::abs(value) < kNoValue ? value : gap;
+            const double above = known > 0 ? known : kNone;
+            found.low[k] = known < found.low[k] ? known : found.low[k];
+            found.high[k] = known > found.high[k] ? known : found.high[k];
+            found.positive[k] = above < found.positive[k] ? above : found.positive[k];
+        }
+    }
+    lanes = found;
+}
+
 } // namespace
 
 void DataRange::add(double value) {
@@ -103,33 +135,16 @@ void DataRange::add(double value) {
 }
 
 void DataRange::add(std::span<const double> values) {
-    // Without branches, and in lanes that the processor takes together: a line may have millions of points.
-    constexpr double none = std::numeric_limits<double>::infinity();
-    constexpr double gap = std::numeric_limits<double>::quiet_NaN(); // neither above nor below anything
-    constexpr std::size_t lanes = 8;
-    std::array<double, lanes> low, high, positive;
-    low.fill(none);
-    high.fill(-none);
-    positive.fill(none);
-    std::size_t i = 0;
-    for (; i + lanes <= values.size(); i += lanes) {
-        for (std::size_t k = 0; k < lanes; ++k) {
-            const double value = values[i + k];
-            // One comparison finds gaps and the sizes about 1e308, which show on no axis.
-            const double known = std::abs(value) < kNoValue ? value : gap;
-            const double above = known > 0 ? known : none;
-            low[k] = known < low[k] ? known : low[k];
-            high[k] = known > high[k] ? known : high[k];
-            positive[k] = above < positive[k] ? above : positive[k];
-        }
+    Lanes lanes;
+    const std::size_t whole = values.size() / kLanes * kLanes;
+    addToLanes(values.data(), whole, lanes);
+    for (std::size_t k = 0; k < kLanes; ++k) {
+        add(lanes.low[k]);
+        add(lanes.high[k]);
+        add(lanes.positive[k]);
     }
-    for (std::size_t k = 0; k < lanes; ++k) {
-        add(low[k]);
-        add(high[k]);
-        add(positive[k]);
-    }
-    for (; i < values.size(); ++i)
-        add(values[i]);
+    for (const double value : values.subspan(whole))
+        add(value);
 }
 
 void DataRange::add(const DataRange& other) {

@@ -196,7 +196,7 @@ QFont makeFont(const Face& face, double points, double widthPoints, bool smooth)
 struct RecentFont {
     std::string name;
     double points = 0, widthPoints = 0;
-    int application = 0, facesGivenBack = 0;
+    int generation = 0;
     bool smooth = true;
     QFont font;
 };
@@ -215,6 +215,10 @@ double limitedFontSize(double points) {
     return points > 0 ? std::min(points, kMaxFontSize) : kDefaultFontSize;
 }
 
+int fontGeneration() {
+    return applicationCount() + s_facesGivenBack.load(); // both only grow
+}
+
 QFont font(const FontSet& set, std::string_view name, double points, double widthPoints) {
     if (!textAvailable())
         return {};
@@ -224,10 +228,10 @@ QFont font(const FontSet& set, std::string_view name, double points, double widt
     std::string resolved = set.resolve(name);
     constexpr std::size_t kRecent = 16;
     thread_local std::vector<RecentFont> recent;
-    const int application = applicationCount(), givenBack = s_facesGivenBack.load();
+    const int generation = fontGeneration();
     const auto found = std::ranges::find_if(recent, [&](const RecentFont& r) {
-        return r.points == points && r.widthPoints == widthPoints && r.application == application &&
-               r.facesGivenBack == givenBack && r.smooth == set.smooth && r.name == resolved;
+        return r.points == points && r.widthPoints == widthPoints && r.generation == generation &&
+               r.smooth == set.smooth && r.name == resolved;
     });
     if (found != recent.end())
         return found->font;
@@ -235,7 +239,7 @@ QFont font(const FontSet& set, std::string_view name, double points, double widt
     const QFont made = makeFont(cache.find(resolved), points, widthPoints, set.smooth);
     if (recent.size() >= kRecent)
         recent.erase(recent.begin());
-    recent.push_back({std::move(resolved), points, widthPoints, application, givenBack, set.smooth, made});
+    recent.push_back({std::move(resolved), points, widthPoints, generation, set.smooth, made});
     return made;
 }
 

@@ -27,6 +27,9 @@ constexpr double kDotsPerInch = 96.0; ///< 1 point is 4/3 pixel in every picture
 /// `points` within what can be drawn: the default for NaN, 0 and less, at most kMaxFontSize.
 double limitedFontSize(double points);
 
+/// Another number when fonts that were given out may be of faces that are gone.
+int fontGeneration();
+
 /// A font for a name and a size in points, taken to the nearest whole pixel. A missing or damaged file gives
 /// a good sans face of the same size. Glyphs that the face lacks come from an installed face that has them.
 /// Fonts hold engines of the calling thread: do not hand one to another thread. `widthPoints`: the size that

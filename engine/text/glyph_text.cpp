@@ -3,12 +3,16 @@
 #include "engine/text/application.h"
 #include "engine/text/markup.h"
 
+#include <QCoreApplication>
 #include <QFontMetricsF>
 #include <QRawFont>
 #include <QTextBoundaryFinder>
 #include <QTextLayout>
 #include <algorithm>
+#include <atomic>
 #include <cmath>
+#include <string>
+#include <unordered_map>
 #include <utility>
 
 namespace chartdraw {
@@ -260,12 +264,85 @@ private:
     int m_stacked = 0;          ///< Letters in columns so far.
 };
 
+/// The short texts that a thread has laid out: the labels of a chart that is drawn again are mostly the same.
+class RecentTexts {
+public:
+    RecentTexts() { s_own = this; }
+    ~RecentTexts() { s_own = nullptr; }
+    RecentTexts(const RecentTexts&) = delete;
+    RecentTexts& operator=(const RecentTexts&) = delete;
+
+    GlyphText find(const TextLook& look, std::string_view text, const FontSet& fonts) {
+        const auto lay = [&] { return Layouter(look, fonts, look.vertical).lay(text); };
+        if (text.size() > kLongest)
+            return lay();
+        if (const int now = fontGeneration(); m_generation != now) {
+            m_texts.clear();
+            m_generation = now;
+        }
+        const auto found = m_texts.find(key(look, text, fonts));
+        if (found != m_texts.end())
+            return found->second;
+        GlyphText made = lay();
+        if (m_generation != fontGeneration()) // a face made room for another
+            return made;
+        if (m_texts.size() >= kMost)
+            m_texts.clear();
+        m_texts.emplace(m_key, made);
+        // On the thread of the application object no font outlives it.
+        static std::atomic<int> s_application = 0;
+        if (const int now = applicationCount(); s_application.exchange(now) != now) {
+            qAddPostRoutine([] {
+                if (s_own != nullptr)
+                    s_own->m_texts.clear();
+            });
+        }
+        return made;
+    }
+
+private:
+    static constexpr std::size_t kLongest = 64; ///< bytes
+    static constexpr std::size_t kMost = 256;
+    static thread_local RecentTexts* s_own; ///< of this thread, as long as it has one
+
+    /// All that the layout depends on.
+    const std::string& key(const TextLook& look, std::string_view text, const FontSet& fonts) {
+        m_key.clear();
+        const auto add = [this](auto value) {
+            m_key.append(reinterpret_cast<const char*>(&value), sizeof(value));
+        };
+        add(look.size);
+        add(look.widthSize);
+        add(look.colour);
+        add(look.alignment);
+        add(look.wrapWidth);
+        add(static_cast<char>(look.vertical));
+        add(static_cast<char>(fonts.smooth));
+        const auto addName = [&](std::string_view name) {
+            add(name.size());
+            m_key += name;
+        };
+        addName(look.font);
+        for (const std::string& file : fonts.files)
+            addName(file);
+        m_key += text;
+        return m_key;
+    }
+
+    std::unordered_map<std::string, GlyphText> m_texts;
+    std::string m_key; ///< of the text that was asked for last
+    int m_generation = 0;
+};
+
+thread_local RecentTexts* RecentTexts::s_own = nullptr;
+
 } // namespace
 
 GlyphText layOutGlyphs(const TextLook& look, std::string_view text, const FontSet& fonts) {
     if (text.empty() || !textAvailable())
         return {};
-    return Layouter(look, fonts, look.vertical).lay(text);
+    static thread_local RecentTexts s_recent;
+    return s_recent.find(look, text, fonts);
 }
 
 } // namespace chartdraw

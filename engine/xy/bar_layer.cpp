@@ -61,6 +61,9 @@ public:
         return true;
     }
 
+    /// Whether no bar is wider than a pixel.
+    bool narrow() const { return m_sharedBorders && m_width <= 1; }
+
 private:
     const BarLayer& m_layer;
     const PlotFrame& m_frame;
@@ -201,6 +204,37 @@ std::vector<std::size_t> BarLayer::drawingOrder(const PlotFrame& frame) const {
     return order;
 }
 
+bool BarLayer::joinsColumns(const Canvas& canvas, const PlotFrame& frame, const Places& places) const {
+    if (dataSets().size() != 1 || m_combine == Combine::Percentage || frame.depth > 0 || !places.narrow() ||
+        borderEffect() != 0 || !m_shapes.empty())
+        return false;
+    const DataSet& set = *dataSets().front();
+    const QBrush brush = canvas.colours().brush(set.colour(), QRectF(0, 0, 1, 1));
+    return (canvas.colours().invisible(set.edge(borderColour())) || lineWidth() <= 0) &&
+           brush.style() == Qt::SolidPattern && brush.isOpaque();
+}
+
+void BarLayer::drawColumns(Canvas& canvas, const PlotFrame& frame, const Places& places) const {
+    const std::span<const double> data = dataSets().front()->data();
+    const std::size_t end = std::min(rows().end, data.size());
+    for (std::size_t row = rows().begin, next = row; row < end; row = next) {
+        int x = 0, last = 0;
+        next = row + 1;
+        if (!places.find(row, 0, x, last))
+            continue;
+        next = endOfRun(row, end, !hasXData(), [&](std::size_t other) {
+            int otherX = 0;
+            return places.find(other, 0, otherX, last) && otherX == x;
+        });
+        DataRange range;
+        range.add(data.subspan(row, next - row));
+        if (!range.empty) {
+            drawPiece(canvas, frame, places, row, {.to = range.max});
+            drawPiece(canvas, frame, places, row, {.to = range.min});
+        }
+    }
+}
+
 void BarLayer::draw(Canvas& canvas, const PlotFrame& frame) {
     const Places places(*this, frame);
     std::vector<Piece> pieces;
@@ -224,6 +258,10 @@ void BarLayer::draw(Canvas& canvas, const PlotFrame& frame) {
         return;
     }
     const ClipScope clip(canvas, frame.inner());
+    if (joinsColumns(canvas, frame, places)) {
+        drawColumns(canvas, frame, places);
+        return;
+    }
     for (std::size_t row = rows().begin; row < rows().end; ++row)
         drawRow(row);
 }

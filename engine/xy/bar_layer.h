@@ -50,6 +50,9 @@ private:
     void piecesOf(std::size_t row, std::vector<Piece>& pieces) const;
     void drawPiece(Canvas& canvas, const PlotFrame& frame, const Places& places, std::size_t row,
                    const Piece& piece) const;
+    /// Whether the bars are so narrow and plain that those of one pixel column are one box of one colour.
+    bool joinsColumns(const Canvas& canvas, const PlotFrame& frame, const Places& places) const;
+    void drawColumns(Canvas& canvas, const PlotFrame& frame, const Places& places) const;
     void labelSums(DataLabels& labels, const PlotFrame& frame, const Places& places, std::size_t row,
                    std::span<const Piece> pieces) const;
     std::vector<std::size_t> drawingOrder(const PlotFrame& frame) const;

@@ -119,6 +119,10 @@ void drawBar(Canvas& canvas, const QRect& pixels, int shape, int tip, const BarL
         return;
     }
     const bool plain = shape < DiamondShape || shape > InvertedTriangleShape;
+    if (plain && look.depth <= 0) {
+        canvas.box(pixels, look.fill, look.edge, look.effect, {}, look.edgeWidth);
+        return;
+    }
     const QPolygonF front = outline(pixels, plain ? SquareShape : shape, plain ? 8 : tip);
     if (look.depth > 0)
         drawSides(canvas, front, look.depth, look.side, look.sideEdge);

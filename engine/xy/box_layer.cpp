@@ -11,12 +11,10 @@
 
 namespace chartdraw {
 
-namespace {} // namespace
-
-BaseBoxLayer::BaseBoxLayer(Kind kind, XYChart& chart, std::vector<std::vector<double>> series, Colour colour,
+BaseBoxLayer::BaseBoxLayer(Kind kind, XYChart& chart, std::vector<Numbers> series, Colour colour,
                            std::string name)
     : Layer(kind, chart) {
-    for (std::vector<double>& values : series) {
+    for (Numbers& values : series) {
         const bool first = dataSets().empty();
         addDataSet(std::move(values), first ? colour : kTransparent, first ? std::move(name) : std::string());
     }
@@ -59,49 +57,56 @@ DataRange BaseBoxLayer::xRange() const {
     return widenedXRange(*this, Layer::xRange());
 }
 
+int BaseBoxLayer::bodyWidth(const PlotFrame& frame) const {
+    if (m_width != 0)
+        return m_width;
+    const double room = rowRoom(*this, frame);
+    // A pixel between neighbours, where that is not all they have.
+    const double most = room < 4 ? room : room - 1;
+    const int width =
+        static_cast<int>(std::floor(std::min(most, std::round(room * std::min(1 - m_gap, widest())))));
+    return std::max(1, width - (width % 2 == 1 ? 0 : 1));
+}
+
+bool BaseBoxLayer::findPlace(const PlotFrame& frame, std::size_t row, int width, Place& place) const {
+    const double x = xValue(row);
+    if (!isValue(x))
+        return false;
+    const double middle = frame.x.pixel(x);
+    const int first = whole(middle) - width / 2;
+    place = {row, whole(middle), first, first + width - 1};
+    return showsX(frame, middle, frame.depth > 0 ? 0.5 : width);
+}
+
 template <class Visit>
 void BaseBoxLayer::forEachPlace(const PlotFrame& frame, const Visit& visit) const {
-    const double room = rowRoom(*this, frame);
-    int width = m_width;
-    if (width == 0) {
-        // A pixel between neighbours, where that is not all they have.
-        const double most = room < 4 ? room : room - 1;
-        width =
-            static_cast<int>(std::floor(std::min(most, std::round(room * std::min(1 - m_gap, widest())))));
-        width = std::max(1, width - (width % 2 == 1 ? 0 : 1));
-    }
-    for (std::size_t row = rows().begin; row < rows().end; ++row) {
-        const double x = xValue(row);
-        if (!isValue(x))
+    const int width = bodyWidth(frame);
+    Place place;
+    for (std::size_t row = rows().begin; row < rows().end; ++row)
+        if (findPlace(frame, row, width, place))
+            visit(place);
+}
+
+void BaseBoxLayer::drawColumns(Canvas& canvas, const PlotFrame& frame) const {
+    Place place, other;
+    for (std::size_t row = rows().begin, next = row; row < rows().end; row = next) {
+        next = row + 1;
+        if (!findPlace(frame, row, 1, place))
             continue;
-        const double middle = frame.x.pixel(x);
-        if (showsX(frame, middle, frame.depth > 0 ? 0.5 : width)) {
-            const int first = whole(middle) - width / 2;
-            visit(Place{row, whole(middle), first, first + width - 1});
-        }
+        next = endOfRun(row, rows().end, !hasXData(), [&](std::size_t candidate) {
+            return findPlace(frame, candidate, 1, other) && other.middle == place.middle;
+        });
+        drawColumn(canvas, frame, place.middle, row, next);
     }
 }
 
 void BaseBoxLayer::draw(Canvas& canvas, const PlotFrame& frame) {
     const ClipScope clip(canvas,
                          frame.depth > 0 ? QRect(0, 0, canvas.width(), canvas.height()) : frame.inner());
-    const bool joins = joinsColumns(canvas, frame);
-    std::vector<Place> column;
-    const auto finish = [&] {
-        if (!column.empty())
-            drawColumn(canvas, frame, column);
-        column.clear();
-    };
-    forEachPlace(frame, [&](const Place& place) {
-        if (!joins || place.first != place.last) {
-            drawRow(canvas, frame, place);
-            return;
-        }
-        if (!column.empty() && column.back().middle != place.middle)
-            finish();
-        column.push_back(place);
-    });
-    finish();
+    if (joinsColumns(canvas, frame) && bodyWidth(frame) == 1)
+        drawColumns(canvas, frame);
+    else
+        forEachPlace(frame, [&](const Place& place) { drawRow(canvas, frame, place); });
 }
 
 void BaseBoxLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
@@ -142,8 +147,8 @@ void BaseBoxLayer::collectKeys(std::vector<LegendKey>& keys) const {
     }
 }
 
-BoxWhiskerLayer::BoxWhiskerLayer(XYChart& chart, std::vector<std::vector<double>> series, Colour fill,
-                                 Colour whisker, Colour edge, std::string name)
+BoxWhiskerLayer::BoxWhiskerLayer(XYChart& chart, std::vector<Numbers> series, Colour fill, Colour whisker,
+                                 Colour edge, std::string name)
     : BaseBoxLayer(Kind::BoxWhiskerLayer, chart, std::move(series), fill, std::move(name)),
       m_whisker(orDefault(whisker, kLineColour)) {
     setBorder(orDefault(edge, kLineColour), 0);

@@ -28,8 +28,7 @@ public:
 
 protected:
     /// `series`: the values of a row, in the order that the kind says; `colour` is the first one's.
-    BaseBoxLayer(Kind kind, XYChart& chart, std::vector<std::vector<double>> series, Colour colour,
-                 std::string name);
+    BaseBoxLayer(Kind kind, XYChart& chart, std::vector<Numbers> series, Colour colour, std::string name);
 
     /// A row's place: the middle pixel along x, and the first and last one of the body. The body has an odd
     /// number of pixels, so that what stands in its middle does.
@@ -41,8 +40,9 @@ protected:
     /// Whether rows of one pixel's width in one column may go to drawColumn together, and the later ones hide
     /// the earlier ones whole.
     virtual bool joinsColumns(const Canvas& /*canvas*/, const PlotFrame& /*frame*/) const { return false; }
-    virtual void drawColumn(Canvas& /*canvas*/, const PlotFrame& /*frame*/,
-                            std::span<const Place> /*places*/) const {}
+    /// Rows [begin, end) at the pixel `x`.
+    virtual void drawColumn(Canvas& /*canvas*/, const PlotFrame& /*frame*/, int /*x*/, std::size_t /*begin*/,
+                            std::size_t /*end*/) const {}
     /// The value at which a label stands, with the row's fields; false for a row that is a gap.
     virtual bool labelOf(std::size_t row, double& value,
                          std::vector<std::pair<std::string_view, double>>& fields) const = 0;
@@ -64,8 +64,13 @@ private:
     /// The largest part of a row's room that it takes.
     virtual double widest() const { return 1; }
 
+    /// The pixels of a body along x.
+    int bodyWidth(const PlotFrame& frame) const;
+    /// False where the row is out of sight.
+    bool findPlace(const PlotFrame& frame, std::size_t row, int width, Place& place) const;
     template <class Visit>
     void forEachPlace(const PlotFrame& frame, const Visit& visit) const;
+    void drawColumns(Canvas& canvas, const PlotFrame& frame) const;
 
     double m_gap = 0.5;
     int m_width = 0;
@@ -77,8 +82,8 @@ public:
     static constexpr Kind kKind = Kind::BoxWhiskerLayer;
     enum Series { Top, Bottom, Maximum, Minimum, Middle };
 
-    BoxWhiskerLayer(XYChart& chart, std::vector<std::vector<double>> series, Colour fill, Colour whisker,
-                    Colour edge, std::string name);
+    BoxWhiskerLayer(XYChart& chart, std::vector<Numbers> series, Colour fill, Colour whisker, Colour edge,
+                    std::string name);
 
     /// Colours and names by row; rows past the end take the colours from the first one again.
     void setBoxColours(std::vector<Colour> colours, std::vector<std::string> names);
@@ -113,7 +118,8 @@ protected:
     bool shows(std::size_t row) const;
 
     bool joinsColumns(const Canvas& canvas, const PlotFrame& frame) const override;
-    void drawColumn(Canvas& canvas, const PlotFrame& frame, std::span<const Place> places) const override;
+    void drawColumn(Canvas& canvas, const PlotFrame& frame, int x, std::size_t begin,
+                    std::size_t end) const override;
     /// The colours that rows are drawn in.
     virtual std::vector<Colour> colours() const = 0;
     /// A row of one pixel's width, what is drawn last coming first.
@@ -125,7 +131,7 @@ class HLOCLayer : public PriceLayer {
 public:
     static constexpr Kind kKind = Kind::HLOCLayer;
 
-    HLOCLayer(XYChart& chart, std::vector<std::vector<double>> series, Colour colour);
+    HLOCLayer(XYChart& chart, std::vector<Numbers> series, Colour colour);
 
     /// With `byClose`: `rise` where the close is not below the one before, `fall` where it is; `leadValue` is
     /// the close before the first row, a gap for none. -1: the colour of the layer.
@@ -156,8 +162,7 @@ class CandleStickLayer : public PriceLayer {
 public:
     static constexpr Kind kKind = Kind::CandleStickLayer;
 
-    CandleStickLayer(XYChart& chart, std::vector<std::vector<double>> series, Colour rise, Colour fall,
-                     Colour edge);
+    CandleStickLayer(XYChart& chart, std::vector<Numbers> series, Colour rise, Colour fall, Colour edge);
 
 protected:
     void drawRow(Canvas& canvas, const PlotFrame& frame, const Place& place) const override;

@@ -7,7 +7,7 @@
 
 namespace chartdraw {
 
-DataSet::DataSet(Chart& chart, std::vector<double> data, Colour colour, std::string name)
+DataSet::DataSet(Chart& chart, Numbers data, Colour colour, std::string name)
     : Part(Kind::DataSet, chart), m_data(std::move(data)), m_colour(colour), m_name(std::move(name)) {}
 
 Colour DataSet::edge(Colour layerBorder) const {

@@ -3,10 +3,10 @@
 
 #include "engine/chart/data_symbol.h"
 #include "engine/chart/part.h"
+#include "engine/scale/numbers.h"
 
 #include <span>
 #include <string>
-#include <vector>
 
 namespace chartdraw {
 
@@ -16,10 +16,12 @@ public:
     static constexpr Kind kKind = Kind::DataSet;
 
     /// `colour` may be a literal, a palette entry or a token, not -1 (Layer::addDataSet sees to that).
-    DataSet(Chart& chart, std::vector<double> data, Colour colour, std::string name);
+    DataSet(Chart& chart, Numbers data, Colour colour, std::string name);
 
     /// All rows, before trimming; a gap is what isValue() refuses.
     std::span<const double> data() const { return m_data; }
+    /// The range of the rows [begin, end).
+    DataRange range(std::size_t begin, std::size_t end) const { return m_data.range(begin, end); }
     const std::string& name() const { return m_name; }
 
     Colour colour() const { return m_colour; }
@@ -38,7 +40,7 @@ public:
     void setSymbol(const DataSymbol& symbol);
 
 private:
-    std::vector<double> m_data;
+    Numbers m_data;
     Colour m_colour;
     Colour m_edge = kDefaultColour, m_shadow = kDefaultColour, m_shadowEdge = kDefaultColour;
     std::string m_name;

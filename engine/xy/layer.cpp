@@ -13,13 +13,6 @@ namespace {
 
 constexpr int kMaxDepth = 4096; // pixels
 
-/// The rows that a series has within a range.
-std::span<const double> shown(std::span<const double> data, RowRange rows) {
-    const std::size_t end = std::min(rows.end, data.size());
-    const std::size_t begin = std::min(rows.begin, end);
-    return data.subspan(begin, end - begin);
-}
-
 } // namespace
 
 double PlotFrame::baseLine() const {
@@ -31,7 +24,7 @@ Layer::Layer(Kind kind, XYChart& chart, int depth)
     set3D(depth, 0);
 }
 
-DataSet* Layer::addDataSet(std::vector<double> data, Colour colour, std::string name) {
+DataSet* Layer::addDataSet(Numbers data, Colour colour, std::string name) {
     const Colour resolved = colour == kDefaultColour ? m_chart.nextSeriesColour() : colour;
     auto* set = m_chart.own<DataSet>(m_chart, std::move(data), resolved, std::move(name));
     m_dataSets.push_back(set);
@@ -43,7 +36,7 @@ DataSet* Layer::dataSet(int index) const {
                                                         : nullptr;
 }
 
-void Layer::setXData(std::vector<double> data) {
+void Layer::setXData(Numbers data) {
     m_xData = std::move(data);
 }
 
@@ -114,7 +107,7 @@ DataRange Layer::xRange() const {
     DataRange range;
     const RowRange rows = this->rows();
     if (hasXData()) {
-        range.add(shown(m_xData, rows));
+        range = m_xData.range(rows.begin, rows.end);
     } else if (rows.size() > 0) {
         range.add(0);
         range.add(static_cast<double>(rows.size() - 1));
@@ -124,8 +117,9 @@ DataRange Layer::xRange() const {
 
 DataRange Layer::yRange() const {
     DataRange range;
+    const RowRange rows = this->rows();
     for (const DataSet* set : m_dataSets)
-        range.add(shown(set->data(), rows()));
+        range.add(set->range(rows.begin, rows.end));
     return range;
 }
 

@@ -10,7 +10,6 @@
 #include "engine/axis/axis_map.h"
 #include "engine/chart/draw_obj.h"
 #include "engine/chart/legend.h"
-#include "engine/scale/auto_scale.h"
 #include "engine/xy/data_set.h"
 
 #include <QPointF>
@@ -69,12 +68,12 @@ public:
     Axis& yAxis() const { return *m_yAxis; }
 
     /// One more series; -1 takes the next series colour of the chart.
-    DataSet* addDataSet(std::vector<double> data, Colour colour, std::string name);
+    DataSet* addDataSet(Numbers data, Colour colour, std::string name);
     /// Null for an index without one.
     DataSet* dataSet(int index) const;
     const std::vector<DataSet*>& dataSets() const { return m_dataSets; }
 
-    void setXData(std::vector<double> data);
+    void setXData(Numbers data);
     /// The given x values of all rows, before trimming; empty where rows stand at 0, 1, 2...
     std::span<const double> xData() const { return m_xData; }
     /// Whether the x values are numbers of their own, so that the x axis cannot be one of rows.
@@ -142,7 +141,7 @@ private:
     XYChart& m_chart;
     Axis* m_yAxis;
     std::vector<DataSet*> m_dataSets;
-    std::vector<double> m_xData;
+    Numbers m_xData;
     int m_depth, m_zGap = 0;
     int m_lineWidth = 1;
     Colour m_borderColour = kDefaultColour;

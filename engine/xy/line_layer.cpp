@@ -144,7 +144,8 @@ void LineLayer::drawSymbols(Canvas& canvas, const DataSet& set) const {
         if (!isValue(set.data()[row]) || !isValue(x))
             continue;
         const QPointF centre = m_frame.point(x, set.data()[row]);
-        if (plot.contains(centre)) {
+        if (centre.x() >= plot.left() && centre.x() <= plot.right() && centre.y() >= plot.top() &&
+            centre.y() <= plot.bottom()) {
             if (scaled)
                 symbols.draw(centre, symbolSize(set, row));
             else

@@ -1,10 +1,12 @@
 #include "engine/xy/line_reduction.h"
 
+#include "engine/data/fast_loop.h"
 #include "engine/data/no_value.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace chartdraw {
 
@@ -13,6 +15,42 @@ namespace {
 constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
 constexpr std::size_t kKeptWhole = 4; // so few points in a column are all kept
 constexpr std::size_t kDense = 8;     // from so many on, a line that goes up and down covers the column
+
+constexpr std::size_t kLanes = 8;
+constexpr std::size_t kBlock = 6 * kLanes; // rows that are looked at together
+
+/// The extremes of a block of rows, of every eighth value each, which the processor finds together.
+struct Lanes {
+    double least[kLanes], most[kLanes];
+    double check[kLanes]; ///< 0, or NaN where a value was not finite
+
+    explicit Lanes(double value) {
+        std::ranges::fill(least, value);
+        std::ranges::fill(most, value);
+        std::ranges::fill(check, 0);
+    }
+    bool within(double low, double high) const {
+        return std::accumulate(std::begin(check), std::end(check), 0.0) == 0 && lowest() >= low &&
+               highest() < high;
+    }
+    double lowest() const { return *std::ranges::min_element(least); }
+    double highest() const { return *std::ranges::max_element(most); }
+};
+
+/// `count` is a multiple of the lanes.
+CHART_FAST_LOOP void look(const double* values, std::size_t count, Lanes& lanes) {
+    Lanes found = lanes;
+    for (std::size_t i = 0; i < count; i += kLanes) {
+#pragma GCC unroll 1 // only what stays a loop is turned into operations on many numbers
+        for (std::size_t k = 0; k < kLanes; ++k) {
+            const double value = values[i + k];
+            found.least[k] = value < found.least[k] ? value : found.least[k];
+            found.most[k] = value > found.most[k] ? value : found.most[k];
+            found.check[k] += value - value;
+        }
+    }
+    lanes = found;
+}
 
 int toWhole(double position) {
     return static_cast<int>(std::floor(std::clamp(position, -1e6, 1e6) + 0.5));
@@ -44,6 +82,13 @@ bool LineReduction::isGap(std::size_t row) const {
     return !isShown(m_y[row]) || (!m_x.empty() && !isValue(m_x[row]));
 }
 
+/// The first row from `row` on that has the value.
+std::size_t LineReduction::rowOf(double value, std::size_t row) const {
+    while (m_y[row] != value)
+        ++row;
+    return row;
+}
+
 LineReduction::Run LineReduction::scan(std::size_t row, double half) const {
     // The x values between the borders of the half column.
     double low = m_frame.x.value((half - 1) / 2);
@@ -56,6 +101,31 @@ LineReduction::Run LineReduction::scan(std::size_t row, double half) const {
     if (m_x.empty() && high - xOf(row) < static_cast<double>(m_end - row))
         stop = std::min(m_end, m_begin + static_cast<std::size_t>(std::max(0.0, std::ceil(high))));
     std::size_t next = row + 1;
+    // Whole blocks, as long as all rows of one are shown and within the half; which row of a block was the
+    // extreme one is looked for at the end.
+    std::size_t lowBlock = row, highBlock = row;
+    for (; next + kBlock <= stop; next += kBlock) {
+        if (!m_x.empty()) {
+            Lanes places(m_x[next]);
+            look(m_x.data() + next, kBlock, places);
+            if (!places.within(low, high))
+                break;
+        }
+        Lanes lanes(m_y[next]);
+        look(m_y.data() + next, kBlock, lanes);
+        if (!lanes.within(-kNoValue, kNoValue) || !(lanes.lowest() > m_above))
+            break;
+        if (lanes.lowest() < least) {
+            least = lanes.lowest();
+            lowBlock = next;
+        }
+        if (lanes.highest() > most) {
+            most = lanes.highest();
+            highBlock = next;
+        }
+    }
+    run.lowest = rowOf(least, lowBlock);
+    run.highest = rowOf(most, highBlock);
     for (; next < stop; ++next) {
         if (!m_x.empty() && !(m_x[next] >= low && m_x[next] < high))
             break;

@@ -46,6 +46,7 @@ private:
     }
     bool isShown(double value) const { return isValue(value) && value > m_above; }
     bool isGap(std::size_t row) const;
+    std::size_t rowOf(double value, std::size_t row) const;
     Run scan(std::size_t row, double half) const;
     void append(std::vector<QPointF>& points, std::size_t row) const;
     void appendColumn(std::vector<QPointF>& points);

@@ -34,14 +34,22 @@ bool PriceLayer::joinsColumns(const Canvas& canvas, const PlotFrame& frame) cons
            std::all_of(used.begin(), used.end(), covers);
 }
 
-void PriceLayer::drawColumn(Canvas& canvas, const PlotFrame& frame, std::span<const Place> places) const {
+void PriceLayer::drawColumn(Canvas& canvas, const PlotFrame& frame, int x, std::size_t begin,
+                            std::size_t end) const {
     CoveredColumn column;
-    for (std::size_t i = places.size(); i-- > 0;) {
-        const std::size_t row = places[i].row;
-        if (shows(row))
-            paintRow(column, frame, row);
+    // Blocks of rows, each as long as all later ones, that lie where all is painted already are not looked at
+    // closer.
+    for (std::size_t block = 16; end > begin; block *= 2) {
+        const std::size_t first = end - std::min(block, end - begin);
+        DataRange range;
+        for (const DataSet* set : dataSets())
+            range.add(set->range(first, end));
+        const bool hidden = !range.empty && column.covers(pixel(frame, range.min), pixel(frame, range.max));
+        for (std::size_t row = end; row-- > first && !hidden;)
+            if (shows(row))
+                paintRow(column, frame, row);
+        end = first;
     }
-    const int x = places.front().middle;
     column.finish(
         [&](int from, int to, Colour colour) { canvas.fillRect(pixelRect(frame, x, x, from, to), colour); });
 }
@@ -54,7 +62,7 @@ bool PriceLayer::labelOf(std::size_t row, double& value,
     return shows(row);
 }
 
-HLOCLayer::HLOCLayer(XYChart& chart, std::vector<std::vector<double>> series, Colour colour)
+HLOCLayer::HLOCLayer(XYChart& chart, std::vector<Numbers> series, Colour colour)
     : PriceLayer(Kind::HLOCLayer, chart, std::move(series), colour, {}), m_leadValue(kNoValue) {}
 
 void HLOCLayer::setColourMethod(bool byClose, Colour rise, Colour fall, double leadValue) {
@@ -127,8 +135,8 @@ void HLOCLayer::drawKey(Canvas& canvas, const QRect& area) const {
     canvas.box(area, m_byClose ? orDefault(m_rise, set().colour()) : set().colour(), kTransparent, 0);
 }
 
-CandleStickLayer::CandleStickLayer(XYChart& chart, std::vector<std::vector<double>> series, Colour rise,
-                                   Colour fall, Colour edge)
+CandleStickLayer::CandleStickLayer(XYChart& chart, std::vector<Numbers> series, Colour rise, Colour fall,
+                                   Colour edge)
     : PriceLayer(Kind::CandleStickLayer, chart, std::move(series), orDefault(rise, 0xffffff), {}),
       m_fall(orDefault(fall, 0x000000)) {
     setBorder(orDefault(edge, kLineColour), 0);

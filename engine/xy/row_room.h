@@ -32,19 +32,31 @@ double alongY(const PlotFrame& frame, double value);
 /// Whether a position along x is within the plot area, give or take `reach` pixels. False for NaN.
 bool showsX(const PlotFrame& frame, double alongX, double reach = 0.5);
 
+/// The end of the rows from `row` on that are of one kind: `same(r)` for each of them and not for the next,
+/// or `end`. Where they are in `ascending` order, so that none of another kind lies between two of one, not
+/// every row is asked.
+template <class Same>
+std::size_t endOfRun(std::size_t row, std::size_t end, bool ascending, const Same& same) {
+    std::size_t next = row + 1, step = 1;
+    while (next + step <= end && same(next + step - 1)) {
+        next += step;
+        step = ascending ? 2 * step : 1;
+    }
+    for (; ascending && step > 0; step /= 2)
+        next += next + step <= end && same(next + step - 1) ? step : 0;
+    return next;
+}
+
 /// Limits drawing to a rectangle for the life of the object.
 class ClipScope {
 public:
-    ClipScope(Canvas& canvas, const QRect& rect) : m_painter(canvas.painter()) {
-        m_painter.save();
-        m_painter.setClipRect(rect, Qt::IntersectClip);
-    }
-    ~ClipScope() { m_painter.restore(); }
+    ClipScope(Canvas& canvas, const QRect& rect) : m_canvas(canvas) { canvas.pushClip(rect); }
+    ~ClipScope() { m_canvas.popClip(); }
     ClipScope(const ClipScope&) = delete;
     ClipScope& operator=(const ClipScope&) = delete;
 
 private:
-    QPainter& m_painter;
+    Canvas& m_canvas;
 };
 
 } // namespace chartdraw

@@ -1,6 +1,7 @@
 #include "engine/paint/picture.h"
 
 #include "engine/paint/file_bytes.h"
+#include "engine/paint/pack.h"
 
 #include <QBuffer>
 #include <QColor>
@@ -10,7 +11,9 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 #include <map>
+#include <random>
 #include <sys/stat.h>
+#include <vector>
 
 namespace chartdraw {
 namespace {
@@ -206,6 +209,26 @@ TEST(BitmapFile, BytesByHand) {
     // The bottom row first, blue before red; what is clear is white paper.
     EXPECT_EQ(file.mid(54, 12), QByteArray("\3\2\1\3\2\1\3\2\1\0\0\0", 12));
     EXPECT_EQ(file.mid(66, 12), QByteArray("\x1e\x14\x0a\xff\xff\xff\x7f\x7f\x7f\0\0\0", 12));
+}
+
+TEST(BitmapFile, PacksRowsOfEveryWidthAlike) {
+    std::mt19937 random(1);
+    for (int width = 0; width < 40; ++width) {
+        std::vector<QRgb> pixels(static_cast<std::size_t>(width));
+        std::vector<uchar> wanted;
+        for (QRgb& pixel : pixels) {
+            pixel = qPremultiply(static_cast<QRgb>(random()));
+            for (const int channel : {qBlue(pixel), qGreen(pixel), qRed(pixel)})
+                wanted.push_back(static_cast<uchar>(channel + 255 - qAlpha(pixel)));
+        }
+        for (const auto pack : {packRow, packRowAnywhere}) {
+            std::vector<uchar> bytes(wanted.size() + 1, 77);
+            pack(pixels.data(), width, bytes.data());
+            EXPECT_EQ(bytes.back(), 77) << "behind the row";
+            bytes.pop_back();
+            EXPECT_EQ(bytes, wanted) << width;
+        }
+    }
 }
 
 TEST(BitmapFile, IsReadBackBySize) {

@@ -13,7 +13,8 @@ inline QImage whitePicture(int width = 300, int height = 200) {
 }
 
 /// Draws black on white unless the look has another colour, the anchor in the middle of the picture.
-inline QImage drawn(TextLook look, std::string_view text, int anchorAlignment = Center, bool pivot = false) {
+inline QImage drawn(TextLook look, std::string_view text, int anchorAlignment = Center, bool pivot = false,
+                    const FontSet& fonts = {}) {
     if (look.colour == kTextColour)
         look.colour = 0x000000;
     ensureApplication(); // Before the first painter, as each chart does.
@@ -21,7 +22,7 @@ inline QImage drawn(TextLook look, std::string_view text, int anchorAlignment = 
     ColourTable colours;
     {
         Canvas canvas(image, colours);
-        const TextBlock block(look, text, FontSet());
+        const TextBlock block(look, text, fonts);
         const QPointF anchor(image.width() / 2, image.height() / 2);
         pivot ? block.drawPivotAt(canvas, anchor, anchorAlignment)
               : block.drawAt(canvas, anchor, anchorAlignment);

@@ -85,6 +85,31 @@ TEST(TextBlock, MarkupShows) {
     EXPECT_NEAR(red, black, black / 2.0);
 }
 
+TEST(TextBlock, OneTextInManyLooksIsNeverThatOfAnother) {
+    std::vector<std::pair<TextLook, FontSet>> looks(10);
+    looks[1].first.size = 9;
+    looks[2].first.font = "bold";
+    looks[3].first.widthSize = 12;
+    looks[4].first.colour = 0xff0000;
+    looks[5].first.vertical = true;
+    looks[6].first.alignment = Right;
+    looks[7].first.wrapWidth = 20;
+    looks[8].second.smooth = false;
+    looks[9].second.files[1] = "LiberationSerif-Regular.ttf";
+    std::vector<QImage> first;
+    for (int round = 0; round < 2; ++round) {
+        for (std::size_t i = 0; i < looks.size(); ++i) {
+            const auto& [look, fonts] = looks[i];
+            const QImage now = drawn(look, "long line of\n<*font=bold*>text", Center, false, fonts);
+            if (round == 1)
+                EXPECT_EQ(now, first[i]) << i;
+            else
+                EXPECT_EQ(std::count(first.begin(), first.end(), now), 0) << i;
+            first.push_back(now);
+        }
+    }
+}
+
 TEST(TextBlock, AlignmentInAFixedBox) {
     TextLook look = sized(12);
     look.width = 120;

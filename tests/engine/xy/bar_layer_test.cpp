@@ -82,6 +82,33 @@ TEST(BarLayer, StandsOnTheBaseLineAndEndsAtItsValue) {
     }
 }
 
+TEST(BarLayer, BarsOfOneColumnAreOneBarThatReachesAsFar) {
+    std::vector<double> values(5000), x(5000);
+    unsigned noise = 1;
+    for (std::size_t i = 0; i < values.size(); ++i) {
+        noise = noise * 1664525u + 1013904223u;
+        values[i] = i % 700 < 20 ? kGap
+                                 : static_cast<double>(noise >> 16) / 500 -
+                                       60 * std::sin(static_cast<double>(i) * 1e-3) - 40;
+        x[i] = static_cast<double>(i % 1000) + 1e-3 * static_cast<double>(noise >> 24);
+    }
+    for (const bool givenX : {false, true}) {
+        for (const bool swapped : {false, true}) {
+            const auto drawn = [&](bool oneByOne) {
+                Chart chart(-100, 100);
+                CXYChart_swapXY(chart.xy, swapped);
+                BarLayer* bar = CXYChart_addBarLayer(chart.xy, values.data(), size(values), kRed, nullptr, 0);
+                if (givenX)
+                    CLayer_setXData(BarLayer2Layer(bar), x.data(), size(x));
+                if (oneByOne) // whose shape is asked for is drawn by itself
+                    CBarLayer_setBarShape(bar, CHART_SQUARE_SHAPE, -1, -1);
+                return chart.picture();
+            };
+            EXPECT_EQ(drawn(false), drawn(true)) << givenX << swapped;
+        }
+    }
+}
+
 TEST(BarLayer, KeepsTheGapsAndOverlapsAskedFor) {
     const struct {
         const char* what;
