@@ -4,6 +4,7 @@
 #include <QImage>
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -39,12 +40,17 @@ void cover(std::uint8_t* pixels, const Lane& lane) {
     }
 }
 
-/// Whether nothing can be added to the pixels of a lane.
-bool isFull(const std::uint8_t* pixels) {
+/// Whether nothing can be added to the first `count` pixels of a lane.
+bool isFull(const std::uint8_t* pixels, int count) {
+    constexpr std::uint64_t all = ~std::uint64_t{0};
     std::uint64_t lane = 0;
     static_assert(sizeof(lane) == kLane);
     std::memcpy(&lane, pixels, sizeof(lane));
-    return lane == ~std::uint64_t{0};
+    if (count >= kLane)
+        return lane == all;
+    const std::uint64_t rest =
+        std::endian::native == std::endian::little ? all << 8 * count : all >> 8 * count;
+    return (lane | rest) == all;
 }
 
 } // namespace
@@ -68,7 +74,7 @@ void PenMask::row(int y, int from, int to, const Stroke& stroke) {
     double across = stroke.across + from * stroke.uy - y * stroke.ux;
     for (int x = from; x < to;
          x += kLane, pixels += kLane, along += kLane * stroke.ux, across += kLane * stroke.uy) {
-        if (isFull(pixels))
+        if (isFull(pixels, to - x))
             continue; // as most are where a wide pen crosses its own line again and again
         Lane lane;
         if (std::min(along, along + span) >= 0 && std::max(along, along + span) <= stroke.length) {

@@ -39,12 +39,16 @@ void PriceLayer::drawColumn(Canvas& canvas, const PlotFrame& frame, int x, std::
     CoveredColumn column;
     // Blocks of rows, each as long as all later ones, that lie where all is painted already are not looked at
     // closer.
-    for (std::size_t block = 16; end > begin; block *= 2) {
+    constexpr std::size_t shortest = 16;
+    for (std::size_t block = shortest; end > begin; block *= 2) {
         const std::size_t first = end - std::min(block, end - begin);
-        DataRange range;
-        for (const DataSet* set : dataSets())
-            range.add(set->range(first, end));
-        const bool hidden = !range.empty && column.covers(pixel(frame, range.min), pixel(frame, range.max));
+        bool hidden = false;
+        if (block > shortest) {
+            DataRange range;
+            for (const DataSet* set : dataSets())
+                range.add(set->range(first, end));
+            hidden = range.empty || column.covers(pixel(frame, range.min), pixel(frame, range.max));
+        }
         for (std::size_t row = end; row-- > first && !hidden;)
             if (shows(row))
                 paintRow(column, frame, row);
