@@ -2,18 +2,19 @@
 // pages built, and from one press of an arrow to the repainted preview. Pies of seven sectors, all else as a
 // new object has it, at the default size of 500 x 550.
 
+#include "bench/table.h"
+
 #include <QApplication>
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
-#include <benchmark/benchmark.h>
+#include <array>
 #include <charteditors/charteditors.h>
-#include <chrono>
+#include <chartrender/chartrender.h>
 #include <functional>
+#include <utility>
 
 namespace {
-
-using Clock = std::chrono::steady_clock;
 
 CPieChart SevenSectors() {
     CPieChart pie;
@@ -59,61 +60,61 @@ void Close() {
         dialog->close();
 }
 
-/// `show` runs the editor.
-void Open(benchmark::State& state, const std::function<void()>& show) {
-    PaintWatch watch;
-    for (auto _ : state) {
-        const Clock::time_point start = Clock::now();
-        watch.Then([&state, start] {
-            if (QApplication::activeModalWidget() != nullptr) {
-                state.SetIterationTime(std::chrono::duration<double>(Clock::now() - start).count());
-                Close();
-            }
-        });
-        show();
-    }
-}
-
-void open(benchmark::State& state) {
-    CPieChart pie = SevenSectors();
-    Open(state, [&] { ShowPieChartWnd(pie, CChartLayout()); });
-}
-
-void openLayout(benchmark::State& state) {
-    CChartLayout layout;
-    Open(state, [&] { ShowChartLayoutWnd(layout); });
+/// Milliseconds from the host's call to the first finished preview; `show` runs the editor.
+double Opened(PaintWatch& watch, const bench::Work& show) {
+    const double start = bench::cpuTime();
+    double taken = 0;
+    watch.Then([&] {
+        if (QApplication::activeModalWidget() != nullptr) {
+            taken = bench::cpuTime() - start;
+            Close();
+        }
+    });
+    show();
+    watch.Then({});
+    return taken;
 }
 
 template <class Object, bool (*Show)(Object&, const CChartLayout&)>
-void openNew(benchmark::State& state) {
+void OpenNew() {
     Object object;
-    Open(state, [&] { Show(object, CChartLayout()); });
+    Show(object, CChartLayout());
 }
 
-void press(benchmark::State& state) {
+void OpenPie() {
+    CPieChart pie = SevenSectors();
+    ShowPieChartWnd(pie, CChartLayout());
+}
+
+void OpenLayout() {
+    CChartLayout layout;
+    ShowChartLayoutWnd(layout);
+}
+
+/// From the press of an arrow to the repainted preview, beside the drawing of the picture alone.
+void Press(PaintWatch& watch, const char* name) {
     CPieChart pie = SevenSectors();
     pie.m_show3D = true;
-    PaintWatch watch;
     QTimer::singleShot(0, [&] {
         auto* depth = QApplication::activeModalWidget()->findChild<QWidget*>(QStringLiteral("Depth"));
         watch.Wait();
         bool up = true;
-        for (auto _ : state) {
+        const auto press = [&] {
             QKeyEvent key(QEvent::KeyPress, up ? Qt::Key_Up : Qt::Key_Down, Qt::NoModifier);
             QCoreApplication::sendEvent(depth, &key);
             watch.Wait();
             up = !up;
-        }
+        };
+        const auto draw = [&] {
+            const double values[] = {40, 34, 34, 53, 64, 40, 34};
+            CChartPicture picture;
+            RenderPieChart(pie, CChartLayout(), {values, nullptr, 7}, ChartPictureFormat::Bmp, picture);
+        };
+        bench::row(name, press, draw);
         Close();
     });
     ShowPieChartWnd(pie, CChartLayout());
 }
-
-BENCHMARK(open)->Unit(benchmark::kMillisecond)->UseManualTime();
-BENCHMARK(openLayout)->Unit(benchmark::kMillisecond)->UseManualTime();
-BENCHMARK(openNew<CAngularMeter, ShowAngularMeterWnd>)->Unit(benchmark::kMillisecond)->UseManualTime();
-BENCHMARK(openNew<CLinearMeter, ShowLinearMeterWnd>)->Unit(benchmark::kMillisecond)->UseManualTime();
-BENCHMARK(press)->Unit(benchmark::kMillisecond)->UseRealTime();
 
 } // namespace
 
@@ -121,7 +122,28 @@ int main(int argc, char** argv) {
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
     const QApplication application(argc, argv);
-    benchmark::Initialize(&argc, argv);
-    benchmark::RunSpecifiedBenchmarks();
+    PaintWatch watch;
+    constexpr double kFirst = 25, kLater = 5; // milliseconds
+    bench::heading("from the call to the first preview", "limit");
+    const double first = Opened(watch, OpenPie);
+    bench::print("pie, the first dialog of the process", {first, kFirst, first / kFirst});
+    const std::pair<const char*, void (*)()> dialogs[] = {
+        {"pie", OpenPie},
+        {"layout", OpenLayout},
+        {"XY chart", OpenNew<CXYChart, ShowXYChartWnd>},
+        {"polar chart", OpenNew<CPolarChart, ShowPolarChartWnd>},
+        {"finance chart", OpenNew<CFinanceChart, ShowFinanceChartWnd>},
+        {"angular meter", OpenNew<CAngularMeter, ShowAngularMeterWnd>},
+        {"linear meter", OpenNew<CLinearMeter, ShowLinearMeterWnd>},
+    };
+    for (const auto& [name, open] : dialogs) {
+        std::array<double, bench::kRounds> taken{};
+        Opened(watch, open); // the first of its kind loads what it shows
+        for (double& time : taken)
+            time = Opened(watch, open);
+        bench::print(name, {bench::median(taken), kLater, bench::median(taken) / kLater});
+    }
+    bench::heading("from a press to the repainted preview", "drawing");
+    Press(watch, "pie of 7 in 3D, depth");
     return 0;
 }
