@@ -4,15 +4,12 @@
 #include "demo/prices.h"
 
 #include <QApplication>
-#include <QDoubleSpinBox>
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QListWidget>
 #include <QMessageBox>
 #include <QMimeData>
 #include <QPushButton>
-#include <QSet>
-#include <QSlider>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
@@ -85,42 +82,6 @@ protected:
 };
 
 } // namespace
-
-TEST_F(Host, ShowsEveryKind) {
-    auto* kinds = m_window->findChild<QListWidget*>();
-    QStringList names;
-    QSet<QByteArray> pictures;
-    for (int i = 0; i < kinds->count(); ++i) {
-        m_window->ShowKind(i);
-        names += kinds->item(i)->text();
-        const QImage chart = Chart();
-        EXPECT_FALSE(chart.isNull()) << qPrintable(names.last());
-        pictures.insert(QByteArray::fromRawData(reinterpret_cast<const char*>(chart.constBits()),
-                                                std::min<qsizetype>(chart.sizeInBytes(), 400'000))
-                            .toHex());
-    }
-    names.removeOne("XY chart");
-    EXPECT_EQ(names.join(u',').toStdString(),
-              "Pie chart,Finance chart,Angular meter,Linear meter,Polar chart");
-    EXPECT_EQ(pictures.size(), kinds->count()) << "no two alike";
-}
-
-TEST_F(Host, AMetersPointerFollowsTheSlider) {
-    auto* slider = m_window->findChild<QSlider*>();
-    EXPECT_FALSE(slider->isVisible());
-    for (const char* meter : {"Angular meter", "Linear meter"}) {
-        auto* kinds = m_window->findChild<QListWidget*>();
-        m_window->ShowKind(kinds->row(kinds->findItems(meter, Qt::MatchExactly).value(0)));
-        EXPECT_TRUE(slider->isVisible());
-        const QImage before = Chart();
-        QTest::keyClick(slider, Qt::Key_Home);
-        const QImage lowest = Chart();
-        EXPECT_NE(lowest, before);
-        EXPECT_EQ(m_window->findChild<QDoubleSpinBox*>()->value(), 0);
-        QTest::keyClick(slider, Qt::Key_End);
-        EXPECT_NE(Chart(), lowest);
-    }
-}
 
 TEST_F(Host, AnEditShowsInTheFinishedChartAndACancelDoesNot) {
     const QImage before = Chart();

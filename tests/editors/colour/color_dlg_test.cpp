@@ -130,26 +130,6 @@ TEST_F(ColorDlg, CancelForgetsTheColourButNotTheCustomOnes) {
     EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_color, 0x012030U);
 }
 
-TEST_F(ColorDlg, ArrowsStepWithinTheBytes) {
-    m_dialog.m_color.m_color = 0x00FE0102;
-    RunModal(m_dialog, [&] {
-        Number("R")->setFocus();
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(Number("R"), Qt::Key_Up);
-        Number("G")->setFocus();
-        for (int i = 0; i < 3; ++i)
-            QTest::keyClick(Number("G"), Qt::Key_Down);
-        Number("A")->setFocus();
-        QTest::keyClick(Number("A"), Qt::Key_Up);
-        EXPECT_EQ(Numbers(), "255 0 2 1 ");
-        EXPECT_EQ(m_dialog.m_color.m_color, 0x01FF0002U);
-        // The base of a step is the number, not the text that is being typed.
-        Type(Number("B"), "77");
-        QTest::keyClick(Number("B"), Qt::Key_Up);
-        EXPECT_EQ(Numbers(), "255 0 3 1 ");
-    });
-}
-
 TEST_F(ColorDlg, AngleSnapsWhenStepped) {
     struct Case {
         int from;
@@ -343,27 +323,4 @@ TEST_F(ColorDlg, TellsColoursInWords) {
         color.m_patternFile = "brick.png";
         EXPECT_EQ(ColorText(color).toStdString(), c.text);
     }
-}
-
-TEST_F(ColorDlg, TabFollowsTheReadingOrder) {
-    m_dialog.m_color.m_type = 2;
-    RunModal(m_dialog, [&] {
-        QStringList names;
-        for (int i = 0; i < 16; ++i) {
-            names += m_dialog.focusWidget()->objectName().replace(u' ', u'_');
-            QTest::keyClick(m_dialog.focusWidget(), Qt::Key_Tab);
-        }
-        // The spectrum counts twice: its two parts.
-        EXPECT_EQ(names.join(' ').toStdString(), "Type CustomColors RecentColors Palette Palette_colors "
-                                                 "ARGB ARGB R G B A Hex Angle Add_to_Custom OK Cancel");
-        for (const QWidget* widget : m_dialog.findChildren<QWidget*>()) {
-            if (widget->isVisible() && widget->focusPolicy() & Qt::TabFocus &&
-                widget->focusProxy() == nullptr) {
-                const auto* button = qobject_cast<const QAbstractButton*>(widget);
-                EXPECT_TRUE(!widget->accessibleName().isEmpty() ||
-                            (button != nullptr && !button->text().isEmpty()))
-                    << widget->objectName().toStdString();
-            }
-        }
-    });
 }

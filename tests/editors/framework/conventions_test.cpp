@@ -1,6 +1,5 @@
 #include "editors/framework/conventions.h"
 
-#include <cstdlib>
 #include <gtest/gtest.h>
 
 namespace {
@@ -36,18 +35,6 @@ TEST(FirstLineOf, CutsTextsAtTheirFirstBreak) {
     EXPECT_EQ(FirstLineOf("one\rtwo"), "one...");
     EXPECT_EQ(FirstLineOf("\n"), "...");
     EXPECT_EQ(FromEditText("a\r\nb\nc\rd"), "a\nb\nc\rd");
-}
-
-TEST(RandomChartColor, TakesRedGreenAndBlueInTurn) {
-    std::srand(7);
-    const int red = std::rand() % 256;
-    const int green = std::rand() % 256;
-    const int blue = std::rand() % 256;
-    std::srand(7);
-    const CChartColor color = RandomChartColor();
-    EXPECT_EQ(color.m_type, 0);
-    EXPECT_EQ(color.m_color, static_cast<unsigned>(red) << 16 | static_cast<unsigned>(green) << 8 |
-                                 static_cast<unsigned>(blue));
 }
 
 } // namespace

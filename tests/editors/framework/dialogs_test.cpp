@@ -1,4 +1,3 @@
-#include "platform/widgets/field_changed.h"
 #include "tests/editors/framework/test_editor.h"
 
 #include <QTabBar>
@@ -161,13 +160,6 @@ TEST_F(Dialogs, AChangeMarksThePreviewAndThePaintDrawsOnce) {
     EXPECT_TRUE(editor.m_preview.m_dirty);
     editor.m_preview.grab();
     EXPECT_FALSE(editor.m_preview.m_dirty);
-}
-
-TEST_F(Dialogs, AKeyThatThePageDoesNotKnowChangesNothingAndIsTold) {
-    editor.AddTitle("a");
-    OpenItems();
-    SendFieldChanged(&editor.m_itemsPage, 999);
-    EXPECT_EQ(editor.Told(), 1);
 }
 
 } // namespace

@@ -184,20 +184,6 @@ TEST(LayoutEditor, ReverseShowsUncheckedWhateverTheLayoutHolds) {
     }
 }
 
-TEST(LayoutEditor, AddAppendsADefaultTitle) {
-    CChartLayout layout;
-    CChartLayout expected;
-    expected.m_titles.push_back(CChartTitle());
-    EXPECT_TRUE(Edit(layout, [](const Person& person) {
-        person.Tab("Title");
-        ExpectBox("Warning", "Select anyone.", [&] { person.Click("Delete"); });
-        person.Click("Add");
-        EXPECT_EQ(person.Rows("Titles"), QStringList({"Title 1 (  )"}));
-        person.Ok();
-    }));
-    EXPECT_EQ(Difference(expected, layout), "");
-}
-
 TEST(LayoutEditor, KeepsItsManners) {
     TestEditor("ChartLayout", {"General", "Title", "DataLabel", "Legend", "PlotArea"}, StartLayout(Linear),
                {}, kRows + kPlotAreas[Linear].second);

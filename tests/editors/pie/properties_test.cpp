@@ -52,11 +52,41 @@ TEST(PieProperties, EachControlReachesItsField) {
     TestTableIsWhole(StartPie(), CChartLayout(), kRows);
 }
 
-TEST(PieProperties, EveryWayOutKeepsItsWord) {
+TEST(PieProperties, KeepsItsManners) {
     TestWaysOut(pie_test::UnusualPie(), CChartLayout(), kRows);
+    TestLook(pie_test::UnusualPie(), CChartLayout());
     TestMemoryIsFlat(StartPie(), CChartLayout());
+    TestAnybody(StartPie(), CChartLayout(), kRows);
 }
 
-TEST(PieProperties, NumbersStayInTheirLimitsWhateverIsDone) {
-    TestAnybody(StartPie(), CChartLayout(), kRows);
+TEST(PieProperties, AWideAngleNeedsAShadow) {
+    CPieChart pie;
+    EXPECT_TRUE(Edit(pie, [](Person& person) {
+        person.Click("Shadow3D");
+        person.Give("Angle", "120");
+        EXPECT_EQ(person.TextOf("Angle"), "120");
+        person.Ok();
+    }));
+    EXPECT_EQ(pie.m_angle3D, 120);
+    EXPECT_TRUE(Edit(pie, [](Person& person) {
+        person.Click("Shadow3D");
+        EXPECT_EQ(person.TextOf("Angle"), "90");
+        person.Ok();
+    }));
+    EXPECT_FALSE(pie.m_shadow3D);
+    EXPECT_EQ(pie.m_angle3D, 90);
+}
+
+TEST(PieProperties, AddedSectorsAreOpaqueAndOfTheirOwnColours) {
+    CPieChart pie;
+    EXPECT_TRUE(Edit(pie, [](Person& person) {
+        for (int i = 0; i < 3; ++i)
+            person.Click("Add");
+        EXPECT_EQ(person.Rows("Sector"), QStringList({"Sector 1 (  )", "Sector 2 (  )", "Sector 3 (  )"}));
+        person.Ok();
+    }));
+    ASSERT_EQ(pie.m_sectors.size(), 3);
+    for (int i = 0; i < 3; ++i)
+        EXPECT_TRUE(pie.m_sectors[i].m_color.m_color >> 24 == 0 && pie.m_sectors[i].m_color.m_type == 0);
+    EXPECT_NE(pie.m_sectors[0].m_color.m_color, pie.m_sectors[2].m_color.m_color);
 }

@@ -6,75 +6,9 @@
 #include <chrono>
 #include <clocale>
 #include <cstdlib>
-#include <limits>
-#include <new>
 #include <thread>
 
 using namespace pie_test;
-
-namespace {
-
-/// Larger blocks are not to be had.
-std::size_t largestBlock = std::numeric_limits<std::size_t>::max();
-
-} // namespace
-
-// For the whole process, the library included.
-void* operator new(std::size_t size) {
-    void* block = size <= largestBlock ? std::malloc(size) : nullptr;
-    if (block == nullptr)
-        throw std::bad_alloc();
-    return block;
-}
-void* operator new(std::size_t size, const std::nothrow_t& /*tag*/) noexcept {
-    return size <= largestBlock ? std::malloc(size) : nullptr;
-}
-void operator delete(void* block) noexcept {
-    std::free(block);
-}
-void operator delete(void* block, std::size_t /*size*/) noexcept {
-    std::free(block);
-}
-
-namespace {} // namespace
-
-TEST(PieWaysOut, EnterOnACheckIsOk) {
-    CPieChart pie = UnusualPie();
-    EXPECT_TRUE(Edit(pie, [](Person& person) { QTest::keyClick(&person.Find("Show 3D"), Qt::Key_Return); }));
-    EXPECT_EQ(Difference(UnusualPie(), pie), "");
-}
-
-TEST(PieWaysOut, EscInATextIsCancelAndPointersIntoTheObjectStayGood) {
-    CPieChart pie = UnusualPie();
-    const char* text = pie.m_sectors[0].m_text.data();
-    EXPECT_FALSE(Edit(pie, [](Person& person) {
-        person.Type("Text", "typed");
-        QTest::keyClick(&person.Find("Text"), Qt::Key_Escape);
-    }));
-    EXPECT_EQ(Difference(UnusualPie(), pie), "");
-    EXPECT_EQ(pie.m_sectors[0].m_text.data(), text);
-}
-
-TEST(PieWaysOut, EnterInAnEditCommitsAndStays) {
-    CPieChart pie = PieOf({"a"});
-    EXPECT_TRUE(Edit(pie, [](Person& person) {
-        for (const char* name : {"Depth", "Angle", "StartAngle", "Inner R(%)", "Position", "Distance"}) {
-            person.Type(name, "33");
-            const QImage before = person.Preview();
-            person.Enter();
-            EXPECT_TRUE(person.Window().isVisible()) << name;
-        }
-        // What was typed last counts too: the press of OK takes the focus from its edit.
-        person.Type("Depth", "44");
-        person.Ok();
-    }));
-    EXPECT_EQ(pie.m_depth3D, 44);
-    EXPECT_EQ(pie.m_angle3D, 33);
-    EXPECT_EQ(pie.m_startAngle, 33);
-    EXPECT_EQ(pie.m_donutInnerRadius, 33);
-    EXPECT_EQ(pie.m_labelPosition, 33);
-    EXPECT_EQ(pie.m_sectors[0].m_distance, 33);
-}
 
 TEST(PieWaysOut, AHostsOwnModalDialogOwnsTheEditor) {
     NeedApplication();
@@ -104,37 +38,6 @@ TEST(PieWaysOut, AHostsOwnModalDialogOwnsTheEditor) {
     EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
     EXPECT_TRUE(pie.m_shadow3D);
     EXPECT_FALSE(pie.m_show3D);
-}
-
-TEST(PieWaysOut, AnExceptionPassesAndEverythingIsPutBack) {
-    NeedApplication();
-    CPieChart pie;
-    for (int i = 0; i < 10000; ++i)
-        pie.m_sectors.push_back(Sector("many"));
-    const CPieChart before(pie);
-    QGuiApplication::setQuitOnLastWindowClosed(true);
-    largestBlock = 100000; // bytes: the copy of the sectors, and nothing else, is larger
-    EXPECT_THROW(ShowPieChartWnd(pie, CChartLayout()), std::bad_alloc);
-    largestBlock = std::numeric_limits<std::size_t>::max();
-    EXPECT_EQ(Difference(before, pie), "");
-    EXPECT_EQ(QApplication::topLevelWidgets().size(), 0);
-    EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
-    EXPECT_TRUE(Edit(pie, [](Person& person) { person.Ok(); })) << "and the next call works";
-}
-
-TEST(PieWaysOut, TenThousandSectorsAreNoTrouble) {
-    CPieChart pie;
-    for (int i = 0; i < 10000; ++i)
-        pie.m_sectors.push_back(Sector("many", static_cast<std::uint32_t>(i)));
-    EXPECT_TRUE(Edit(pie, [&](Person& person) {
-        EXPECT_EQ(person.List("Sector").count(), 10000);
-        QTest::keyClick(&person.List("Sector"), Qt::Key_End);
-        person.Click("Delete");
-        EXPECT_EQ(person.Rows("Sector").last(), "Sector 9999 ( many )");
-        person.Ok();
-    }));
-    EXPECT_EQ(pie.m_sectors.size(), 9999);
-    EXPECT_EQ(pie.m_sectors[9998].m_color.m_color, 9998u);
 }
 
 // ---- Hosts that are no programs of the toolkit, or only half of one: each in a process of its own.

@@ -104,25 +104,4 @@ TEST(Views, WithNothingToDrawPaintNothing) {
     EXPECT_TRUE(recording.Lines().empty());
 }
 
-TEST(Views, LeaveNothingButTheLastPicture) {
-    const CChartLayout layout = codedLayout({300, 200});
-    const auto showAndGo = [&](int times) {
-        for (int i = 0; i < times; ++i) {
-            CChartPreviewView view;
-            view.SetChart(CPieChart(), layout);
-            view.RefreshPreview();
-            view.grab();
-            EXPECT_FALSE(view.m_picture.Empty());
-        }
-    };
-    showAndGo(10); // caches of the toolkit fill up
-    const int blocks = CPictureBlock::LeftBehind();
-    const auto before = mallinfo2().uordblks + mallinfo2().hblkhd;
-    showAndGo(1000);
-    EXPECT_EQ(CPictureBlock::LeftBehind(), blocks);
-    EXPECT_GE(blocks, 1);
-    const auto grown = static_cast<std::ptrdiff_t>(mallinfo2().uordblks + mallinfo2().hblkhd - before);
-    EXPECT_LT(grown, 300 * 200 * 3); // less than one picture in 1,000
-}
-
 } // namespace

@@ -203,16 +203,6 @@ TEST_F(AxisLayoutTest, TitlesStandBesideTheLabelsOrBeyondTheEnds) {
     EXPECT_GE(layoutAt(axis, Left).title->box().left(), 0);
 }
 
-TEST_F(AxisLayoutTest, HiddenLabelsStillTakePartInThePlan) {
-    const AxisRequest request = ofRows(200);
-    const AxisLayout shown = layoutAt(axis, BottomCenter, request);
-    axis.setColours(kDefaultColour, kTransparent, kDefaultColour, kDefaultColour);
-    const AxisLayout hidden = layoutAt(axis, BottomCenter, request);
-    EXPECT_TRUE(hidden.labels.empty());
-    EXPECT_EQ(majorPixels(hidden), majorPixels(shown));
-    EXPECT_EQ(hidden.reach, 4);
-}
-
 TEST_F(AxisLayoutTest, LinesGrowOutwardsAndTicksCoverTheirPixels) {
     QImage image(400, 300, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);

@@ -39,16 +39,6 @@ TEST(AxisMap, TiedAxisMeasuresTheSamePlaceInItsOwnUnits) {
     EXPECT_EQ(celsius.tied(1e-300, 1e300).wholePixel(-1e300), 250 + 200 * 1000000); // far, not undefined
 }
 
-TEST(AxisMap, AffineFormAgreesWithTheMap) {
-    const AxisMap plain(Scale::linear(-3, 7), 350, 50);
-    for (const AxisMap& map : {plain, plain.tied(-2.5, 4), AxisMap(Scale::items(5, true), 50, 350)}) {
-        const auto affine = map.affine();
-        ASSERT_TRUE(affine);
-        for (const double value : {-2.0, 0.0, 1.7, 6.0})
-            EXPECT_NEAR(affine->offset + affine->factor * value, map.pixel(value), 1e-9);
-    }
-}
-
 TEST(AxisPlace, TakesMarginsOffTheEnds) {
     struct Row {
         int side, top, bottom;

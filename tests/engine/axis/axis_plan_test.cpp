@@ -66,15 +66,6 @@ TEST_F(AxisPlanTest, LimitsComeFromTheData) {
     }
 }
 
-TEST_F(AxisPlanTest, AutoScaleKeepsTheSortOfScale) {
-    y.setScaleFromData(Type::Log, "");
-    y.setAutoScale(0, 0, 0);
-    EXPECT_EQ(layoutAt(y, Left, ofData({1, 1000})).map.scale().kind(), ScaleKind::Log);
-    y.setLimits(Type::Linear, 0, 1, {});
-    y.setAutoScale(0, 0, 1);
-    EXPECT_GE(layoutAt(y, Left, ofData({5, 50})).map.upper(), 50);
-}
-
 TEST_F(AxisPlanTest, RowsShowTheirNumbersWhereTheirItemsStand) {
     const AxisLayout tight = layoutAt(x, BottomCenter, ofRows(5));
     EXPECT_EQ(textsOf(tight), (Texts{"0", "1", "2", "3", "4"}));
@@ -129,28 +120,6 @@ TEST_F(AxisPlanTest, RulesChooseDateLabels) {
     dates.setRules(
         {{encodeFilter(5, 1, 0), "{value|yyyy}", 1, false}, {encodeFilter(4, 1, 0), "{value|m}", 1, false}});
     EXPECT_EQ(textsOf(layoutAt(dates, BottomCenter)), (Texts{"2004", "2", "3", "4", "5", "6", "7"}));
-}
-
-TEST_F(AxisPlanTest, FormatsMakeLabels) {
-    struct Row {
-        const char* format;
-        Texts texts;
-    };
-    const Row rows[] = {
-        {"", {"0.0", "0.5", "1.0"}},
-        {"{value}", {"0.0", "0.5", "1.0"}}, // the decimals of the step
-        {"{value|2,.}m", {"0.00m", "0.50m", "1.00m"}},
-        {"{label} of it", {"0.0 of it", "0.5 of it", "1.0 of it"}},
-        {"{what}", {"{what}", "{what}", "{what}"}},
-        {"-", {}},
-    };
-    y.setLimits(Type::Linear, 0, 1, {0.5, 0, 0});
-    for (const Row& row : rows) {
-        y.setLabelFormat(row.format);
-        const AxisLayout layout = layoutAt(y, Left);
-        EXPECT_EQ(textsOf(layout), row.texts);
-        EXPECT_EQ(layout.ticks.size(), 3u);
-    }
 }
 
 TEST_F(AxisPlanTest, TicksStandWiderApartBeforeLabelsAreLeftOut) {
@@ -228,24 +197,6 @@ TEST_F(AxisPlanTest, RingsOfTiesAreIgnored) {
     EXPECT_EQ(a.syncedTo(), &b);
     far.copyFrom(a); // a tie does not reach across charts
     EXPECT_EQ(far.syncedTo(), nullptr);
-}
-
-TEST_F(AxisPlanTest, CopyTakesScaleLabelsTicksAndLooks) {
-    x.setLabels({1, 2}, "{value}?");
-    x.setTickLength(-3, 1);
-    x.setColours(0x112233, 0x445566, kDefaultColour, kDefaultColour);
-    x.setTitle("Not this", "", 10, kDefaultColour);
-    x.addZone(0, 1, 0xff);
-    Axis copy(chart, Direction::X);
-    copy.copyFrom(x);
-    EXPECT_EQ(textsOf(layoutAt(copy, BottomCenter, ofRows(2))), (Texts{"1?", "2?"}));
-    EXPECT_EQ(copy.ticks().majorLength, -3);
-    EXPECT_EQ(copy.tickColour(), 0x112233u);
-    EXPECT_EQ(copy.labelBox().look().colour, 0x445566u);
-    EXPECT_EQ(copy.title().text(), "");
-    EXPECT_TRUE(copy.zones().empty());
-    copy.setLabelStyle("", 8, kTextColour, 0);
-    EXPECT_EQ(x.labelBox().look().colour, 0x445566u);
 }
 
 TEST_F(AxisPlanTest, HostileNumbersGiveAPlanAtOnce) {

@@ -56,50 +56,6 @@ TEST(Bitmap, IsA24BitFileWithRowsOfWholeWords) {
     }
 }
 
-TEST(Bitmap, IsMadeAnewOnlyAfterAChange) {
-    PieChart* made = pie(60, 60);
-    BaseChart* chart = PieChart2BaseChart(made);
-    const char* const names[] = {"a", "b"};
-    const double values[] = {2, 1};
-    TextBox* style = CPieChart_setLabelStyle(made, nullptr, 7, -1);
-    TextBox* title = CBaseChart_addTitle2(chart, CHART_TOP, "x", nullptr, 6, -1, -1, -1);
-    LegendBox* legend = CBaseChart_addLegend(chart, 0, 40, false, nullptr, 6);
-    const std::function<void()> changes[] = {
-        [&] { CBaseChart_setBackground(chart, 0xffffff, 0xff0000, 0); },
-        [&] { CBaseChart_setRoundedFrame(chart, 0, 10, -1, -1, -1); },
-        [&] { CBaseChart_setSize(chart, 70, 60); },
-        [&] { CPieChart_setPieSize(made, 30, 30, 20); },
-        [&] { CPieChart_setData(made, values, 2, names, 2); },
-        [&] { CPieChart_setLabelFormat(made, "{label}!"); },
-        [&] { CTextBox_setFontColor(style, 0xff00ff); },
-        [&] { CPieChart_setLabelLayout(made, CHART_SIDE_LAYOUT, 2, -1, -1); },
-        [&] { CPieChart_setLineColor(made, 0x00ffff, 0x00ffff); },
-        [&] { CPieChart_setStartAngle(made, 77, false); },
-        [&] { CPieChart_setDonutSize(made, 30, 30, 8, 20); },
-        [&] { CSector_setColor(CPieChart_sector(made, 0), 0x123456, -1, -1); },
-        [&] { CSector_setExplode(CPieChart_sector(made, 1), 5); },
-        [&] { CPieChart_set3D(made, 5, 30, false); },
-        [&] { CTextBox_setText(title, "y"); },
-        [&] { CBox_setPos(TextBox2Box(title), 5, 5); },
-        [&] { CLegendBox_addKey(legend, "k", 0x00ff00, 0, nullptr); },
-        [&] { CBaseChart_addLine(chart, 0, 0, 50, 50, 0xff0000, 2); },
-        [&] { CBaseChart_addText(chart, 9, 9, "t", nullptr, 8, 0, CHART_TOP_LEFT, 0, false); },
-        [&] { CBaseChart_setAntiAlias(chart, false, 0); },
-    };
-    int number = 0;
-    for (const auto& change : changes) {
-        const Bytes before(chart);
-        ASSERT_EQ(Bytes(chart).data, before.data);
-        const std::string old(before.data, static_cast<std::size_t>(before.length));
-        change();
-        const Bytes after(chart);
-        EXPECT_NE(std::string(after.data, static_cast<std::size_t>(after.length)), old)
-            << "change " << number;
-        ++number;
-    }
-    CBaseChart_destroy(chart);
-}
-
 TEST(Bitmap, IsNotMadeOfWhatHasNoPicture) {
     const struct {
         int width, height;
@@ -135,58 +91,6 @@ TEST(Bitmap, IsNotMadeOfWhatHasNoPicture) {
     EXPECT_EQ(none.data, nullptr);
     EXPECT_EQ(none.length, 0);
     EXPECT_FALSE(CBaseChart_makeChart2(nullptr, CHART_FORMAT_BMP, nullptr, nullptr));
-}
-
-TEST(DrawArea, HasTheSizeOfItsChartAndTakesAnImage) {
-    const QTemporaryDir folder;
-    const std::string file = folder.filePath("image.png").toStdString();
-    QImage image(33, 21, QImage::Format_RGB32);
-    image.fill(QColor(200, 10, 20));
-    ASSERT_TRUE(image.save(QString::fromStdString(file)));
-
-    BaseChart* chart = PieChart2BaseChart(CPieChart_create(50, 40, 0xffffff, CHART_TRANSPARENT, 0));
-    DrawArea* area = CBaseChart_getDrawArea(chart);
-    EXPECT_EQ(CDrawArea_getWidth(area), 50);
-    EXPECT_EQ(CDrawArea_getHeight(area), 40);
-    EXPECT_FALSE(CDrawArea_load(area, (file + "x").c_str()));
-    EXPECT_FALSE(CDrawArea_load(area, nullptr));
-    EXPECT_EQ(CDrawArea_getWidth(area), 50) << "as it was";
-    ASSERT_TRUE(CDrawArea_load(area, file.c_str()));
-    EXPECT_EQ(CDrawArea_getWidth(area), 33);
-    EXPECT_EQ(CDrawArea_getHeight(area), 21);
-    CBaseChart_setSize(chart, CDrawArea_getWidth(area), CDrawArea_getHeight(area));
-    const QImage shown = pictures::of(chart, false);
-    EXPECT_EQ(shown.size(), QSize(33, 21));
-    EXPECT_EQ(pictures::boundsOf(shown, 0xc80a14), QRect(0, 0, 33, 21)) << "the image covers the chart";
-    CDrawArea_destroy(area); // not the caller's: ignored
-    EXPECT_EQ(CDrawArea_getWidth(area), 33);
-    CBaseChart_destroy(chart);
-}
-
-TEST(Wallpaper, StandsWhereItsAlignmentSays) {
-    const QTemporaryDir folder;
-    const std::string file = folder.filePath("image.png").toStdString();
-    QImage image(10, 6, QImage::Format_RGB32);
-    image.fill(QColor(255, 0, 0));
-    ASSERT_TRUE(image.save(QString::fromStdString(file)));
-    const struct {
-        int alignment;
-        QPoint corner; // of 10 x 6 in 50 x 40
-    } rows[] = {
-        {CHART_CENTER, {20, 17}},       {CHART_TOP_LEFT, {0, 0}},
-        {CHART_TOP, {20, 0}},           {CHART_TOP_RIGHT, {40, 0}},
-        {CHART_LEFT, {0, 17}},          {CHART_RIGHT, {40, 17}},
-        {CHART_BOTTOM_LEFT, {0, 34}},   {CHART_BOTTOM, {20, 34}},
-        {CHART_BOTTOM_RIGHT, {40, 34}}, {0, {20, 17}},
-    };
-    for (const auto& row : rows) {
-        PieChart* made = CPieChart_create(50, 40, 0xffffff, CHART_TRANSPARENT, 0);
-        CPieChart_setPieSize(made, 0, 0, 0);
-        CBaseChart_setBgImage(PieChart2BaseChart(made), file.c_str(), row.alignment);
-        EXPECT_EQ(pictures::boundsOf(pictures::of(PieChart2BaseChart(made)), 0xff0000),
-                  QRect(row.corner, image.size()))
-            << row.alignment;
-    }
 }
 
 /// A white chart of 40 by 30 with a box, a line and a text.

@@ -106,14 +106,6 @@ TEST(Legend, GivesKeysWithoutAColourTheNextOfTheSeries) {
     EXPECT_EQ(pictures::boundsOf(image, expected).size(), first.size());
 }
 
-TEST(Legend, MovesWhenAddedAgain) {
-    Chart chart(false);
-    chart.addKeys(1, "Key");
-    EXPECT_EQ(CBaseChart_addLegend(chart.chart, 100, 150, true, nullptr, 8), chart.legend);
-    EXPECT_EQ(CBaseChart_getLegend(chart.chart), chart.legend);
-    EXPECT_EQ(pictures::boundsOf(chart.picture(), kKeys[0]).top() > 150, true);
-}
-
 TEST(Legend, TakesThePieceOfAPieAsItsFields) {
     chartdraw::PieChart pie(100, 100, chartdraw::kBackgroundColour, chartdraw::kTransparent, 0);
     pie.setData({1, 3, 4}, {"one", "", "four"});
@@ -123,19 +115,6 @@ TEST(Legend, TakesThePieceOfAPieAsItsFields) {
     const chartdraw::Format format("{dataSetName} {label} {value} {percent|1} {sector} {other}");
     EXPECT_EQ(format.apply(*keys[0].fields), "one one 1 12.5 0 {other}");
     EXPECT_EQ(format.apply(*keys[1].fields), "four four 4 50.0 2 {other}");
-}
-
-TEST(Legend, ShowsTheColoursOfThePieInOrder) {
-    Chart chart(false);
-    const double values[] = {1, 2, 3};
-    const char* const names[] = {"a", "b", "c"};
-    CPieChart_setData(chart.pie, values, 3, names, 3);
-    CSector_setColor(CPieChart_sector(chart.pie, 1), static_cast<int>(kKeys[1]), -1, -1);
-    CSector_setColor(CPieChart_sector(chart.pie, 0), static_cast<int>(kKeys[0]), -1, -1);
-    chart.addKeys(4, "own"); // keys by hand come after; the first two have the same colours
-    const QImage image = chart.picture();
-    EXPECT_LT(pictures::boundsOf(image, kKeys[0]).left(), pictures::boundsOf(image, kKeys[1]).left());
-    EXPECT_LT(pictures::boundsOf(image, kKeys[1]).left(), pictures::boundsOf(image, kKeys[2]).left());
 }
 
 } // namespace

@@ -46,67 +46,6 @@ void check(const std::vector<Case>& cases) {
 
 } // namespace
 
-// Worked by hand.
-TEST(ArrayMath, RowByRow) {
-    const Series b = {10, 0, N, kNaN, 5};
-    check({
-        {"create", {1, N, kNaN, kInfinity, -kInfinity, 1e308}, [](ArrayMath&) {}, {1, N, N, N, N, 1e308}},
-        {"add", {1, 2, 3, 4, N}, [&](ArrayMath& a) { a.add(b); }, {11, 2, N, N, N}},
-        {"sub", {1, 2, 3, 4, 5}, [&](ArrayMath& a) { a.sub(b); }, {-9, 2, N, N, 0}},
-        {"add shorter", {1, 2, 3}, [](ArrayMath& a) { a.add(Series{1}); }, {2, N, N}},
-        {"add longer", {1}, [&](ArrayMath& a) { a.add(b); }, {11}},
-        {"add nothing", {1, 2}, [](ArrayMath& a) { a.add({}); }, {N, N}},
-        {"add beyond the range", {1.6e308}, [](ArrayMath& a) { a.add(Series{1.6e308}); }, {N}},
-        {"sub itself", {1, N, 3}, [](ArrayMath& a) { a.sub(a.result()); }, {0, N, 0}},
-        {"mul", {1, -2, N}, [](ArrayMath& a) { a.mul(2.5); }, {2.5, -5, N}},
-        {"mul by none", {1, 0}, [](ArrayMath& a) { a.mul(N); }, {N, N}},
-        {"div", {1, -2, N}, [](ArrayMath& a) { a.div(4); }, {0.25, -0.5, N}},
-        {"div by 0", {1, 0, N}, [](ArrayMath& a) { a.div(0); }, {N, N, N}},
-        {"abs", {-1, 2, N, 0}, [](ArrayMath& a) { a.abs(); }, {1, 2, N, 0}},
-        {"financeDiv",
-         {1, 0, 1, 0, N, 0, 6},
-         [](ArrayMath& a) {
-             a.financeDiv(Series{2, 0, 0, 3, 0, N}, 0.5);
-         },
-         {0.5, 0.5, N, 0, N, N, N}},
-        {"empty", {}, [&](ArrayMath& a) { a.add(b); }, {}},
-    });
-}
-
-TEST(ArrayMath, Select) {
-    const Series values = {1, 2, 3, N, 5, 6};
-    const Series test = {-1, 0, 7, 7, N};
-    check({
-        {"GTZ", values, [&](ArrayMath& a) { a.selectGTZ(test, 9); }, {9, 9, 3, N, N, N}},
-        {"LTZ", values, [&](ArrayMath& a) { a.selectLTZ(test, 9); }, {1, 9, 9, N, N, N}},
-        {"EQZ", values, [&](ArrayMath& a) { a.selectEQZ(test, 9); }, {9, 2, 9, N, N, N}},
-        {"GTZ itself", {-1, 0, 2, N}, [](ArrayMath& a) { a.selectGTZ({}, 0); }, {0, 0, 2, N}},
-        {"LTZ itself", {-1, 0, 2, N}, [](ArrayMath& a) { a.selectLTZ({}, 5); }, {-1, 5, 5, N}},
-        {"EQZ itself", {-1, 0, 2, N}, [](ArrayMath& a) { a.selectEQZ({}, 5); }, {5, 0, 5, N}},
-        {"fill none", {-1, 2}, [](ArrayMath& a) { a.selectGTZ({}, N); }, {N, 2}},
-    });
-}
-
-// Worked by hand; the deviation of 2 4 4 4 5 5 7 9 is the textbooks' example of 2.
-TEST(ArrayMath, WithHistory) {
-    check({
-        {"delta 1", {1, 4, 9, N, 25, 36}, [](ArrayMath& a) { a.delta(1); }, {N, 3, 5, N, N, 11}},
-        {"delta 2", {1, 4, 9, 16}, [](ArrayMath& a) { a.delta(2); }, {N, N, 8, 12}},
-        {"movAvg 3", {3, 6, 9, 0, N, 1, 2, 3}, [](ArrayMath& a) { a.movAvg(3); }, {N, N, 6, 5, N, N, N, 2}},
-        {"movMax 2", {3, 1, 2, 5, 4}, [](ArrayMath& a) { a.movMax(2); }, {N, 3, 2, 5, 5}},
-        {"movMin 2", {3, 1, 2, 5, 4}, [](ArrayMath& a) { a.movMin(2); }, {N, 1, 1, 2, 4}},
-        {"movStdDev 8",
-         {2, 4, 4, 4, 5, 5, 7, 9},
-         [](ArrayMath& a) { a.movStdDev(8); },
-         {N, N, N, N, N, N, N, 2}},
-        {"expAvg", {8, 4, N, 6, 0}, [](ArrayMath& a) { a.expAvg(0.5); }, {8, 6, N, 6, 3}},
-        {"expAvg after a gap", {N, kNaN, 4, 8}, [](ArrayMath& a) { a.expAvg(0.25); }, {N, N, 4, 5}},
-        {"expAvg 0", {5, 7, 9}, [](ArrayMath& a) { a.expAvg(-3); }, {5, 5, 5}},
-        {"expAvg 1", {5, 0.1, 9}, [](ArrayMath& a) { a.expAvg(kInfinity); }, {5, 0.1, 9}},
-        {"expAvg NaN", {5, 7}, [](ArrayMath& a) { a.expAvg(kNaN); }, {N, N}},
-    });
-}
-
 TEST(ArrayMath, OddIntervals) {
     const Series values = {4, N, 9};
     for (const int interval : {1, 0, -1, INT_MIN}) {
@@ -132,14 +71,6 @@ TEST(ArrayMath, OddIntervals) {
             });
         }
     }
-}
-
-TEST(ArrayMath, Max) {
-    const std::pair<Series, double> cases[] = {
-        {{}, 0}, {{N, kNaN}, 0}, {{-3, N, -2}, -2}, {{N, 1, 7, 3}, 7}, {{kInfinity, 2}, 2},
-    };
-    for (const auto& [values, largest] : cases)
-        EXPECT_EQ(ArrayMath(values).max(), largest) << testing::PrintToString(values);
 }
 
 // Against the definition, window by window, in the longer floating type.

@@ -1,9 +1,6 @@
 #include "engine/data/ran_table.h"
 
-#include "engine/data/chart_time.h"
-
 #include <algorithm>
-#include <climits>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
@@ -24,16 +21,6 @@ std::vector<double> filled(int seed, int column, double minimum, double maximum,
     RanTable table(seed, 8, rows);
     table.setCol(column, minimum, maximum);
     return columnOf(table, column);
-}
-
-/// The rows as year, month and day.
-std::vector<int> datesOf(double start, double step, bool weekdaysOnly, int rows) {
-    RanTable table(1, 1, rows);
-    table.setDateCol(0, start, step, weekdaysOnly);
-    std::vector<int> dates;
-    for (const double time : table.column(0))
-        dates.push_back(getChartYMD(time));
-    return dates;
 }
 
 } // namespace
@@ -77,66 +64,6 @@ TEST(RanTable, ValuesFillTheirRangeEvenly) {
     }
 }
 
-TEST(RanTable, OddLimits) {
-    EXPECT_EQ(filled(1, 0, 10, 2), filled(1, 0, 2, 10));
-    EXPECT_EQ(filled(1, 0, 4, 4), (std::vector<double>{4, 4, 4}));
-    EXPECT_EQ(filled(1, 0, kNaN, 4), (std::vector<double>{4, 4, 4}));
-    EXPECT_EQ(filled(1, 0, 4, kNaN), (std::vector<double>{4, 4, 4}));
-    EXPECT_EQ(filled(1, 0, kNaN, kNaN), (std::vector<double>{0, 0, 0}));
-    const auto wide = filled(1, 0, -kInfinity, kInfinity, 100);
-    EXPECT_TRUE(std::all_of(wide.begin(), wide.end(), [](double v) { return std::fabs(v) <= 8e307; }));
-}
-
-TEST(RanTable, SizesAreLimited) {
-    struct Case {
-        int columns, rows;
-        int lastColumn; ///< -1: none
-        std::size_t count;
-    };
-    const Case cases[] = {
-        {0, 0, -1, 0},
-        {-1, 5, -1, 0},
-        {2, -5, 1, 0},
-        {INT_MIN, INT_MIN, -1, 0},
-        {1, INT_MAX, 0, 1000000},
-        {INT_MAX, 3, 999, 3},
-        {INT_MAX, INT_MAX, 999, 10000},
-    };
-    for (const Case& c : cases) {
-        RanTable table(1, c.columns, c.rows);
-        for (const int column : {INT_MIN, -1, c.lastColumn, c.lastColumn + 1, INT_MAX}) {
-            table.setCol(column, 1, 2);
-            table.setDateCol(column, 0, 1, true);
-            table.setHLOCCols(column, 1, -1, 1, 0, 2);
-        }
-        EXPECT_EQ(table.column(c.lastColumn).size(), c.count) << c.columns << ' ' << c.rows;
-        EXPECT_TRUE(table.column(c.lastColumn + 1).empty());
-        EXPECT_TRUE(table.column(INT_MIN).empty());
-    }
-}
-
-// By the calendar: 4 September 2002 is a Wednesday.
-TEST(RanTable, DateColumns) {
-    const double wednesday = chartTime(2002, 9, 4);
-    const double day = 86400;
-    using Dates = std::vector<int>;
-    EXPECT_EQ(datesOf(wednesday, day, true, 6),
-              (Dates{20020904, 20020905, 20020906, 20020909, 20020910, 20020911}));
-    EXPECT_EQ(datesOf(wednesday, day, false, 5), (Dates{20020904, 20020905, 20020906, 20020907, 20020908}));
-    EXPECT_EQ(datesOf(wednesday, 10 * day, false, 3), (Dates{20020904, 20020914, 20020924}));
-    EXPECT_EQ(datesOf(chartTime(2002, 9, 7), day, true, 2), (Dates{20020909, 20020910}));
-    EXPECT_EQ(datesOf(wednesday, -day, true, 5), (Dates{20020904, 20020903, 20020902, 20020830, 20020829}));
-    EXPECT_EQ(datesOf(wednesday, 0, true, 2), (Dates{20020904, 20020904}));
-    EXPECT_EQ(datesOf(kNaN, kNaN, true, 2), (Dates{10101, 10101}));
-
-    RanTable hours(1, 1, 3);
-    hours.setDateCol(0, chartTime(2002, 9, 6, 22, 30), 3600, true);
-    EXPECT_EQ(columnOf(hours, 0), (std::vector{chartTime(2002, 9, 6, 22, 30), chartTime(2002, 9, 6, 23, 30),
-                                               chartTime(2002, 9, 9, 0, 30)}));
-    hours.setDateCol(0, kInfinity, kInfinity, true);
-    EXPECT_TRUE(std::isfinite(hours.column(0)[2]));
-}
-
 struct Walk {
     double start, minDelta, maxDelta, lower, upper;
     double low, high, fall, rise; ///< the limits and steps that hold
@@ -178,24 +105,6 @@ TEST(RanTable, PriceRowsAreConsistentAndBounded) {
             }
         }
     }
-}
-
-TEST(RanTable, PricesMoveAlsoWhereTheStepsAreWiderThanTheLimits) {
-    RanTable table(3, 4, 100);
-    table.setHLOCCols(0, 50, -172800, 172800, 100, 200);
-    auto closes = columnOf(table, 3);
-    std::sort(closes.begin(), closes.end());
-    EXPECT_EQ(std::unique(closes.begin(), closes.end()), closes.end());
-    EXPECT_LT(closes[25], 140);
-    EXPECT_GT(closes[75], 160);
-}
-
-TEST(RanTable, PricesStartAtTheStart) {
-    RanTable table(9, 4, 5);
-    table.setHLOCCols(0, 100, -5, 5, 0, 1e308);
-    EXPECT_EQ(table.column(2)[0], 100);
-    table.setHLOCCols(1, 100, -5, 5, 0, 1e308); // the fourth column would be missing
-    EXPECT_EQ(table.column(2)[0], 100);
 }
 
 } // namespace chartdraw

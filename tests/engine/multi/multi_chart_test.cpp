@@ -72,41 +72,6 @@ TEST(MultiChart, CutsChartsOffAtItsSides) {
     CBaseChart_destroy(red);
 }
 
-TEST(MultiChart, LendsItsPatternsToItsCharts) {
-    Multi m;
-    const int tile[] = {kRed, kBlue}; // two columns
-    const int pattern = CBaseChart_patternColor(m.chart, tile, 2, 1, 0, 0);
-    BaseChart* inner = plain(10, 10, pattern);
-    CMultiChart_addChart(m.multi, 3, 20, inner);
-    const QImage image = m.picture();
-    EXPECT_EQ(pictures::at(image, 4, 25), static_cast<unsigned>(kRed)) << "the tiles begin at the whole's 0";
-    EXPECT_EQ(pictures::at(image, 5, 25), static_cast<unsigned>(kBlue));
-    CBaseChart_destroy(inner);
-}
-
-TEST(MultiChart, BlendsTranslucentBackgroundsInOrder) {
-    BaseChart* red = plain(60, 60, static_cast<int>(0x80000000) | kRed);
-    BaseChart* blue = plain(60, 60, static_cast<int>(0x80000000) | kBlue);
-    BaseChart* clear = plain(100, 100, CHART_TRANSPARENT);
-    Multi m;
-    CMultiChart_addChart(m.multi, 0, 0, red);
-    CMultiChart_addChart(m.multi, 40, 40, blue);
-    CMultiChart_addChart(m.multi, 0, 0, clear);
-    const QImage image = m.picture();
-    // Half of red over white, half of blue over that, and half of blue over white.
-    const struct {
-        int x, y, red, green, blue;
-    } rows[] = {{20, 20, 255, 128, 128}, {50, 50, 128, 64, 191}, {80, 80, 128, 128, 255}};
-    for (const auto& row : rows) {
-        const QColor colour(image.pixel(row.x, row.y));
-        EXPECT_NEAR(colour.red(), row.red, 2) << row.x;
-        EXPECT_NEAR(colour.green(), row.green, 2) << row.x;
-        EXPECT_NEAR(colour.blue(), row.blue, 2) << row.x;
-    }
-    for (BaseChart* chart : {red, blue, clear})
-        CBaseChart_destroy(chart);
-}
-
 TEST(MultiChart, FollowsChangesOfItsChartsAndItsSize) {
     BaseChart* chart = plain(40, 30, kRed);
     Multi m(100, 1);
@@ -155,44 +120,6 @@ TEST(MultiChart, RefusesCirclesOfCharts) {
     CMultiChart_addChart(outer.multi, 0, 0, nullptr);
     EXPECT_EQ(pictures::boundsOf(outer.picture(), kRed), QRect(60, 0, 10, 10)) << "charts within charts";
     CBaseChart_destroy(red);
-}
-
-TEST(MultiChart, NestsSixteenLevelsAndNoMore) {
-    std::vector<MultiChart*> chain;
-    for (int i = 0; i < 40000; ++i) {
-        chain.push_back(CMultiChart_create(20, 20, i == 15 ? kRed : CHART_TRANSPARENT, CHART_TRANSPARENT, 0));
-        if (i > 0) // outwards and inwards alike
-            CMultiChart_addChart(chain[static_cast<std::size_t>(i - 1)], 0, 0,
-                                 MultiChart2BaseChart(chain.back()));
-    }
-    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(chain[0]), false), 5, 5),
-              static_cast<unsigned>(kRed));
-    CBaseChart_setBackground(MultiChart2BaseChart(chain[15]), kBlue, -1, 0);
-    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(chain[0]), false), 5, 5),
-              static_cast<unsigned>(kBlue));
-    CMultiChart_addChart(chain[15], 0, 0, MultiChart2BaseChart(chain[20])); // one too many
-    CBaseChart_setBackground(MultiChart2BaseChart(chain[20]), kGreen, -1, 0);
-    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(chain[0]), false), 5, 5),
-              static_cast<unsigned>(kBlue));
-    for (MultiChart* multi : chain)
-        CBaseChart_destroy(MultiChart2BaseChart(multi));
-}
-
-TEST(MultiChart, OfALadderDrawsEachChartOnce) {
-    // Each of two charts a level shows both of the next: 2 to the 15th ways lead to the last ones.
-    std::vector<MultiChart*> all;
-    for (int i = 0; i < 30; ++i)
-        all.push_back(CMultiChart_create(400, 400, i < 28 ? CHART_TRANSPARENT : kRed, CHART_TRANSPARENT, 0));
-    for (std::size_t i = 0; i + 2 < all.size(); ++i)
-        for (const std::size_t next : {(i / 2 + 1) * 2, (i / 2 + 1) * 2 + 1})
-            CMultiChart_addChart(all[i], 0, 0, MultiChart2BaseChart(all[next]));
-    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(all[0]), false), 5, 5),
-              static_cast<unsigned>(kRed));
-    CBaseChart_setBackground(MultiChart2BaseChart(all[29]), kBlue, -1, 0);
-    EXPECT_EQ(pictures::at(pictures::of(MultiChart2BaseChart(all[1]), false), 5, 5),
-              static_cast<unsigned>(kBlue));
-    for (MultiChart* multi : all)
-        CBaseChart_destroy(MultiChart2BaseChart(multi));
 }
 
 TEST(MultiChart, DrawsEachChartWithItsOwnColoursAndSmoothness) {

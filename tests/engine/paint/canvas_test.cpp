@@ -81,12 +81,6 @@ TEST(FillRect, CoversWholePixels) {
     }
 }
 
-TEST(FillRect, AlphaCountsTransparency) {
-    // 0x40 of 0xff transparent black leaves 64/255 of white: 64.
-    const QImage image = drawn(4, 4, [](Canvas& on) { on.fillRect(QRectF(0, 0, 4, 4), 0x40000000); });
-    EXPECT_NEAR(qRed(image.pixel(2, 2)), 64, 1);
-}
-
 TEST(Path, FarOutlinesAreCutAndKeepWhatShows) {
     QPainterPath wedge; // its left border runs through (0, 0) and (16, 16)
     wedge.moveTo(-1e7, -1e7);
@@ -179,24 +173,6 @@ TEST(Polyline, ShowsNoJointsWhenItShowsThrough) {
             for (int x = 0; x < 300; ++x)
                 darkest = std::min(darkest, qRed(image.pixel(x, y)));
         EXPECT_NEAR(darkest, 128, 1) << width; // half of white, nowhere covered twice
-    }
-}
-
-TEST(Polyline, WidePensStayLinear) {
-    // Drawn in one stroke this line takes a minute; in pieces a third of a second.
-    const std::vector<QPointF> line = wave(100'000, 300, 100);
-    const QImage image = drawn(300, 100, [&](Canvas& on) { on.polyline(line, kInkColour, 6); });
-    EXPECT_EQ(image.pixel(150, 50), kInk);
-    EXPECT_EQ(image.pixel(150, 2), kWhite);
-}
-
-TEST(Polyline, HostileCoordinates) {
-    const std::vector<QPointF> line = {{-kInfinity, 5}, {10, 5}, {10, kInfinity}, {1e300, -1e300}, {kNan, 3}};
-    for (const Colour colour : {kInkColour, 0x80000000 | kInkColour}) {
-        const QImage image = drawn(32, 16, [&](Canvas& on) { on.polyline(line, colour, 3); });
-        EXPECT_NE(image.pixel(3, 5), kWhite);
-        EXPECT_NE(image.pixel(10, 12), kWhite);
-        EXPECT_EQ(image.pixel(3, 12), kWhite);
     }
 }
 

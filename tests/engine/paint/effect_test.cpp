@@ -144,26 +144,6 @@ TEST(Box, CornersEdgeAndWidths) {
     }
 }
 
-TEST(Box, HostileSizes) {
-    const int far = INT_MAX / 2;
-    for (const int effect : kEffects) {
-        for (const Corners& corners : {Corners{}, Corners{5, -9, INT_MAX, 0}}) {
-            drawn(
-                20, 20,
-                [&](Canvas& on) {
-                    on.box({-far, -far, far, far}, 0x3f86d2, 0, effect, corners, INT_MAX);
-                    on.box({-far, 5, far + 10, 1}, 0x3f86d2, 0, effect, corners);
-                    on.box({3, 3, 1, 1}, 0x3f86d2, 0, effect, corners);
-                    on.box({3, 3, 2, 9}, metalColour(0x808080, 30), 0, effect, corners, -4);
-                });
-        }
-    }
-    const QImage image = drawn(20, 20, [&](Canvas& on) {
-        on.box({-far, 5, far + 10, 4}, 0x123456, kTransparent, 3);
-    });
-    EXPECT_EQ(inked(image), QRect(0, 5, 10, 4));
-}
-
 TEST(Shape, ThinBarsAreThere) {
     QPainterPath bar;
     bar.addRect(QRectF(10.1, 4, 0.2, 9.6));

@@ -78,17 +78,6 @@ TEST(Picture, ReadsFiveFormatsWithoutAnApplicationObject) {
     EXPECT_EQ(decodePicture(gif()).size(), QSize(2, 1));
 }
 
-TEST(Picture, EveryTruncationIsQuiet) {
-    for (const auto& [format, content] : files()) {
-        const QSize size = decodePicture(content).size();
-        for (qsizetype length = 0; length < content.size(); ++length) {
-            const QImage image = decodePicture(content.left(length));
-            EXPECT_TRUE(image.isNull() || image.size() == size) << format << ' ' << length;
-        }
-        EXPECT_TRUE(decodePicture(content.left(content.size() / 4)).isNull()) << format;
-    }
-}
-
 TEST(Picture, OtherFormatsAndOversizeAreNot) {
     EXPECT_TRUE(decodePicture("<svg xmlns='http://www.w3.org/2000/svg' width='4' height='4'/>").isNull());
     EXPECT_TRUE(decodePicture("P3 1 1 255 1 2 3").isNull());
@@ -175,13 +164,6 @@ TEST_F(PictureFile, TheCacheFollowsTheFile) {
     EXPECT_TRUE(loadPicture(file).isNull());
 }
 
-int at(const QByteArray& file, int offset, int count) {
-    int value = 0;
-    for (int i = 0; i < count; ++i)
-        value |= static_cast<uchar>(file[offset + i]) << (8 * i);
-    return value;
-}
-
 #ifdef __linux__
 TEST_F(PictureFile, BytesComeFromRegularFilesOfAKnownSizeOnly) {
     const QFileInfo file(QString::fromStdString(write("bytes", "123456")));
@@ -191,25 +173,6 @@ TEST_F(PictureFile, BytesComeFromRegularFilesOfAKnownSizeOnly) {
     EXPECT_EQ(fileBytes(QFileInfo("/dev/zero"), 1000), "");
 }
 #endif
-
-TEST(BitmapFile, BytesByHand) {
-    QImage image(3, 2, QImage::Format_ARGB32_Premultiplied);
-    image.fill(QColor(1, 2, 3));
-    image.setPixelColor(0, 0, QColor(10, 20, 30));
-    image.setPixelColor(1, 0, QColor(0, 0, 0, 0));
-    image.setPixelColor(2, 0, QColor(0, 0, 0, 128));
-    const QByteArray file = bitmapFile(image);
-    ASSERT_EQ(file.size(), 54 + 2 * 12); // 9 bytes a row, padded to 12
-    EXPECT_EQ(file.left(2), "BM");
-    const std::array<int, 3> fields[] = {{2, 4, 78},    {6, 4, 0},     {10, 4, 54}, {14, 4, 40}, {18, 4, 3},
-                                         {22, 4, 2},    {26, 2, 1},    {28, 2, 24}, {30, 4, 0},  {34, 4, 24},
-                                         {38, 4, 3780}, {42, 4, 3780}, {46, 4, 0},  {50, 4, 0}};
-    for (const auto& [offset, count, value] : fields)
-        EXPECT_EQ(at(file, offset, count), value) << offset;
-    // The bottom row first, blue before red; what is clear is white paper.
-    EXPECT_EQ(file.mid(54, 12), QByteArray("\3\2\1\3\2\1\3\2\1\0\0\0", 12));
-    EXPECT_EQ(file.mid(66, 12), QByteArray("\x1e\x14\x0a\xff\xff\xff\x7f\x7f\x7f\0\0\0", 12));
-}
 
 TEST(BitmapFile, PacksRowsOfEveryWidthAlike) {
     std::mt19937 random(1);
@@ -229,17 +192,6 @@ TEST(BitmapFile, PacksRowsOfEveryWidthAlike) {
             EXPECT_EQ(bytes, wanted) << width;
         }
     }
-}
-
-TEST(BitmapFile, IsReadBackBySize) {
-    for (const int width : {1, 2, 3, 4, 5, 500}) {
-        const QImage image = sample().scaled(width, 7);
-        const QImage back = QImage::fromData(bitmapFile(image), "bmp");
-        EXPECT_EQ(back.convertToFormat(QImage::Format_RGB32), image.convertToFormat(QImage::Format_RGB32));
-    }
-    EXPECT_TRUE(bitmapFile({}).isEmpty());
-    EXPECT_TRUE(bitmapFile(QImage(kMaxSide + 1, 1, QImage::Format_RGB32)).isEmpty());
-    EXPECT_FALSE(bitmapFile(QImage(1, kMaxSide, QImage::Format_RGB32)).isEmpty());
 }
 
 } // namespace

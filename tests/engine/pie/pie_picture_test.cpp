@@ -119,32 +119,6 @@ TEST(PiePicture, TakesHardValues) {
     }
 }
 
-TEST(PiePicture, MovesAnExplodedSectorOutwards) {
-    Pie pie({1, 1, 2});
-    CSector_setExplode(CPieChart_sector(pie.pie, 0), 14);
-    const QImage image = pie.picture();
-    EXPECT_EQ(polar(image, 45, 10), kWhite);
-    EXPECT_EQ(polar(image, 45, 17), static_cast<unsigned>(kRed));
-    EXPECT_EQ(polar(image, 45, 80 + 12), static_cast<unsigned>(kRed));
-    EXPECT_EQ(polar(image, 45, 80 + 16), kWhite);
-    EXPECT_EQ(polar(image, 135, 10), static_cast<unsigned>(kGreen)) << "the others stay";
-
-    Pie automatic({1, 1, 2});
-    CSector_setExplode(CPieChart_sector(automatic.pie, 0), -1);
-    EXPECT_EQ(polar(automatic.picture(), 45, 80 + 6), static_cast<unsigned>(kRed)) << "a visible distance";
-}
-
-TEST(PiePicture, LeavesTheHoleOfADonutFree) {
-    for (const bool swapped : {false, true}) {
-        Pie pie({1, 1, 2});
-        CPieChart_setDonutSize(pie.pie, 100, 100, swapped ? 80 : 40, swapped ? 40 : 80);
-        const QImage image = pie.picture();
-        EXPECT_EQ(polar(image, 45, 37), kWhite);
-        EXPECT_EQ(polar(image, 45, 43), static_cast<unsigned>(kRed));
-        EXPECT_EQ(polar(image, 270, 77), static_cast<unsigned>(kBlue));
-    }
-}
-
 TEST(PiePicture, StandsOnItsWallsInThreeDimensions) {
     Pie tilted({1});
     CPieChart_set3D(tilted.pie, 20, 60, false); // the face is half as high as wide
@@ -198,55 +172,6 @@ TEST(PiePicture, ShowsInnerAndCutWalls) {
     EXPECT_EQ(pictures::at(image, 100, 118), kWhite);
     EXPECT_EQ(pictures::at(image, 100, 131), static_cast<unsigned>(kRed))
         << "the near one begins with its face";
-}
-
-TEST(PiePicture, DrawsEdgesAndOwnColours) {
-    Pie pie({1, 1, 2});
-    CPieChart_setLineColor(pie.pie, 0x000000, CHART_TRANSPARENT);
-    CSector_setColor(CPieChart_sector(pie.pie, 2), -1, 0xffff00, -1);
-    const QImage image = pie.picture();
-    EXPECT_LT(QColor(image.pixel(140, 100)).lightness(), 128) << "edge between the first two";
-    EXPECT_EQ(polar(image, 270, 40), static_cast<unsigned>(kBlue)) << "-1 keeps the fill";
-    EXPECT_GT(qRed(image.pixel(20, 100)) + qRed(image.pixel(19, 100)), 100)
-        << "the third has an edge of its own";
-}
-
-TEST(PiePicture, HasOneSectorObjectAnIndex) {
-    const double values[] = {1, 2};
-    PieChart* pie = CPieChart_create(100, 100, -1, -1, 0);
-    EXPECT_EQ(CPieChart_sector(pie, 0), nullptr) << "no data yet";
-    CPieChart_setData(pie, values, 2, nullptr, 0);
-    EXPECT_NE(CPieChart_sector(pie, 0), nullptr);
-    EXPECT_EQ(CPieChart_sector(pie, 0), CPieChart_sector(pie, 0));
-    EXPECT_NE(CPieChart_sector(pie, 0), CPieChart_sector(pie, 1));
-    EXPECT_EQ(CPieChart_sector(pie, 2), nullptr);
-    EXPECT_EQ(CPieChart_sector(pie, -1), nullptr);
-    CBaseChart_destroy(PieChart2BaseChart(pie));
-}
-
-TEST(PiePicture, ShowsPatternsAndMetalsOnFaceAndWall) {
-    Pie pattern({1});
-    const int pixels[] = {0xff0000, 0x0000ff};
-    CSector_setColor(CPieChart_sector(pattern.pie, 0),
-                     CBaseChart_patternColor(pattern.chart, pixels, 2, 1, 0, 0), -1, -1);
-    CPieChart_set3D(pattern.pie, 20, 60, false);
-    QImage image = pattern.picture();
-    EXPECT_EQ(pictures::at(image, 100, 100), static_cast<unsigned>(kRed));
-    EXPECT_EQ(pictures::at(image, 101, 100), static_cast<unsigned>(kBlue));
-    EXPECT_GT(qRed(image.pixel(100, 150)), 2 * qBlue(image.pixel(100, 150)) + 50)
-        << "stripes go on down the wall";
-    EXPECT_LT(qRed(image.pixel(100, 150)), 240);
-    EXPECT_GT(qBlue(image.pixel(101, 150)), 2 * qRed(image.pixel(101, 150)) + 50);
-
-    Pie metal({1});
-    CSector_setColor(CPieChart_sector(metal.pie, 0), CChart_metalColor(0x808080, 0), -1, -1);
-    image = metal.picture();
-    int darkest = 255, lightest = 0;
-    for (int x = 30; x < 170; ++x) {
-        darkest = std::min(darkest, qGray(image.pixel(x, 100)));
-        lightest = std::max(lightest, qGray(image.pixel(x, 100)));
-    }
-    EXPECT_GT(lightest - darkest, 40) << "a gradient across the pie";
 }
 
 } // namespace

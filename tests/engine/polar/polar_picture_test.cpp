@@ -51,24 +51,6 @@ bool dark(const QImage& image, double degrees, double distance) {
     return QColor(image.pixel(pictures::roundPoint(kCentre, degrees, distance))).lightness() < 200;
 }
 
-TEST(PolarChart, FillsItsPlotAreaAndDrawsItsEdge) {
-    Polar p;
-    CPolarChart_setPlotArea(p.polar, 150, 150, 100, kGreen, kBlue, 5);
-    QImage image = pictures::of(p.chart, false);
-    for (const double degrees : {10.0, 100.0, 215.0, 340.0}) {
-        EXPECT_EQ(at(image, degrees, 5), static_cast<unsigned>(kGreen));
-        EXPECT_EQ(at(image, degrees, 96), static_cast<unsigned>(kGreen));
-        EXPECT_EQ(at(image, degrees, 100), static_cast<unsigned>(kBlue));
-        EXPECT_EQ(at(image, degrees, 104), kWhite);
-    }
-    p.everyQuarterLabelled();
-    CPolarChart_setGridStyle(p.polar, true, true);
-    image = p.picture();
-    EXPECT_EQ(at(image, 90, 95), static_cast<unsigned>(kGreen));
-    EXPECT_EQ(at(image, 45, 66), static_cast<unsigned>(kGreen)) << "a square on its corner reaches 70.7 here";
-    EXPECT_EQ(at(image, 45, 75), kWhite);
-}
-
 TEST(PolarChart, DrawsRingsAndSpokesAboveOrBelowTheLayers) {
     Polar p;
     CPolarChart_setGridColor(p.polar, kRed, 1, kBlue, 3);
@@ -106,42 +88,6 @@ TEST(PolarChart, LaysATranslucentGridOnOnce) {
     EXPECT_NEAR(qRed(image.pixel(pictures::roundPoint(kCentre, 45, 50))), 127, 2) << "on a ring";
 }
 
-TEST(PolarChart, AlternatesRingsAndSectors) {
-    Polar p;
-    p.everyQuarterLabelled();
-    CPolarChart_setPlotAreaBg(p.polar, kRed, kBlue, true);
-    QImage image = pictures::of(p.chart, false);
-    const unsigned rings[] = {kRed, kBlue, kRed, kBlue};
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(at(image, 70, i * 25 + 3), rings[i]) << i;
-        EXPECT_EQ(at(image, 70, i * 25 + 22), rings[i]) << i;
-    }
-    EXPECT_EQ(at(image, 70, 103), kWhite);
-    CPolarChart_setPlotAreaBg(p.polar, kRed, kBlue, false);
-    image = pictures::of(p.chart, false);
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(at(image, i * 90 + 4, 60), rings[i]) << i;
-        EXPECT_EQ(at(image, i * 90 + 86, 60), rings[i]) << i;
-    }
-    CPolarChart_setGridStyle(p.polar, true, true);
-    CPolarChart_setPlotAreaBg(p.polar, kRed, -1, true); // the second is the background: none
-    image = p.picture();
-    EXPECT_EQ(at(image, 45, 15), static_cast<unsigned>(kRed)) << "the inner square reaches 17.7 here";
-    EXPECT_EQ(at(image, 45, 21), kWhite);
-}
-
-TEST(PolarChart, AlternatesThousandsOfSectorsFarBeyondThePicture) {
-    Polar p; // 7200 of them, those at the right 7 pixels high, from (-7800, 150) to x 200
-    CPolarChart_setPlotArea(p.polar, -7800, 150, 8000, -1, -1, 1);
-    CPolarChart_setPlotAreaBg(p.polar, kGreen, kBlue, false);
-    CAngularAxis_setLinearScale(p.angular, 0, 360, 0.05, 0);
-    const QImage image = p.picture();
-    EXPECT_EQ(image.pixelColor(100, 153), QColor(kGreen));
-    EXPECT_EQ(image.pixelColor(100, 160), QColor(kBlue));
-    EXPECT_EQ(image.pixelColor(100, 146), QColor(kBlue));
-    EXPECT_EQ(image.pixelColor(210, 150), QColor(kWhite));
-}
-
 TEST(PolarChart, CutsDataOffAtTheCircleAndNotAtThePolygon) {
     Polar p;
     CPolarChart_setGridStyle(p.polar, true, true);
@@ -150,26 +96,6 @@ TEST(PolarChart, CutsDataOffAtTheCircleAndNotAtThePolygon) {
     const QImage image = p.picture();
     EXPECT_EQ(at(image, 45, 85), static_cast<unsigned>(kRed)); // the polygon ends at 71
     EXPECT_EQ(at(image, 200, 110), kWhite);
-}
-
-TEST(PolarChart, ShowsZonesAsRingsAndSectors) {
-    Polar p;
-    CAxis_addZone(p.radial, 80, 60, kRed);
-    CAxis_addZone(p.radial, 90, 1e9, kBlue);
-    CAngularAxis_addZone2(p.angular, 30, 60, kGreen, CHART_TRANSPARENT);
-    CAngularAxis_addZone2(p.angular, 350, 10, kGreen, -1);
-    CAngularAxis_addZone2(p.angular, NAN, 10, kBlue, kBlue);
-    const QImage image = p.picture();
-    const struct {
-        double degrees, distance;
-        unsigned colour;
-    } rows[] = {
-        {200, 58, kWhite},  {200, 62, kRed},  {200, 78, kRed},  {200, 82, kWhite}, {200, 92, kBlue},
-        {200, 102, kWhite}, {27, 50, kWhite}, {33, 50, kGreen}, {57, 70, kGreen},  {63, 50, kWhite},
-        {353, 95, kGreen},  {7, 95, kGreen},  {13, 50, kWhite}, {347, 50, kWhite},
-    };
-    for (const auto& row : rows)
-        EXPECT_EQ(at(image, row.degrees, row.distance), row.colour) << row.degrees << ", " << row.distance;
 }
 
 TEST(PolarChart, DrawsLinesThroughTheirPoints) {
@@ -235,6 +161,16 @@ TEST(PolarChart, PutsNegativeRadiiOnAScaleOfTheirOwn) {
     EXPECT_EQ(at(image, 0, 1), static_cast<unsigned>(kRed)) << "the smallest at the centre";
 }
 
+TEST(PolarChart, KeepsMarginsFreeAtTheRimAndTheCentre) {
+    Polar p;
+    CAxis_setMargin(p.radial, 20, 10);
+    p.line({100, 0}, {45, 135}, kRed);
+    const QImage image = p.picture();
+    EXPECT_EQ(at(image, 45, 80), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(image, 45, 84), kWhite);
+    EXPECT_EQ(at(image, 135, 10), static_cast<unsigned>(kRed));
+}
+
 TEST(PolarChart, FillsAreasAndSmoothsCurves) {
     Polar p;
     const double data[] = {80, 80, CHART_NO_VALUE, 80, 80};
@@ -264,33 +200,6 @@ TEST(PolarChart, FillsAreasAndSmoothsCurves) {
     EXPECT_EQ(at(image, 135, 71), static_cast<unsigned>(kBlue));
 }
 
-TEST(PolarChart, DrawsSymbolsOfGivenAndScaledSizes) {
-    Polar p;
-    PolarLayer* layer = PolarLineLayer2PolarLayer(p.line({60, 60, 60, 130}, {0, 90, 180, 270}, kRed, 0));
-    CPolarLayer_setDataSymbol(layer, CHART_SQUARE_SYMBOL, 11, kBlue, -1, 1);
-    QImage image = pictures::of(p.chart, false);
-    auto patches = pictures::patches(image, kWhite);
-    ASSERT_EQ(patches.size(), 3u) << "none beyond the scale";
-    EXPECT_EQ(patches[0], QRect(145, 85, 11, 11));
-    EXPECT_EQ(patches[1], QRect(205, 145, 11, 11));
-
-    const double sizes[] = {21, CHART_NO_VALUE};
-    CPolarLayer_setSymbolScale(layer, sizes, 2, CHART_SCALE_PIXELS);
-    image = pictures::of(p.chart, false);
-    patches = pictures::patches(image, kWhite);
-    ASSERT_EQ(patches.size(), 2u) << "a size that is missing draws none";
-    EXPECT_EQ(patches[0], QRect(140, 80, 21, 21));
-    EXPECT_EQ(patches[1], QRect(145, 205, 11, 11)) << "past the end the usual size";
-    for (int shape = CHART_DIAMOND_SYMBOL; shape <= CHART_CROSS2_SYMBOL; ++shape) {
-        CPolarLayer_setDataSymbol(layer, shape, 11, kBlue, kRed, 2);
-        const QRect bounds = pictures::patches(pictures::of(p.chart, false), kWhite).at(0);
-        EXPECT_NEAR(bounds.width(), 21, 2) << shape;
-        EXPECT_NEAR(bounds.height(), 21, 2) << shape;
-    }
-    CPolarLayer_setDataSymbol(layer, CHART_NO_SYMBOL, 11, kBlue, -1, 1);
-    EXPECT_EQ(pictures::inked(p.picture(), kWhite), 0);
-}
-
 /// Labels of the angles as boxes of one colour: patches that are full rectangles do not overlap.
 TEST(PolarChart, KeepsAngularLabelsOutsideThePlotInsideThePictureAndApart) {
     for (const int count : {3, 8, 12, 24, 60, 500}) {
@@ -316,19 +225,6 @@ TEST(PolarChart, KeepsAngularLabelsOutsideThePlotInsideThePictureAndApart) {
             }
         }
     }
-}
-
-TEST(PolarChart, BreaksLongLabelsAndKeepsThemInThePicture) {
-    Polar p;
-    const char* const labels[] = {"Top", "A label of many words that goes on", "Below",
-                                  "Another one that is long"};
-    CAngularAxis_setLabels(p.angular, labels, 4);
-    TextBox* style = CAngularAxis_setLabelStyle(p.angular, nullptr, 8, kRed, 0);
-    CBox_setBackground(TextBox2Box(style), kRed, CHART_TRANSPARENT, 0);
-    const auto boxes = pictures::patches(p.picture(), kWhite);
-    ASSERT_EQ(boxes.size(), 4u);
-    for (const QRect& box : boxes)
-        EXPECT_TRUE(QRect(2, 2, 296, 296).contains(box)) << box;
 }
 
 TEST(PolarChart, ShowsTheRadialAxisUpwardsFromTheCentre) {
@@ -384,50 +280,6 @@ TEST(PolarChart, PlacesDataLabelsBesideTheirPointsAndApart) {
     CPolarLayer_setDataLabelStyle(layer, nullptr, 8, kBlue, 0);
     CPolarLayer_setDataLabelFormat(layer, " ");
     EXPECT_EQ(pictures::inked(format.picture(), kWhite), 0);
-}
-
-TEST(PolarChart, GivesTheLegendItsNamedLayers) {
-    Polar p;
-    p.line({60, 70}, {0, 90}, kRed, 0);
-    const double data[] = {50};
-    CPolarChart_addAreaLayer(p.polar, data, 1, kGreen, "area");
-    CPolarChart_addAreaLayer(p.polar, data, 1, kBlue, nullptr);
-    CBaseChart_addLegend(p.chart, 5, 5, true, nullptr, 8);
-    CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(p.line({60, 70}, {0, 90}, kBlue, 3)), 3);
-    const QImage legend = p.picture().copy(0, 0, 90, 60);
-    EXPECT_FALSE(pictures::boundsOf(legend, kGreen).isEmpty());
-    EXPECT_GE(pictures::boundsOf(legend, kGreen).width(), 5);
-    EXPECT_TRUE(pictures::boundsOf(legend, kRed).isEmpty()) << "no line, no symbol";
-    EXPECT_EQ(pictures::boundsOf(legend, kBlue).height(), 3) << "the line's key is as wide as the line";
-}
-
-TEST(PolarChart, TakesAnyDataAndGeometry) {
-    constexpr int far = std::numeric_limits<int>::max();
-    const double inf = std::numeric_limits<double>::infinity();
-    const std::vector<double> data = {1e308, -1e308, NAN, inf, -inf, CHART_NO_VALUE, 0, 1e-320};
-    const struct {
-        int x, y, radius;
-    } rows[] = {{0, 0, 0}, {150, 150, -5}, {far, -far - 1, far}, {150, 150, 1}, {150, 150, far}};
-    for (const auto& row : rows) {
-        for (const bool polygon : {false, true}) {
-            Polar p;
-            CPolarChart_setPlotArea(p.polar, row.x, row.y, row.radius, kGreen, kBlue, far);
-            CPolarChart_setGridStyle(p.polar, polygon, true);
-            CPolarChart_setGridColor(p.polar, kRed, far, kBlue, -far);
-            CPolarChart_setPlotAreaBg(p.polar, kRed, kBlue, polygon);
-            CAxis_setAutoScale(p.radial, inf, -5, NAN);
-            CAxis_setMargin(p.radial, far, far);
-            CAxis_setLabelStyle(p.radial, nullptr, 1000, kRed, 37);
-            CAngularAxis_setLabelStyle(p.angular, nullptr, 500, kRed, 12);
-            CAngularAxis_addZone2(p.angular, -1e308, 1e308, kRed, kBlue);
-            PolarLayer* layer = PolarLineLayer2PolarLayer(p.line(data, data, kRed, far));
-            CPolarLayer_setDataSymbol(layer, CHART_CIRCLE_SYMBOL, far, -1, kBlue, far);
-            CPolarLayer_setSymbolScale(layer, data.data(), static_cast<int>(data.size()), 99);
-            CPolarLayer_setDataLabelStyle(layer, nullptr, 300, -1, 45);
-            CPolarChart_addSplineAreaLayer(p.polar, data.data(), static_cast<int>(data.size()), -1, "a");
-            EXPECT_EQ(p.picture().size(), QSize(300, 300));
-        }
-    }
 }
 
 } // namespace

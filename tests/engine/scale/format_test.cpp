@@ -173,21 +173,3 @@ TEST(FormatFields, ListsGiveTheTextOfANumber) {
     EXPECT_EQ(formatValue(1, "{value|\ta\tb\\}"), "b}"); // the end is missing
     EXPECT_EQ(formatValue(1, "{value|\ta\tb"), "{value|\ta\tb");
 }
-
-TEST(FormatFields, CostIsLinearInHostileText) {
-    const Bar bar;
-    constexpr std::size_t size = 1'000'000;
-    const auto repeated = [](const std::string& part) {
-        std::string text;
-        while (text.size() < size)
-            text += part;
-        return text;
-    };
-    for (const char* part : {"{", "}", "{|", "{a", "{}", "{a}", "|{x|", "{value|"}) {
-        const std::string text = repeated(part);
-        EXPECT_EQ(Format(text).apply(bar), text) << part;
-    }
-    EXPECT_EQ(Format(std::string(size, '{') + "value}").apply(bar), std::string(size - 1, '{') + "1234.5");
-    EXPECT_EQ(formatValue(0, "yyyy " + repeated("xy ")), "0001 " + repeated("xy "));
-    EXPECT_EQ(formatValue(0, std::string(size, 'm')).size(), size / 4 * std::string("January").size());
-}

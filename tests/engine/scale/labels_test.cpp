@@ -110,22 +110,6 @@ TEST(LabelPicker, StartsAndTheirSteps) {
     }
 }
 
-TEST(LabelPicker, NoRulesAndHostileInput) {
-    LabelRule none = rule(FilterType::NonePass, 0, 0, 1, true);
-    none.emptyFormat = true;
-    const double nan = std::numeric_limits<double>::quiet_NaN();
-    const std::vector<double> times = {
-        nan, kNoValue, 1e300, -1e300, chartTime(2003, 1, 1), nan, chartTime(2003, 2, 1)};
-    EXPECT_EQ(pickLabels(times, 2, 3, std::vector<LabelRule>{none, none}),
-              (std::vector<PickedLabel>{{2, -1}, {3, -1}, {4, -1}}));
-    EXPECT_EQ(pickLabels(times, -5, 1, {}).size(), 1u);
-    EXPECT_TRUE(pickLabels(times, 50, 3, {}).empty());
-    EXPECT_TRUE(pickLabels(times, 0, -1, {}).empty());
-    // From 9999 back to 1, on to 2003, and a month later; gaps are passed over.
-    const std::vector<LabelRule> months = {rule(FilterType::StartOfMonth, -7, nan, -3, true)};
-    EXPECT_EQ(pickLabels(times, 0, 99, months), (std::vector<PickedLabel>{{3, 0}, {4, 0}, {6, 0}}));
-}
-
 TEST(LabelThinning, StepsAndEnds) {
     struct Case {
         int count;

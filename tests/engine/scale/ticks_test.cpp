@@ -230,6 +230,7 @@ TEST(LogTicks, DecadesAndParts) {
     EXPECT_EQ(labels(logTicks(Scale::log(1, 10), {2000})), "1 | 2 | 3 | 4 | 5 | 6 | 7 | 8 | 9 | 10");
     // One notation for all: 10000000000 does not stand beside 1e20.
     EXPECT_EQ(labels(logTicks(Scale::log(1, 1e20), {140})), "1e0 | 1e5 | 1e10 | 1e15 | 1e20");
+    EXPECT_EQ(labels(logTicks(Scale::log(1e-20, 1), {140})), "1e-20 | 1e-15 | 1e-10 | 1e-5 | 1e0");
 }
 
 TEST(DateTicks, CalendarBorders) {

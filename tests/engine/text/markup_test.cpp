@@ -75,18 +75,4 @@ TEST(Markup, ZeroBytesAreText) {
     EXPECT_EQ(lines[0][1].text, std::string(1, '\0'));
 }
 
-// A parser that looks through the rest of the text at each tag takes minutes here, one that copies a long
-// style at each tag takes gigabytes.
-TEST(Markup, LinearInHostileText) {
-    const std::string longName = "<*font=" + std::string(500'000, 'x') + "*>";
-    for (const std::string& unit : {std::string("<*"), std::string("<"), std::string("<*size=9*>a"),
-                                    std::string("<*/*>"), std::string("<*font=a,"), std::string("\r"),
-                                    longName + std::string(500'000, '<'), std::string("<*br*>")}) {
-        std::string text;
-        while (text.size() < 1'000'000)
-            text += unit;
-        EXPECT_GE(parseMarkup(text).size(), 1U);
-    }
-}
-
 } // namespace chartdraw

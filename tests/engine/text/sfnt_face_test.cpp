@@ -101,32 +101,4 @@ TEST(SfntFace, RefusesWhatIsNoFont) {
     EXPECT_TRUE(refused(bomb + QByteArray(11'000'000, '\1')));
 }
 
-// The bytes that come out of a damaged font still go to the toolkit: whatever they are, it must bear them.
-TEST(SfntFace, SurvivesDamage) {
-    ensureApplication();
-    const QByteArray font = bytesOf("NotoSansDeseret-Regular.ttf");
-    std::mt19937 random(20240229);
-    const auto below = [&](qsizetype n) {
-        return static_cast<qsizetype>(random() % static_cast<unsigned>(n));
-    };
-    int accepted = 0;
-    for (int round = 0; round < 500; ++round) {
-        QByteArray damaged = font;
-        const qsizetype reach = round % 2 ? 400 : damaged.size(); // Half of them in the directory.
-        for (qsizetype i = below(8); i >= 0; --i)
-            damaged[below(reach)] = static_cast<char>(below(256));
-        if (round % 5 == 0)
-            damaged.truncate(below(damaged.size()));
-        const auto face = extractFace(damaged, 0, "damaged");
-        if (!face)
-            continue;
-        ++accepted;
-        QRawFont raw(face->data, 12);
-        for (const quint32 glyph : raw.glyphIndexesForString(QStringLiteral("aW")))
-            raw.pathForGlyph(glyph);
-    }
-    EXPECT_GT(accepted, 100);
-    EXPECT_LT(accepted, 500);
-}
-
 } // namespace chartdraw

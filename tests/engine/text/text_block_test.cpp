@@ -164,18 +164,6 @@ TEST(TextBlock, MarginsAndBox) {
     drawn(look, "Text");
 }
 
-TEST(TextBlock, TextWiderThanItsBoxIsDrawnWhole) {
-    TextLook look = sized(12);
-    const QRect whole = ink(drawn(look, "A long text", Center));
-    look.width = 10;
-    look.height = 5;
-    EXPECT_EQ(boxOf(look, "A long text"), QSize(10, 5));
-    const QRect seen = ink(drawn(look, "A long text", Center));
-    EXPECT_EQ(seen.size(), whole.size());
-    EXPECT_NEAR(seen.center().x(), whole.center().x(), 1);
-    EXPECT_NEAR(seen.center().y(), whole.center().y(), 1);
-}
-
 TEST(TextBlock, WrapsAtWords) {
     TextLook look = sized(10);
     const int lineHeight = boxOf(look, "x").height();
@@ -308,88 +296,6 @@ TEST(TextBlock, StackedLetters) {
     TextLook flat = sized(12);
     const QImage stacked = drawn(look, "\u6f22\u6f22", TopLeft);
     EXPECT_EQ(stacked.copy(150, 100, 30, 20), drawn(flat, "\u6f22", TopLeft).copy(150, 100, 30, 20));
-}
-
-TEST(TextBlock, HostileText) {
-    std::mt19937 random(7);
-    std::string noise(1'000'000, '\0'), markup, controls;
-    for (char& c : noise)
-        c = static_cast<char>(random());
-    while (markup.size() < 1'000'000)
-        markup += "<*size=" + std::to_string(random() % 2000) + "*>a<*color=ff*>\xd7\x90<*super*>";
-    for (int i = 0; i < 0x300; ++i)
-        controls += QString(QChar(i)).toStdString();
-    controls += "\u2028\u2029\u202e\u2067\ufffc\ufeff\U000e0041";
-    std::string arabic, words;
-    while (arabic.size() < 1'000'000)
-        arabic += "\u0644\u0627\u0300";
-    while (words.size() < 1'000'000)
-        words += "word ";
-    for (const std::string& text : {noise, markup, controls, arabic, words, std::string(1'000'000, '\n'),
-                                    std::string(1'000'000, 'x'), std::string("<*font=")}) {
-        for (const double angle : {0.0, 90.0, 33.0}) {
-            for (const bool vertical : {false, true}) {
-                TextLook look;
-                look.angle = angle;
-                look.vertical = vertical;
-                look.wrapWidth = vertical ? 0 : 50;
-                EXPECT_GT(boxOf(look, text).height(), 0);
-                drawn(look, text);
-            }
-        }
-        drawn({}, text);
-    }
-    // Each byte that is no UTF-8 shows.
-    EXPECT_GT(boxOf({}, "a\xff\xff").width(), boxOf({}, "a").width());
-    // Anchors and sizes without sense.
-    TextLook absurd;
-    absurd.width = absurd.height = INT_MAX;
-    absurd.wrapWidth = INT_MAX;
-    absurd.background = 0xff0000;
-    absurd.corners = {INT_MAX, -5, INT_MIN, 7};
-    QImage image = whitePicture();
-    ColourTable colours;
-    Canvas canvas(image, colours);
-    for (const double angle : {0.0, 90.0, 10.0}) {
-        absurd.angle = angle;
-        const TextBlock block(absurd, "Text", kFonts);
-        for (const double v : {std::nan(""), double(INFINITY), -1e308, 1e308}) {
-            block.drawAt(canvas, {v, v}, Center);
-            block.drawPivotAt(canvas, {v, 0}, TopRight);
-        }
-    }
-}
-
-TEST(TextBlock, ThreadsDoNotDisturbEachOther) {
-    const std::pair<const char*, const char*> texts[] = {
-        {"", "Plain"},
-        {"bold", "<*size=14*>Bold<*sub*>2"},
-        {"LiberationMono-Bold.ttf", "Mono"},
-        {"NotoSansCJK-Regular.ttc|1", "\ud55c\uad6d"},
-        {"missing.ttf", "\u0634 \u05d0 \U0001f600"},
-    };
-    const auto picture = [](const auto& text, double angle) {
-        TextLook look;
-        look.font = text.first;
-        look.angle = angle;
-        return drawn(look, text.second);
-    };
-    std::atomic<int> differences = 0;
-    const auto work = [&] {
-        for (int round = 0; round < 40; ++round)
-            for (const auto& text : texts)
-                differences += picture(text, 30 * (round % 4)) != picture(text, 30 * (round % 4));
-    };
-    std::vector<std::thread> threads;
-    for (int i = 0; i < 3; ++i)
-        threads.emplace_back(work);
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(differences, 0);
-    const QImage here = picture(texts[3], 45);
-    QImage there;
-    std::thread([&] { there = picture(texts[3], 45); }).join();
-    EXPECT_EQ(here, there);
 }
 
 } // namespace chartdraw

@@ -109,48 +109,6 @@ TEST(BarLayer, BarsOfOneColumnAreOneBarThatReachesAsFar) {
     }
 }
 
-TEST(BarLayer, KeepsTheGapsAndOverlapsAskedFor) {
-    const struct {
-        const char* what;
-        std::function<void(BarLayer*)> set;
-        QRect red, green; // of two bars of 50
-    } rows[] = {
-        {"gaps", [](BarLayer* bar) { CBarLayer_setBarGap(bar, 0.4, 0.3); }, // 30 = 2 * 12.35 + 5.29
-         QRect(60, 130, 12, 100), QRect(78, 130, 12, 100)},
-        {"no gap", [](BarLayer* bar) { CBarLayer_setBarGap(bar, 0, 0); }, QRect(51, 130, 25, 100),
-         QRect(76, 130, 25, 100)},
-        {"all gap", [](BarLayer* bar) { CBarLayer_setBarGap(bar, 1, 0); }, QRect(75, 130, 1, 100), QRect()},
-        {"overlap", [](BarLayer* bar) { CBarLayer_setOverlapRatio(bar, 0.5, false); }, // 40 = 26.67 + 13.33
-         QRect(55, 130, 13, 100), QRect(68, 130, 27, 100)},
-        {"first on top", [](BarLayer* bar) { CBarLayer_setOverlapRatio(bar, 0.5, true); },
-         QRect(55, 130, 27, 100), QRect(82, 130, 13, 100)},
-        {"all over each other", [](BarLayer* bar) { CBarLayer_setOverlapRatio(bar, 1, true); },
-         QRect(55, 130, 40, 100), QRect()},
-    };
-    for (const auto& row : rows) {
-        Chart chart;
-        BarLayer* bar = CXYChart_addBarLayer2(chart.xy, CHART_COMBINE_SIDE, 0);
-        const std::vector<double> data = six(50);
-        CLayer_addDataSet(BarLayer2Layer(bar), data.data(), 6, kRed, nullptr);
-        CLayer_addDataSet(BarLayer2Layer(bar), data.data(), 6, kGreen, nullptr);
-        row.set(bar);
-        const QImage image = chart.picture();
-        EXPECT_EQ(boundsOf(image, kRed), row.red) << row.what;
-        if (!row.green.isNull())
-            EXPECT_EQ(boundsOf(image, kGreen), row.green) << row.what;
-    }
-}
-
-TEST(BarLayer, TurnsWithTheAxes) {
-    // Four rows of 50 pixels from row 230 upwards, values from column 50 on by 3 pixels.
-    Chart chart;
-    CXYChart_swapXY(chart.xy, true);
-    bars(chart, CHART_COMBINE_SIDE, {{25, kGap, kGap, kGap}, {10, kGap, kGap, kGap}});
-    const QImage image = chart.picture();
-    EXPECT_EQ(boundsOf(image, kRed), QRect(51, 205, 75, 20)); // the first one is nearer to the origin
-    EXPECT_EQ(boundsOf(image, kGreen), QRect(51, 185, 30, 20));
-}
-
 TEST(BarLayer, TakesXValuesInAnyOrder) {
     // The nearest two are 1 apart: on 0 to 10 by 30 pixels a unit, bars take 24 pixels.
     Chart chart;

@@ -41,51 +41,6 @@ TEST(CandleStickLayer, BodyWickAndColoursTellThePrices) {
     EXPECT_EQ(pictures::inked(image.copy(300, 0, 50, 300), kWhite), 25);        // all equal: nothing else
 }
 
-TEST(CandleStickLayer, WidthComesFromTheGapOrInPixels) {
-    const struct {
-        double gap;
-        int width, first, last;
-    } rows[] = {{0.5, 0, 63, 87}, {0, 0, 51, 99}, {1, 0, 75, 75}, {0.5, 5, 73, 77}, {0, 1, 75, 75}};
-    for (const auto& row : rows) {
-        Chart chart;
-        BaseBoxLayer* box = CandleStickLayer2BaseBoxLayer(
-            candles(chart, {{50, kGap, kGap, kGap, kGap, kGap}, {10}, {20}, {40}}));
-        CBaseBoxLayer_setDataGap(box, row.gap);
-        CBaseBoxLayer_setDataWidth(box, row.width);
-        const QRect body = [&] {
-            QRect bounds;
-            const QImage image = chart.picture();
-            for (int x = 0; x < 400; ++x)
-                bounds |= at(image, x, 170) != kWhite ? QRect(x, 0, 1, 1) : QRect();
-            return bounds;
-        }();
-        EXPECT_EQ(body.left(), row.first) << row.gap << ", " << row.width;
-        EXPECT_EQ(body.right(), row.last) << row.gap << ", " << row.width;
-    }
-}
-
-TEST(CandleStickLayer, EdgesLeaveTheBodyItsColour) {
-    const struct {
-        double open, close; // 2 pixels a unit
-        int width;
-        unsigned middle, edge; // of the body, at its middle and at its left side
-    } rows[] = {
-        {20, 40, 5, kGreen, kBlack}, {20, 40, 3, kGreen, kGreen}, {40, 20, 2, kRed, kRed},
-        {20, 21, 9, kGreen, kBlack}, {20.5, 20, 9, kRed, kRed}, // 3 pixels high, and 2
-        {20, 20, 9, kBlack, kBlack},                            // a line
-    };
-    for (const auto& row : rows) {
-        Chart chart;
-        CandleStickLayer* layer =
-            candles(chart, {{50, kGap, kGap, kGap, kGap, kGap}, {10}, {row.open}, {row.close}});
-        CBaseBoxLayer_setDataWidth(CandleStickLayer2BaseBoxLayer(layer), row.width);
-        const QImage image = chart.picture();
-        const int y = 230 - static_cast<int>(row.open + row.close); // the middle between both
-        EXPECT_EQ(at(image, 75, y), row.middle) << row.open << " to " << row.close << ", " << row.width;
-        EXPECT_EQ(at(image, 75 - row.width / 2, y), row.edge) << row.open << " to " << row.close;
-    }
-}
-
 TEST(HLOCLayer, TicksOfNeighboursStayApart) {
     Chart chart;
     const std::vector<double> high(6, 60), low(6, 10), even(6, 30);
@@ -192,25 +147,6 @@ TEST(BoxWhiskerLayer, DrawsWhatIsThere) {
     EXPECT_EQ(pictures::inked(image.copy(200, 0, 200, 300), kWhite), 0);
 }
 
-TEST(BoxWhiskerLayer, BoxesHaveTheirOwnColoursInTurnAndNamesInTheLegend) {
-    Chart chart;
-    const std::vector<double> top(6, 60), bottom(6, 20);
-    BoxWhiskerLayer* layer =
-        CXYChart_addBoxLayer(chart.xy, top.data(), 6, bottom.data(), 6, 0x80c0ff, "Not shown");
-    const int colours[] = {kRed, kGreen, -1};
-    const char* const names[] = {"", "Second", nullptr};
-    CBoxWhiskerLayer_setBoxColors(layer, colours, 3, names, 3);
-    CBaseChart_addLegend(chart.base, 0, 250, false, nullptr, 8);
-    const QImage image = chart.picture();
-    const unsigned expected[] = {kRed, kGreen, 0x80c0ff, kRed, kGreen, 0x80c0ff};
-    for (int i = 0; i < 6; ++i)
-        EXPECT_EQ(at(image, 75 + 50 * i, 150), expected[i]) << i;
-    const QImage legend = image.copy(0, 240, 400, 60);
-    EXPECT_FALSE(boundsOf(legend, kGreen).isEmpty());
-    EXPECT_TRUE(boundsOf(legend, kRed).isEmpty());
-    EXPECT_TRUE(boundsOf(legend, 0x80c0ff).isEmpty());
-}
-
 TEST(AreaLayer, StacksFromTheBaseLineAndBreaksAtGaps) {
     Chart chart;
     Layer* layer = AreaLayer2Layer(CXYChart_addAreaLayer2(chart.xy, CHART_COMBINE_STACK, 0));
@@ -223,19 +159,6 @@ TEST(AreaLayer, StacksFromTheBaseLineAndBreaksAtGaps) {
     EXPECT_EQ(boundsOf(image.copy(250, 0, 1, 300), kRed), QRect()); // the gap
     EXPECT_EQ(boundsOf(image.copy(250, 0, 1, 300), kGreen).bottom(), 229);
     EXPECT_EQ(boundsOf(image, kRed).right(), 150); // up to the row before the gap
-}
-
-TEST(AreaLayer, PartsOfAHundredFillTheWhole) {
-    Chart chart(0, 200);
-    Layer* layer = AreaLayer2Layer(CXYChart_addAreaLayer2(chart.xy, CHART_COMBINE_PERCENTAGE, 0));
-    const double a[] = {1, 10}, b[] = {3, 30};
-    CLayer_addDataSet(layer, a, 2, kRed, nullptr);
-    CLayer_addDataSet(layer, b, 2, kGreen, nullptr);
-    const QImage image = chart.picture();
-    for (const int x : {60, 200, 340}) { // 25 of 100 at one pixel each
-        EXPECT_EQ(boundsOf(image.copy(x, 0, 1, 300), kRed), QRect(0, 206, 1, 24)) << x;
-        EXPECT_EQ(boundsOf(image.copy(x, 0, 1, 300), kGreen), QRect(0, 131, 1, 75)) << x;
-    }
 }
 
 TEST(CandleStickLayer, WicksShowInDepthToo) {
@@ -283,15 +206,6 @@ TEST(Rows, HaveTheirRoomBesidePoints) {
     ASSERT_EQ(widths.size(), 6u);
     for (const int width : widths)
         EXPECT_NEAR(width, widths[2], 1);
-}
-
-TEST(LineLayer, HasGapsWhereALogAxisHasNoPlace) {
-    Chart chart;
-    CAxis_setLogScale3(CXYChart_yAxis(chart.xy), nullptr);
-    line(chart, {10, 100, 0, -5, 100, 10}, kRed, 3);
-    const QImage image = chart.picture();
-    EXPECT_EQ(boundsOf(image.copy(115, 0, 170, 300), kRed), QRect()); // between rows 1 and 4
-    EXPECT_NE(boundsOf(image.copy(50, 0, 55, 300), kRed), QRect());
 }
 
 } // namespace

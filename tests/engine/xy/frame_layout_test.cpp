@@ -10,7 +10,6 @@
 
 #include <gtest/gtest.h>
 #include <limits>
-#include <random>
 
 namespace chartdraw {
 namespace {
@@ -322,95 +321,6 @@ TEST_F(FrameLayoutTest, DataSetsTakeTheNextColourWhereTheyHaveNone) {
     std::vector<LegendKey> keys;
     chart.collectKeys(keys);
     EXPECT_EQ(keys.size(), 1u); // only the named one
-}
-
-/// Charts of settings that nobody would choose, the same ones on every run.
-class Chaos {
-public:
-    int pick(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
-    double value() {
-        const double values[] = {0,        1,   -1,       5e9,  1e300,  -1e300,       1e-300,    63e9,
-                                 kNoValue, 0.1, INFINITY, 1000, 63.1e9, std::nan(""), -INFINITY, 7};
-        return values[pick(16)];
-    }
-    std::vector<double> values(int count) {
-        std::vector<double> result;
-        for (int i = 0; i < count; ++i)
-            result.push_back(value());
-        return result;
-    }
-    Axis* axis(const XYChart& chart) {
-        return chart.axes()[static_cast<std::size_t>(pick(static_cast<int>(chart.axes().size())))].axis;
-    }
-
-    void addLayer(XYChart& chart) {
-        auto* layer = chart.addLayer<Probe>(pick(2) == 0 ? Form::Blocks : Form::Polyline, values(pick(40)));
-        if (pick(4) == 0)
-            layer->setXData(values(pick(40)));
-        layer->set3D(pick(30) - 10, pick(10));
-        layer->setYAxis(pick(2) == 0 ? chart.yAxis() : chart.addAxis(pick(10), pick(50)));
-    }
-
-    void disturb(Axis& axis, const Axis& other) {
-        switch (pick(10)) {
-        case 0:
-            axis.setLimits(static_cast<Type>(pick(4)), value(), value(), {value(), value(), 0});
-            break;
-        case 1:
-            axis.setScaleFromData(static_cast<Type>(pick(4)), "{value|2}");
-            break;
-        case 2:
-            axis.setLabels(values(pick(5)), "{value|yyyy}");
-            break;
-        case 3:
-            axis.setMargin(pick(500), pick(500));
-            break;
-        case 4:
-            axis.syncTo(&other, value(), value());
-            break;
-        case 5:
-            axis.setLabelStep(pick(5), pick(5), pick(9), pick(9));
-            break;
-        case 6:
-            axis.addMark(value(), 0xff, "mark", {});
-            axis.addZone(value(), value(), 0xffff00);
-            break;
-        case 7:
-            axis.setLabelStyle("", 1 + pick(40), kTextColour, value());
-            axis.setTickLength(pick(20) - 10, pick(20) - 10);
-            break;
-        case 8:
-            axis.setTickDensity(pick(100), pick(10));
-            axis.setReverse(pick(2) == 0);
-            break;
-        default:
-            axis.setRules({{encodeFilter(1 + pick(8), 1, 0), "{value|mmm}", pick(4), true},
-                           {encodeFilter(1 + pick(8), 1, 0), "-", 1, false}});
-            break;
-        }
-    }
-
-private:
-    std::mt19937 m_random{20040229};
-};
-
-TEST_F(FrameLayoutTest, AnySettingsGiveAPicture) {
-    Chaos chaos;
-    for (int round = 0; round < 400; ++round) {
-        XYChart tried(1 + chaos.pick(500), 1 + chaos.pick(400), 0xffffff, kTransparent, 0);
-        tried.setPlotArea(chaos.pick(600) - 100, chaos.pick(500) - 100, chaos.pick(600) - 50,
-                          chaos.pick(400) - 50);
-        for (int i = 0; i < 3; ++i)
-            chaos.addLayer(tried);
-        for (int i = 0; i < 12; ++i)
-            chaos.disturb(*chaos.axis(tried), *chaos.axis(tried));
-        tried.swapXY(chaos.pick(2) == 0);
-        tried.setAxisAtOrigin(chaos.pick(8), chaos.pick(8));
-        tried.setTrimData(chaos.pick(20) - 5, chaos.pick(50));
-        const char* bytes = nullptr;
-        int length = 0;
-        EXPECT_TRUE(tried.makePicture(1, &bytes, &length));
-    }
 }
 
 } // namespace

@@ -63,65 +63,6 @@ TEST(FramePicture, LinesAndGridLieOnWholePixels) {
     EXPECT_EQ(at(image, 150, 235), kWhite);
 }
 
-TEST(FramePicture, GridsHaveColoursAndWidthsOfTheirOwn) {
-    Frame frame;
-    CPlotArea_setGridColor(frame.area, 0xaa0000, 0x00aa00, 0x0000aa, 0xaa00aa);
-    CPlotArea_setGridWidth(frame.area, 3, 1, 0, 1);
-    QImage image = frame.picture();
-    for (const int y : {179, 180, 181})
-        EXPECT_EQ(at(image, 120, y), 0xaa0000u);
-    EXPECT_EQ(at(image, 120, 182), kPaper);
-    EXPECT_EQ(at(image, 150, 100), 0x00aa00u);
-    EXPECT_EQ(at(image, 120, 220), kPaper); // the minor horizontal one has no width
-    EXPECT_EQ(at(image, 100, 100), 0xaa00aau);
-
-    Frame swapped; // horizontal lines stay horizontal, now at the values of x
-    CPlotArea_setGridColor(swapped.area, 0xaa0000, -1, -1, -1);
-    CXYChart_swapXY(swapped.xy, true);
-    image = swapped.picture();
-    EXPECT_EQ(at(image, 120, 163), 0xaa0000u); // x 2 of 6: 230 - 66.7
-    EXPECT_EQ(at(image, 120, 180), kPaper);
-}
-
-TEST(FramePicture, BackgroundsOfThePlotArea) {
-    struct Row {
-        const char* name;
-        void (*apply)(Frame&);
-        unsigned rightUp, leftUp, leftDown, rightDown; // at the middles of the quadrants about (200, 130)
-        unsigned edge;
-    };
-    const Row rows[] = {
-        {"plain", [](Frame& f) { CPlotArea_setBackground(f.area, 0x101010, -1, 0x202020); }, 0x101010,
-         0x101010, 0x101010, 0x101010, 0x202020},
-        {"none", [](Frame& f) { CPlotArea_setBackground(f.area, kNone, -1, kNone); }, kWhite, kWhite, kWhite,
-         kWhite, kWhite},
-        {"bands", // of 25: 230 to 180, 180 to 130, ... from below, first the background
-         [](Frame& f) {
-             CPlotArea_setBackground(f.area, 0x101010, 0x303030, 0x202020);
-             CAxis_setLinearScale(f.y, 0, 100, 50, 0);
-         },
-         0x303030, 0x303030, 0x101010, 0x101010, 0x202020},
-        {"quadrants",
-         [](Frame& f) {
-             CPlotArea_set4QBgColor(f.area, 0x100000, 0x200000, 0x300000, 0x400000, -1);
-             CAxis_setLinearScale(f.x, -6, 6, 1, 0);
-             CAxis_setLinearScale(f.y, -100, 100, 10, 0);
-         },
-         0x100000, 0x200000, 0x300000, 0x400000, kEdge},
-    };
-    for (const Row& row : rows) {
-        Frame frame;
-        row.apply(frame);
-        const QImage image = frame.picture();
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(at(image, 273, 77), row.rightUp);
-        EXPECT_EQ(at(image, 123, 77), row.leftUp);
-        EXPECT_EQ(at(image, 123, 187), row.leftDown);
-        EXPECT_EQ(at(image, 273, 187), row.rightDown);
-        EXPECT_EQ(at(image, 350, 100), row.edge);
-    }
-}
-
 TEST(FramePicture, ZonesLieUnderTheGridAndTurnWithTheAxes) {
     Frame frame;
     CAxis_addZone(frame.y, 75, 25, 0x99ff99); // in either order
@@ -144,24 +85,6 @@ TEST(FramePicture, ZonesLieUnderTheGridAndTurnWithTheAxes) {
     image = turned.picture();
     EXPECT_EQ(at(image, 200, 100), 0x99ff99u);
     EXPECT_EQ(at(image, 100, 100), kPaper);
-}
-
-TEST(FramePicture, MarksCrossThePlotAreaWithTheirLabelBesideTheAxis) {
-    Frame frame;
-    Mark* mark = CAxis_addMark(frame.y, 60, 0xff0000, "Goal", nullptr, 9);
-    CAxis_addMark(frame.y, 101, 0x00ff00, "Out", nullptr, 9);
-    EXPECT_NE(CMark_getLine(mark), nullptr);
-    EXPECT_EQ(CMark_getLine(nullptr), nullptr);
-    const QImage image = frame.picture();
-    EXPECT_EQ(at(image, 50, 110), 0xff0000u); // 230 - 120
-    EXPECT_EQ(at(image, 350, 110), 0xff0000u);
-    EXPECT_EQ(at(image, 200, 111), kPaper);
-    EXPECT_EQ(pictures::boundsOf(image, 0x00ff00), QRect());
-    int ink = 0;
-    for (int y = 100; y < 122; ++y)
-        for (int x = 0; x < 44; ++x)
-            ink += at(image, x, y) != kWhite ? 1 : 0;
-    EXPECT_GT(ink, 30); // letters of the label
 }
 
 TEST(FramePicture, LayersAreDrawnOverTheAxesInTheirOrder) {

@@ -118,29 +118,6 @@ TEST(LineLayer, AllNineSymbolsShowFillAndEdgeInTheirSize) {
     }
 }
 
-TEST(LineLayer, BubblesHaveTheirSizesInPixels) {
-    Chart chart;
-    CAxis_setLinearScale(CXYChart_xAxis(chart.xy), 0, 6, 0, 0);
-    const double x[] = {1, 3, 5, 2}, y[] = {50, 50, 50, 50}, sizes[] = {11, 31, kGap};
-    LineLayer* layer =
-        CXYChart_addScatterLayer(chart.xy, x, 4, y, 3, nullptr, CHART_SQUARE_SYMBOL, 9, kRed, kRed);
-    CLineLayer_setSymbolScale(layer, sizes, 3, CHART_SCALE_PIXELS, nullptr, 0, CHART_SCALE_PIXELS);
-    const QImage image = chart.picture();
-    EXPECT_EQ(boundsOf(image.copy(50, 0, 100, 300), kRed), QRect(45, 125, 11, 11)); // about column 100
-    EXPECT_EQ(boundsOf(image.copy(150, 0, 100, 300), kRed), QRect(35, 115, 31, 31));
-    EXPECT_EQ(pictures::inked(image.copy(250, 0, 150, 300), kWhite), 0); // no size, and no y
-}
-
-TEST(LineLayer, SymbolsThatShowThroughAddUp) {
-    Chart chart;
-    CAxis_setLinearScale(CXYChart_xAxis(chart.xy), 0, 6, 0, 0);
-    const std::vector<double> x(3, 3.0), y(3, 50.0);
-    CXYChart_addScatterLayer(chart.xy, x.data(), 3, y.data(), 3, nullptr, CHART_SQUARE_SYMBOL, 9,
-                             static_cast<int>(0x80000000u), kNone);
-    // Three times half of what is left: white 255 * (128 / 255)^3 = 32.3.
-    EXPECT_NEAR(qRed(chart.picture().pixel(200, 130)), 32, 2);
-}
-
 /// A line that is drawn four times as large without smoothing, all of its points, and then made smaller: what
 /// any way to draw it must come near to.
 class WholeLine : public chartdraw::LineLayer {
