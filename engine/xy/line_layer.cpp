@@ -1,5 +1,6 @@
 #include "engine/xy/line_layer.h"
 
+#include "engine/chart/symbol_cloud.h"
 #include "engine/data/no_value.h"
 #include "engine/xy/curves.h"
 #include "engine/xy/data_labels.h"
@@ -133,24 +134,37 @@ QSize LineLayer::symbolSize(const DataSet& set, std::size_t row) const {
 }
 
 void LineLayer::drawSymbols(Canvas& canvas, const DataSet& set) const {
-    SymbolPainter symbols(canvas, set.symbol().resolved(set.colour()));
+    const DataSymbol symbol = set.symbol().resolved(set.colour());
+    SymbolPainter symbols(canvas, symbol);
     if (!symbols.visible())
         return;
     const bool scaled = !m_widths.empty() || !m_heights.empty();
     const QRectF plot = QRectF(m_frame.plot).adjusted(-0.5, -0.5, -0.5, -0.5);
-    const std::size_t end = std::min(rows().end, set.data().size());
-    for (std::size_t row = rows().begin; row < end; ++row) {
+    const std::size_t begin = rows().begin, end = std::min(rows().end, set.data().size());
+    const auto find = [&](std::size_t row, QPointF& centre) {
         const double x = xValue(row);
         if (!isValue(set.data()[row]) || !isValue(x))
+            return false;
+        centre = m_frame.point(x, set.data()[row]);
+        return centre.x() >= plot.left() && centre.x() <= plot.right() && centre.y() >= plot.top() &&
+               centre.y() <= plot.bottom();
+    };
+    QPointF centre;
+    if (!scaled && begin < end && SymbolCloud::pays(canvas, symbol, m_frame.plot, end - begin)) {
+        SymbolCloud cloud(canvas, symbol, m_frame.plot);
+        for (std::size_t row = end; row-- > begin;)
+            if (find(row, centre))
+                cloud.drawBehind(centre);
+        cloud.finish();
+        return;
+    }
+    for (std::size_t row = begin; row < end; ++row) {
+        if (!find(row, centre))
             continue;
-        const QPointF centre = m_frame.point(x, set.data()[row]);
-        if (centre.x() >= plot.left() && centre.x() <= plot.right() && centre.y() >= plot.top() &&
-            centre.y() <= plot.bottom()) {
-            if (scaled)
-                symbols.draw(centre, symbolSize(set, row));
-            else
-                symbols.draw(centre);
-        }
+        if (scaled)
+            symbols.draw(centre, symbolSize(set, row));
+        else
+            symbols.draw(centre);
     }
 }
 

@@ -59,6 +59,41 @@ TEST(LineLayer, IsNotCutInHalfAtTheFrameButEndsThere) {
     EXPECT_EQ(pictures::inked(image.copy(0, 0, 400, 26), kWhite), 0);
 }
 
+TEST(LineLayer, DenseCloudsLookAsIfAllSymbolsWereDrawn) {
+    std::vector<double> x(60000), y(60000);
+    unsigned noise = 1;
+    const auto next = [&noise] {
+        return static_cast<double>((noise = noise * 1664525u + 1013904223u) >> 16) / 65536;
+    };
+    for (std::size_t i = 0; i < x.size(); ++i) {
+        x[i] = std::sqrt(next()) * 100; // dense on one side
+        y[i] = next() * 100;
+    }
+    for (const int symbol : {CHART_SQUARE_SYMBOL, CHART_CIRCLE_SYMBOL, CHART_CROSS_SYMBOL}) {
+        for (const unsigned colour : {0x4479bbu, 0x804479bbu, 0xe04479bbu}) {
+            const auto drawn = [&](int layers) {
+                Chart chart;
+                CAxis_setLinearScale(CXYChart_xAxis(chart.xy), -5, 105, 0, 0);
+                const int count = size(x) / layers;
+                for (int i = 0; i < layers; ++i)
+                    CXYChart_addScatterLayer(chart.xy, x.data() + i * count, count, y.data() + i * count,
+                                             count, nullptr, symbol, 9, static_cast<int>(colour), kNone);
+                return chart.picture();
+            };
+            const QImage all = drawn(1), inParts = drawn(20);
+            int most = 0;
+            for (int row = 0; row < all.height(); ++row) {
+                for (int column = 0; column < all.width(); ++column) {
+                    const QRgb a = all.pixel(column, row), b = inParts.pixel(column, row);
+                    most = std::max({most, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                                     std::abs(qBlue(a) - qBlue(b))});
+                }
+            }
+            EXPECT_LE(most, 12) << "more than rounding: " << symbol << ", " << std::hex << colour;
+        }
+    }
+}
+
 TEST(LineLayer, StepsKeepTheValueUntilTheNextRow) {
     Chart chart;
     const double data[] = {10, 40, 40};
