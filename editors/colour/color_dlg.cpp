@@ -2,11 +2,12 @@
 
 #include "editors/colour/color_message.h"
 #include "editors/colour/color_text.h"
+#include "editors/framework/editor_frame.h"
 #include "editors/framework/mnemonics.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/quiet_combo.h"
 
-#include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QStackedWidget>
 
@@ -30,11 +31,11 @@ CColorDlg::CColorDlg()
         ShowPage();
         ComposeColor();
     });
-    LayOut();
+    NameParts();
     connect(this, &QDialog::accepted, this, [this] { CRecentColorCtrl::Remember(m_color); });
 }
 
-void CColorDlg::LayOut() {
+void CColorDlg::NameParts() {
     for (CDialog* page : {static_cast<CDialog*>(&m_general), static_cast<CDialog*>(&m_pattern),
                           static_cast<CDialog*>(&m_metal)}) {
         page->Create(m_pages);
@@ -52,7 +53,9 @@ void CColorDlg::LayOut() {
     }
     m_before->viewport()->installEventFilter(this);
     m_before->viewport()->setCursor(Qt::PointingHandCursor);
+}
 
+QLayout* CColorDlg::LayOut() {
     auto* type = new QLabel(QStringLiteral("&Type:"), this);
     type->setBuddy(m_type);
     auto* custom = new QLabel(QStringLiteral("&Custom:"), this);
@@ -73,11 +76,10 @@ void CColorDlg::LayOut() {
     left->addWidget(m_custom, 1);
     left->addWidget(recent);
     left->addWidget(m_recent);
-    auto* grid = new QGridLayout(this);
-    grid->addLayout(left, 0, 0);
-    grid->addWidget(m_pages, 0, 1);
-    grid->addWidget(MakeOkCancel(), 1, 0, 1, 2);
-    grid->setColumnStretch(1, 1);
+    auto* columns = new QHBoxLayout;
+    columns->addLayout(left);
+    columns->addWidget(m_pages, 1);
+    return columns;
 }
 
 bool CColorDlg::OnInitDialog() {
@@ -86,6 +88,9 @@ bool CColorDlg::OnInitDialog() {
     m_before->viewport()->setToolTip(QStringLiteral("Before: ") + ColorText(m_old));
     m_before->setAccessibleName(m_before->viewport()->toolTip());
     Take(m_color);
+    if (m_body == nullptr)
+        m_body = LayOut();
+    OpenEditor(*this, {.body = m_body});
     AssignMnemonics(*this);
     return CDialog::OnInitDialog();
 }

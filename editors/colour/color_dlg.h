@@ -9,6 +9,7 @@
 
 class CChartPreviewView;
 class QComboBox;
+class QLayout;
 class QLineEdit;
 class QStackedWidget;
 
@@ -44,7 +45,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void LayOut();
+    void NameParts();
+    QLayout* LayOut();
     /// Shows a colour everywhere, its type and its page included.
     void Take(const CChartColor& color);
     void ShowPage();
@@ -61,5 +63,6 @@ private:
     CColorGeneralPage m_general;
     CColorPatternPage m_pattern;
     CColorMetalPage m_metal;
-    CChartColor m_old; ///< what the dialog opened with
+    QLayout* m_body = nullptr; ///< all but the buttons; the dialog's, once it is opened
+    CChartColor m_old;         ///< what the dialog opened with
 };

@@ -23,6 +23,7 @@ CColorPatternPage::CColorPatternPage(QWidget* owner) : m_owner(owner), m_edit(ne
     connect(choose, &QPushButton::clicked, this, [this] { Choose(); });
     auto* add = new QPushButton(QStringLiteral("A&dd to Custom"), this);
     add->setObjectName(QStringLiteral("AddToCustom"));
+    add->setAccessibleName(QStringLiteral("Add to Custom"));
     add->setAutoDefault(false);
     connect(add, &QPushButton::clicked, this, [this] {
         UpdateData(false);
@@ -35,8 +36,8 @@ CColorPatternPage::CColorPatternPage(QWidget* owner) : m_owner(owner), m_edit(ne
     grid->addWidget(image, 1, 0);
     grid->addWidget(m_edit, 1, 1);
     grid->addWidget(choose, 1, 2);
-    grid->setRowStretch(2, 1);
-    grid->addWidget(add, 3, 0, 1, 3, Qt::AlignRight);
+    grid->addWidget(add, 2, 0, 1, 3);
+    grid->setRowStretch(3, 1);
 }
 
 void CColorPatternPage::SetPath(const CChartString& path) {

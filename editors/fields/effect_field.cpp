@@ -34,8 +34,12 @@ Row RowOf(const CChartRaisedEffect& effect) {
 CRaisedEffectField::CRaisedEffectField() : m_form(*this, [this] { ApplyControls(); }) {
     m_form.Combo("Type:", m_type,
                  {"Flat", "Raised", "Depressed", "SoftLighting", "NormalGlare", "ReduceGlare"});
-    m_directionRow = &m_form.Side("Direction:", m_side);
-    m_sizeRow = &m_form.Integer("Size:", m_size).Unsigned().FloorOfPresses(0).Regardless();
+    m_directionRow = &m_form.Side("Direction:", m_side).Tip("The side that the light comes from");
+    m_sizeRow = &m_form.Integer("Size:", m_size)
+                     .Unsigned()
+                     .FloorOfPresses(0)
+                     .Regardless()
+                     .Tip("Pixels of the rim; 0 automatic for light and glare");
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Fixed);
     m_form.Layout()->setContentsMargins(0, 0, 0, 0);
 }

@@ -1,12 +1,13 @@
 #include "editors/fields/scale_rows.h"
 
+#include "editors/colour/swatch.h"
 #include "editors/fields/color_field.h"
 #include "editors/fields/font_field.h"
 #include "editors/fields/look_rows.h"
 #include "resources/string_table.h"
 
 void LabelStyleRows(CForm& form, bool& use, CMeterLabelStyle& style) {
-    form.Check("Use LabelStyle", use).Unvalidated();
+    form.Check("Use LabelStyle", use).Unvalidated().Tip(tip::kUseLook);
     form.Group("Font:");
     form.Field<CChartFontField>(nullptr, style.m_font);
     form.Field<CChartColorField>("FontColor:", style.m_fontColor);
@@ -21,8 +22,9 @@ void LabelStyleRows(CForm& form, bool& use, CMeterLabelStyle& style) {
 void AngularZoneRows(CForm& form, CMeterZoneAngulars& zones, int caption) {
     auto& list = form.List(zones, LoadChartString(caption), LoadChartString(ChartText::SelectZone));
     form.Column();
-    form.Real("StartValue:", list[&CMeterZoneAngular::m_startValue]).Step(10);
-    form.Real("EndValue:", list[&CMeterZoneAngular::m_endValue]).Step(10);
-    form.Field<CChartColorField>("FillColor:", list[&CMeterZoneAngular::m_fillColor]).OnlyWithItem();
+    form.Real("StartValue:", list[&CMeterZoneAngular::m_startValue]).Step(10).Tip(tip::kZoneStart);
+    form.Real("EndValue:", list[&CMeterZoneAngular::m_endValue]).Step(10).Tip(tip::kZoneEnd);
+    form.Field<CChartColorField>("FillColor:", list.Swatch(&CMeterZoneAngular::m_fillColor, RowSwatch))
+        .OnlyWithItem();
     form.Field<CChartColorField>("EdgeColor:", list[&CMeterZoneAngular::m_edgeColor]).OnlyWithItem();
 }

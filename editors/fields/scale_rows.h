@@ -1,6 +1,7 @@
 #pragma once
 // What the editors of meters and of polar charts share: the looks of a scale's labels, and its zones.
 
+#include "editors/fields/tips.h"
 #include "editors/framework/form.h"
 
 #include <charteditors/meters.h>
@@ -15,6 +16,6 @@ void AngularZoneRows(CForm& form, CMeterZoneAngulars& zones, int caption);
 template <class Style>
 void AngleRows(CForm& form, Style& style) {
     form.Group("Angle:");
-    form.Real(nullptr, style.m_angle).Step(10);
-    form.Check("Vertical", style.m_vertical).Unvalidated();
+    form.Real(nullptr, style.m_angle).Step(10).Tip(tip::kTurned);
+    form.Check("Vertical", style.m_vertical).Unvalidated().Tip(tip::kStacked);
 }

@@ -1,6 +1,7 @@
 #include "editors/font/font_dlg.h"
 
 #include "editors/font/font_catalogue.h"
+#include "editors/framework/editor_frame.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/narrow_text.h"
 #include "platform/rounding.h"
@@ -65,7 +66,7 @@ CFontDlg::CFontDlg()
     : CDialog(QStringLiteral("Select Font")), m_preview(new CChartPreviewView(this)),
       m_faceEdit(new QLineEdit(this)), m_faces(new QListWidget(this)), m_sizeEdit(new QLineEdit(this)),
       m_sizes(new QListWidget(this)) {
-    LayOut();
+    NameParts();
     const auto takeFace = [this] { TakeFace(); };
     const auto takeSize = [this] { TakeSize(); };
     connect(m_faces, &QListWidget::itemSelectionChanged, this, takeFace);
@@ -81,7 +82,7 @@ CFontDlg::CFontDlg()
     m_sizeEdit->installEventFilter(this);
 }
 
-void CFontDlg::LayOut() {
+void CFontDlg::NameParts() {
     Name(*m_faceEdit, "Font");
     Name(*m_faces, "Fonts");
     Name(*m_sizeEdit, "Size");
@@ -95,19 +96,24 @@ void CFontDlg::LayOut() {
     m_sizes->setFixedWidth(letter * 12);
     m_sizeEdit->setFixedWidth(letter * 12);
     m_preview->setFixedHeight(line * 6);
+}
 
-    auto* grid = new QGridLayout(this);
+QLayout* CFontDlg::LayOut() {
+    auto* grid = new QGridLayout;
     grid->addLayout(Column(new QLabel(QStringLiteral("&Font:"), this), m_faceEdit, m_faces), 0, 0);
     grid->addLayout(Column(new QLabel(QStringLiteral("&Size:"), this), m_sizeEdit, m_sizes), 0, 1);
     grid->addWidget(new QLabel(QStringLiteral("Sample:"), this), 1, 0, 1, 2);
     grid->addWidget(m_preview, 2, 0, 1, 2);
-    grid->addWidget(MakeOkCancel(), 3, 0, 1, 2);
+    return grid;
 }
 
 bool CFontDlg::OnInitDialog() {
     m_faceText = platform::NarrowToText(m_font.m_faceName.data());
     m_size = m_font.m_size;
     FillLists();
+    if (m_body == nullptr)
+        m_body = LayOut();
+    OpenEditor(*this, {.body = m_body});
     const bool good = CDialog::OnInitDialog();
     SelectFaceByPrefix();
     return good;

@@ -6,6 +6,7 @@
 #include <charteditors/chart_font.h>
 
 class CChartPreviewView;
+class QLayout;
 class QLineEdit;
 class QListWidget;
 
@@ -23,7 +24,8 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
-    void LayOut();
+    void NameParts();
+    QLayout* LayOut();
     void FillLists();
     /// Reads and validates; on failure puts the last good values back.
     bool UpdateDataSafe(bool pressed = false);
@@ -38,6 +40,7 @@ private:
     QListWidget* m_faces;
     QLineEdit* m_sizeEdit;
     QListWidget* m_sizes;
+    QLayout* m_body = nullptr; ///< all but the buttons; the dialog's, once it is opened
     QString m_faceText;
     double m_size = 0; ///< points
 };

@@ -133,13 +133,25 @@ void LayOut(CDialog& dialog, const CEditorParts& parts) {
     dialog.SetResizable();
 }
 
+/// Lets every layout know the sizes of what stands in it, from the inside out. Those of what does not show yet
+/// would else keep what they knew at first.
+void ActivateLayouts(QWidget& widget) {
+    for (QObject* child : widget.children())
+        if (auto* inner = qobject_cast<QWidget*>(child))
+            ActivateLayouts(*inner);
+    if (widget.layout() != nullptr) {
+        widget.layout()->invalidate();
+        widget.layout()->activate();
+    }
+}
+
 /// The size of `dialog` with all in it at its natural size, and the preview as the left third.
 QSize NaturalSize(CDialog& dialog, const CEditorParts& parts, bool low) {
+    ActivateLayouts(dialog);
     for (QWidget* room : dialog.findChildren<QWidget*>())
         if (auto* scrolls = dynamic_cast<CScrollRoom*>(room))
             scrolls->Measure(low);
-    dialog.layout()->invalidate();
-    dialog.layout()->activate();
+    ActivateLayouts(dialog);
     const auto sizeOf = [](const auto* item) { return item != nullptr ? item->sizeHint() : QSize(0, 0); };
     const QLayout* sides = dialog.layout()->itemAt(0)->layout();
     QSize editing(0, 0);

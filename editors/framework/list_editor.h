@@ -105,10 +105,7 @@ public:
         m_swatch = draw;
         return Bind<Item>([](Item& item) -> Item& { return item; }, [this] { RefreshSwatch(); });
     }
-    /// A field and a text, for containers of plain values.
-    CBinding<Item> Whole() {
-        return Bind<Item>([](Item& item) -> Item& { return item; });
-    }
+    /// The text that stands in the captions, for containers of texts.
     CBinding<Item> Caption() {
         m_name = [](const Item& item) { return ValueAs<QString>(item); };
         return Bind<Item>([](Item& item) -> Item& { return item; }, [this] { RefreshCaption(); });

@@ -36,9 +36,11 @@ public:
         m_step = step;
         return this->Me();
     }
-    /// As for every row; the range is added, so it is said first.
+    /// As for every row; the range, which is said first, is added in front of a semicolon.
     Self& Tip(const char* tip) {
-        this->SetTip(QString::fromUtf8(tip) + RangeText());
+        const QString text = QString::fromUtf8(tip);
+        const QString meaning = text.section(u';', 0, 0);
+        this->SetTip(meaning + RangeText() + text.sliced(meaning.size()));
         return this->Me();
     }
     Self& Floor(T floor) { return Range(floor, std::numeric_limits<T>::max()); }

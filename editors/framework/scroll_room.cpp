@@ -34,6 +34,19 @@ void CScrollRoom::Measure(bool low) {
     updateGeometry();
 }
 
+/// A bar that a page got while it did not show and was small stays, empty, when it shows at its size. So
+/// where there is room for all, there is none.
+void CScrollRoom::resizeEvent(QResizeEvent* event) {
+    const QSize least = widget()->minimumSize();
+    const QSize bars(verticalScrollBar()->sizeHint().width(), horizontalScrollBar()->sizeHint().height());
+    const auto policy = [](bool needed) { return needed ? Qt::ScrollBarAsNeeded : Qt::ScrollBarAlwaysOff; };
+    const bool low = least.height() > height() - (least.width() > width() ? bars.height() : 0);
+    const bool narrow = least.width() > width() - (low ? bars.width() : 0);
+    setVerticalScrollBarPolicy(policy(low));
+    setHorizontalScrollBarPolicy(policy(narrow));
+    QScrollArea::resizeEvent(event);
+}
+
 QSize CScrollRoom::sizeHint() const {
     const QSize natural = widget()->sizeHint();
     return natural + QSize(m_low ? verticalScrollBar()->sizeHint().width() : 0, 0);

@@ -4,6 +4,7 @@
 #include "editors/fields/font_field.h"
 #include "editors/fields/image_field.h"
 #include "editors/fields/look_rows.h"
+#include "editors/fields/tips.h"
 #include "resources/string_table.h"
 
 namespace {
@@ -43,19 +44,17 @@ CLayoutTitlePage::CLayoutTitlePage(CChartLayout& layout, QWidget& owner) : m_for
     m_form.Alignment("Alignment:", titles[&CChartTitle::m_alignment]);
     m_form.Lines("Title:", titles.Caption(&CChartTitle::m_text));
     m_form.Group("Angle:");
-    m_form.Check("Vertical", titles[&CChartTitle::m_vertical])
-        .Unvalidated()
-        .Tip("Letters stacked from top to bottom");
+    m_form.Check("Vertical", titles[&CChartTitle::m_vertical]).Unvalidated().Tip(tip::kStacked);
     m_form.Part();
-    m_form.Real(nullptr, titles[&CChartTitle::m_angle]).Step(10).Tip("Degrees counter-clockwise");
+    m_form.Real(nullptr, titles[&CChartTitle::m_angle]).Step(10).Tip(tip::kTurned);
     m_form.Column();
     m_form.Group("Position:");
     m_form.Check("Use Position", titles[&CChartTitle::m_usePosition])
         .Unvalidated()
         .Tip("Places the title by X and Y; without, by \"Alignment:\"");
     m_form.Part();
-    m_form.Integer("X:", titles[&CChartTitle::m_x]).Step(10).Tip("Pixels from the left");
-    m_form.Integer("Y:", titles[&CChartTitle::m_y]).Step(10).Tip("Pixels from the top");
+    m_form.Integer("X:", titles[&CChartTitle::m_x]).Step(10).Tip(tip::kFromLeft);
+    m_form.Integer("Y:", titles[&CChartTitle::m_y]).Step(10).Tip(tip::kFromTop);
     LookRows(m_form, LookOf(titles));
 }
 
@@ -64,9 +63,9 @@ CLayoutLabelPage::CLayoutLabelPage(CChartLayout& layout, QWidget& owner) : m_for
     CTextRow& label = m_form.Lines("Label:", layout.m_labelFormat);
     DataFormats(m_form).For(label);
     m_form.Group("Angle:");
-    m_form.Real(nullptr, layout.m_labelAngle).Step(10).Tip("Degrees counter-clockwise");
+    m_form.Real(nullptr, layout.m_labelAngle).Step(10).Tip(tip::kTurned);
     m_form.Part();
-    m_form.Check("Vertical", layout.m_labelVertical).Unvalidated().Tip("Letters stacked from top to bottom");
+    m_form.Check("Vertical", layout.m_labelVertical).Unvalidated().Tip(tip::kStacked);
     m_form.Column();
     LookRows(m_form, {layout.m_labelFont, layout.m_labelFontColor, layout.m_labelBackColor,
                       layout.m_labelEdgeColor, layout.m_labelEffect});
@@ -78,8 +77,8 @@ CLayoutLegendPage::CLayoutLegendPage(CChartLayout& layout, QWidget& owner) : m_f
     formats.For(m_form.Lines("Label:", layout.m_legendFormat));
     m_form.Check("Vertical", layout.m_legendVertical).Unvalidated().Tip("Keys below each other");
     m_form.Group("Position:");
-    m_form.Integer("X:", layout.m_legendX).Step(10).Tip("Pixels from the left");
-    m_form.Integer("Y:", layout.m_legendY).Step(10).Tip("Pixels from the top");
+    m_form.Integer("X:", layout.m_legendX).Step(10).Tip(tip::kFromLeft);
+    m_form.Integer("Y:", layout.m_legendY).Step(10).Tip(tip::kFromTop);
     m_form.Column();
     LookRows(m_form, {layout.m_legendFont, layout.m_legendFontColor, layout.m_legendBackColor,
                       layout.m_legendEdgeColor, layout.m_legendEffect});

@@ -2,6 +2,7 @@
 
 #include "editors/colour/swatch.h"
 #include "editors/fields/color_field.h"
+#include "editors/fields/tips.h"
 #include "editors/framework/conventions.h"
 #include "editors/framework/editor_frame.h"
 #include "resources/string_table.h"
@@ -14,10 +15,6 @@ CPieChartSector NewSector() {
     CPieChartSector sector;
     sector.m_color = RandomChartColor();
     return sector;
-}
-
-QImage SwatchOf(const CChartColor& color, QSize size) {
-    return MakeSwatch(color, size, 1);
 }
 
 } // namespace
@@ -38,7 +35,7 @@ void CPieChartDlg::TableOfChart(CPieChart& chart) {
     m_form.Group("3D:");
     m_form.Check("Show 3D", chart.m_show3D);
     CCheckRow& shadow = m_form.Check("Shadow3D", chart.m_shadow3D);
-    m_form.Integer("Depth:", chart.m_depth3D).Step(1).Floor(0).DigitsOnly().Tip("Pixels");
+    m_form.Integer("Depth:", chart.m_depth3D).Step(1).Floor(0).DigitsOnly().Tip(tip::kPixels);
     CRealRow& angle = m_form.Real("Angle:", chart.m_angle3D).Step(10).LimitedBy([&chart](double degrees) {
         return chart.m_shadow3D ? degrees : std::clamp(degrees, 0.0, 90.0);
     });
@@ -52,7 +49,7 @@ void CPieChartDlg::TableOfChart(CPieChart& chart) {
     m_form.Column();
     m_form.Group("StartAngle:");
     m_form.Check("ClockWise", chart.m_clockWise);
-    m_form.Real("StartAngle:", chart.m_startAngle).Step(10).Tip("Degrees clockwise from straight up");
+    m_form.Real("StartAngle:", chart.m_startAngle).Step(10).Tip(tip::kClockwise);
     m_form.Group("Donut:");
     m_form.Check("Use DonutType", chart.m_useDonut);
     m_form.Integer("Inner R(%):", chart.m_donutInnerRadius)
@@ -86,6 +83,6 @@ void CPieChartDlg::TableOfSectors(CPieChart& chart) {
         .Step(10)
         .Floor(0)
         .DigitsOnly()
-        .Tip("Pixels");
-    m_form.Field<CChartColorField>("Color:", sectors.Swatch(&CPieChartSector::m_color, SwatchOf));
+        .Tip(tip::kPixels);
+    m_form.Field<CChartColorField>("Color:", sectors.Swatch(&CPieChartSector::m_color, RowSwatch));
 }

@@ -1,6 +1,7 @@
 #include "editors/polar/polar_layer_dlg.h"
 
 #include "editors/fields/color_field.h"
+#include "editors/fields/tips.h"
 #include "editors/framework/editor_frame.h"
 #include "resources/string_table.h"
 
@@ -36,8 +37,13 @@ void CPolarLayerDlg::LineRows() {
     const auto isLine = [this] { return CurrentLine() != nullptr; };
     m_form.Text("Name:", m_current[&CPolarLayer::m_name]);
     m_form.Field<CChartColorField>("Color:", m_current[&CPolarLayer::m_color]);
-    m_form.Integer("LineWidth:", m_currentLine[&CPolarLineLayer::m_lineWidth]).Floor(0).EnabledIf(isLine);
-    m_form.Check("Close Loop", m_currentLine[&CPolarLineLayer::m_closeLoop]).EnabledIf(isLine);
+    m_form.Integer("LineWidth:", m_currentLine[&CPolarLineLayer::m_lineWidth])
+        .Floor(0)
+        .EnabledIf(isLine)
+        .Tip("Pixels; 0 draws symbols alone");
+    m_form.Check("Close Loop", m_currentLine[&CPolarLineLayer::m_closeLoop])
+        .EnabledIf(isLine)
+        .Tip("Joins the last point to the first");
 }
 
 void CPolarLayerDlg::SymbolRows() {
@@ -47,8 +53,9 @@ void CPolarLayerDlg::SymbolRows() {
                   "LeftTriangleShape", "InvertedTriangleShape", "CircleShape", "CircleShapeNoShading"});
     m_form.Field<CChartColorField>("Fill Color:", m_current[&CPolarLayer::m_fillColor]);
     m_form.Field<CChartColorField>("Edge Color:", m_current[&CPolarLayer::m_edgeColor]);
-    m_form.Check("Use SymbolScale", m_current[&CPolarLayer::m_useSymbolScale]);
-    m_form.Integer("Size:", m_current[&CPolarLayer::m_symbolSize]).Floor(0);
+    m_form.Check("Use SymbolScale", m_current[&CPolarLayer::m_useSymbolScale])
+        .Tip("Symbols as large as a value of their own");
+    m_form.Integer("Size:", m_current[&CPolarLayer::m_symbolSize]).Floor(0).Tip(tip::kPixels);
 }
 
 void CPolarLayerDlg::LoadLayer(CPolarLayer& layer) {

@@ -3,6 +3,7 @@
 #include "editors/fields/color_field.h"
 #include "editors/fields/look_rows.h"
 #include "editors/fields/scale_rows.h"
+#include "editors/fields/tips.h"
 #include "editors/framework/layer_list.h"
 #include "editors/polar/polar_layer_dlg.h"
 #include "resources/string_table.h"
@@ -18,39 +19,42 @@ CPolarGeneralPage::CPolarGeneralPage(CPolarChart& chart, const CChartLayout& lay
 
 void CPolarGeneralPage::ScaleRows() {
     m_form.Group("Style:");
-    m_form.Check("PolygonGrid", m_chart.m_polygonGrid);
+    m_form.Check("PolygonGrid", m_chart.m_polygonGrid)
+        .Tip("Straight lines from spoke to spoke instead of circles");
     m_form.Part();
-    m_form.Check("Grid On Top", m_chart.m_gridOnTop);
+    m_form.Check("Grid On Top", m_chart.m_gridOnTop).Tip("The grid lies over the layers");
     m_form.Group("AngularAxis:");
-    m_form.Check("Use LinearScale", m_chart.m_useLinearScale);
-    m_form.Real("LowerLimit:", m_chart.m_lowerLimit).Step(10);
-    m_form.Real("UpperLimit:", m_chart.m_upperLimit).Step(10);
+    m_form.Check("Use LinearScale", m_chart.m_useLinearScale)
+        .Tip("Numbers round the circle, clockwise from the top");
+    m_form.Real("LowerLimit:", m_chart.m_lowerLimit).Step(10).Tip(tip::kScaleStart);
+    m_form.Real("UpperLimit:", m_chart.m_upperLimit).Step(10).Tip(tip::kScaleEnd);
     m_form.Part();
-    m_form.Real("MajorTickInc:", m_chart.m_majorTickInc).Step(10);
-    m_form.Real("MinorTickInc:", m_chart.m_minorTickInc).Step(5);
+    m_form.Real("MajorTickInc:", m_chart.m_majorTickInc).Step(10).Tip(tip::kMajorTicks);
+    m_form.Real("MinorTickInc:", m_chart.m_minorTickInc).Step(5).Tip(tip::kMinorTicks);
     m_form.EndGroup();
     m_form.Field<CChartColorField>("BackColor:", m_chart.m_backColor);
 }
 
 void CPolarGeneralPage::BackgroundRows() {
     m_form.Group("AltBgColor:");
-    m_form.Check("Use AltBgColor", m_chart.m_useAltBgColor);
+    m_form.Check("Use AltBgColor", m_chart.m_useAltBgColor).Tip("Color1 and Color2 by turns");
     m_form.Field<CChartColorField>("Color1:", m_chart.m_bgColor1);
     m_form.Field<CChartColorField>("Color2:", m_chart.m_bgColor2);
     m_form.Part();
-    m_form.Radio(m_chart.m_altBgRing, {{"Ring", 1}, {"Sector", 0}});
+    m_form.Radio(m_chart.m_altBgRing, {{"Ring", 1}, {"Sector", 0}})
+        .Tip("Whether rings or sectors have the two colors by turns");
     m_form.Group("Edge:");
-    m_form.Integer("Width:", m_chart.m_edgeWidth).Floor(0);
+    m_form.Integer("Width:", m_chart.m_edgeWidth).Floor(0).Tip(tip::kLineWidth);
     m_form.Part();
     m_form.Field<CChartColorField>("Color:", m_chart.m_edgeColor);
 }
 
 void CPolarGeneralPage::GridRows() {
     m_form.Group("RadialGrid:");
-    m_form.Integer("Width:", m_chart.m_radialGridWidth).Floor(0);
+    m_form.Integer("Width:", m_chart.m_radialGridWidth).Floor(0).Tip(tip::kLineWidth);
     m_form.Field<CChartColorField>("Color:", m_chart.m_radialGridColor);
     m_form.Group("AngularGrid:");
-    m_form.Integer("Width:", m_chart.m_angularGridWidth).Floor(0);
+    m_form.Integer("Width:", m_chart.m_angularGridWidth).Floor(0).Tip(tip::kLineWidth);
     m_form.Field<CChartColorField>("Color:", m_chart.m_angularGridColor);
 }
 
@@ -78,7 +82,7 @@ CPolarAngularLabelPage::CPolarAngularLabelPage(CPolarChart& chart, QWidget& owne
                                LoadChartString(ChartText::SelectItem));
     m_form.Lines("Text:", labels.Caption());
     CPolarLabelStyleAngular& style = chart.m_angularLabelStyle;
-    m_form.Check("Use LabelStyle", chart.m_useAngularLabelStyle).Unvalidated();
+    m_form.Check("Use LabelStyle", chart.m_useAngularLabelStyle).Unvalidated().Tip(tip::kUseLook);
     m_form.Alignment("Alignment:", style.m_alignment);
     m_form.Column();
     AngleRows(m_form, style);

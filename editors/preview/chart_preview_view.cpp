@@ -103,6 +103,17 @@ void CChartPreviewView::paintEvent(QPaintEvent* event) {
     for (const QRect& rest : event->region() - place.adjusted(1, 1, -1, -1))
         painter.fillRect(rest, QColor(kSurround));
     PaintPicture(painter, place, event->rect());
+    if (m_marked)
+        PaintFocus(painter);
+}
+
+/// To be seen on any picture.
+void CChartPreviewView::PaintFocus(QPainter& painter) const {
+    const QRect mark = viewport()->rect().adjusted(1, 1, -2, -2);
+    painter.setPen(Qt::white);
+    painter.drawRect(mark);
+    painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
+    painter.drawRect(mark);
 }
 
 /// Where the picture is, in the pane's pixels.
@@ -180,7 +191,10 @@ void CChartPreviewView::resizeEvent(QResizeEvent*) {
 }
 
 void CChartPreviewView::scrollContentsBy(int dx, int dy) {
-    viewport()->scroll(dx, dy);
+    if (m_marked)
+        viewport()->update(); // the mark stays where it is
+    else
+        viewport()->scroll(dx, dy);
 }
 
 void CChartPreviewView::SetFitMode(bool fit) {
@@ -220,8 +234,26 @@ void CChartPreviewView::UpdateCursor() {
         viewport()->setCursor(m_dragging ? ClosedHandCursor() : OpenHandCursor());
 }
 
+void CChartPreviewView::focusInEvent(QFocusEvent* event) {
+    const Qt::FocusReason reason = event->reason();
+    if (reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason)
+        SetMarked(true);
+}
+
+void CChartPreviewView::focusOutEvent(QFocusEvent* event) {
+    // To its own menu, or to another window, it is not gone.
+    if (event->reason() != Qt::PopupFocusReason && event->reason() != Qt::ActiveWindowFocusReason)
+        SetMarked(false);
+}
+
+void CChartPreviewView::SetMarked(bool marked) {
+    m_marked = marked;
+    viewport()->update();
+}
+
 void CChartPreviewView::mousePressEvent(QMouseEvent* event) {
     setFocus(Qt::MouseFocusReason);
+    SetMarked(false);
     if (event->button() == Qt::RightButton && CanSwitchMode())
         PopUpMenu(event->globalPosition().toPoint());
     if (event->button() != Qt::LeftButton || m_fitMode)

@@ -57,6 +57,8 @@ protected:
     void paintEvent(QPaintEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void scrollContentsBy(int dx, int dy) override;
+    void focusInEvent(QFocusEvent* event) override;
+    void focusOutEvent(QFocusEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -73,6 +75,8 @@ private:
     void RunDrawRoutine(double scale);
     QRect PicturePlace() const;
     void PaintPicture(QPainter& painter, const QRect& place, const QRect& clip) const;
+    void PaintFocus(QPainter& painter) const;
+    void SetMarked(bool marked);
     void SetFitMode(bool fit);
     void TakeScrollSizes();
     void UpdateScrollBars();
@@ -82,6 +86,7 @@ private:
 
     double m_scale = 1;       // pixels of the screen to one of the chart, in the picture that is there
     QSize m_scrollSize{0, 0}; // what the bars scroll over
+    bool m_marked = false;    // shows that it has the focus, which came by the keyboard
     bool m_dragging = false;
     QPoint m_dragStart;  // pointer at the start of the drag
     QPoint m_dragScroll; // scroll position at the start of the drag

@@ -1,4 +1,5 @@
 #include "editors/fields/color_field.h"
+#include "editors/fields/tips.h"
 #include "editors/framework/list_editor.h"
 #include "editors/xy/axis_dlg.h"
 #include "resources/string_table.h"
@@ -12,6 +13,7 @@ namespace {
 
 constexpr int kNoScale = 0;
 constexpr double kSecondsOfDay = 86400;
+constexpr char kFollowed[] = "The axis that this one follows, while its scale type is \"None\"";
 
 /// Chart time, in which the model holds a day, as a date.
 CBinding<QDate> Day(double& time) {
@@ -44,6 +46,7 @@ CBinding<std::int32_t> Days(double& seconds) {
 CAxisScalePage::CAxisScalePage(CAxisDlg& dialog) : m_form(*this, dialog) {
     CXYChartAxis& axis = dialog.m_axis;
     m_form.Combo("Scale Type:", axis.m_scaleType, {"None", "Auto Scale", "Linear Scale", "Date Scale"})
+        .Tip("\"None\": as the chart has it, or as the axis that this one follows")
         .Then([&dialog] { dialog.ScaleTypeChosen(); });
     m_form.Band();
     ScaleGroups(axis);
@@ -52,20 +55,35 @@ CAxisScalePage::CAxisScalePage(CAxisDlg& dialog) : m_form(*this, dialog) {
 
 void CAxisScalePage::ScaleGroups(CXYChartAxis& axis) {
     m_form.Group("Auto Scale:");
-    m_form.Real("Top Extension:", axis.m_topExtension).Step(0.1).Range(0, 1);
-    m_form.Real("Bottom Extension:", axis.m_bottomExtension).Step(0.1).Range(0, 1);
-    m_form.Real("Zero Affinity:", axis.m_zeroAffinity).Step(0.1).Range(0, 1);
+    m_form.Real("Top Extension:", axis.m_topExtension)
+        .Step(0.1)
+        .Range(0, 1)
+        .Tip("Part of the range left free above the data");
+    m_form.Real("Bottom Extension:", axis.m_bottomExtension)
+        .Step(0.1)
+        .Range(0, 1)
+        .Tip("Part of the range left free below the data");
+    m_form.Real("Zero Affinity:", axis.m_zeroAffinity)
+        .Step(0.1)
+        .Range(0, 1)
+        .Tip("How far 0 may be from the data for the scale to start there; 1 always");
     m_form.Group("Linear Scale:");
-    m_form.Real("Lower Limit:", axis.m_lowerLimit);
-    m_form.Real("Upper Limit:", axis.m_upperLimit).Unrounded();
-    m_form.Real("Major Tick Inc:", axis.m_majorTickInc);
-    m_form.Real("Minor Tick Inc:", axis.m_minorTickInc);
+    m_form.Real("Lower Limit:", axis.m_lowerLimit).Tip(tip::kScaleStart);
+    m_form.Real("Upper Limit:", axis.m_upperLimit).Unrounded().Tip(tip::kScaleEnd);
+    m_form.Real("Major Tick Inc:", axis.m_majorTickInc).Tip(tip::kMajorTicks);
+    m_form.Real("Minor Tick Inc:", axis.m_minorTickInc).Tip(tip::kMinorTicks);
     m_form.Column();
     m_form.Group("Date Scale:");
-    m_form.Date("Lower Limit:", Day(axis.m_dateLowerLimit));
-    m_form.Date("Upper Limit:", Day(axis.m_dateUpperLimit));
-    m_form.Integer("Major Tick Inc:", Days(axis.m_dateMajorTickInc)).DigitsOnly().Unit("(days)");
-    m_form.Integer("Minor Tick Inc:", Days(axis.m_dateMinorTickInc)).DigitsOnly().Unit("(days)");
+    m_form.Date("Lower Limit:", Day(axis.m_dateLowerLimit)).Tip("The day at the start of the scale");
+    m_form.Date("Upper Limit:", Day(axis.m_dateUpperLimit)).Tip("The day at the end of the scale");
+    m_form.Integer("Major Tick Inc:", Days(axis.m_dateMajorTickInc))
+        .DigitsOnly()
+        .Unit("(days)")
+        .Tip(tip::kMajorTicks);
+    m_form.Integer("Minor Tick Inc:", Days(axis.m_dateMinorTickInc))
+        .DigitsOnly()
+        .Unit("(days)")
+        .Tip(tip::kMinorTicks);
 }
 
 void CAxisScalePage::SyncGroup(CAxisDlg& dialog) {
@@ -92,7 +110,9 @@ void CAxisScalePage::SyncGroup(CAxisDlg& dialog) {
     m_form.Group("SyncAxis:");
     const CBinding<std::int32_t> primary([&axis] { return axis.m_syncKind; },
                                          [follow](int kind) { return follow(kind, -1); }, this, showAgain);
-    m_form.Radio("Primary:", primary, {{"X", 1}, {"Y", 2}, {"X2", 4}, {"Y2", 8}}).States(stateOf);
+    m_form.Radio("Primary:", primary, {{"X", 1}, {"Y", 2}, {"X2", 4}, {"Y2", 8}})
+        .States(stateOf)
+        .Tip(kFollowed);
     const CBinding<std::int32_t> additional(
         [&dialog, &axis, follower] {
             return follower() && axis.m_syncKind == CAxisDlg::Additional ? dialog.m_syncIndex : -1;
@@ -105,6 +125,10 @@ void CAxisScalePage::SyncGroup(CAxisDlg& dialog) {
                 rows.append(RowCaption(LoadChartString(ChartText::AxisRow), i));
             return rows;
         })
-        .EnabledIf(free);
-    m_form.Real("Slope:", axis.m_syncSlope).Step(0.1).EnabledIf(free);
+        .EnabledIf(free)
+        .Tip(kFollowed);
+    m_form.Real("Slope:", axis.m_syncSlope)
+        .Step(0.1)
+        .EnabledIf(free)
+        .Tip("Units of this axis for one of the other; 0 follows none");
 }

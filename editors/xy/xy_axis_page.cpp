@@ -9,15 +9,15 @@ CXYAxisPage::CXYAxisPage(CXYChart& chart, QWidget& owner, std::function<void()> 
         if (EditFollower(axis, kind))
             m_form.Notify();
     };
-    m_form.Check("Swap XY", chart.m_swapXY);
+    m_form.Check("Swap XY", chart.m_swapXY).Tip("X runs upwards and Y to the right");
     m_form.Group("Primary:");
     m_form.Buttons({{"X Axis ...", [this] { EditPrimary(m_chart.m_xAxis, CAxisDlg::X); }},
                     {"Y Axis ...", [this] { EditPrimary(m_chart.m_yAxis, CAxisDlg::Y); }}});
     m_form.Group("Secondary X Axis (X2)");
-    m_form.Check("Use X2 Axis", chart.m_useX2Axis);
+    m_form.Check("Use X2 Axis", chart.m_useX2Axis).Tip("Shows a second X axis, at the top");
     m_form.Buttons({{"X2 Axis ...", [this, follower] { follower(m_chart.m_x2Axis, CAxisDlg::X2); }}});
     m_form.Group("Secondary Y Axis (Y2)");
-    m_form.Check("Use Y2 Axis", chart.m_useY2Axis);
+    m_form.Check("Use Y2 Axis", chart.m_useY2Axis).Tip("Shows a second Y axis, at the right");
     m_form.Buttons({{"Y2 Axis ...", [this, follower] { follower(m_chart.m_y2Axis, CAxisDlg::Y2); }}});
     m_form.Column();
     m_form.Group("Additional:");

@@ -53,8 +53,8 @@ bool CXYLayerDlg::OnInitDialog() {
         m_body->addLayout(m_form.Layout());
         m_body->addWidget(&m_group, 1);
     }
+    ShowType(); // first, for the caption takes room
     OpenEditor(*this, {.preview = &m_preview, .body = m_body});
-    ShowType();
     return CDialog::OnInitDialog();
 }
 

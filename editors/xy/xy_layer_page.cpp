@@ -16,11 +16,11 @@ constexpr unsigned char kAdditional = 16;
 CXYLayerPage::CXYLayerPage(CXYChart& chart, const CChartLayout& layout, QWidget& owner)
     : m_chart(chart), m_layout(layout), m_form(*this, owner) {
     m_form.Group("3D:");
-    m_form.Check("Show 3D", chart.m_show3D);
+    m_form.Check("Show 3D", chart.m_show3D).Tip("Gives the layers a depth");
     m_form.Part();
-    m_form.Integer("Depth:", chart.m_depth).Floor(0);
+    m_form.Integer("Depth:", chart.m_depth).Floor(0).Tip("Pixels; 0 flat");
     m_form.Part();
-    m_form.Integer("Z Gap:", chart.m_zGap).Floor(0);
+    m_form.Integer("Z Gap:", chart.m_zGap).Floor(0).Tip("Pixels from one layer to the next");
     m_form.Group("Layer:");
     m_layers = &m_form.Objects(Layers(), LoadChartString(ChartText::SelectLayer));
     m_form.Group("Layer Y Axis:");
@@ -69,6 +69,7 @@ void CXYLayerPage::AxisRows() {
                    kindOf,
                    [stand](int row, int kind) { stand(row, static_cast<unsigned char>(kind), nullptr); }),
                {{"Y", kY}, {"Y2", kY2}})
+        .Tip("The axis that the selected layer stands on")
         .Then(showAgain);
     m_form.Part();
     m_form
@@ -89,5 +90,6 @@ void CXYLayerPage::AxisRows() {
             return rows;
         })
         .Named("Axis")
+        .Tip("An additional axis for the selected layer instead of Y and Y2")
         .Then(showAgain);
 }

@@ -2,11 +2,12 @@
 
 #include "editors/fields/color_field.h"
 #include "editors/fields/image_field.h"
+#include "editors/fields/tips.h"
 #include "resources/string_table.h"
 
 CXYGeneralPage::CXYGeneralPage(CXYChart& chart, QWidget& owner) : m_form(*this, owner) {
     const auto line = [this](const char* label, const char* name, std::int32_t& width, CChartColor& color) {
-        m_form.Integer(label, width).Floor(0);
+        m_form.Integer(label, width).Floor(0).Tip(tip::kLineWidth);
         m_form.Field<CChartColorField>(nullptr, color).Named(name);
     };
     m_form.Group("Major Grid:");
@@ -20,9 +21,10 @@ CXYGeneralPage::CXYGeneralPage(CXYChart& chart, QWidget& owner) : m_form(*this, 
 }
 
 CXYBackgroundPage::CXYBackgroundPage(CXYChart& chart, QWidget& owner) : m_form(*this, owner) {
-    m_form.Check("Use Background", chart.m_useBackground);
+    m_form.Check("Use Background", chart.m_useBackground).Tip("Without, the plot area is transparent");
     m_form.Group("Type:");
-    m_form.Radio(chart.m_backgroundType, {"Color", "Image", "4Q"});
+    m_form.Radio(chart.m_backgroundType, {"Color", "Image", "4Q"})
+        .Tip("Stripes of BackColor and AltColor, the image, or a color for each quarter");
     m_form.Field<CChartColorField>(LoadChartString(ChartText::BackColor), chart.m_backColor);
     m_form.Field<CChartColorField>(LoadChartString(ChartText::AltColor), chart.m_altColor);
     m_form.Field<CChartImageField>("Image:", chart.m_backImage);

@@ -4,14 +4,22 @@
 
 #include <QAbstractButton>
 #include <QAbstractScrollArea>
+#include <QAbstractSpinBox>
 #include <QApplication>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QGroupBox>
 #include <QLabel>
+#include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QScrollArea>
+#include <QScrollBar>
+#include <QStyleOptionButton>
 #include <QTabBar>
+#include <QTabWidget>
 #include <QTest>
+#include <cmath>
 #include <gtest/gtest.h>
 #include <set>
 
@@ -67,6 +75,12 @@ inline void NothingIsCutOff(QWidget& window) {
                 << Describe(*widget) << ' ' << widget->width() << " < " << widget->sizeHint().width();
             EXPECT_GE(widget->height(), widget->minimumSizeHint().height()) << Describe(*widget);
         }
+        if (const auto* bar = qobject_cast<const QTabBar*>(widget)) // else it scrolls
+            EXPECT_GE(bar->width(), bar->sizeHint().width()) << Describe(*widget);
+        const auto* button = qobject_cast<const QPushButton*>(widget);
+        if (button != nullptr && widget->minimumWidth() == widget->maximumWidth())
+            EXPECT_GT(widget->width(), widget->fontMetrics().horizontalAdvance(button->text()) + 4)
+                << Describe(*widget);
         const QWidget* parent = widget->parentWidget();
         if (!widget->isWindow() && !parent->inherits("QAbstractScrollArea") &&
             !parent->inherits("QAbstractItemView") && parent->objectName() != "qt_scrollarea_viewport") {
@@ -74,6 +88,16 @@ inline void NothingIsCutOff(QWidget& window) {
                 << Describe(*widget) << " in " << Describe(*parent);
         }
     }
+}
+
+/// A dialog that is smaller than the smallest screen has room for all of its pages.
+inline void NothingScrolls(QWidget& window) {
+    for (const QScrollArea* room : window.findChildren<QScrollArea*>())
+        if (room->isVisible()) {
+            EXPECT_TRUE(window.height() > 700 || !room->verticalScrollBar()->isVisible()) << Describe(window);
+            EXPECT_TRUE(window.width() > 1340 || !room->horizontalScrollBar()->isVisible())
+                << Describe(window);
+        }
 }
 
 inline bool HasText(const QWidget& widget) {
@@ -170,13 +194,56 @@ inline void LettersAreUnique(QWidget& window) {
                 << '"' << text.toStdString() << "\" could have " << QString(letter).toStdString();
 }
 
+/// How far two colours are apart for the eye: 1 to 21.
+inline double Contrast(const QColor& one, const QColor& other) {
+    const auto light = [](const QColor& color) {
+        const auto part = [](float level) {
+            return level <= 0.04F ? level / 12.92 : std::pow((level + 0.055) / 1.055, 2.4);
+        };
+        return 0.2126 * part(color.redF()) + 0.7152 * part(color.greenF()) + 0.0722 * part(color.blueF());
+    };
+    const auto [low, high] = std::minmax({light(one), light(other)});
+    return (high + 0.05) / (low + 0.05);
+}
+
+/// The boxes of check boxes and radio buttons that are not on stand out from a dark page.
+inline void BoxesAreSeen(QWidget& window) {
+    for (QAbstractButton* button : window.findChildren<QAbstractButton*>()) {
+        const bool round = qobject_cast<QRadioButton*>(button) != nullptr;
+        const bool isBox = round || qobject_cast<QCheckBox*>(button) != nullptr;
+        const QColor page = button->palette().color(QPalette::Window);
+        if (!isBox || !button->isVisible() || !button->isEnabled() || button->isChecked() ||
+            page.lightness() > 128)
+            continue;
+        QStyleOptionButton option;
+        option.initFrom(button);
+        const QRect box = button->style()->subElementRect(
+            round ? QStyle::SE_RadioButtonIndicator : QStyle::SE_CheckBoxIndicator, &option, button);
+        const QImage shown = button->grab(box).toImage();
+        double most = 1;
+        for (int x = 0; x < shown.width(); ++x) // across the middle: both sides of the outline
+            most = std::max(most, Contrast(shown.pixelColor(x, shown.height() / 2), page));
+        EXPECT_GT(most, 3) << Describe(*button);
+    }
+}
+
+/// A number tells its unit and its range while the mouse rests on it.
+inline void NumbersHaveTips(QWidget& window) {
+    for (const QAbstractSpinBox* number : window.findChildren<QAbstractSpinBox*>())
+        if (number->isVisible())
+            EXPECT_FALSE(number->toolTip().isEmpty()) << Describe(*number);
+}
+
 inline void Everything(QWidget& window) {
     EveryControlHasAName(window);
     NothingIsCutOff(window);
+    NothingScrolls(window);
     NoTextsOverlap(window);
     TabFollowsReading(window);
     TabReachesEveryControl(window);
     LettersAreUnique(window);
+    BoxesAreSeen(window);
+    NumbersHaveTips(window);
 }
 
 } // namespace audit

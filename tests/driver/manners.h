@@ -1,7 +1,6 @@
 #pragma once
 // What every editor owes to its host and its users, whatever it edits.
 
-#include "tests/driver/audit.h"
 #include "tests/driver/properties.h"
 #include "tests/driver/random_person.h"
 
@@ -40,53 +39,6 @@ void TestWaysOut(const Object& start, const CChartLayout& layout, const Properti
         }));
         EXPECT_EQ(Difference(start, object), "") << "way " << &leave - ways;
     }
-}
-
-/// Keeps a picture to look at, where CHART_PICTURES names a folder for it.
-inline void KeepPicture(const Person& person, const QString& tab, double scale) {
-    const QString folder = qEnvironmentVariable("CHART_PICTURES");
-    const QString name = QStringLiteral("%1-%2-%3.png").arg(person.Window().windowTitle(), tab).arg(scale);
-    if (!folder.isEmpty())
-        EXPECT_TRUE(person.Window().grab().save(folder + u'/' + name));
-}
-
-/// Calls `look` at the font of now and at one and a half times it.
-inline void AtEachFont(const std::function<void(double scale)>& look) {
-    NeedApplication();
-    const QFont font = QApplication::font();
-    for (const double scale : {1.0, 1.5}) {
-        QFont scaled(font);
-        scaled.setPointSizeF(font.pointSizeF() * scale);
-        QApplication::setFont(scaled);
-        look(scale);
-    }
-    QApplication::setFont(font);
-}
-
-/// Every page is whole at the font of now and at one and a half times it: nothing cut off, names and letters
-/// for all that takes the focus, and Tab reaches each in reading order.
-template <class Object>
-void TestLook(const Object& start, const CChartLayout& layout) {
-    AtEachFont([&](double scale) {
-        Object object(start);
-        EXPECT_FALSE(Edit(
-            object, layout,
-            [&](Person& person) {
-                EXPECT_LE(person.Window().width(), 1366);
-                EXPECT_LE(person.Window().height(), 768 - 30);
-                if (person.Window().width() < 1350) // the preview gives room first where the screen is full
-                    EXPECT_GE(person.Preview().width() * 3 + 20, person.Window().width()); // its margins
-                const QStringList tabs = person.Tabs();
-                for (const QString& tab : tabs.isEmpty() ? QStringList({QString()}) : tabs) {
-                    SCOPED_TRACE(testing::Message() << qPrintable(tab) << " at " << scale);
-                    if (!tab.isEmpty())
-                        person.Tab(tab);
-                    audit::Everything(person.Window());
-                    KeepPicture(person, tab, scale);
-                }
-                person.Cancel();
-            }));
-    });
 }
 
 /// Opening and closing leaves no memory behind. CHART_OPENINGS asks for more than a few.
@@ -154,7 +106,6 @@ void TestEditor(const char* caption, const QStringList& tabs, const Object& star
         person.Cancel();
     }));
     TestWaysOut(start, layout, rows);
-    TestLook(start, layout);
     TestMemoryIsFlat(start, layout);
     TestAnybody(start, layout, rows);
 }

@@ -171,7 +171,11 @@ public:
             static_cast<QDialog&>(m_window).reject();
         }
     }
-    QImage Preview() const { return Find("Preview").grab().toImage(); }
+    /// What the preview shows, within the mark that it has the focus.
+    QImage Preview() const {
+        QWidget& preview = Find("Preview");
+        return preview.grab(preview.rect().adjusted(4, 4, -4, -4)).toImage();
+    }
     void Ok() const { QTest::mouseClick(&Find("OK"), Qt::LeftButton); }
     void Cancel() const { QTest::mouseClick(&Find("Cancel"), Qt::LeftButton); }
 
@@ -203,6 +207,13 @@ private:
 
     QWidget& m_window;
 };
+
+/// Keeps a picture to look at, where CHART_PICTURES names a folder for it.
+inline void KeepPicture(const Person& person, const QString& name) {
+    const QString folder = qEnvironmentVariable("CHART_PICTURES");
+    if (!folder.isEmpty())
+        EXPECT_TRUE(person.Window().grab().save(folder + u'/' + name + QStringLiteral(".png")));
+}
 
 /// The control of that object name that shows.
 template <class Control = QWidget>

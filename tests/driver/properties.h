@@ -10,6 +10,7 @@
 #include <cctype>
 #include <cmath>
 #include <limits>
+#include <map>
 #include <set>
 
 namespace driver {
@@ -166,24 +167,29 @@ inline void Give(const Person& person, const Property& row) {
     }
 }
 
-/// Goes to `place`, acts there, and comes back: the dialogs on the way are left by OK.
-inline void Go(Person& person, const QString& place, const std::function<void(Person&)>& act) {
+inline void LeaveByOk(Person& person) {
+    person.Ok();
+}
+
+/// Goes to `place`, acts there, and comes back: the dialogs on the way are left by `leave`.
+inline void Go(Person& person, const QString& place, const std::function<void(Person&)>& act,
+               const std::function<void(Person&)>& leave = LeaveByOk) {
     const QString step = place.section(u'>', 0, 0).trimmed();
     const QString rest = place.section(u'>', 1);
     if (step.isEmpty())
         return act(person);
     if (person.HasTab(step)) {
         person.Tab(step);
-        return Go(person, rest, act);
+        return Go(person, rest, act, leave);
     }
     if (step.endsWith(u']')) {
         person.Select(step.section(u'[', 0, 0), step.section(u'[', 1).chopped(1).toInt());
-        return Go(person, rest, act);
+        return Go(person, rest, act, leave);
     }
     const QString group = step.contains(u'|') ? step.section(u'|', 0, 0) : QString();
     person.In(person.Button(group, step.section(u'|', -1)), [&](Person& inner) {
-        Go(inner, rest, act);
-        inner.Ok();
+        Go(inner, rest, act, leave);
+        leave(inner);
     });
 }
 
@@ -227,11 +233,13 @@ void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Pro
         places.insert(row.place);
     Object object(start);
     EXPECT_FALSE(Edit(object, layout, [&](Person& person) {
-        std::set<QString> tabs;
+        std::map<QString, std::set<QString>> tabs; // that have rows, by the place of their dialog
         for (const std::string& place : places) {
             SCOPED_TRACE(place);
-            tabs.insert(QString::fromStdString(place).section(u'>', 0, 0).trimmed());
-            Go(person, QString::fromStdString(place), [&](const Person& there) {
+            const QString path = QString::fromStdString(place);
+            Go(person, path, [&](const Person& there) {
+                if (const QString last = path.section(u'>', -1); there.HasTab(last))
+                    tabs[path.section(u'>', 0, -2)].insert(last);
                 if (place.empty() && !there.Tabs().isEmpty())
                     return; // what stands beside the tabs is looked at with each of them
                 const bool inDialog = place.find('>') == std::string::npos;
@@ -246,8 +254,11 @@ void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Pro
                         << qPrintable(there.LabelOf(*control));
             });
         }
-        for (const QString& tab : person.Tabs())
-            EXPECT_TRUE(tabs.contains(tab)) << "no row on " << qPrintable(tab);
+        for (const auto& [place, withRows] : tabs)
+            Go(person, place, [&shown = withRows](const Person& there) {
+                for (const QString& tab : there.Tabs())
+                    EXPECT_TRUE(shown.contains(tab)) << "no row on " << qPrintable(tab);
+            });
         person.Cancel();
     }));
 }

@@ -39,6 +39,17 @@ public:
         Do({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
             QStringLiteral("mousedown"), QStringLiteral("1")});
     }
+    /// From one place of the screen by that much.
+    static void Drag(QPoint from, QPoint by) {
+        const auto move = [](QPoint to) {
+            Do({QStringLiteral("mousemove"), QString::number(to.x()), QString::number(to.y())});
+        };
+        move(from);
+        Do({QStringLiteral("mousedown"), QStringLiteral("1")});
+        move(from + by / 2);
+        move(from + by);
+        Release();
+    }
     static void Release() { Do({QStringLiteral("mouseup"), QStringLiteral("1")}); }
     static void Click(const QWidget& widget, QPoint at) {
         Press(widget, at);

@@ -54,7 +54,6 @@ TEST(PieProperties, EachControlReachesItsField) {
 
 TEST(PieProperties, KeepsItsManners) {
     TestWaysOut(pie_test::UnusualPie(), CChartLayout(), kRows);
-    TestLook(pie_test::UnusualPie(), CChartLayout());
     TestMemoryIsFlat(StartPie(), CChartLayout());
     TestAnybody(StartPie(), CChartLayout(), kRows);
 }
@@ -89,4 +88,30 @@ TEST(PieProperties, AddedSectorsAreOpaqueAndOfTheirOwnColours) {
     for (int i = 0; i < 3; ++i)
         EXPECT_TRUE(pie.m_sectors[i].m_color.m_color >> 24 == 0 && pie.m_sectors[i].m_color.m_type == 0);
     EXPECT_NE(pie.m_sectors[0].m_color.m_color, pie.m_sectors[2].m_color.m_color);
+}
+
+TEST(PieProperties, KeepsTheSizeThatItWasGivenAndThePreviewTheGrowth) {
+    const QSize growth(120, 80);
+    QSize natural;
+    const auto open = [](const std::function<void(Person&, QWidget & preview)>& act) {
+        CPieChart pie;
+        EXPECT_FALSE(Edit(pie, [&](Person& person) {
+            act(person, person.Find("Preview"));
+            person.Cancel();
+        }));
+    };
+    open([&](Person& person, QWidget& preview) {
+        natural = person.Window().size();
+        const QSize before = preview.size();
+        const QSize list = person.Find("Sector").size();
+        person.Window().resize(natural + growth);
+        QTest::qWait(1);
+        EXPECT_EQ(preview.size(), before + growth);
+        EXPECT_EQ(person.Find("Sector").width(), list.width());
+    });
+    open([&](Person& person, QWidget&) {
+        EXPECT_EQ(person.Window().size(), natural + growth);
+        person.Window().resize(natural);
+    });
+    open([&](Person& person, QWidget&) { EXPECT_EQ(person.Window().size(), natural); });
 }

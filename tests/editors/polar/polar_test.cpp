@@ -216,15 +216,3 @@ TEST(PolarLayer, PresetsMakeItALineOfSymbols) {
         EXPECT_EQ(layer.m_useSymbolScale, bubbles);
     }
 }
-
-TEST(PolarLayer, LooksWholeAtEveryFont) {
-    AtEachFont([](double scale) {
-        CPolarChart chart;
-        edited(
-            chart, 0,
-            [&](Person& person) {
-                audit::Everything(person.Window());
-                KeepPicture(person, "", scale);
-            });
-    });
-}

@@ -38,9 +38,27 @@ const Properties kChartRows =
     } +
     ColorRows("Background", "Type:", "", {"backColor", "altColor", "edgeColor"});
 
-/// The pages of an axis: what stands on all of them for each of the five kinds.
-Properties AxisRows(const std::string& button, const std::string& axis) {
-    const auto at = [&button](const char* tab) { return "Axis>" + button + '>' + tab; };
+/// What shows in a chart of four quarters, with a layer on the first of two additional axes.
+Properties OtherChartRows() {
+    Properties rows = {
+        {"Background", "Type:", "Color", "", "backgroundType=colors", {}, false},
+        {"Layer", "Layer Y Axis:", "Y", "", "layers[0]", {}, false}, // its kind, and no axis
+        {"Layer", "Layer Y Axis:", "Axis", "Axis 1|Axis 2", "layers[0].yAxis=1", {}, false},
+    };
+    for (const char quarter : {'1', '2', '3', '4'})
+        rows.push_back({"Background",
+                        "4Q Back Color:",
+                        std::string("Q") + quarter,
+                        "Metal",
+                        std::string("q") + quarter + "Color.type=metal",
+                        {},
+                        quarter == '1' || quarter == '4'}); // the others lie beyond the axes
+    return rows;
+}
+
+/// The pages of the first additional axis, which alone has every property.
+Properties AxisRows() {
+    const auto at = [](const char* tab) { return std::string("Axis>Additional|Modify...>") + tab; };
     const std::string general = at("General");
     const std::string ticks = at("Tick");
     const std::string scale = at("Scale");
@@ -49,6 +67,8 @@ Properties AxisRows(const std::string& button, const std::string& axis) {
     const std::string filters =
         "StartOfHour|StartOfDay|StartOfWeek|StartOfMonth|StartOfYear|RegularSpacing|AllPass|NonePass";
     Properties rows = {
+        {general, "", "Location:", kSides, "location=bottom"},
+        {general, "", "Offset:", "-55", "offset=-55"},
         {general, "", "Width:", "4", "width=4", {1, 0}},
         {general, "", "Color:", "Metal", "color.type=metal"},
         {general, "", "Reverse", "", "reverse=true"},
@@ -73,6 +93,11 @@ Properties AxisRows(const std::string& button, const std::string& axis) {
         {scale, "Date Scale:", "Upper Limit:", "2031/12/01", "dateUpperLimit=64089446400", {}, false},
         {scale, "Date Scale:", "Major Tick Inc:", "2", "dateMajorTickInc=172800", {}, false},
         {scale, "Date Scale:", "Minor Tick Inc:", "30", "dateMinorTickInc=2592000", {}, false},
+        {scale, "SyncAxis:", "X", "", "syncKind=x", {}, false},
+        {scale, "SyncAxis:", "Y", "", "syncKind=y", {}, false},
+        {scale, "SyncAxis:", "X2", "", "syncKind=x2", {}, false},
+        {scale, "SyncAxis:", "Y2", "", "syncKind=y2", {}, false},
+        {scale, "SyncAxis:", "Slope:", "2.5", "syncSlope=2.5", {0.1}, false},
         {title, "", "Show Title", "", "title.show=false"},
         {title, "", "Title:", "Profit", "title.text=Profit"},
         {title, "Position:", "Use Position", "", "title.usePosition=false"},
@@ -99,17 +124,39 @@ Properties AxisRows(const std::string& button, const std::string& axis) {
     rows = rows + LookRows(title, "title.") + LookRows(label, "label");
     for (Property& row : rows) {
         row.seen = row.seen && row.label != "FontColor:"; // texts of an axis are drawn in one colour
-        row.change = axis + '.' + row.change;
+        row.change = "axes[0]." + row.change;
     }
     return rows;
 }
 
-/// What only an additional axis has.
-const Properties kAdditionalRows = {
-    {"Axis>Additional|Modify...>General", "", "Location:", kSides, "axes[0].location=bottom"},
-    {"Axis>Additional|Modify...>General", "", "Offset:", "-55", "axes[0].offset=-55"},
-    {"Axis>Additional|Modify...>Scale", "SyncAxis:", "Y2", "", "axes[0].syncKind=y2", {}, false},
-    {"Axis>Additional|Modify...>Scale", "SyncAxis:", "Slope:", "2.5", "axes[0].syncSlope=2.5", {0.1}, false},
+/// What shows when the axis follows another additional one, and the kind of scale, which takes a label format
+/// with it.
+const Properties kFollowingRows = {
+    {"Axis>Additional|Modify...>Scale",
+     "SyncAxis:",
+     "Additional:",
+     "Axis 1|Axis 2",
+     "axes[0].syncAxis=1",
+     {},
+     false},
+    {"Axis>Additional|Modify...>Scale", "", "Scale Type:", "None|Auto Scale|Linear Scale|Date Scale",
+     "axes[0]"},
+};
+
+/// One property of each of the other axes, and what those that can follow another one have besides.
+const Properties kNamedAxisRows = {
+    {"Axis>Primary|X Axis ...>General", "", "Width:", "4", "xAxis.width=4", {1, 0}},
+    {"Axis>Primary|Y Axis ...>General", "", "Width:", "4", "yAxis.width=4", {1, 0}},
+    {"Axis>Secondary X Axis (X2)|X2 Axis ...>General", "", "Width:", "4", "x2Axis.width=4", {1, 0}},
+    {"Axis>Secondary X Axis (X2)|X2 Axis ...>Scale", "SyncAxis:", "Y", "", "x2Axis.syncKind=y"},
+    {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>General", "", "Width:", "4", "y2Axis.width=4", {1, 0}},
+    {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>Scale", "SyncAxis:", "X", "", "y2Axis.syncKind=x"},
+    {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>Scale",
+     "SyncAxis:",
+     "Slope:",
+     "2.5",
+     "y2Axis.syncSlope=2.5",
+     {0.1}},
 };
 
 const char* const kSymbols =
@@ -125,27 +172,38 @@ Property Row(const char* group, const char* label, const char* give, const std::
 struct KindOfLayer {
     const char* caption; ///< of the group
     Properties rows;
+    Properties back{}; ///< rows of what is on in a new layer
 };
+
+/// The effect of bars, which stands in the group of their border.
+Properties BorderEffectRows() {
+    Properties rows = EffectRows("Layer>Modify...", "layers[0].");
+    for (Property& row : rows)
+        row.group = "Border:";
+    return rows;
+}
 
 std::vector<KindOfLayer> LayerKinds() {
     return {
         {"Bar Layer",
-         {Row("Bar Layer", "Shape:",
-              "NoShape|SquareShape|DiamondShape|TriangleShape|RightTriangleShape|LeftTriangleShape|"
-              "InvertedTriangleShape|CircleShape|CircleShapeNoShading",
-              "shape=flatCircle"),
-          Row("Bar Layer", "Combine Method:", "Overlay|Stack|Side|Percentage", "combineMethod=percentage"),
-          Row("Bar Layer", "Aggregate Label", "", "aggregateLabel=false", {}, false),
-          Row("Bar Layer", "Label For Each Seg", "", "labelForEachSeg=false", {}, false),
-          Row("Bar Layer", "Gap", "", "useOverlap=false"),
-          Row("Overlap:", "Ratio:", "0.75", "overlapRatio=0.75", {0.1}),
-          Row("Overlap:", "First On Top", "", "firstOnTop=false"),
-          Row("Gap:", "Bar Gap:", "0.35", "barGap=0.35", {0.1}, false),
-          Row("Gap:", "Sub Bar Gap:", "0.125", "subBarGap=0.13", {0.1}, false),
-          Row("Border:", "Use BorderColor", "", "useBorderColor=true"),
-          Row("Border:", "BorderColor", "Metal", "edgeColor.type=metal", {}, false),
-          Row("Border:", "Type:", "Flat|Raised|Depressed|SoftLighting|NormalGlare|ReduceGlare",
-              "effect.effectType=reducedGlare", {}, false)}},
+         Properties{
+             Row("Bar Layer", "Shape:",
+                 "NoShape|SquareShape|DiamondShape|TriangleShape|RightTriangleShape|LeftTriangleShape|"
+                 "InvertedTriangleShape|CircleShape|CircleShapeNoShading",
+                 "shape=flatCircle"),
+             Row("Bar Layer", "Combine Method:", "Overlay|Stack|Side|Percentage", "combineMethod=percentage"),
+             Row("Bar Layer", "Aggregate Label", "", "aggregateLabel=false", {}, false),
+             Row("Bar Layer", "Label For Each Seg", "", "labelForEachSeg=false", {}, false),
+             Row("Bar Layer", "Gap", "", "useOverlap=false"),
+             Row("Overlap:", "Ratio:", "0.75", "overlapRatio=0.75", {0.1}),
+             Row("Overlap:", "First On Top", "", "firstOnTop=false"),
+             Row("Gap:", "Bar Gap:", "0.35", "barGap=0.35", {0.1}, false),
+             Row("Gap:", "Sub Bar Gap:", "0.125", "subBarGap=0.13", {0.1}, false),
+             Row("Border:", "Use BorderColor", "", "useBorderColor=false"),
+             Row("Border:", "BorderColor", "Metal", "edgeColor.type=metal", {}, false),
+             Row("Color:", "DataSet", "Metal", "dataSetColors[0].type=metal")} +
+             BorderEffectRows(),
+         {Row("Bar Layer", "Overlap", "", "useOverlap=true")}},
         {"Line Layer",
          {Row("Line Layer", "Line Type:", "Normal|Spline|Step", "lineType=steps"),
           Row("Line Layer", "Line Width:", "5", "lineWidth=5", {1, 0}),
@@ -159,7 +217,8 @@ std::vector<KindOfLayer> LayerKinds() {
           Row("Scatter Mode:", "Bubble", "", "bubble=true"),
           Row("Symbol:", "Use Symbol Color", "", "useSymbolColor=true"),
           Row("Symbol:", "SymbolColor:", "Metal", "symbolColor.type=metal", {}, false),
-          Row("Symbol:", "Size:", "15", "symbolSize=15", {1, 0}, false)}},
+          Row("Symbol:", "Size:", "15", "symbolSize=15", {1, 0}, false)},
+         {Row("Scatter Mode:", "Scatter", "", "bubble=false")}},
         {"Area Layer",
          {Row("Area Layer", "Combine Method:", "Stack|Percentage", "combineMethod=percentage"),
           Row("Area Layer", "Use Area Color", "", "useAreaColor=true"),
@@ -171,45 +230,80 @@ std::vector<KindOfLayer> LayerKinds() {
         {"HLOC Layer",
          {Row("HLOC Layer", "UpColor:", "Metal", "upColor.type=metal"),
           Row("HLOC Layer", "DownColor:", "Metal", "downColor.type=metal")}},
-        {"Gantt Layer", {}},
+        {"Gantt Layer",
+         {Row("Gantt Layer", "Name:", "new", "groups[0].name=new", {}, false),
+          Row("Gantt Layer", "Color:", "Metal", "groups[0].color.type=metal")}},
         {"CandleStick Layer",
          {Row("CandleStick Layer", "RiseColor:", "Metal", "riseColor.type=metal"),
           Row("CandleStick Layer", "FallColor:", "Metal", "fallColor.type=metal")}},
     };
 }
 
+/// What stands beside the page of a kind.
+Properties RowsBeside(int type) {
+    const char* kinds = "Bar|Line|Scatter(Bubble)|Area|BoxWhisker|Box|HLOC|Gantt|CandleStick";
+    return {Row("", "Name:", "new", "name=new", {}, false),
+            {"Layer>Modify...", "", "Layer Type", type == 8 ? "Bar" : kinds, "layers[0]"}};
+}
+
+/// A chart with a layer of that kind, in which each property shows.
+CXYChart ChartOfKind(int type) {
+    CXYChart chart = ChartOf(type);
+    CXYChartLayer* layer = chart.m_layers.GetLayer(0);
+    if (auto* bars = dynamic_cast<CXYBarLayer*>(layer)) {
+        for (int i = 0; i < 2; ++i) // to stand beside each other
+            bars->m_dataSetColors.push_back(CChartColor());
+        bars->m_useBorderColor = true;
+        bars->m_effect.m_effectType = 1; // soft lighting
+        bars->m_effect.m_value = 5;
+    }
+    if (auto* line = dynamic_cast<CXYLineLayer*>(layer))
+        line->m_symbolType = 2;
+    if (auto* gantt = dynamic_cast<CXYGanttLayer*>(layer))
+        gantt->m_groups.push_back(CBoxGroup());
+    return chart;
+}
+
 } // namespace
 
 TEST(XYEditor, EachControlReachesItsField) {
     TestProperties(ChartOf(1), CChartLayout(), kChartRows);
-    CXYChart quarters = ChartOf(1);
-    quarters.m_backgroundType = 2;
-    Properties rows;
-    for (const char* quarter : {"1", "2", "3", "4"})
-        rows.push_back({"Background",
-                        "4Q Back Color:",
-                        std::string("Q") + quarter,
-                        "Metal",
-                        std::string("q") + quarter + "Color.type=metal",
-                        {},
-                        quarter[0] != '2' && quarter[0] != '3'});
-    TestProperties(quarters, CChartLayout(), rows);
+    CXYChart other = ChartOf(1);
+    other.m_backgroundType = 2;
+    AddAxis(other);
+    other.m_layers.GetLayer(0)->m_yAxisKind = 16;
+    other.m_layers.GetLayer(0)->m_yAxis = other.m_axes.GetAxis(0);
+    TestProperties(other, CChartLayout(), OtherChartRows());
+    TestTableIsWhole(other, CChartLayout(), kChartRows + OtherChartRows());
 }
 
 TEST(XYEditor, EachControlOfAnAxisReachesItsField) {
-    TestProperties(ChartOf(1), CChartLayout(), AxisRows("Primary|Y Axis ...", "yAxis"));
-    TestProperties(ChartOf(1), CChartLayout(), kAdditionalRows);
+    CXYChart chart = ChartOf(1);
+    CXYChartAxis* axis = chart.m_axes.GetAxis(0);
+    chart.m_layers.GetLayer(0)->m_yAxisKind = 16;
+    chart.m_layers.GetLayer(0)->m_yAxis = axis;
+    TestProperties(chart, CChartLayout(), AxisRows());
+    axis->m_syncKind = 16;
+    AddAxis(chart);
+    TestProperties(chart, CChartLayout(), kFollowingRows);
+    TestTableIsWhole(chart, CChartLayout(), AxisRows() + kFollowingRows);
+    chart.m_useX2Axis = chart.m_useY2Axis = true;
+    TestProperties(chart, CChartLayout(), kNamedAxisRows);
 }
 
 TEST(XYEditor, EachControlOfALayerReachesItsField) {
     const auto kinds = LayerKinds();
     for (int type = 0; type < std::ssize(kinds); ++type) {
-        SCOPED_TRACE(kinds[static_cast<std::size_t>(type)].caption);
-        CXYChart chart = ChartOf(type);
-        if (auto* line = dynamic_cast<CXYLineLayer*>(chart.m_layers.GetLayer(0)))
-            line->m_symbolType = 2;
-        TestProperties(chart, CChartLayout(), kinds[static_cast<std::size_t>(type)].rows);
-        TestProperties(chart, CChartLayout(), {Row("", "Name:", "new", "name=new", {}, false)});
+        const auto& [caption, rows, back] = kinds[static_cast<std::size_t>(type)];
+        SCOPED_TRACE(caption);
+        CXYChart chart = ChartOfKind(type);
+        TestProperties(chart, CChartLayout(), rows + RowsBeside(type));
+        TestTableIsWhole(chart, CChartLayout(), rows + back + RowsBeside(type));
+        if (auto* bars = dynamic_cast<CXYBarLayer*>(chart.m_layers.GetLayer(0)))
+            bars->m_useOverlap = false;
+        if (auto* points = dynamic_cast<CXYScatterLayer*>(chart.m_layers.GetLayer(0)))
+            points->m_bubble = true;
+        TestProperties(chart, CChartLayout(), back);
     }
 }
 
