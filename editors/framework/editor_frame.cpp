@@ -133,8 +133,8 @@ void LayOut(CDialog& dialog, const CEditorParts& parts) {
     dialog.SetResizable();
 }
 
-/// Lets every layout know the sizes of what stands in it, from the inside out. Those of what does not show yet
-/// would else keep what they knew at first.
+/// Lets every layout know the sizes of what stands in it, from the inside out. Those of what does not show
+/// yet would else keep what they knew at first.
 void ActivateLayouts(QWidget& widget) {
     for (QObject* child : widget.children())
         if (auto* inner = qobject_cast<QWidget*>(child))

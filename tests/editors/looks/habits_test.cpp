@@ -1,5 +1,5 @@
-// What users expect of every dialog beyond what it edits: keys in lists, tips, samples of colours, and a mark on
-// what has the focus.
+// What users expect of every dialog beyond what it edits: keys in lists, tips, samples of colours, and a mark
+// on what has the focus.
 
 #include "tests/driver/dialogs.h"
 
