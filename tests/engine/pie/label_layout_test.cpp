@@ -151,11 +151,12 @@ TEST(SideLayout, StandsInTwoColumnsThatAlign) {
     for (int i = 0; i < 8; ++i)
         spots.push_back(spotAt((i + 0.5) * std::numbers::pi / 4, 1, QSizeF(30 + 5 * i, 14)));
     const auto labels = place(Layout::Side, spots, 25);
-    for (std::size_t i = 0; i < 8; ++i)
-        if (i < 4)
-            EXPECT_EQ(labels[i].box.left(), kCentre.x() + kRadius + 25);
-        else
-            EXPECT_EQ(labels[i].box.right(), kCentre.x() - kRadius - 25);
+    for (std::size_t i = 0; i < 8; ++i) {
+        const bool right = i < 4;
+        const double inner = right ? labels[i].box.left() : labels[i].box.right();
+        EXPECT_EQ(inner, kCentre.x() + (right ? 1 : -1) * (kRadius + 25));
+        EXPECT_EQ(labels[i].join.back().x(), inner - (right ? 2 : -2)); // it ends before its label
+    }
 }
 
 TEST(CircleLayout, TouchesTheWidenedCircleInEveryDirection) {
