@@ -12,8 +12,9 @@ namespace chartdraw {
 
 namespace {
 
-// From here on the system is asked for large pages: most of the copy is else its work on small ones.
-constexpr std::size_t kLarge = std::size_t{4} << 20; // bytes
+// From here on the system is asked for large pages: most of the copy is else its work on small ones. Less
+// than that the allocator keeps for the next chart, which needs no new pages at all.
+constexpr std::size_t kLarge = std::size_t{8} << 20; // bytes
 constexpr std::align_val_t kLargePage{std::size_t{2} << 20};
 constexpr std::size_t kBlock = 2048; // numbers, which stay in the cache for the second look
 
