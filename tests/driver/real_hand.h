@@ -2,6 +2,7 @@
 // A hand on the mouse and the keyboard of the screen: its events take the road through the window manager and
 // the toolkit that a person's take. Needs a screen, xdotool, and a window manager to have been started.
 
+#include <QGuiApplication>
 #include <QProcess>
 #include <QTest>
 #include <QWidget>
@@ -34,20 +35,21 @@ public:
         EXPECT_EQ(tool.exitCode(), 0) << arguments.join(u' ').toStdString();
         QTest::qWait(150);
     }
-    static void Press(const QWidget& widget, QPoint at) {
-        const QPoint place = widget.mapToGlobal(at);
-        Do({QStringLiteral("mousemove"), QString::number(place.x()), QString::number(place.y()),
-            QStringLiteral("mousedown"), QStringLiteral("1")});
+    /// To a place of the screen, in the toolkit's pixels.
+    static void Move(QPoint to) {
+        const QPointF place = QPointF(to) * qGuiApp->devicePixelRatio();
+        Do({QStringLiteral("mousemove"), QString::number(place.x(), 'f', 0),
+            QString::number(place.y(), 'f', 0)});
     }
-    /// From one place of the screen by that much.
-    static void Drag(QPoint from, QPoint by) {
-        const auto move = [](QPoint to) {
-            Do({QStringLiteral("mousemove"), QString::number(to.x()), QString::number(to.y())});
-        };
-        move(from);
+    static void Press(QPoint place) {
+        Move(place);
         Do({QStringLiteral("mousedown"), QStringLiteral("1")});
-        move(from + by / 2);
-        move(from + by);
+    }
+    static void Press(const QWidget& widget, QPoint at) { Press(widget.mapToGlobal(at)); }
+    static void Drag(QPoint from, QPoint by) {
+        Press(from);
+        Move(from + by / 2);
+        Move(from + by);
         Release();
     }
     static void Release() { Do({QStringLiteral("mouseup"), QStringLiteral("1")}); }
