@@ -79,7 +79,7 @@ void Axis::setTickLength(int major, int minor) {
 
 void Axis::setTickDensity(int majorSpacing, int minorSpacing) {
     m_scale.majorSpacing = limited(majorSpacing);
-    m_scale.minorSpacing = minorSpacing < 1 ? -1 : limited(minorSpacing);
+    m_scale.minorSpacing = minorSpacing < 1 ? 0 : limited(minorSpacing);
 }
 
 void Axis::setAutoScale(double topExtension, double bottomExtension, double zeroAffinity) {

@@ -37,7 +37,7 @@ struct ScaleSettings {
     int marginTop = 0, marginBottom = 0; ///< pixels free at the upper and the lower end of the scale
     enum class Indent : unsigned char { AsLayersNeed, No, Yes } indent = Indent::AsLayersNeed;
     int majorSpacing = 0;  ///< pixels, 0 automatic
-    int minorSpacing = -1; ///< pixels, -1 none
+    int minorSpacing = -1; ///< pixels, 0 none, -1 automatic: only log scales have minor ticks
 };
 
 /// A rule of CAxis_setMultiFormat: labels that pass `filter` are shown by `format`.

@@ -1,6 +1,7 @@
 #include "engine/axis/axis_layout.h"
 
 #include "engine/chart/chart.h"
+#include "engine/text/fitted_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +14,7 @@ namespace {
 
 constexpr int kLabelGap = 3;     // pixels between a tick and its label
 constexpr int kLeastTitle = 100; // pixels that a title has before it is broken
+constexpr int kTitleBorder = 3;  // pixels that it keeps from the border of the picture
 
 /// Away from the line, in pixels of the picture.
 QPointF outward(int side) {
@@ -206,14 +208,32 @@ void spread(std::vector<AxisLayout::Label>& all, const AxisPlace& place) {
     }
 }
 
+/// Pixels from the line to the border of the picture.
+double spaceBeside(const AxisPlace& place) {
+    const QRect& picture = place.picture;
+    switch (place.side) {
+    case Left:
+        return place.across - picture.left();
+    case Right:
+        return picture.right() - place.across;
+    case TopCenter:
+        return place.across - picture.top();
+    default:
+        return picture.bottom() - place.across;
+    }
+}
+
 /// The labels of the marks stand among those of the ticks, which give way to them.
 void placeMarks(AxisLayout& layout, const Axis& axis, double distance) {
+    const int beside = std::max(1, static_cast<int>(spaceBeside(layout.place) - distance));
+    const QSize most =
+        layout.place.upright() ? QSize(beside, 0) : QSize(layout.place.picture.width(), beside);
     for (const Mark* mark : axis.marks()) {
         if (!layout.map.contains(mark->value()))
             continue;
         AxisLayout::Label label{.value = mark->value(),
                                 .text = mark->text(),
-                                .block = mark->block(),
+                                .block = fittedText(mark->look(), mark->text(), axis.chart().fonts(), most),
                                 .anchor = {},
                                 .alignment = Center,
                                 .pivot = false};
@@ -259,12 +279,54 @@ TextBlock titleBlock(const Axis& axis, const AxisPlace& place) {
     const int picture = place.upright() ? place.picture.height() : place.picture.width();
     if (!beyond && (along || std::fmod(look.angle, 180) == (place.upright() ? -90 : 0)) && !look.vertical)
         look.wrapWidth = std::max(place.to - place.from + 1, std::min(picture, kLeastTitle));
-    return {look, axis.title().text(), axis.chart().fonts()};
+    const QRect room = place.picture.adjusted(kTitleBorder, kTitleBorder, -kTitleBorder, -kTitleBorder);
+    return fittedText(look, axis.title().text(), axis.chart().fonts(), room.size());
 }
 
 /// From the line to the labels.
 double labelDistance(const Axis& axis) {
     return std::max(0, axis.width() - 1) + std::max(0, axis.ticks().majorLength) + kLabelGap + 0.5;
+}
+
+/// Beyond the upper end of the labels, or where the picture ends there, inside of the line.
+void placeFactor(AxisLayout& layout, const std::string& factor, const Axis& axis, double distance) {
+    const AxisPlace& place = layout.place;
+    TextLook look = axis.labelBox().look();
+    look.angle = 0;
+    const bool atTo = place.upper > place.lower;
+    const double end = atTo ? place.to + 1 : place.from;
+    double beyond = kLabelGap;
+    for (const AxisLayout::Label& label : layout.labels) {
+        const QRectF box = label.box();
+        beyond = std::max(beyond, atTo ? alongOf(place, box.bottomRight()) - end
+                                       : end - alongOf(place, box.topLeft()));
+    }
+    const auto at = [&](double along, double across) { return pointAt(place, along, across); };
+    AxisLayout::Label label{.value = 0,
+                            .text = factor,
+                            .block = TextBlock(look, factor, axis.chart().fonts()),
+                            .anchor = at(end + (atTo ? beyond : -beyond), distance),
+                            .alignment = facing(place.side, atTo ? -1 : 1),
+                            .pivot = false};
+    const QPointF back = intoPicture(label.box(), place.picture);
+    const std::vector<QRectF> taken = axis.chart().textRoom().boxes();
+    const auto isTaken = [&] {
+        const QRectF box = label.box().translated(back);
+        return std::any_of(taken.begin(), taken.end(),
+                           [&](const QRectF& text) { return text.intersects(box); });
+    };
+    if (alongOnly(place, back).isNull() && !isTaken()) {
+        label.move(back);
+    } else {
+        label.anchor = at(end + (atTo ? -kLabelGap : kLabelGap), -2.0 * kLabelGap);
+        const int inside = place.side == Left        ? Right
+                           : place.side == Right     ? Left
+                           : place.side == TopCenter ? BottomCenter
+                                                     : TopCenter;
+        label.alignment = facing(inside, atTo ? 1 : -1);
+        label.move(intoPicture(label.box(), place.picture));
+    }
+    layout.factor = std::move(label);
 }
 
 void placeTitle(AxisLayout& layout, const Axis& axis) {
@@ -297,11 +359,18 @@ void placeTitle(AxisLayout& layout, const Axis& axis) {
         const bool ownPixel = place.side == Right || place.side == BottomCenter;
         title.anchor += outward(place.side) * (ownPixel ? 1 : 0);
     }
-    const QPointF back = intoPicture(title.box(), place.picture);
-    // Pulled back into the picture, but not onto the labels.
     const QPointF out = outward(place.side);
-    const double inward = std::max(0.0, -QPointF::dotProduct(back, out));
-    title.move(alongOnly(place, back) - out * (beyond ? inward : std::min<double>(inward, std::max(0, gap))));
+    const QRect bordered = place.picture.adjusted(kTitleBorder, kTitleBorder, -kTitleBorder, -kTitleBorder);
+    const QPointF back = intoPicture(title.box(), bordered);
+    const auto inward = [&](const QRect& room) {
+        return std::max(0.0, -QPointF::dotProduct(intoPicture(title.box(), room), out));
+    };
+    // Pulled back into the picture: over the gap, and only where that is not enough over labels, which then
+    // go.
+    const double far = inward(bordered);
+    const double most =
+        beyond ? far : std::max(std::min<double>(far, std::max(0, gap)), inward(place.picture));
+    title.move(alongOnly(place, back) - out * most);
     if (axis.title().pos())
         title.move(QPointF(*axis.title().pos()) - title.box().topLeft());
     layout.title = std::move(title);
@@ -329,7 +398,13 @@ QRectF AxisLayout::Label::box() const {
     return pivot ? block.pivotBoundsAt(anchor, alignment) : block.boundsAt(anchor, alignment);
 }
 
-void AxisLayout::Label::draw(Canvas& canvas) const {
+QPolygonF AxisLayout::Label::outline() const {
+    return pivot ? block.pivotOutlineAt(anchor, alignment) : block.outlineAt(anchor, alignment);
+}
+
+void AxisLayout::Label::draw(Canvas& canvas, TextRoom& room) const {
+    if (!room.claim(outline()))
+        return;
     if (pivot)
         block.drawPivotAt(canvas, anchor, alignment);
     else
@@ -337,15 +412,11 @@ void AxisLayout::Label::draw(Canvas& canvas) const {
 }
 
 double labelRoomOf(const Axis& axis, const AxisPlace& place) {
-    const QRect& picture = place.picture;
-    double room = place.side == Left        ? place.across - picture.left()
-                  : place.side == Right     ? picture.right() - place.across
-                  : place.side == TopCenter ? place.across - picture.top()
-                                            : picture.bottom() - place.across;
+    double room = spaceBeside(place);
     if (!axis.title().pos() && !titleStandsBeyond(axis, place)) {
         const TextBlock title = titleBlock(axis, place);
         const int height = place.upright() ? title.size().width() : title.size().height();
-        room -= title.empty() ? 0 : height + std::max(0, axis.titleGap());
+        room -= title.empty() ? 0 : height + kTitleBorder + std::max(0, axis.titleGap());
     }
     return std::max(1.0, room - labelDistance(axis));
 }
@@ -363,6 +434,8 @@ AxisLayout layoutAxis(const Axis& axis, AxisPlan plan, const AxisPlace& place) {
     placeMarks(layout, axis, distance);
     if (axis.chart().colours().invisible(axis.labelBox().look().colour))
         layout.labels.clear(); // they took part in the plan, so that axes that differ in this alone agree
+    if (!plan.factor.empty() && !layout.labels.empty())
+        placeFactor(layout, plan.factor, axis, distance);
     layout.reach = reachOf(layout, line + ticks);
     placeTitle(layout, axis);
     return layout;
@@ -398,13 +471,6 @@ void drawAxisLine(Canvas& canvas, const Axis& axis, const AxisLayout& layout) {
                     width);
     }
     canvas.fillRect(axisLine(place, width), axis.colour());
-}
-
-void drawAxisLabels(Canvas& canvas, const AxisLayout& layout) {
-    for (const AxisLayout::Label& label : layout.labels)
-        label.draw(canvas);
-    if (layout.title)
-        layout.title->draw(canvas);
 }
 
 } // namespace chartdraw

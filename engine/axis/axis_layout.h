@@ -47,8 +47,10 @@ struct AxisLayout {
         bool pivot = false;
 
         QRectF box() const;
+        QPolygonF outline() const;
         void move(QPointF by) { anchor += by; }
-        void draw(Canvas& canvas) const;
+        /// Leaves the label out where the picture has no room for it.
+        void draw(Canvas& canvas, TextRoom& room) const;
     };
 
     AxisMap map;
@@ -57,6 +59,7 @@ struct AxisLayout {
     std::vector<Label> labels;
     std::vector<Label> marks; ///< of the axis's marks in sight
     std::optional<Label> title;
+    std::optional<Label> factor; ///< of all labels, at the upper end of the axis
     int reach = 0; ///< pixels from `place.across` outwards to the end of what is drawn, the title left out
 };
 
@@ -71,6 +74,5 @@ AxisLayout layoutAxis(const Axis& axis, AxisPlan plan, const AxisPlace& place);
 QRect axisLine(const AxisPlace& place, int width);
 
 void drawAxisLine(Canvas& canvas, const Axis& axis, const AxisLayout& layout); ///< line and ticks
-void drawAxisLabels(Canvas& canvas, const AxisLayout& layout);                 ///< of ticks, and the title
 
 } // namespace chartdraw

@@ -17,6 +17,8 @@ using Type = ScaleSettings::Type;
 constexpr int kAttempts = 6;
 constexpr double kLevelSpacing = 40; // pixels between ticks of a level axis
 constexpr double kDateSpacing = 28;  // the same for dates, whose labels are short and whose steps are coarse
+constexpr double kLinesByFactor = 8; // of labels on an axis that is long enough to show a factor beside them
+constexpr double kLogMinors = 3;     // least pixels between minor ticks of log axes
 constexpr double kUprightSpacing = 26; // and of an upright one
 
 class Planner {
@@ -123,20 +125,38 @@ private:
         return rows() ? spacing / 2 : spacing;
     }
 
+    double minorSpacing() const {
+        const bool automatic = settings().minorSpacing < 0;
+        return automatic ? (settings().type == Type::Log ? kLogMinors : 0) : settings().minorSpacing;
+    }
+
     AxisPlan numericPlan() const {
-        Density density{.lengthPx = m_request.length,
-                        .majorPx = firstSpacing(),
-                        .minorPx = static_cast<double>(settings().minorSpacing)};
+        Density density{.lengthPx = m_request.length, .majorPx = firstSpacing(), .minorPx = minorSpacing()};
         for (int attempt = 1;; ++attempt) {
             const Scale own = ownScale(density);
             AxisPlan plan = emptyPlan(own);
             Ticks ticks = makeTicks(own, settings().increments, density);
             std::vector<int> ranks = addMajor(plan, ticks, own);
-            if (own.kind() == ScaleKind::Linear && m_request.labelRoom > 0 && m_fit.reachesByLength() &&
-                m_fit.widest(plan.ticks) > m_request.labelRoom) {
-                shortenNumbers(ticks, own);
+            const auto relabel = [&](const std::vector<std::string>& texts) {
+                for (std::size_t i = 0; i < texts.size(); ++i)
+                    ticks.major[i].label = texts[i];
                 plan.ticks.clear();
                 ranks = addMajor(plan, ticks, own);
+            };
+            if (own.kind() == ScaleKind::Linear) {
+                if (isTooWide(plan)) {
+                    ShortLabels labels =
+                        shortLabels(valuesOf(ticks), own.upper() - own.lower(),
+                                    plainLabels() && m_request.length > kLinesByFactor * m_fit.lineHeight());
+                    relabel(labels.texts);
+                    plan.factor = std::move(labels.factor);
+                } else if (plainLabels()) {
+                    group(plan, ticks, relabel);
+                }
+            } else if (own.kind() == ScaleKind::Date && isTooWide(plan)) {
+                const LabelMaker maker(m_axis, m_content);
+                for (PlannedTick& tick : plan.ticks)
+                    maker.wrap(tick, m_fit, m_request.labelRoom);
             }
             const AxisMap map = plan.map(0, m_request.length);
             const double wanted = m_fit.wantedDistance(plan.ticks, map);
@@ -151,14 +171,35 @@ private:
         }
     }
 
-    /// Numbers by the thousand, million and so on, or with exponents, whichever is shorter than now.
-    static void shortenNumbers(Ticks& ticks, const Scale& own) {
+    bool isTooWide(const AxisPlan& plan) const {
+        return m_request.labelRoom > 0 && m_fit.reachesByLength() &&
+               m_fit.widest(plan.ticks) > m_request.labelRoom;
+    }
+
+    /// Nothing is said of how numbers are to be written.
+    bool plainLabels() const { return m_content.format.empty() && !hasRules(m_content.rules); }
+
+    static std::vector<double> valuesOf(const Ticks& ticks) {
         std::vector<double> values;
         for (const Tick& tick : ticks.major)
             values.push_back(tick.value);
-        const std::vector<std::string> texts = shortLabels(values, own.upper() - own.lower());
-        for (std::size_t i = 0; i < texts.size(); ++i)
-            ticks.major[i].label = texts[i];
+        return values;
+    }
+
+    /// Groups the thousands of long numbers, where that costs no label its room.
+    template <class Relabel>
+    void group(AxisPlan& plan, const Ticks& ticks, const Relabel& relabel) const {
+        const std::vector<std::string> texts = groupedLabels(valuesOf(ticks));
+        if (texts.empty())
+            return;
+        std::vector<std::string> before;
+        for (const Tick& tick : ticks.major)
+            before.push_back(tick.label);
+        const auto wanted = [&] { return m_fit.wantedDistance(plan.ticks, plan.map(0, m_request.length)); };
+        const bool fitted = wanted() == 0;
+        relabel(texts);
+        if (isTooWide(plan) || (fitted && wanted() > 0))
+            relabel(before);
     }
 
     /// Adds the major ticks with their labels; gives the ranks of the labels where rules chose them.

@@ -49,6 +49,7 @@ struct AxisPlan {
     Scale scale; ///< of the axis, or of the one that it is tied to
     double slope = 1, intercept = 0;
     std::vector<PlannedTick> ticks; ///< major ones first, each sort ascending by value
+    std::string factor;             ///< by which the labels are to be multiplied, told once; empty: none
 
     /// The map with the limits at these positions.
     AxisMap map(double lowerPixel, double upperPixel) const;

@@ -4,6 +4,7 @@
 #include "engine/data/chart_time.h"
 #include "engine/scale/date_text.h"
 #include "engine/scale/number_text.h"
+#include "engine/text/fitted_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -136,32 +137,29 @@ PlannedTick LabelMaker::tick(double position, double value, std::string_view sho
     return result;
 }
 
+bool LabelMaker::wrap(PlannedTick& tick, const LabelFit& fit, double room) const {
+    if (!tick.label || !fit.wraps() || fit.reach(*tick.label) <= room)
+        return false;
+    TextLook look = m_axis.labelBox().look();
+    look.wrapWidth = std::max(1, static_cast<int>(room) - look.marginLeft - look.marginRight);
+    TextBlock wrapped(look, tick.text, m_axis.chart().fonts());
+    const bool fits = fit.reach(wrapped) <= room;
+    if (fits)
+        tick.label = std::move(wrapped);
+    return fits;
+}
+
 void LabelMaker::shorten(PlannedTick& tick, const LabelFit& fit, double room, double pitch) const {
     if (room <= 0 || !tick.label || !fit.reachesByLength() || fit.reach(*tick.label) <= room)
         return;
-    const FontSet& fonts = m_axis.chart().fonts();
-    if (fit.wraps()) {
-        TextLook look = m_axis.labelBox().look();
-        look.wrapWidth = std::max(1, static_cast<int>(room) - look.marginLeft - look.marginRight);
-        TextBlock wrapped(look, tick.text, fonts);
-        if (fit.reach(wrapped) <= room && wrapped.size().height() <= pitch) {
-            tick.label = std::move(wrapped);
+    const double height = tick.label->size().height();
+    if (wrap(tick, fit, room)) {
+        if (tick.label->size().height() <= std::max(pitch, height))
             return;
-        }
+        tick.label = m_axis.labelBox().block(tick.text);
     }
-    // As many characters as fit, by halving; markup is not looked for, and at worst shows.
-    const std::string whole = std::move(tick.text);
-    std::size_t fits = 0, tooMany = whole.size();
-    const auto cut = [&](std::size_t length) {
-        while (length > 0 && (static_cast<unsigned char>(whole[length]) & 0xc0) == 0x80)
-            --length;
-        return whole.substr(0, length) + "\u2026";
-    };
-    while (tooMany - fits > 1) {
-        const std::size_t middle = (fits + tooMany) / 2;
-        (fit.reach(m_axis.labelBox().block(cut(middle))) <= room ? fits : tooMany) = middle;
-    }
-    tick.text = cut(fits);
+    tick.text = cutToFit(
+        tick.text, [&](const std::string& part) { return fit.reach(m_axis.labelBox().block(part)) <= room; });
     tick.label = m_axis.labelBox().block(tick.text);
 }
 

@@ -33,6 +33,8 @@ public:
     /// A major tick at `position`. `value` and `shown`, its text without a format, go into the format of the
     /// rule (or the axis's own); the format "-" gives no label.
     PlannedTick tick(double position, double value, std::string_view shown, int rule) const;
+    /// Breaks a label into lines of `room` pixels, if that makes it fit.
+    bool wrap(PlannedTick& tick, const LabelFit& fit, double room) const;
     /// Makes a label reach no farther than `room` from the line, and be no higher than `pitch` where it is
     /// wrapped for that.
     void shorten(PlannedTick& tick, const LabelFit& fit, double room, double pitch) const;

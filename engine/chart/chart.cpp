@@ -151,16 +151,33 @@ bool Chart::makePicture(double scale, const char** data, int* length) {
 void Chart::draw(Canvas& canvas) {
     canvas.painter().setRenderHint(QPainter::Antialiasing, m_smoothShapes);
     drawBackground(canvas);
+    // What the caller places is entered before anything looks for room beside it.
+    m_textRoom = TextRoom(QSize(m_width, m_height));
+    std::vector<PlacedText> titles;
+    TitleStacks stacks(QSize(m_width, m_height));
+    for (const Title* title : m_titles)
+        titles.push_back(title->placed(stacks));
+    std::vector<std::optional<PlacedText>> texts;
+    for (const DrawObj* object : m_objects)
+        texts.push_back(object->placedText());
+    for (const PlacedText& title : titles)
+        title.reserve(m_textRoom);
+    for (const std::optional<PlacedText>& text : texts)
+        if (text)
+            text->reserve(m_textRoom);
+    const auto legend = m_legend != nullptr ? m_legend->plan() : nullptr;
+    if (legend != nullptr)
+        m_textRoom.reserve(QPolygonF(QRectF(m_legend->boxOf(*legend))));
+
     if (!m_drawArea.image().isNull())
         canvas.painter().drawImage(0, 0, m_drawArea.image());
     drawBody(canvas);
-    TitleStacks stacks(QSize(m_width, m_height));
-    for (Title* title : m_titles)
-        title->drawIn(canvas, stacks);
-    if (m_legend != nullptr)
-        m_legend->draw(canvas);
-    for (DrawObj* object : m_objects)
-        object->draw(canvas);
+    for (const PlacedText& title : titles)
+        title.draw(canvas);
+    if (legend != nullptr)
+        m_legend->draw(canvas, *legend);
+    for (std::size_t i = 0; i < m_objects.size(); ++i)
+        texts[i] ? texts[i]->draw(canvas) : m_objects[i]->draw(canvas);
     drawTop(canvas);
 }
 

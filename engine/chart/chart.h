@@ -4,6 +4,7 @@
 
 #include "engine/chart/draw_obj.h"
 #include "engine/chart/legend.h"
+#include "engine/chart/text_room.h"
 #include "engine/chart/title.h"
 
 #include <QByteArray>
@@ -86,6 +87,8 @@ public:
 
     /// Keys of the named data sets or sectors, in order.
     virtual void collectKeys(std::vector<LegendKey>& keys) const;
+    /// Where texts stand on the picture that is being made.
+    TextRoom& textRoom() { return m_textRoom; }
     /// The pixels that data may cover, where they are known: a legend there is given a ground.
     virtual QRect dataArea() const { return {}; }
 
@@ -137,6 +140,7 @@ private:
     LegendBox* m_legend = nullptr;
     std::vector<Chart*> m_hosts;
     std::set<std::string, std::less<>> m_texts;
+    TextRoom m_textRoom{QSize()};
 
     bool m_stale = true;
     bool m_hostsTold = false; ///< of a change since one of them was drawn

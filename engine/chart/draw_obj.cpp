@@ -6,6 +6,11 @@
 
 namespace chartdraw {
 
+void PlacedText::reserve(TextRoom& room) const {
+    if (!block.empty())
+        room.reserve(block.outlineAt(anchor, alignment));
+}
+
 void DrawObj::draw(Canvas& /*canvas*/) {}
 
 void Box::setPos(int x, int y) {
@@ -39,8 +44,8 @@ FreeText::FreeText(Chart& chart, std::string text, const TextLook& look, QPoint 
     setPos(at.x(), at.y());
 }
 
-void FreeText::draw(Canvas& canvas) {
-    block().drawAt(canvas, *pos(), m_anchor);
+std::optional<PlacedText> FreeText::placedText() const {
+    return PlacedText{block(), *pos(), m_anchor};
 }
 
 Line::Line(Chart& chart, QPoint from, QPoint to, Colour colour, int width)

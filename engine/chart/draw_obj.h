@@ -11,12 +11,26 @@
 
 namespace chartdraw {
 
+class TextRoom;
+
+/// A text laid out for one picture, and its place there.
+struct PlacedText {
+    TextBlock block;
+    QPointF anchor;
+    int alignment;
+
+    void reserve(TextRoom& room) const;
+    void draw(Canvas& canvas) const { block.drawAt(canvas, anchor, alignment); }
+};
+
 class DrawObj : public Part {
 public:
     static constexpr Kind kKind = Kind::DrawObj;
 
     /// Draws the object where it stands. Objects that are only a style (label looks) draw nothing.
     virtual void draw(Canvas& canvas);
+    /// What is drawn instead, where the object is a text.
+    virtual std::optional<PlacedText> placedText() const { return std::nullopt; }
 
 protected:
     using Part::Part;
@@ -72,7 +86,7 @@ private:
 class FreeText : public TextBox {
 public:
     FreeText(Chart& chart, std::string text, const TextLook& look, QPoint at, int alignment);
-    void draw(Canvas& canvas) override;
+    std::optional<PlacedText> placedText() const override;
 
 private:
     int m_anchor;

@@ -2,6 +2,7 @@
 
 #include "engine/chart/chart.h"
 #include "engine/scale/format.h"
+#include "engine/text/fitted_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -67,13 +68,13 @@ struct LegendBox::Placed {
     const LegendKey* key;
     TextBlock text;
     int symbolWidth;
-    QPoint at; ///< upper left corner inside the box's margins
+    QPoint at;         ///< upper left corner inside the box's margins
+    int rowHeight = 0; ///< of the row that it stands in
 };
 
 struct LegendBox::Plan {
     std::vector<LegendKey> keys; ///< kept alive for `placed`
     std::vector<Placed> placed;
-    int lineHeight = 0;
     int symbolHeight = 0;
     int gap = 0; ///< between a symbol and its text
     QSize box;
@@ -129,21 +130,25 @@ QSize LegendBox::placeKeys(Plan& plan, int available, int between) const {
         if (total <= available)
             break;
     }
-    int x = 0, y = 0;
-    for (std::size_t i = 0; i < count; ++i) {
-        const std::size_t column = i % columns.size();
-        if (column == 0 && i > 0) {
-            x = 0;
-            y += plan.lineHeight + 1;
+    int y = 0;
+    for (std::size_t row = 0; row < count; row += columns.size()) {
+        const std::size_t end = std::min(count, row + columns.size());
+        int height = plan.symbolHeight, x = 0;
+        for (std::size_t i = row; i < end; ++i)
+            height = std::max(height, plan.placed[i].text.size().height());
+        for (std::size_t i = row; i < end; ++i) {
+            plan.placed[i].at = QPoint(x, y);
+            plan.placed[i].rowHeight = height;
+            x += columns[i - row] + between;
         }
-        plan.placed[i].at = QPoint(x, y);
-        x += columns[column] + between;
+        y += height + 1;
     }
-    return {total, y + plan.lineHeight};
+    return {total, y - 1};
 }
 
-LegendBox::Plan LegendBox::plan() const {
-    Plan plan;
+std::shared_ptr<const LegendBox::Plan> LegendBox::plan() const {
+    const auto made = std::make_shared<Plan>();
+    Plan& plan = *made;
     chart().collectKeys(plan.keys);
     std::erase_if(plan.keys, [](const LegendKey& key) { return key.fields == nullptr && key.text.empty(); });
     for (const OwnKey& own : m_keys)
@@ -159,6 +164,7 @@ LegendBox::Plan LegendBox::plan() const {
     const int em = TextBlock(bare, "X", chart().fonts()).boxSize().height();
     const int available = (look().width > 0 ? look().width : chart().width() - pos()->x() - kBorder) -
                           look().marginLeft - look().marginRight;
+    const int below = chart().height() - kBorder - pos()->y() - look().marginTop - look().marginBottom;
     plan.symbolHeight = std::max(5, em * 2 / 3);
     plan.gap = std::max(3, em / 3);
     const bool anyWide = std::any_of(plan.keys.begin(), plan.keys.end(), [](auto& key) { return key.wide; });
@@ -168,45 +174,61 @@ LegendBox::Plan LegendBox::plan() const {
         // In a column all texts start at one edge; in a row each symbol is as wide as it needs.
         const bool wide = m_vertical ? anyWide : key.wide;
         const int symbolWidth = wide ? em * 3 / 2 : plan.symbolHeight;
-        bare.wrapWidth = std::max(2 * em, available - symbolWidth - plan.gap);
-        TextBlock block(bare, key.fields ? format.apply(*key.fields) : key.text, chart().fonts());
-        plan.lineHeight = std::max({plan.lineHeight, block.size().height(), plan.symbolHeight});
+        const int beside = std::max(2 * em, available - symbolWidth - plan.gap);
+        TextBlock block = fittedText(bare, key.fields ? format.apply(*key.fields) : key.text, chart().fonts(),
+                                     QSize(beside, std::max(em, below)));
         plan.placed.push_back({&key, std::move(block), symbolWidth, {}});
     }
-    const QSize keys = placeKeys(plan, available, em);
+    if (plan.placed.empty())
+        return nullptr;
+    QSize keys = placeKeys(plan, available, em);
+    // Keys that would lie below the picture are left out, as long as one is left.
+    while (look().height <= 0 && keys.height() > below &&
+           plan.placed.front().at.y() < plan.placed.back().at.y()) {
+        const int row = plan.placed.back().at.y();
+        std::erase_if(plan.placed, [row](const Placed& placed) { return placed.at.y() >= row; });
+        keys.setHeight(row - 1);
+    }
     const int fittedWidth = keys.width() + look().marginLeft + look().marginRight;
     const int fittedHeight = keys.height() + look().marginTop + look().marginBottom;
     plan.box = QSize(look().width > 0 ? look().width : fittedWidth,
                      look().height > 0 ? look().height : fittedHeight);
-    return plan;
+    return made;
 }
 
-void LegendBox::draw(Canvas& canvas) {
-    const Plan plan = this->plan();
-    if (plan.placed.empty())
-        return;
+QRect LegendBox::boxOf(const Plan& plan) const {
+    // Where it would leave the picture it moves back, as far as there is room.
+    const auto within = [](int at, int length, int picture) {
+        return at >= picture ? at : std::min(at, std::max(std::min(at, 0), picture - kBorder - length));
+    };
+    return {QPoint(within(pos()->x(), plan.box.width(), chart().width()),
+                   within(pos()->y(), plan.box.height(), chart().height())),
+            plan.box};
+}
+
+void LegendBox::draw(Canvas& canvas, const Plan& plan) const {
     const TextLook& style = look();
-    const QRect box(*pos(), plan.box);
+    const QRect box = boxOf(plan);
     // On data, keys would be hard to read without a ground of their own.
     const bool bare = canvas.colours().invisible(style.background) && box.intersects(chart().dataArea());
     canvas.box(box, bare ? groundFor(style.colour) : style.background, style.edge, style.effect,
                style.corners);
-    const QPoint origin = *pos() + QPoint(style.marginLeft, style.marginTop);
+    const QPoint origin = box.topLeft() + QPoint(style.marginLeft, style.marginTop);
     for (const Placed& placed : plan.placed) {
         const QPoint corner = origin + placed.at;
-        const int symbolTop = corner.y() + (plan.lineHeight - plan.symbolHeight) / 2;
+        const int symbolTop = corner.y() + (placed.rowHeight - plan.symbolHeight) / 2;
         if (placed.key->drawSymbol) {
             placed.key->drawSymbol(canvas,
                                    QRectF(corner.x(), symbolTop, placed.symbolWidth, plan.symbolHeight));
         }
-        const int textTop = corner.y() + (plan.lineHeight - placed.text.size().height()) / 2;
+        const int textTop = corner.y() + (placed.rowHeight - placed.text.size().height()) / 2;
         placed.text.drawAt(canvas, QPointF(corner.x() + placed.symbolWidth + plan.gap, textTop), TopLeft);
     }
 }
 
 int LegendBox::measuredHeight() const {
-    const Plan plan = this->plan();
-    return plan.placed.empty() ? 0 : plan.box.height();
+    const auto plan = this->plan();
+    return plan != nullptr ? plan->box.height() : 0;
 }
 
 } // namespace chartdraw

@@ -44,7 +44,11 @@ public:
     /// `symbol` is copied; null: none.
     void addKey(std::string text, Colour colour, int lineWidth, const DrawArea* symbol);
 
-    void draw(Canvas& canvas) override;
+    /// The keys laid out for one picture; null without any.
+    struct Plan;
+    std::shared_ptr<const Plan> plan() const;
+    QRect boxOf(const Plan& plan) const;
+    void draw(Canvas& canvas, const Plan& plan) const;
     int measuredHeight() const override;
 
 private:
@@ -55,9 +59,7 @@ private:
         QImage symbol;
     };
     struct Placed;
-    struct Plan;
     static LegendKey keyOf(const OwnKey& own, Colour next);
-    Plan plan() const;
     QSize placeKeys(Plan& plan, int available, int between) const;
 
     bool m_vertical = false;

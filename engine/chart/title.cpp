@@ -1,8 +1,10 @@
 #include "engine/chart/title.h"
 
 #include "engine/chart/chart.h"
+#include "engine/text/fitted_text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace chartdraw {
 
@@ -47,22 +49,22 @@ TextBlock Title::laidOut() const {
     TextLook full = look();
     if (m_strip && full.width <= 0)
         full.width = chart().width();
-    const bool level = full.angle == 0 && !full.vertical;
-    if (level && full.wrapWidth == 0)
-        full.wrapWidth = std::max(1, chart().width() - 2 * kBorder - full.marginLeft - full.marginRight);
-    return {full, text(), chart().fonts()};
+    const int most = chart().width() - (m_strip ? 0 : 2 * kBorder);
+    return fittedText(full, text(), chart().fonts(),
+                      QSize(std::max(1, most), std::max(1, chart().height() / 2)));
 }
 
 int Title::measuredHeight() const {
     return laidOut().size().height();
 }
 
-void Title::drawIn(Canvas& canvas, TitleStacks& stacks) {
-    const TextBlock laid = laidOut();
+PlacedText Title::placed(TitleStacks& stacks) const {
+    TextBlock laid = laidOut();
     const auto automatic = [&] {
         return m_strip ? stacks.placeStrip(laid.size()) : stacks.place(laid.size(), m_alignment);
     };
-    laid.drawAt(canvas, pos() ? *pos() : automatic(), TopLeft);
+    const QPoint corner = pos() ? *pos() : automatic();
+    return {std::move(laid), corner, TopLeft};
 }
 
 } // namespace chartdraw

@@ -26,8 +26,8 @@ class Title : public TextBox {
 public:
     Title(Chart& chart, std::string text, const TextLook& look, int alignment, bool strip);
 
-    /// Draws the title, taking its place from `stacks` unless it has a position of its own.
-    void drawIn(Canvas& canvas, TitleStacks& stacks);
+    /// The title at its place, which is taken from `stacks` unless it has a position of its own.
+    PlacedText placed(TitleStacks& stacks) const;
     int measuredHeight() const override;
 
 private:

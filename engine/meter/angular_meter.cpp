@@ -15,6 +15,7 @@ namespace {
 constexpr double kLabelGap = 3;          ///< pixels between the scale and its labels
 constexpr double kLabelAir = 2;          ///< and between two labels
 constexpr int kPictureMargin = 2;        ///< and between labels and the border of the picture
+constexpr double kMiddle = 0.2;          ///< as a part of the radius: where labels would cover pointers
 constexpr double kPointerBreadth = 0.07; ///< as a part of the radius
 constexpr double kPointerTail = 0.16;    ///< behind the middle, as a part of the pointer's length
 
@@ -150,29 +151,34 @@ double AngularMeter::clearOfRings(const Dial& dial, double radius) const {
 
 /// Outside the scale, and beyond rings whose border would run through a label. Where the picture has no room
 /// for that, inside the ticks.
-std::vector<QRectF> AngularMeter::labelBoxes(const Dial& dial) const {
+std::vector<QRectF> AngularMeter::labelBoxes(const Dial& dial) {
     const QRectF room = QRectF(0, 0, width(), height())
                             .adjusted(kPictureMargin, kPictureMargin, -kPictureMargin, -kPictureMargin);
+    const auto moved = [&](std::vector<QRectF> boxes) {
+        for (QRectF& box : boxes)
+            box = movedInto(box, room);
+        return boxes;
+    };
     const double outside = clearOfRings(dial, m_radius + axisWidth() + kLabelGap);
-    std::vector<QRectF> boxes = boxesAround(dial, outside, true);
-    bool fits = true;
-    for (QRectF& box : boxes) {
-        box = movedInto(box, room);
-        fits = fits && !reachesInto(box, m_centre, outside);
-    }
-    if (!fits) {
-        boxes = boxesAround(dial, m_radius - majorLength() - kLabelGap, false);
-        std::transform(boxes.begin(), boxes.end(), boxes.begin(),
-                       [&](const QRectF& box) { return movedInto(box, room); });
-    }
-    return boxes;
+    const std::vector<QRectF> around = moved(boxesAround(dial, outside, true));
+    const bool fit = std::all_of(around.begin(), around.end(), [&](const QRectF& box) {
+        return !reachesInto(box, m_centre, outside) && textRoom().hasRoom(box);
+    });
+    if (fit)
+        return around;
+    std::vector<QRectF> boxes = moved(boxesAround(dial, m_radius - majorLength() - kLabelGap, false));
+    // About the middle, where the pointers turn, nothing can be read.
+    const double least = m_radius * kMiddle;
+    const bool legible = std::none_of(boxes.begin(), boxes.end(),
+                                      [&](const QRectF& box) { return reachesInto(box, m_centre, least); });
+    return legible ? boxes : around;
 }
 
-void AngularMeter::drawLabels(Canvas& canvas, const Dial& dial) const {
+void AngularMeter::drawLabels(Canvas& canvas, const Dial& dial) {
     const std::vector<QRectF> boxes = labelBoxes(dial);
     const std::vector<bool> kept = thinAround(boxes, kLabelAir);
     for (std::size_t i = 0; i < boxes.size(); ++i)
-        if (kept[i])
+        if (kept[i] && textRoom().claim(boxes[i]))
             dial.labels[i].text.drawAt(canvas, boxes[i].topLeft(), TopLeft);
 }
 

@@ -43,8 +43,8 @@ private:
     void drawRings(Canvas& canvas) const;
     void drawZones(Canvas& canvas) const;
     void drawScale(Canvas& canvas, const Dial& dial) const;
-    void drawLabels(Canvas& canvas, const Dial& dial) const;
-    std::vector<QRectF> labelBoxes(const Dial& dial) const;
+    void drawLabels(Canvas& canvas, const Dial& dial);
+    std::vector<QRectF> labelBoxes(const Dial& dial);
     std::vector<QRectF> boxesAround(const Dial& dial, double radius, bool outside) const;
     /// The first radius from `radius` on at which no label lies across the border of a ring.
     double clearOfRings(const Dial& dial, double radius) const;

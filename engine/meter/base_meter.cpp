@@ -2,6 +2,7 @@
 
 #include "engine/data/no_value.h"
 #include "engine/paint/picture.h"
+#include "engine/scale/short_labels.h"
 
 #include <algorithm>
 #include <cmath>
@@ -13,6 +14,8 @@ namespace {
 constexpr int kWidest = 1000;        ///< pixels of a line
 constexpr double kUsualSpacing = 32; ///< pixels between automatic major ticks
 constexpr int kLabelMargin = 2;      ///< pixels beside a label, seen where it has a background
+
+constexpr std::size_t kMostDigits = 6; ///< of a label; longer numbers take a shorter form
 
 bool isOpaque(Colour colour) {
     return colour < 0x01000000;
@@ -64,10 +67,24 @@ MeterPointer* BaseMeter::addPointer(double value, Colour fill, Colour edge) {
     return m_pointers.back();
 }
 
+void BaseMeter::shorten(Ticks& ticks) const {
+    std::vector<double> values;
+    for (const Tick& tick : ticks.major)
+        values.push_back(tick.value);
+    const ShortLabels labels = shortLabels(values, m_scale.upper() - m_scale.lower());
+    for (std::size_t i = 0; i < values.size(); ++i)
+        ticks.major[i].label = labels.texts[i];
+}
+
 BaseMeter::Dial BaseMeter::dial(double length, bool sideBySide) const {
     const auto label = [this](const Tick& tick) { return m_labelStyle->block(tick.label); };
     const auto ticksAt = [&](double spacing) {
-        return linearTicks(m_scale, m_increments, {.lengthPx = length, .majorPx = spacing});
+        Ticks ticks = linearTicks(m_scale, m_increments, {.lengthPx = length, .majorPx = spacing});
+        const bool manyDigits = std::any_of(ticks.major.begin(), ticks.major.end(),
+                                            [](const Tick& tick) { return tick.label.size() > kMostDigits; });
+        if (manyDigits)
+            shorten(ticks);
+        return ticks;
     };
     Dial dial;
     dial.ticks = ticksAt(kUsualSpacing);

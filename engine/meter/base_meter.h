@@ -68,6 +68,9 @@ protected:
     void drawTop(Canvas& canvas) override;
 
 private:
+    /// Gives all labels a shorter form, if there is one.
+    void shorten(Ticks& ticks) const;
+
     Scale m_scale = Scale::linear(0, 100);
     bool m_falling = false; ///< the scale begins at its upper limit
     Increments m_increments;

@@ -2,6 +2,7 @@
 
 #include "engine/axis/round_labels.h"
 #include "engine/scale/label_thinning.h"
+#include "engine/text/fitted_text.h"
 
 #include <QTransform>
 #include <algorithm>
@@ -103,10 +104,10 @@ void LinearMeter::drawBody(Canvas& canvas) {
     if (barLength() < 1)
         return;
     drawZones(canvas);
-    drawZoneLabels(canvas);
     const Dial dial = this->dial(barLength(), !upright());
     drawScale(canvas, dial);
     drawLabels(canvas, dial);
+    drawZoneLabels(canvas);
 }
 
 void LinearMeter::drawZones(Canvas& canvas) const {
@@ -135,21 +136,31 @@ QRectF LinearMeter::placeInside(const QRectF& zone, QSizeF size, const std::vect
 
 /// In the middle of the zone where the label has room there; else beside the bar, away from the scale, moved
 /// along the bar so that none covers another.
-void LinearMeter::drawZoneLabels(Canvas& canvas) const {
+void LinearMeter::drawZoneLabels(Canvas& canvas) {
     const std::vector<QRectF> pointers = pointerBounds();
     std::vector<ZoneLabel> beside;
     for (const Zone& zone : m_zones) {
         const auto covered = span(zone.start, zone.end);
+        if (!covered)
+            continue;
         TextBlock text = zone.label->block();
-        if (!covered || text.empty())
+        if (text.empty())
             continue;
         const QRectF rect = zoneRect(covered->first, covered->second);
-        const QSizeF size(text.size());
+        QSizeF size(text.size());
         if (size.width() <= rect.width() && size.height() <= rect.height()) {
-            text.drawAt(canvas, placeInside(rect, size, pointers).topLeft(), TopLeft);
+            const QRectF box = placeInside(rect, size, pointers);
+            if (textRoom().claim(box))
+                text.drawAt(canvas, box.topLeft(), TopLeft);
             continue;
         }
         const double away = barBreadth() + kLabelGap;
+        if (upright()) {
+            const double free = m_side == Left ? room().right() - m_bar.right() : m_bar.left();
+            text = fittedText(zone.label->look(), zone.label->text(), fonts(),
+                              QSize(std::max(1, static_cast<int>(free - kLabelGap)), 0));
+            size = QSizeF(text.size());
+        }
         const QPointF middle = upright() ? QPointF(0, rect.center().y()) : QPointF(rect.center().x(), 0);
         const QPointF half(size.width() / 2, size.height() / 2);
         QPointF at = onScale(upright() ? middle.y() : middle.x()) - outward() * away;
@@ -174,7 +185,7 @@ void LinearMeter::drawZoneLabels(Canvas& canvas) const {
         moveTo(label->box,
                std::min(startAlong(label->box, upright()), end - lengthAlong(label->box, upright())));
         end = startAlong(label->box, upright()) - 1;
-        if (end + 1 >= startAlong(room(), upright()))
+        if (textRoom().claim(label->box))
             label->text.drawAt(canvas, label->box.topLeft(), TopLeft);
     }
 }
@@ -196,7 +207,7 @@ void LinearMeter::drawScale(Canvas& canvas, const Dial& dial) const {
     strip(start, start + barLength(), 0, axisWidth());
 }
 
-void LinearMeter::drawLabels(Canvas& canvas, const Dial& dial) const {
+void LinearMeter::drawLabels(Canvas& canvas, const Dial& dial) {
     const double distance = axisWidth() + majorLength() + kLabelGap;
     std::vector<QRectF> boxes;
     std::vector<LabelExtent> extents;
@@ -206,13 +217,17 @@ void LinearMeter::drawLabels(Canvas& canvas, const Dial& dial) const {
                            : m_side == Right     ? Left
                            : m_side == TopCenter ? BottomCenter
                                                  : TopCenter;
-        boxes.push_back(movedInto(label.text.boundsAt(anchor, facing), room()));
+        QRectF box = movedInto(label.text.boundsAt(anchor, facing), room());
+        if (upright()) // not onto the bar
+            box.moveLeft(label.text.boundsAt(anchor, facing).left());
+        boxes.push_back(box);
         const double from = startAlong(boxes.back(), upright());
         extents.push_back({from, from + lengthAlong(boxes.back(), upright())});
     }
     for (const int index : thinLabels(extents, upright() ? kLabelAir : 4 * kLabelAir, true)) {
         const auto i = static_cast<std::size_t>(index);
-        dial.labels[i].text.drawAt(canvas, boxes[i].topLeft(), TopLeft);
+        if (textRoom().claim(boxes[i]))
+            dial.labels[i].text.drawAt(canvas, boxes[i].topLeft(), TopLeft);
     }
 }
 

@@ -51,9 +51,9 @@ private:
     QRectF room() const;
 
     void drawZones(Canvas& canvas) const;
-    void drawZoneLabels(Canvas& canvas) const;
+    void drawZoneLabels(Canvas& canvas);
     void drawScale(Canvas& canvas, const Dial& dial) const;
-    void drawLabels(Canvas& canvas, const Dial& dial) const;
+    void drawLabels(Canvas& canvas, const Dial& dial);
     QRectF placeInside(const QRectF& zone, QSizeF size, const std::vector<QRectF>& pointers) const;
     QRectF zoneRect(double from, double to) const;
 

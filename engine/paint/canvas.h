@@ -12,6 +12,7 @@
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <QPolygonF>
 #include <span>
 #include <vector>
 
@@ -72,6 +73,13 @@ public:
     /// (-1) edge is none.
     void shape(const QPainterPath& path, Colour fill, Colour edge, int effect, double edgeWidth = 1);
 
+    /// Tells `texts`, which must outlive the canvas, the outline of every text that is drawn from now on.
+    void recordTexts(std::vector<QPolygonF>* texts) { m_texts = texts; }
+    void textDrawn(const QPolygonF& outline) {
+        if (m_texts != nullptr)
+            m_texts->push_back(outline);
+    }
+
 private:
     /// What can show, with `margin` pixels around it, in the painter's coordinates.
     QRectF visible(double margin) const;
@@ -91,6 +99,7 @@ private:
     std::vector<QRect> m_clips; ///< on the image, the last one within all others
     const ColourTable& m_colours;
     double m_scale;
+    std::vector<QPolygonF>* m_texts = nullptr;
 };
 
 /// Draws an image at its own size, placed in the area by an alignment code (the digits of a number pad, 5 and

@@ -10,6 +10,8 @@ namespace {
 
 constexpr double kGap = 1;       ///< pixels between two labels
 constexpr double kBendRoom = 20; ///< how much farther out a displaced label stands at most
+constexpr double kStub = 5;      ///< how far a join line leaves the rim before it bends
+constexpr double kRingRoom = 6;  ///< for lines that go round, where labels have given way
 constexpr double kPassing = 9;   ///< room for a join line beside a label
 constexpr double kJoinFrom = 14; ///< a label farther than this from its sector gets a join line
 
@@ -211,16 +213,20 @@ private:
     Range m_tooLong = {0, 0};
 };
 
-/// Join lines for the labels that stand away from their sectors.
-void addJoins(std::span<const SectorLabel> spots, std::vector<PlacedLabel>& labels) {
+/// Which labels stand away from their sectors, or not where they would if they were alone.
+std::vector<bool> displaced(std::span<const SectorLabel> spots, const std::vector<PlacedLabel>& labels,
+                            double distance) {
+    std::vector<bool> result(labels.size(), false);
     for (std::size_t i = 0; i < spots.size(); ++i) {
         const QRectF& box = labels[i].box;
         const QPointF near(std::clamp(spots[i].rim.x(), box.left(), box.right()),
                            std::clamp(spots[i].rim.y(), box.top(), box.bottom()));
         const QPointF gap = near - spots[i].rim;
-        if (labels[i].shown && std::hypot(gap.x(), gap.y()) > kJoinFrom)
-            labels[i].join = joinLine(spots[i], box);
+        const QPointF moved = box.center() - touching(spots[i], distance).center();
+        result[i] = labels[i].shown && (std::hypot(gap.x(), gap.y()) > kJoinFrom ||
+                                        std::hypot(moved.x(), moved.y()) > box.height() / 2);
     }
+    return result;
 }
 
 /// Whether a part of the join line lies in the box. Lines are short, so looking at points of it will do.
@@ -245,6 +251,15 @@ bool anyConflict(const std::vector<PlacedLabel>& labels) {
     return false;
 }
 
+/// Whether some of the box lies clearly inside the spot's ellipse.
+bool covers(const QRectF& box, const SectorLabel& spot) {
+    constexpr double kGraze = 3;
+    const double x = std::clamp(spot.centre.x(), box.left(), box.right()) - spot.centre.x();
+    const double y = std::clamp(spot.centre.y(), box.top(), box.bottom()) - spot.centre.y();
+    return spot.rx > kGraze && spot.ry > kGraze &&
+           std::hypot(x / (spot.rx - kGraze), y / (spot.ry - kGraze)) < 1;
+}
+
 /// A label inside its sector, centred at a distance from the rim, moved into the picture if need be.
 QRectF insideBox(const SectorLabel& spot, const QRectF& room, double distance) {
     const double rx = std::max(0.0, spot.rx + distance);
@@ -259,31 +274,36 @@ QRectF insideBox(const SectorLabel& spot, const QRectF& room, double distance) {
 
 } // namespace
 
-std::vector<PlacedLabel> circleLayout(std::span<const SectorLabel> spots, const QRectF& room,
+std::vector<PlacedLabel> circleLayout(std::span<const SectorLabel> spots, const LabelRooms& rooms,
                                       double distance) {
     std::vector<PlacedLabel> result;
     const auto kept = heaviest(spots, kMostLabels);
     if (distance < 0) {
         result.resize(spots.size());
         for (std::size_t i : kept)
-            result[i] = {true, insideBox(spots[i], room, distance), {}};
+            result[i] = {true, insideBox(spots[i], rooms.left | rooms.right, distance), {}};
         hideOverlaps(spots, result);
         return result;
     }
     // Labels at the top and bottom may lie over the middle line, as long as nothing else is in their way.
     for (const bool crowded : {false, true}) {
         result.assign(spots.size(), {});
-        Half left(spots, room, distance, false, crowded);
-        Half right(spots, room, distance, true, crowded);
+        Half left(spots, rooms.left, distance, false, crowded);
+        Half right(spots, rooms.right, distance, true, crowded);
         for (std::size_t i : kept)
             (direction(spots[i].angle).x() >= -1e-9 ? right : left).add(i);
         left.place(result);
         right.place(result);
-        addJoins(spots, result);
+        addJoins(spots, result, std::clamp(distance / 2, 2.0, kStub), distance / 2 + kRingRoom,
+                 displaced(spots, result, distance));
         if (!anyConflict(result))
             break;
     }
     hideOverlaps(spots, result);
+    // Where the room is too narrow a label would lie on the pie.
+    for (std::size_t i = 0; i < spots.size(); ++i)
+        if (result[i].shown && covers(result[i].box, spots[i]))
+            result[i] = {};
     return result;
 }
 

@@ -28,14 +28,23 @@ struct PlacedLabel {
     std::vector<QPointF> join; ///< the join line from the rim to the label; empty: none
 };
 
-/// Labels around the pie, inside `room`. `distance` is counted from the rim outwards; below 0 the labels are
-/// centred that far inside the rim and have no join lines.
-std::vector<PlacedLabel> circleLayout(std::span<const SectorLabel> spots, const QRectF& room,
+/// The parts of the picture that labels of the left and of the right half may stand in.
+struct LabelRooms {
+    QRectF left, right;
+};
+
+/// `whole` without the boxes of other texts: of each half as little as leaves the pie whole.
+LabelRooms roomsBeside(const QRectF& whole, const QRectF& pie, std::span<const QRectF> texts);
+
+/// Labels around the pie, inside their rooms. `distance` is counted from the rim outwards; below 0 the labels
+/// are centred that far inside the rim and have no join lines.
+std::vector<PlacedLabel> circleLayout(std::span<const SectorLabel> spots, const LabelRooms& rooms,
                                       double distance);
 
-/// Labels in two columns inside `room`, `distance` beside the pie, joined to their sectors by lines that bend
-/// once.
-std::vector<PlacedLabel> sideLayout(std::span<const SectorLabel> spots, const QRectF& room, double distance);
+/// Labels in two columns inside their rooms, `distance` beside the pie, joined to their sectors by lines that
+/// bend once.
+std::vector<PlacedLabel> sideLayout(std::span<const SectorLabel> spots, const LabelRooms& rooms,
+                                    double distance);
 
 /// Moves intervals of the given lengths apart, keeping their order and staying as near to the wished starts
 /// as possible (least squares), all of them between `low` and `high`. They must fit in there together.

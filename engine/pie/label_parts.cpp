@@ -1,7 +1,5 @@
 #include "engine/pie/label_parts.h"
 
-#include "engine/pie/sector_geometry.h"
-
 #include <algorithm>
 #include <cmath>
 #include <numeric>
@@ -10,27 +8,39 @@ namespace chartdraw {
 
 namespace {
 
-constexpr double kLineGap = 2;   ///< between a join line's end and the label
-constexpr double kOutwards = 10; ///< how far a join line leaves the rim before it bends
-constexpr double kLastPart = 5;  ///< the least length of the part beside the label
+constexpr double kApart = 3; ///< pixels between a label and another text
 
-/// Whether a line from the rim outwards cuts through the ellipse.
-bool cutsThrough(const SectorLabel& spot, QPointF from, QPointF to) {
-    if (spot.rx <= 0 || spot.ry <= 0)
-        return false;
-    const auto scaled = [&](QPointF point) {
-        return QPointF((point.x() - spot.centre.x()) / spot.rx, (point.y() - spot.centre.y()) / spot.ry);
-    };
-    const QPointF a = scaled(from);
-    const QPointF way = scaled(to) - a;
-    const double length = QPointF::dotProduct(way, way);
-    const double nearest = length > 0 ? std::clamp(-QPointF::dotProduct(a, way) / length, 0.0, 1.0) : 0;
-    const QPointF closest = a + way * nearest;
-    // The line starts on the rim or just inside it, so only a clear cut counts.
-    return std::hypot(closest.x(), closest.y()) < std::min(1.0, std::hypot(a.x(), a.y())) - 0.02;
+/// What is left of a room beside a text: the largest part that still holds `needed`, the room itself if none.
+QRectF without(const QRectF& room, const QRectF& needed, const QRectF& text) {
+    if (!room.intersects(text))
+        return room;
+    const QRectF parts[] = {QRectF(QPointF(room.left(), text.bottom() + kApart), room.bottomRight()),
+                            QRectF(room.topLeft(), QPointF(room.right(), text.top() - kApart)),
+                            QRectF(QPointF(text.right() + kApart, room.top()), room.bottomRight()),
+                            QRectF(room.topLeft(), QPointF(text.left() - kApart, room.bottom()))};
+    QRectF best;
+    for (const QRectF& part : parts)
+        if (part.isValid() && part.contains(needed & room) &&
+            part.width() * part.height() > best.width() * best.height())
+            best = part;
+    return best.isValid() ? best : room;
 }
 
 } // namespace
+
+LabelRooms roomsBeside(const QRectF& whole, const QRectF& pie, std::span<const QRectF> texts) {
+    LabelRooms rooms{whole, whole};
+    const double middle = pie.center().x();
+    const QRectF left(pie.topLeft(), QPointF(middle, pie.bottom()));
+    const QRectF right(QPointF(middle, pie.top()), pie.bottomRight());
+    for (const QRectF& text : texts) {
+        if (text.left() < middle)
+            rooms.left = without(rooms.left, left, text);
+        if (text.right() > middle)
+            rooms.right = without(rooms.right, right, text);
+    }
+    return rooms;
+}
 
 std::vector<std::size_t> heaviest(std::span<const SectorLabel> spots, std::size_t most) {
     std::vector<std::size_t> order(spots.size());
@@ -50,25 +60,6 @@ void hideOverlaps(std::span<const SectorLabel> spots, std::vector<PlacedLabel>& 
             if (labels[k].shown && labels[i].box.intersects(labels[k].box))
                 labels[spots[k].weight >= spots[i].weight ? i : k] = {};
     }
-}
-
-std::vector<QPointF> joinLine(const SectorLabel& spot, const QRectF& box) {
-    const double side = box.center().x() >= spot.centre.x() ? 1 : -1; // of the pie on which the label stands
-    const double nearX = side > 0 ? box.left() - kLineGap : box.right() + kLineGap;
-    const double middle = std::floor(box.center().y()); // the level part covers one row of pixels
-    if ((nearX - spot.rim.x()) * side < kLastPart) {
-        const bool above = middle < spot.rim.y();
-        const double x = std::clamp(spot.rim.x(), box.left(), box.right());
-        return {spot.rim, {x, above ? box.bottom() + 1 : box.top() - 1}};
-    }
-    // Bend where the line has just left the rim; farther out if it would run through the pie from there.
-    const double latest = nearX - side * kLastPart;
-    double bend = spot.rim.x() + direction(spot.angle).x() * kOutwards;
-    if ((bend - latest) * side > 0 || (bend - spot.rim.x()) * side < 0)
-        bend = latest;
-    for (int step = 1; step <= 8 && cutsThrough(spot, spot.rim, {bend, middle}); ++step)
-        bend += (latest - bend) * step / 8;
-    return {spot.rim, {bend, middle}, {nearX, middle}};
 }
 
 std::vector<double> stackApart(std::span<const double> wished, std::span<const double> lengths, double low,

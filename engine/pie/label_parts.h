@@ -11,9 +11,12 @@ std::vector<std::size_t> heaviest(std::span<const SectorLabel> spots, std::size_
 /// Of two labels that cover one another, hides the one of less weight. The last resort.
 void hideOverlaps(std::span<const SectorLabel> spots, std::vector<PlacedLabel>& labels);
 
-/// The line from the rim to the label's box: to the middle of its near side after one bend, or straight to
-/// its lower or upper side. It does not run through the spot's ellipse if there is any way around.
-std::vector<QPointF> joinLine(const SectorLabel& spot, const QRectF& box);
+/// Join lines for the labels that are wanted to have one. A label goes where its line would cross that of a
+/// larger sector. Lines leave the rim for `stub` pixels; those that go round stand up to `room` farther out.
+void addJoins(std::span<const SectorLabel> spots, std::vector<PlacedLabel>& labels, double stub, double room,
+              const std::vector<bool>& wanted);
+
+bool joinsCross(const std::vector<QPointF>& a, const std::vector<QPointF>& b);
 
 /// More labels than this cannot be told apart in any picture.
 constexpr std::size_t kMostLabels = 400;

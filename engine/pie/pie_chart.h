@@ -77,11 +77,11 @@ private:
     QPointF centreOf(const PieBody& body, std::size_t index, const SectorSpan& span) const;
     double labelDistance(const PieBody& body) const;
     /// Pixels that a line of a label may have beside the pie.
-    int widthBeside(const PieBody& body, QPointF about, double angle) const;
+    int widthBeside(const PieBody& body, QPointF about, double angle, const LabelRooms& rooms) const;
     void drawLabels(Canvas& canvas, const PieBody& body, std::span<const double> shares,
-                    std::span<const SectorSpan> spans) const;
+                    std::span<const SectorSpan> spans);
     std::vector<Label> makeLabels(const PieBody& body, std::span<const double> shares,
-                                  std::span<const SectorSpan> spans) const;
+                                  std::span<const SectorSpan> spans, const LabelRooms& rooms) const;
     std::shared_ptr<const FieldSource> fieldsOf(std::size_t index, double share) const;
 
     bool m_sized = false; ///< else the pie fits itself into the picture

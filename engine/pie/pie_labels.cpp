@@ -3,6 +3,7 @@
 #include "engine/data/no_value.h"
 #include "engine/pie/label_parts.h"
 #include "engine/pie/pie_chart.h"
+#include "engine/text/fitted_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -11,7 +12,7 @@ namespace chartdraw {
 
 namespace {
 
-constexpr double kLeastWrap = 60;     ///< pixels that a line of a label has at least
+constexpr double kLeastWrap = 40;     ///< pixels that a line of a label has at least
 constexpr int kMargin = 2;            ///< pixels between labels and the border of the picture
 constexpr double kCircleDistance = 6; ///< pixels between rim and label when nothing else is told
 
@@ -64,24 +65,29 @@ void PieChart::collectKeys(std::vector<LegendKey>& keys) const {
 }
 
 double PieChart::labelDistance(const PieBody& body) const {
+    // The lines of many sectors go round the pie side by side.
+    if (m_inColumns && m_labelDistance < 0)
+        return std::max(18.0, body.radius / 6) +
+               std::clamp(1.5 * (static_cast<double>(m_values.size()) - 8), 0.0, 15.0);
     if (m_inColumns)
-        return m_labelDistance >= 0 ? m_labelDistance : std::max(18.0, body.radius / 6);
+        return m_labelDistance;
     return m_labelDistance == -1 ? kCircleDistance : m_labelDistance;
 }
 
-int PieChart::widthBeside(const PieBody& body, QPointF about, double angle) const {
+int PieChart::widthBeside(const PieBody& body, QPointF about, double angle, const LabelRooms& rooms) const {
     const double side = direction(angle).x();
     double room = width() * 0.4;
     if (m_inColumns || std::abs(side) > 0.5) {
         const double rim = about.x() + (side < 0 ? -body.radius : body.radius);
-        const double beside = side < 0 ? rim : width() - rim;
-        room = std::min(room, beside - std::max(0.0, labelDistance(body)) - kMargin);
+        const double beside = side < 0 ? rim - rooms.left.left() : rooms.right.right() - rim;
+        room = beside - std::max(0.0, labelDistance(body));
     }
     return static_cast<int>(std::max(kLeastWrap, room));
 }
 
 std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span<const double> shares,
-                                                  std::span<const SectorSpan> spans) const {
+                                                  std::span<const SectorSpan> spans,
+                                                  const LabelRooms& rooms) const {
     std::vector<SectorLabel> weights(shares.size());
     for (std::size_t i = 0; i < shares.size(); ++i)
         weights[i].weight = shares[i];
@@ -96,9 +102,13 @@ std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span
             continue;
         const double angle = spans[i].middle();
         const QPointF about = centreOf(body, i, spans[i]);
-        if (wraps)
-            look.wrapWidth = widthBeside(body, about, angle);
-        TextBlock block(look, text, fonts());
+        QSize most;
+        if (wraps) { // a long word may come nearer to the pie
+            const int beside = widthBeside(body, about, angle, rooms);
+            look.wrapWidth = std::max(1, beside - look.marginLeft - look.marginRight);
+            most.setWidth(beside + static_cast<int>(labelDistance(body) * 0.7));
+        }
+        TextBlock block = fittedText(look, text, fonts(), most);
         if (block.empty())
             continue;
         const QPointF lowered =
@@ -116,31 +126,35 @@ std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span
 }
 
 void PieChart::drawLabels(Canvas& canvas, const PieBody& body, std::span<const double> shares,
-                          std::span<const SectorSpan> spans) const {
-    const std::vector<Label> labels = makeLabels(body, shares, spans);
-    std::vector<SectorLabel> spots;
-    for (const Label& label : labels)
-        spots.push_back(label.spot);
+                          std::span<const SectorSpan> spans) {
     QRectF room = QRectF(0, 0, width(), height()).adjusted(kMargin, kMargin, -kMargin, -kMargin);
-    std::vector<PlacedLabel> placed;
     if (m_inColumns) {
         room.setTop(m_labelTop >= 0 ? m_labelTop : room.top());
         room.setBottom(m_labelBottom >= 0 ? m_labelBottom : room.bottom());
-        placed = sideLayout(spots, room, labelDistance(body));
-    } else {
-        placed = circleLayout(spots, room, labelDistance(body));
     }
+    const LabelRooms rooms = roomsBeside(room, body.bounds(body.centre), textRoom().boxes());
+    const std::vector<Label> labels = makeLabels(body, shares, spans, rooms);
+    std::vector<SectorLabel> spots;
+    for (const Label& label : labels)
+        spots.push_back(label.spot);
+    const std::vector<PlacedLabel> placed = m_inColumns ? sideLayout(spots, rooms, labelDistance(body))
+                                                        : circleLayout(spots, rooms, labelDistance(body));
+    std::vector<bool> shown;
+    for (const PlacedLabel& label : placed)
+        shown.push_back(label.shown && textRoom().claim(label.box));
     for (std::size_t i = 0; i < labels.size(); ++i) {
+        if (!shown[i])
+            continue;
         const Sector* style = styleOf(labels[i].sector);
         const Colour line = orDefault(style != nullptr ? style->joinLine() : kDefaultColour, m_joinLine);
         if (placed[i].join.size() > 1)
             canvas.polyline(placed[i].join, line, 1);
     }
     for (std::size_t i = 0; i < labels.size(); ++i) {
-        if (placed[i].shown) {
-            const QPointF corner(std::floor(placed[i].box.left()), std::floor(placed[i].box.top()));
-            labels[i].text.drawAt(canvas, corner, TopLeft);
-        }
+        if (!shown[i])
+            continue;
+        const QPointF corner(std::floor(placed[i].box.left()), std::floor(placed[i].box.top()));
+        labels[i].text.drawAt(canvas, corner, TopLeft);
     }
 }
 

@@ -10,7 +10,8 @@ namespace chartdraw {
 
 namespace {
 
-constexpr int kWidestLine = 1000; ///< pixels
+constexpr int kWidestLine = 1000;     ///< pixels
+constexpr double kZeroAffinity = 0.8; ///< radii are read from the centre
 
 int limited(int pixels) {
     return std::clamp(pixels, -2 * kMaxSide, 2 * kMaxSide);
@@ -24,7 +25,7 @@ PolarChart::PolarChart(int width, int height, Colour background, Colour edge, in
       m_radius(std::max(0, std::min(limited(width), limited(height))) * 2 / 5),
       m_angular(own<AngularAxis>(*this)), m_radial(own<Axis>(*this, Direction::Y)) {
     // The rim is no border that data should keep away from: the radius is used to the full.
-    m_radial->setAutoScale(0, 0, AutoScale().zeroAffinity);
+    m_radial->setAutoScale(0, 0, kZeroAffinity);
 }
 
 void PolarChart::setPlotArea(QPoint centre, int radius, Colour background, Colour edge, int edgeWidth) {
@@ -119,13 +120,12 @@ void PolarChart::drawBody(Canvas& canvas) {
     if (m_gridOnTop)
         drawGrid(canvas, plot);
     canvas.strokePath(plot.frame.ring(m_radius), m_edge, m_edgeWidth);
-    std::vector<QRectF> taken;
-    drawRadialAxis(canvas, plot, taken);
-    drawMarks(canvas, plot.frame, taken);
-    drawRadialTitle(canvas, plot.frame, taken);
-    drawAngularLabels(canvas, plot, taken);
+    drawMarks(canvas, plot.frame);
+    drawAngularLabels(canvas, plot);
+    drawRadialAxis(canvas, plot);
+    drawRadialTitle(canvas, plot.frame);
     for (const PolarLayer* layer : m_layers)
-        layer->drawLabels(canvas, plot.frame, *m_angular, room(), taken);
+        layer->drawLabels(canvas, plot.frame, *m_angular, room(), textRoom());
 }
 
 } // namespace chartdraw

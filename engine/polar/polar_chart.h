@@ -46,10 +46,10 @@ private:
     void drawAlternating(Canvas& canvas, const Plot& plot) const;
     void drawZones(Canvas& canvas, const PolarFrame& frame) const;
     void drawGrid(Canvas& canvas, const Plot& plot) const;
-    void drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const;
-    void drawRadialTitle(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const;
-    void drawMarks(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const;
-    void drawAngularLabels(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const;
+    void drawRadialAxis(Canvas& canvas, const Plot& plot);
+    void drawRadialTitle(Canvas& canvas, const PolarFrame& frame);
+    void drawMarks(Canvas& canvas, const PolarFrame& frame);
+    void drawAngularLabels(Canvas& canvas, const Plot& plot);
 
     QPoint m_centre;
     int m_radius;

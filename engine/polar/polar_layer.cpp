@@ -203,16 +203,11 @@ void PolarLayer::drawSymbols(Canvas& canvas, const PolarFrame& frame,
 }
 
 void PolarLayer::drawLabels(Canvas& canvas, const PolarFrame& frame, const AngularAxis& axis,
-                            const QRectF& room, std::vector<QRectF>& taken) const {
+                            const QRectF& room, TextRoom& texts) const {
     if (m_labelStyle == nullptr)
         return;
     constexpr std::size_t kMostLabels = 500; // more cannot be told apart in any picture
     const std::vector<double> angles = anglesOf(axis);
-    const auto isFree = [&](const QRectF& box) {
-        return room.contains(box) && std::none_of(taken.begin(), taken.end(), [&](const QRectF& other) {
-                   return box.adjusted(-1, -1, 1, 1).intersects(other);
-               });
-    };
     std::size_t drawn = 0;
     for (const auto& point : points(frame, axis)) {
         if (!point || point->pixels > frame.radius + 0.5 || drawn == kMostLabels)
@@ -231,9 +226,9 @@ void PolarLayer::drawLabels(Canvas& canvas, const PolarFrame& frame, const Angul
             QRectF box = boxOutside(point->at + QPointF(0.5, 0.5), clear, outwards + aside * std::numbers::pi,
                                     QSizeF(text.size()));
             box.moveTopLeft(QPointF(std::round(box.left()), std::round(box.top())));
-            if (isFree(box)) {
+            if (room.contains(box) && texts.isFree(box)) {
                 text.drawAt(canvas, box.topLeft(), TopLeft);
-                taken.push_back(box);
+                texts.take(box);
                 ++drawn;
                 break;
             }

@@ -15,6 +15,8 @@
 
 namespace chartdraw {
 
+class TextRoom;
+
 class PolarLayer : public Part {
 public:
     static constexpr Kind kKind = Kind::PolarLayer;
@@ -34,9 +36,9 @@ public:
 
     void draw(Canvas& canvas, const PolarFrame& frame, const AngularAxis& axis) const;
     /// Labels stand outwards of their points, or where else beside them there is room: inside `room` and off
-    /// the boxes taken, to which they are added. One that has none is left out.
+    /// other texts. One that has none is left out.
     void drawLabels(Canvas& canvas, const PolarFrame& frame, const AngularAxis& axis, const QRectF& room,
-                    std::vector<QRectF>& taken) const;
+                    TextRoom& texts) const;
     void collectKeys(std::vector<LegendKey>& keys) const;
 
 protected:

@@ -4,6 +4,7 @@
 #include "engine/data/no_value.h"
 #include "engine/paint/clip.h"
 #include "engine/polar/polar_chart.h"
+#include "engine/text/fitted_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -133,7 +134,7 @@ void PolarChart::drawGrid(Canvas& canvas, const Plot& plot) const {
 }
 
 /// From the centre upwards, ticks and labels on its left.
-void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const {
+void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot) {
     const PolarFrame& frame = plot.frame;
     const auto point = [&](double pixels, double left) { return frame.at(0, pixels) - QPointF(left, 0); };
     const TickSettings& settings = m_radial->ticks();
@@ -147,39 +148,35 @@ void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot, std::vector<QR
             canvas.line(point(pixels, length), point(pixels, 0), m_radial->tickColour(), 1);
         if (!tick.label)
             continue;
-        // The outermost label stays below the rim, where the labels of the angles are.
-        QRectF box = tick.label->boundsAt(point(pixels, reach) + kToBorders, Right);
-        box.moveTop(std::max(box.top(), frame.centre.y() - m_radius + 1));
-        box = movedInto(box, room());
-        const bool free = std::none_of(taken.begin(), taken.end(),
-                                       [&](const QRectF& other) { return other.intersects(box); });
-        if (free) {
-            tick.label->drawAt(canvas, box.topLeft(), TopLeft);
-            taken.push_back(box);
+        // At the rim, where the labels of the angles are, there may only be room below it.
+        const QRectF box = movedInto(tick.label->boundsAt(point(pixels, reach) + kToBorders, Right), room());
+        for (const double top : {box.top(), std::max(box.top(), frame.centre.y() - m_radius + 1)}) {
+            if (textRoom().claim(QRectF(QPointF(box.left(), top), box.size()))) {
+                tick.label->drawAt(canvas, {box.left(), top}, TopLeft);
+                break;
+            }
         }
     }
     canvas.line(point(0, 0), point(m_radius, 0), m_radial->colour(), m_radial->width());
 }
 
 /// Right of the axis, as near to its middle as there is room beside the labels of marks.
-void PolarChart::drawRadialTitle(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const {
+void PolarChart::drawRadialTitle(Canvas& canvas, const PolarFrame& frame) {
     const TextBlock title = m_radial->title().block();
     if (title.empty())
         return;
-    QRectF box;
     for (const double part : {0.5, 0.6, 0.4, 0.7, 0.3, 0.8}) {
         const QPointF beside = frame.at(0, m_radius * part) + QPointF(m_radial->titleGap(), 0);
-        box = movedInto(title.boundsAt(beside, Left), room());
-        if (std::none_of(taken.begin(), taken.end(),
-                         [&](const QRectF& other) { return other.intersects(box); }))
-            break;
+        const QRectF box = movedInto(title.boundsAt(beside, Left), room());
+        if (textRoom().claim(box)) {
+            title.drawAt(canvas, box.topLeft(), TopLeft);
+            return;
+        }
     }
-    title.drawAt(canvas, box.topLeft(), TopLeft);
-    taken.push_back(box);
 }
 
 /// A ring at the value of each mark of the radial axis, its label right of the axis.
-void PolarChart::drawMarks(Canvas& canvas, const PolarFrame& frame, std::vector<QRectF>& taken) const {
+void PolarChart::drawMarks(Canvas& canvas, const PolarFrame& frame) {
     for (const Mark* mark : m_radial->marks()) {
         if (!isValue(mark->value()) || !frame.radial.contains(mark->value()))
             continue;
@@ -189,13 +186,13 @@ void PolarChart::drawMarks(Canvas& canvas, const PolarFrame& frame, std::vector<
         if (!label.empty()) {
             const QPointF beside = frame.at(0, pixels) + QPointF(kLabelGap, -1);
             const QRectF box = movedInto(label.boundsAt(beside, BottomLeft), room());
-            label.drawAt(canvas, box.topLeft(), TopLeft);
-            taken.push_back(box);
+            if (textRoom().claim(box))
+                label.drawAt(canvas, box.topLeft(), TopLeft);
         }
     }
 }
 
-void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot, std::vector<QRectF>& taken) const {
+void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot) {
     const bool edged = !canvas.colours().invisible(m_edge);
     const double radius = m_radius + (edged ? m_edgeWidth / 2.0 : 0) + kLabelGap;
     const QPointF centre = plot.frame.centre + kToBorders;
@@ -205,14 +202,14 @@ void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot, std::vector
     std::vector<QRectF> boxes;
     for (const AngularTick& spoke : plot.angular.spokes) {
         const double angle = spoke.turn * 2 * std::numbers::pi;
+        QSize most;
         if (wraps) {
             const double side = roundDirection(angle).x();
             const double rim = centre.x() + side * radius;
             const double beside = side < 0 ? rim - room().left() : room().right() - rim;
-            const int margins = look.marginLeft + look.marginRight;
-            look.wrapWidth = std::max(kLeastWrap, static_cast<int>(beside) - margins);
+            most.setWidth(std::max(kLeastWrap, static_cast<int>(beside)));
         }
-        TextBlock label(look, spoke.label, fonts());
+        TextBlock label = fittedText(look, spoke.label, fonts(), most);
         if (label.empty())
             continue;
         QRectF box = movedInto(boxOutside(centre, radius, angle, QSizeF(label.size())), room());
@@ -221,12 +218,9 @@ void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot, std::vector
         boxes.push_back(box);
     }
     const std::vector<bool> kept = thinAround(boxes, kLabelAir);
-    for (std::size_t i = 0; i < labels.size(); ++i) {
-        if (kept[i]) {
+    for (std::size_t i = 0; i < labels.size(); ++i)
+        if (kept[i] && textRoom().claim(boxes[i]))
             labels[i].drawAt(canvas, boxes[i].topLeft(), TopLeft);
-            taken.push_back(boxes[i]);
-        }
-    }
 }
 
 } // namespace chartdraw

@@ -28,11 +28,11 @@ struct DataRange {
 ///
 /// Zero affinity: how gladly zero is shown, 0 to 1. Zero is included where the data would still fill 1 minus
 /// this part of an axis that begins at zero: with 0.8, data from 70 to 100 give an axis from 0 and data from
-/// 90 to 100 do not. 0: only where the data reach zero; 1: always.
+/// 90 to 100 do not. 0: only where the data would fill it all; 1: always.
 struct AutoScale {
     double topExtension = 0.1;
     double bottomExtension = 0.1;
-    double zeroAffinity = 0.8;
+    double zeroAffinity = 0;
     bool includeZero = false; ///< zero is always shown: bars, areas
     bool symmetric = false;   ///< limits of equal size on both sides of zero
 };

@@ -38,12 +38,6 @@ std::vector<int> thinLabels(std::span<const LabelExtent> labels, double minGap, 
     }
     for (std::size_t i = 0; i <= last; i += step)
         kept.push_back(static_cast<int>(i));
-    if (keepEnds && last % step != 0) {
-        while (kept.size() > 1 && clash(labels[static_cast<std::size_t>(kept.back())], labels[last], minGap))
-            kept.pop_back();
-        if (!clash(labels[static_cast<std::size_t>(kept.back())], labels[last], minGap))
-            kept.push_back(static_cast<int>(last));
-    }
     return kept;
 }
 

@@ -99,6 +99,9 @@ Ticks logTicks(const Scale& scale, const Density& density) {
 
     Ticks ticks;
     const Digits* set = densest(majorDecades);
+    // Of less than two decades too few labels would be left, so ticks may stand a little closer.
+    if (set == &k1 && decades < 2 && k125.leastGap >= majorDecades * 0.6)
+        set = &k125;
     const int every = set != nullptr ? 1 : static_cast<int>(niceStep(majorDecades));
     const auto major = multiples(scale, set != nullptr ? *set : k1, every);
     setMajor(ticks, major, logLabels(major));

@@ -84,8 +84,15 @@ std::vector<std::string> stepLabels(const std::vector<double>& values, double st
                 .digits = std::clamp(exponentOf(largest) + decimals + 1, 1, 17)};
     std::vector<std::string> labels;
     labels.reserve(values.size());
-    for (const double value : values)
+    bool exponents = false;
+    for (const double value : values) {
         labels.push_back(numberText(value, spec));
+        exponents = exponents || labels.back().find('e') != std::string::npos;
+    }
+    for (std::size_t i = 0; exponents && i < values.size(); ++i) // then all of them, but zero
+        if (values[i] != 0 && labels[i].find('e') == std::string::npos)
+            labels[i] = numberText(values[i], {.form = NumberSpec::Form::Exponent,
+                                               .digits = exponentOf(values[i]) + decimalsOf(values[i])});
     return labels;
 }
 

@@ -47,28 +47,62 @@ std::vector<std::string> byExponent(std::span<const double> values, double step)
     return texts;
 }
 
+/// Digits of a power, raised.
+std::string raised(int number) {
+    constexpr const char* kDigits[] = {"\u2070", "\u00b9", "\u00b2", "\u00b3", "\u2074",
+                                       "\u2075", "\u2076", "\u2077", "\u2078", "\u2079"};
+    std::string text = number < 0 ? "\u207b" : "";
+    for (const char digit : std::to_string(std::abs(number)))
+        text += kDigits[digit - '0'];
+    return text;
+}
+
+std::vector<std::string> byFactor(std::span<const double> values, double step, int exponent) {
+    const NumberSpec spec = NumberSpec::fixed(std::max(0, decimalsOf(step) + exponent));
+    const double unit = std::pow(10.0, -exponent);
+    std::vector<std::string> texts;
+    for (const double value : values)
+        texts.push_back(value == 0 ? "0" : numberText(value * unit, spec));
+    return texts;
+}
+
 } // namespace
 
-std::vector<std::string> shortLabels(std::span<const double> values, double span) {
+ShortLabels shortLabels(std::span<const double> values, double span, bool withFactor) {
     const double most = greatest(values);
     // The span tells how exact a step is meant: its noise is cut off.
     const double raw = values.size() > 1 ? values[1] - values[0] : span;
     const double place = std::pow(10.0, exponentOf(raw) - 3);
     const double step = place > 0 ? std::round(raw / place) * place : raw;
-    std::vector<std::string> best;
+    ShortLabels best;
     for (const double value : values)
-        best.push_back(numberText(value));
-    const auto take = [&](std::vector<std::string> texts) {
-        if (longest(texts) < longest(best))
-            best = std::move(texts);
+        best.texts.push_back(numberText(value));
+    const auto take = [&](std::vector<std::string> texts, std::string factor = {}) {
+        if (longest(texts) < longest(best.texts))
+            best = {std::move(texts), std::move(factor)};
     };
     const auto* unit =
         std::find_if(std::begin(kUnits), std::end(kUnits), [&](const Unit& u) { return most >= u.size; });
+    const int exponent = exponentOf(most);
     if (unit != std::end(kUnits) && most < 1e15)
         take(byUnit(values, step, *unit));
+    else if (withFactor && std::abs(exponent) < 300)
+        take(byFactor(values, step, exponent), "\u00d710" + raised(exponent));
     else
         take(byExponent(values, step));
     return best;
+}
+
+std::vector<std::string> groupedLabels(std::span<const double> values) {
+    const double most = greatest(values);
+    NumberSpec spec = NumberSpec::fixed(0);
+    spec.thousand = Glyph(',');
+    std::vector<std::string> texts;
+    const bool whole = std::all_of(values.begin(), values.end(), [](double v) { return v == std::floor(v); });
+    if (whole && most >= 1e4 && most < 1e15)
+        for (const double value : values)
+            texts.push_back(numberText(value, spec));
+    return texts;
 }
 
 } // namespace chartdraw

@@ -130,6 +130,8 @@ void TextBlock::Layout::draw(Canvas& canvas, const QTransform& place) const {
     drawBox(canvas, place);
     if (text.pieces.empty())
         return;
+    if (!blank)
+        canvas.textDrawn(place.map(QPolygonF(QRectF(textCorner, text.size))));
     switch (quarterTurns()) {
     case 0: {
         QPainter& painter = canvas.painter();
@@ -250,6 +252,10 @@ QSize TextBlock::size() const {
 QRectF TextBlock::boundsAt(QPointF anchor, int alignment) const {
     const QPointF corner = limitedPlace(anchor) - alignmentPoint(m_layout->bounds, alignment);
     return {QPointF(std::round(corner.x()), std::round(corner.y())), QSizeF(m_layout->bounds)};
+}
+
+QPolygonF TextBlock::outlineAt(QPointF anchor, int alignment) const {
+    return m_layout->placed(anchor, alignment).map(QPolygonF(m_layout->upright()));
 }
 
 void TextBlock::drawAt(Canvas& canvas, QPointF anchor, int alignment) const {

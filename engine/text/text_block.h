@@ -53,6 +53,7 @@ public:
     /// Bounds of the turned box when its bounds are put with their `alignment` point at `anchor`:
     /// TopLeft puts the top left corner of the bounds there, BottomCenter the middle of the lower side.
     QRectF boundsAt(QPointF anchor, int alignment) const;
+    QPolygonF outlineAt(QPointF anchor, int alignment) const;
     void drawAt(Canvas& canvas, QPointF anchor, int alignment) const;
 
     /// The same with the `alignment` point of the upright box at `anchor`, turned about the anchor: what a

@@ -162,10 +162,13 @@ void AreaLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
             const double tip = alongY(frame, to);
             const double percent = m_percentage ? std::abs(value) * scales[row] : kNoValue;
             labels.draw({row, set, value, isValue(percent) ? percent : NAN},
-                        {frame.x.pixel(x), inside ? (tip + alongY(frame, from)) / 2 : tip,
-                         inside    ? LabelSide::Inside
-                         : to >= 0 ? LabelSide::Above
-                                   : LabelSide::Below});
+                        {.alongX = frame.x.pixel(x),
+                         .alongY = inside ? (tip + alongY(frame, from)) / 2 : tip,
+                         .side = inside    ? LabelSide::Inside
+                                 : to >= 0 ? LabelSide::Above
+                                           : LabelSide::Below,
+                         .body = inside ? std::max(1.0, std::abs(tip - alongY(frame, from))) : 0,
+                         .ground = set != nullptr ? set->colour() : kTransparent});
         }
     };
     if (aggregateLabels() != nullptr) {

@@ -286,7 +286,7 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
         for (const Piece& piece : pieces) {
             int x0 = 0, x1 = 0;
             const bool nothing = inside && piece.to == piece.from; // there is no body to write into
-            if (nothing || !places.find(row, piece.set, x0, x1))
+            if (nothing || isHidden(piece, pieces) || !places.find(row, piece.set, x0, x1))
                 continue;
             const DataSet* set = dataSets()[piece.set];
             const double tip = alongY(frame, piece.to);
@@ -297,9 +297,31 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
                          .side = inside          ? LabelSide::Inside
                                  : piece.to >= 0 ? LabelSide::Above
                                                  : LabelSide::Below,
-                         .body = inside ? std::max(1.0, std::abs(tip - root)) : 0});
+                         .body = inside ? std::max(1.0, std::abs(tip - root)) : 0,
+                         .ground = inside ? set->colour() : groundOf(piece, pieces)});
         }
     }
+}
+
+/// Whether bars over each other leave nothing to be seen of one.
+bool BarLayer::isHidden(const Piece& piece, std::span<const Piece> pieces) const {
+    return m_combine == Combine::Overlay &&
+           std::any_of(
+               pieces.begin(), pieces.end(),
+               [&](const Piece& other) {
+                   const bool above = m_firstOnTop ? other.set < piece.set : other.set > piece.set;
+                   return above && (piece.to >= 0 ? other.to >= piece.to : other.to <= piece.to);
+               });
+}
+
+/// The colour that is seen beyond the tip of a bar, where a higher one stands behind it.
+Colour BarLayer::groundOf(const Piece& piece, std::span<const Piece> pieces) const {
+    const Piece* seen = nullptr;
+    for (const Piece& other : pieces)
+        if (m_combine == Combine::Overlay && (piece.to >= 0 ? other.to > piece.to : other.to < piece.to) &&
+            (seen == nullptr || (other.set > seen->set) != m_firstOnTop))
+            seen = &other;
+    return seen != nullptr ? dataSets()[seen->set]->colour() : kTransparent;
 }
 
 void BarLayer::labelSums(DataLabels& labels, const PlotFrame& frame, const Places& places, std::size_t row,

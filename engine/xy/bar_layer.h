@@ -53,6 +53,8 @@ private:
     /// Whether the bars are so narrow and plain that those of one pixel column are one box of one colour.
     bool joinsColumns(const Canvas& canvas, const PlotFrame& frame, const Places& places) const;
     void drawColumns(Canvas& canvas, const PlotFrame& frame, const Places& places) const;
+    bool isHidden(const Piece& piece, std::span<const Piece> pieces) const;
+    Colour groundOf(const Piece& piece, std::span<const Piece> pieces) const;
     void labelSums(DataLabels& labels, const PlotFrame& frame, const Places& places, std::size_t row,
                    std::span<const Piece> pieces) const;
     std::vector<std::size_t> drawingOrder(const PlotFrame& frame) const;

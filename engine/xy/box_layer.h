@@ -171,6 +171,9 @@ protected:
 private:
     std::vector<Colour> colours() const override;
     void paintRow(CoveredColumn& column, const PlotFrame& frame, std::size_t row) const override;
+    /// Without one of their own narrow candles have no edge, and all of them show whether they rise.
+    bool hasOwnEdge() const;
+    Colour edgeColour() const;
     /// Of a body, which without a height is a line of its edge, if it has one.
     Colour fillOf(double open, double close, bool hasEdge) const;
 

@@ -10,18 +10,20 @@ namespace chartdraw {
 
 namespace {
 
-constexpr int kCell = 2;   // pixels
-constexpr int kDigits = 6; // significant ones of a value without a format
+constexpr int kLeastDigits = 2, kMostDigits = 6; // significant ones of a value without a format
+constexpr int kDark = 135;                       // the lightness of a ground up to which its text is white
 
 class Fields final : public FieldSource {
 public:
-    Fields(const Layer& layer, const RowTexts& rows, const LabelContent& content)
-        : m_layer(layer), m_rows(rows), m_content(content) {}
+    Fields(const Layer& layer, const RowTexts& rows, const LabelContent& content, int decimals)
+        : m_layer(layer), m_rows(rows), m_content(content), m_decimals(decimals) {}
 
     FieldValue field(std::string_view name) const override {
         if (name == "value") {
-            // Noise of computing is no part of a value.
-            m_text = numberText(m_content.value, {.form = NumberSpec::Form::General, .digits = kDigits});
+            // What is finer than the axis can tell, and the noise of computing, is no part of a value.
+            const int digits =
+                std::clamp(exponentOf(m_content.value) + m_decimals + 1, kLeastDigits, kMostDigits);
+            m_text = numberText(m_content.value, {.form = NumberSpec::Form::General, .digits = digits});
             return FieldValue::number(m_content.value, m_text);
         }
         if (name == "xLabel") {
@@ -48,6 +50,7 @@ private:
     const Layer& m_layer;
     const RowTexts& m_rows;
     const LabelContent& m_content;
+    int m_decimals;
     mutable std::string m_text; // what a field refers to until the next one is asked for
 };
 
@@ -65,49 +68,12 @@ int mostTries(const XYChart& chart, QSizeF least) {
 
 } // namespace
 
-LabelRoom::LabelRoom(QSize picture)
-    : m_size((std::max(0, picture.width()) + kCell - 1) / kCell,
-             (std::max(0, picture.height()) + kCell - 1) / kCell),
-      m_taken(static_cast<std::size_t>(m_size.width()) * static_cast<std::size_t>(m_size.height())) {}
-
-QRect LabelRoom::cells(const QRectF& box) const {
-    const QRect pixels =
-        (box & QRectF(0, 0, m_size.width() * kCell, m_size.height() * kCell)).toAlignedRect();
-    if (pixels.isEmpty())
-        return {};
-    return {QPoint(pixels.left() / kCell, pixels.top() / kCell),
-            QPoint(pixels.right() / kCell, pixels.bottom() / kCell)};
-}
-
-bool LabelRoom::isFree(const QRectF& box) const {
-    const QRect range = cells(box);
-    for (int y = range.top(); y <= range.bottom(); ++y) {
-        for (int x = range.left(); x <= range.right(); ++x)
-            if (m_taken[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_size.width()) +
-                        static_cast<std::size_t>(x)])
-                return false;
-    }
-    return true;
-}
-
-void LabelRoom::take(const QRectF& box) {
-    const QRect range = cells(box);
-    for (int y = range.top(); y <= range.bottom(); ++y) {
-        for (int x = range.left(); x <= range.right(); ++x) {
-            m_taken[static_cast<std::size_t>(y) * static_cast<std::size_t>(m_size.width()) +
-                    static_cast<std::size_t>(x)] = true;
-        }
-    }
-}
-
 DataLabels::DataLabels(Canvas& canvas, const Layer& layer, const PlotFrame& frame, const TextBox& style,
                        const std::string& format)
     : m_canvas(canvas), m_layer(layer), m_frame(frame), m_style(style), m_format(format),
       m_rows(layer.chart().rowTexts()), m_plot(QRectF(frame.inner()).adjusted(1, 1, -1, -1)),
       m_least(style.block("1").size()), m_tries(mostTries(layer.chart(), m_least)),
-      m_room(frame.labelRoom != nullptr
-                 ? frame.labelRoom
-                 : std::make_shared<LabelRoom>(QSize(layer.chart().width(), layer.chart().height()))) {}
+      m_room(layer.chart().textRoom()), m_plain(style.look().colour == kTextColour) {}
 
 QRectF DataLabels::boxAt(const LabelSpot& spot, LabelSide side, QSizeF size) const {
     QRectF box(QPointF(), size);
@@ -136,19 +102,46 @@ bool DataLabels::place(QRectF& box, const LabelSpot& spot, QSizeF size) const {
         return false;
     const LabelSide inside[] = {LabelSide::Inside};
     const LabelSide outside[] = {spot.side, other};
-    for (const LabelSide side : spot.side == LabelSide::Inside ? std::span<const LabelSide>(inside)
-                                                               : std::span<const LabelSide>(outside)) {
+    const auto sides = spot.side == LabelSide::Inside ? std::span<const LabelSide>(inside)
+                                                      : std::span<const LabelSide>(outside);
+    for (const LabelSide side : sides.first(spot.oneSided ? 1 : sides.size())) {
         const QRectF wished = boxAt(spot, side, size);
         QRectF moved = movedInto(wished, m_plot);
         moved.moveTopLeft(wholeCorner(moved));
         // Across the values a label may move along the frame, but not onto its own point.
         const double shift = m_frame.swapped ? moved.left() - wished.left() : moved.top() - wished.top();
-        if (std::abs(shift) <= spot.gap + 0.5 && m_room->isFree(moved)) {
+        if (std::abs(shift) <= spot.gap + 0.5 && m_room.isFree(moved)) {
             box = moved;
             return true;
         }
     }
+    return spot.beside && placeBeside(box, spot, size);
+}
+
+bool DataLabels::placeBeside(QRectF& box, const LabelSpot& spot, QSizeF size) const {
+    const double along = m_frame.swapped ? size.height() : size.width();
+    for (const double sign : {1.0, -1.0}) {
+        const double reach = sign * (spot.gap + 1 + along / 2);
+        QRectF wished(QPointF(), size);
+        wished.moveCenter(m_frame.at(spot.alongX, spot.alongY) + QPointF(0.5, 0.5));
+        wished.translate(m_frame.swapped ? QPointF(0, reach) : QPointF(reach, 0));
+        wished.moveTopLeft(wholeCorner(wished));
+        if (m_plot.contains(wished) && m_room.isFree(wished)) {
+            box = wished;
+            return true;
+        }
+    }
     return false;
+}
+
+/// A text without a colour of its own is black or white on a body, as it is read best.
+TextBlock DataLabels::blockOf(const std::string& text, const LabelSpot& spot) const {
+    const QColor ground = m_canvas.colours().solid(spot.ground);
+    if (!m_plain || ground.alpha() < 128)
+        return m_style.block(text);
+    TextLook look = m_style.look();
+    look.colour = qGray(ground.rgb()) > kDark ? 0x000000 : 0xffffff;
+    return {look, text, m_layer.chart().fonts()};
 }
 
 void DataLabels::draw(const LabelContent& content, const LabelSpot& spot) {
@@ -160,9 +153,9 @@ void DataLabels::draw(const LabelContent& content, const LabelSpot& spot) {
     if (m_tries <= 0)
         return;
     --m_tries;
-    const TextBlock block = m_style.block(m_format.apply(Fields(m_layer, m_rows, content)));
+    const TextBlock block = blockOf(m_format.apply(Fields(m_layer, m_rows, content, m_frame.decimals)), spot);
     if (!block.empty() && place(box, spot, block.size())) {
-        m_room->take(box);
+        m_room.take(box);
         block.drawAt(m_canvas, box.topLeft(), TopLeft);
     }
 }

@@ -4,11 +4,11 @@
 // that is already there.
 
 #include "engine/axis/axis_plan.h"
+#include "engine/chart/text_room.h"
 #include "engine/scale/format.h"
 #include "engine/xy/layer.h"
 
 #include <cmath>
-#include <memory>
 #include <span>
 #include <string_view>
 #include <utility>
@@ -35,21 +35,11 @@ struct LabelSpot {
     double alongX = 0, alongY = 0;
     LabelSide side = LabelSide::Above;
     int gap = 2;
-    double otherY = NAN; ///< the point on the other side, where that is not the same
-    double body = 0;     ///< Inside: pixels along y that the label has, 0 any
-};
-
-/// Which parts of a picture labels have taken, to the nearest two pixels. One for all layers of a picture.
-class LabelRoom {
-public:
-    explicit LabelRoom(QSize picture);
-    bool isFree(const QRectF& box) const;
-    void take(const QRectF& box);
-
-private:
-    QRect cells(const QRectF& box) const;
-    QSize m_size;
-    std::vector<bool> m_taken; ///< row by row
+    double otherY = NAN;          ///< the point on the other side, where that is not the same
+    double body = 0;              ///< Inside: pixels along y that the label has, 0 any
+    bool beside = false;          ///< may stand left or right of its point
+    bool oneSided = false;        ///< may not stand on the other side, where a line would run through it
+    Colour ground = kTransparent; ///< what the label is read on, where that is known
 };
 
 class DataLabels {
@@ -65,6 +55,8 @@ private:
     QRectF boxAt(const LabelSpot& spot, LabelSide side, QSizeF size) const;
     bool fitsBody(const LabelSpot& spot, QSizeF size) const;
     bool place(QRectF& box, const LabelSpot& spot, QSizeF size) const;
+    bool placeBeside(QRectF& box, const LabelSpot& spot, QSizeF size) const;
+    TextBlock blockOf(const std::string& text, const LabelSpot& spot) const;
 
     Canvas& m_canvas;
     const Layer& m_layer;
@@ -75,7 +67,8 @@ private:
     QRectF m_plot;  ///< what labels stay within, pixel borders
     QSizeF m_least; ///< no label is smaller
     int m_tries;    ///< labels that may still be laid out
-    std::shared_ptr<LabelRoom> m_room;
+    TextRoom& m_room;
+    bool m_plain; ///< the style has no colour of its own
 };
 
 } // namespace chartdraw

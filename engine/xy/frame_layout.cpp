@@ -1,8 +1,8 @@
 #include "engine/xy/frame_layout.h"
 
 #include "engine/paint/picture.h"
+#include "engine/scale/nice_numbers.h"
 #include "engine/text/alignment.h"
-#include "engine/xy/data_labels.h"
 #include "engine/xy/xy_chart.h"
 
 #include <algorithm>
@@ -263,17 +263,23 @@ private:
         }
     }
 
+    /// Two more than the axis's own labels have.
+    static int labelDecimals(const AxisLayout& axis) {
+        const std::vector<AxisLayout::Tick>& ticks = axis.ticks;
+        const bool steps = axis.map.scale().kind() == ScaleKind::Linear && ticks.size() > 1 && ticks[1].major;
+        return steps ? stepDecimals(ticks[1].value - ticks[0].value) + 2 : PlotFrame().decimals;
+    }
+
     void placeLayers() {
         const std::vector<Layer*>& layers = m_chart.layers();
         m_frame.layers.resize(layers.size());
-        const auto room = std::make_shared<LabelRoom>(QSize(m_chart.width(), m_chart.height()));
         int z = 0;
         for (std::size_t i = layers.size(); i-- > 0;) { // the last one stands in front
             PlotFrame& frame = m_frame.layers[i];
             frame.x = m_frame.axes[kFirstX].map;
             frame.y = m_frame.axes[indexOf(&layers[i]->yAxis())].map;
             frame.swapped = m_chart.swapped();
-            frame.labelRoom = room;
+            frame.decimals = labelDecimals(m_frame.axes[indexOf(&layers[i]->yAxis())]);
             frame.depth = layers[i]->depth();
             frame.depthOffset = QPoint(z, -z);
             frame.plot = m_frame.plot.translated(frame.depthOffset);

@@ -14,7 +14,7 @@ constexpr double kFarValue = 1e307;
 
 class FramePainter {
 public:
-    FramePainter(Canvas& canvas, const XYChart& chart)
+    FramePainter(Canvas& canvas, XYChart& chart)
         : m_canvas(canvas), m_chart(chart), m_area(*chart.plotArea()), m_frame(layoutFrame(chart)) {}
 
     void draw() {
@@ -30,10 +30,9 @@ public:
             drawAxisLine(m_canvas, *m_chart.axes()[i].axis, m_frame.axes[i]);
         for (std::size_t i = 0; i < m_frame.layers.size(); ++i)
             m_chart.layers()[i]->draw(m_canvas, m_frame.layers[i]);
-        for (std::size_t i = 0; i < m_frame.axes.size(); ++i) {
-            drawAxisLabels(m_canvas, m_frame.axes[i]);
+        for (std::size_t i = 0; i < m_frame.axes.size(); ++i)
             drawMarks(*m_chart.axes()[i].axis, m_frame.axes[i]);
-        }
+        drawAxisTexts();
         for (std::size_t i = 0; i < m_frame.layers.size(); ++i)
             m_chart.layers()[i]->drawLabels(m_canvas, m_frame.layers[i]);
     }
@@ -140,21 +139,56 @@ private:
             else
                 m_canvas.line(QPoint(pixel, plot.top()), QPoint(pixel, plot.bottom()), mark->colour(), 1);
         }
-        for (const AxisLayout::Label& label : layout.marks)
-            label.draw(m_canvas);
+    }
+
+    /// Along the axis inwards until there is room. Without it all numbers of the axis would be wrong, so it
+    /// is there in any case.
+    void drawFactor(AxisLayout::Label& factor, bool upright) {
+        constexpr int kTries = 30;
+        const QPointF anchor = factor.anchor;
+        const QRectF box = factor.box();
+        const QPointF inwards = QRectF(m_frame.plot).center() - box.center();
+        const QPointF step = upright ? QPointF(0, std::copysign(box.height() / 2, inwards.y()))
+                                     : QPointF(std::copysign(box.width() / 2, inwards.x()), 0);
+        TextRoom& room = m_chart.textRoom();
+        const QPointF across = upright ? QPointF(std::copysign(box.width() / 2, inwards.x()), 0)
+                                       : QPointF(0, std::copysign(box.height() / 2, inwards.y()));
+        for (int tries = 0; tries < kTries * kTries && !room.hasRoom(factor.outline()); ++tries)
+            factor.anchor = anchor + step * (tries % kTries) + across * (tries / kTries);
+        if (!room.hasRoom(factor.outline()))
+            factor.anchor = anchor;
+        room.reserve(factor.outline());
+        factor.block.drawAt(m_canvas, factor.anchor, factor.alignment);
+    }
+
+    /// What is missed most first: where texts of the axes lie over one another, the later ones go.
+    void drawAxisTexts() {
+        TextRoom& room = m_chart.textRoom();
+        for (AxisLayout& axis : m_frame.axes)
+            if (axis.factor)
+                drawFactor(*axis.factor, axis.place.upright());
+        for (const AxisLayout& axis : m_frame.axes)
+            if (axis.title)
+                axis.title->draw(m_canvas, room);
+        for (const AxisLayout& axis : m_frame.axes)
+            for (const AxisLayout::Label& mark : axis.marks)
+                mark.draw(m_canvas, room);
+        for (const AxisLayout& axis : m_frame.axes)
+            for (const AxisLayout::Label& label : axis.labels)
+                label.draw(m_canvas, room);
     }
 
     static constexpr Colour kWallShade = 0xe0000000; // a breath of black over the background
 
     Canvas& m_canvas;
-    const XYChart& m_chart;
+    XYChart& m_chart;
     const PlotArea& m_area;
     FrameLayout m_frame;
 };
 
 } // namespace
 
-void drawFrame(Canvas& canvas, const XYChart& chart) {
+void drawFrame(Canvas& canvas, XYChart& chart) {
     FramePainter(canvas, chart).draw();
 }
 

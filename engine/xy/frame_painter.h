@@ -7,6 +7,6 @@ namespace chartdraw {
 class Canvas;
 class XYChart;
 
-void drawFrame(Canvas& canvas, const XYChart& chart);
+void drawFrame(Canvas& canvas, XYChart& chart);
 
 } // namespace chartdraw

@@ -23,7 +23,6 @@
 namespace chartdraw {
 
 class Axis;
-class LabelRoom;
 class XYChart;
 
 /// Rows [begin, end) of the data: what trimming leaves.
@@ -44,9 +43,8 @@ struct PlotFrame {
     QRect inner() const { return plot.adjusted(1, 1, -1, -1); }
     /// The layer's front face from the front of the chart, in pixels: (z, -z).
     QPoint depthOffset;
-    int depth = 0; ///< pixels of this layer's bodies, 0 flat; the back of a body is at (depth, -depth)
-    /// Where labels stand already, shared by all layers of a picture.
-    std::shared_ptr<LabelRoom> labelRoom;
+    int depth = 0;    ///< pixels of this layer's bodies, 0 flat; the back of a body is at (depth, -depth)
+    int decimals = 6; ///< that tell values on the y axis apart, for labels of values; below 0: tens...
 
     /// Position on the picture of a point given by its positions along the x and the y axis, and of one given
     /// by its values. Depth offset included.
@@ -94,7 +92,8 @@ public:
     void setDataLabelFormat(std::string format);
     void setAggregateLabelFormat(std::string format);
 
-    int lineWidth() const { return m_lineWidth; }
+    /// Pixels; 0 draws none.
+    int lineWidth() const { return m_lineWidth >= 0 ? m_lineWidth : automaticLineWidth(); }
     Colour borderColour() const { return m_borderColour; } ///< -1 where none was set
     int borderEffect() const { return m_borderEffect; }
     const TextBox* dataLabels() const { return m_dataLabels; }           ///< null: none are shown
@@ -130,6 +129,8 @@ public:
 protected:
     Layer(Kind kind, XYChart& chart, int depth = 0);
 
+    /// Pixels of lines where no width was set.
+    virtual int automaticLineWidth() const { return 1; }
     /// Pixels of depth where -1 was asked for.
     virtual int automaticDepth() const { return 10; }
     /// The whole range of percentages of which some of `range` are shown.
@@ -143,7 +144,7 @@ private:
     std::vector<DataSet*> m_dataSets;
     Numbers m_xData;
     int m_depth, m_zGap = 0;
-    int m_lineWidth = 1;
+    int m_lineWidth = -1; ///< pixels, -1 automatic
     Colour m_borderColour = kDefaultColour;
     int m_borderEffect = 0;
     TextBox* m_dataLabels = nullptr;

@@ -64,6 +64,11 @@ double notShown(const PlotFrame& frame) {
 LineLayer::LineLayer(XYChart& chart, Form form, int depth)
     : Layer(kindOf(form), chart, depth), m_form(form) {}
 
+/// A line with more points than columns is a band of its noise: there a broad pen would only hide the form.
+int LineLayer::automaticLineWidth() const {
+    return rows().size() <= static_cast<std::size_t>(std::max(0, chart().width())) ? 2 : 1;
+}
+
 Line* LineLayer::line(int index) {
     DataSet* set = dataSet(index);
     if (set == nullptr)
@@ -202,9 +207,16 @@ void LineLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
             const QSize size = symbolSize(*set, row);
             const int symbol =
                 set->symbol().shape > 0 ? (frame.swapped ? size.width() : size.height()) : lineWidth();
-            labels.draw({row, set, data[row]},
-                        {frame.x.pixel(x), frame.y.pixel(data[row]),
-                         valley ? LabelSide::Below : LabelSide::Above, symbol / 2 + 2});
+            // A riser stands on one side of its point.
+            const bool riser = m_form == Form::Steps && row > 0 && isValue(data[row - 1]) &&
+                               lineWidth() > 0 && data[row - 1] != data[row];
+            const bool below = riser ? data[row - 1] > data[row] : valley;
+            labels.draw({row, set, data[row]}, {.alongX = frame.x.pixel(x),
+                                                .alongY = frame.y.pixel(data[row]),
+                                                .side = below ? LabelSide::Below : LabelSide::Above,
+                                                .gap = symbol / 2 + 2,
+                                                .beside = lineWidth() == 0,
+                                                .oneSided = riser});
         }
     }
 }

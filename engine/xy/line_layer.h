@@ -48,6 +48,9 @@ public:
     void drawLabels(Canvas& canvas, const PlotFrame& frame) override;
     void collectKeys(std::vector<LegendKey>& keys) const override;
 
+protected:
+    int automaticLineWidth() const override;
+
 private:
     void drawLine(Canvas& canvas, const DataSet& set) const;
     void drawLongLine(Canvas& canvas, const DataSet& set) const;

@@ -13,6 +13,9 @@ namespace chartdraw {
 
 namespace {
 
+constexpr double kCandleGap = 0.2; // of a row
+constexpr int kLeastEdged = 5;     // pixels of a body that has an edge
+
 /// A line over the pixels between two places along the axes.
 void drawAlong(Canvas& canvas, const QRect& pixels, Colour colour, int width) {
     canvas.line(pixels.topLeft(), pixels.bottomRight(), colour, width);
@@ -143,18 +146,30 @@ CandleStickLayer::CandleStickLayer(XYChart& chart, std::vector<Numbers> series, 
                                    Colour edge)
     : PriceLayer(Kind::CandleStickLayer, chart, std::move(series), orDefault(rise, 0xffffff), {}),
       m_fall(orDefault(fall, 0x000000)) {
-    setBorder(orDefault(edge, kLineColour), 0);
+    setBorder(edge, 0);
+    setDataGap(kCandleGap);
+}
+
+bool CandleStickLayer::hasOwnEdge() const {
+    return borderColour() != kDefaultColour || set().edge() != kTransparent;
+}
+
+Colour CandleStickLayer::edgeColour() const {
+    return set().edge(orDefault(borderColour(), kLineColour));
 }
 
 void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Place& place) const {
     if (!shows(place.row))
         return;
     const double open = at(Open, place.row), close = at(Close, place.row);
-    const Colour edge = set().edge(borderColour());
+    const Colour edge = edgeColour();
     const int high = pixel(frame, at(High, place.row)), low = pixel(frame, at(Low, place.row));
     const QPoint middle(frame.depth / 2, -frame.depth / 2);
+    const bool narrow = place.last - place.first + 1 < kLeastEdged;
+    const bool bare = canvas.colours().invisible(edge) || (narrow && !hasOwnEdge());
     const auto wick = [&](int from, int to) {
-        drawAlong(canvas, pixelRect(frame, place.middle, place.middle, from, to).translated(middle), edge,
+        const Colour colour = bare && isValue(open) && isValue(close) ? fillOf(open, close, false) : edge;
+        drawAlong(canvas, pixelRect(frame, place.middle, place.middle, from, to).translated(middle), colour,
                   lineWidth());
     };
     if (!isValue(open) || !isValue(close)) {
@@ -171,12 +186,12 @@ void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Pla
     };
     drawWicks(false);
     BarLook look;
-    look.fill = fillOf(open, close, !canvas.colours().invisible(edge));
+    look.fill = fillOf(open, close, !bare);
     look.edge = edge;
     look.side = orDefault(set().shadow(), look.fill);
     look.sideEdge = orDefault(set().shadowEdge(), edge);
     look.effect = borderEffect();
-    look.edgeWidth = edgeWidth(place.last - place.first + 1, std::abs(to - from) + 1);
+    look.edgeWidth = narrow ? 0 : edgeWidth(place.last - place.first + 1, std::abs(to - from) + 1);
     look.depth = frame.depth;
     drawBar(canvas, pixelRect(frame, place.first, place.last, from, to), SquareShape, 8, look);
     drawWicks(true);
@@ -184,30 +199,31 @@ void CandleStickLayer::drawRow(Canvas& canvas, const PlotFrame& frame, const Pla
 
 Colour CandleStickLayer::fillOf(double open, double close, bool hasEdge) const {
     if (close == open && hasEdge)
-        return set().edge(borderColour());
+        return edgeColour();
     return close >= open ? set().colour() : m_fall;
 }
 
 std::vector<Colour> CandleStickLayer::colours() const {
-    return {set().edge(borderColour()), set().colour(), m_fall};
+    return {edgeColour(), set().colour(), m_fall};
 }
 
 void CandleStickLayer::paintRow(CoveredColumn& column, const PlotFrame& frame, std::size_t row) const {
     const double open = at(Open, row), close = at(Close, row);
-    const Colour edge = set().edge(borderColour());
+    const Colour edge = edgeColour();
     const int high = pixel(frame, at(High, row)), low = pixel(frame, at(Low, row));
     if (!isValue(open) || !isValue(close)) {
         column.paint(high, low, edge);
         return;
     }
     const int top = pixel(frame, std::max(open, close)), bottom = pixel(frame, std::min(open, close));
-    column.paint(top, bottom, fillOf(open, close, true));
-    column.paint(low, bottom, edge);
-    column.paint(high, top, edge);
+    const Colour wick = hasOwnEdge() ? edge : fillOf(open, close, false);
+    column.paint(top, bottom, fillOf(open, close, hasOwnEdge()));
+    column.paint(low, bottom, wick);
+    column.paint(high, top, wick);
 }
 
 void CandleStickLayer::drawKey(Canvas& canvas, const QRect& area) const {
-    const Colour edge = set().edge(borderColour());
+    const Colour edge = edgeColour();
     const int middle = area.center().x();
     const int wing = std::max(1, area.height() / 4);
     canvas.line(QPoint(middle, area.top()), QPoint(middle, area.bottom()), edge, 1);

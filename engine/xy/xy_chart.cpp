@@ -86,6 +86,16 @@ void XYChart::collectKeys(std::vector<LegendKey>& keys) const {
         layer->collectKeys(keys);
 }
 
+QRect XYChart::dataArea() const {
+    if (m_plotArea == nullptr)
+        return {};
+    int depth = 0;
+    for (const Layer* layer : m_layers)
+        depth =
+            std::min(kMaxOffset, depth + layer->depth() + (layer != m_layers.front() ? layer->zGap() : 0));
+    return m_plotArea->frame().adjusted(0, -depth, depth, 0);
+}
+
 void XYChart::drawBody(Canvas& canvas) {
     if (m_plotArea != nullptr)
         drawFrame(canvas, *this);

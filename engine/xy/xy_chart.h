@@ -74,7 +74,7 @@ public:
     RowTexts rowTexts() const;
 
     void collectKeys(std::vector<LegendKey>& keys) const override;
-    QRect dataArea() const override { return m_plotArea != nullptr ? m_plotArea->frame() : QRect(); }
+    QRect dataArea() const override;
 
 protected:
     void drawBody(Canvas& canvas) override;

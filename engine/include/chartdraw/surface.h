@@ -525,7 +525,8 @@ CHARTDRAW_API void CAxis_setTickDensity(Axis* axis, int majorSpacing, int minorS
 /**
  * Scale from the data (the default). topExtension, bottomExtension: parts of the range, 0 to 1, kept free
  * beyond the data; 0.1 by default. zeroAffinity: 0 to 1, how far the data may be from 0, as part of the
- * largest value, for the scale to start there; 0.8 by default, 1 always.
+ * largest value, for the scale to start there; 1 always. By default 0 on axes, 0.8 on the radial one of
+ * polar charts; bars and areas start at 0 whatever it is.
  */
 CHARTDRAW_API void CAxis_setAutoScale(Axis* axis, double topExtension, double bottomExtension,
                                       double zeroAffinity);
@@ -596,7 +597,8 @@ CHARTDRAW_API DataSet* CLayer_getDataSet(Layer* layer, int index);
 /** Depth in pixels, -1 automatic, 0 flat, at most the longer side of the picture; zGap: pixels between this
  * layer and the next behind. */
 CHARTDRAW_API void CLayer_set3D(Layer* layer, int depth, int zGap);
-/** Width of the lines in pixels, 1 by default; below 1 draws none. */
+/** Width of the lines in pixels; below 1 draws none. By default 1; of line layers 2, where they have no more
+ * points than the picture has columns. */
 CHARTDRAW_API void CLayer_setLineWidth(Layer* layer, int width);
 /** Border of bars, boxes and areas. color: -1 keeps. effect: of the border or the whole body. */
 CHARTDRAW_API void CLayer_setBorderColor(Layer* layer, int color, int effect);
@@ -647,7 +649,7 @@ CHARTDRAW_API Line* CLineLayer_getLine(LineLayer* layer, int dataSet);
 CHARTDRAW_API void CLineLayer_setSymbolScale(LineLayer* layer, const double* xScale, int xCount,
                                              int xScaleType, const double* yScale, int yCount,
                                              int yScaleType);
-/** Space between the boxes of two rows as part of a row's room, 0 to 1. Default: 0.5. */
+/** Space between the boxes of two rows as part of a row's room, 0 to 1. Default: 0.5, of candles 0.2. */
 CHARTDRAW_API void CBaseBoxLayer_setDataGap(BaseBoxLayer* layer, double gap);
 /** Width of the boxes in pixels instead of by the gap; below 1 goes back to the gap. */
 CHARTDRAW_API void CBaseBoxLayer_setDataWidth(BaseBoxLayer* layer, int width);

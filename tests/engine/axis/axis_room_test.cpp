@@ -37,7 +37,13 @@ TEST_F(AxisRoomTest, NumbersTakeAShorterFormTogether) {
         EXPECT_GE(layout.labels.size(), 3u);
     }
     EXPECT_EQ(textsOf(narrow(y, 26, ofData({0, 45000}))).back(), "60k");
-    EXPECT_EQ(textsOf(narrow(y, 80, ofData({0, 45000}))).back(), "60000"); // it has room
+    EXPECT_EQ(textsOf(narrow(y, 80, ofData({0, 45000}))).back(), "60,000"); // it has room
+    EXPECT_FALSE(narrow(y, 80, ofData({1.2e18, 2.3e18})).factor);
+    const AxisLayout powers = narrow(y, 26, ofData({1.2e18, 2.3e18}));
+    ASSERT_TRUE(powers.factor);
+    EXPECT_EQ(powers.factor->text, "\u00d710\u00b9\u2078");
+    EXPECT_LE(powers.factor->box().bottom(), powers.labels.back().box().top()) << "above the uppermost";
+    EXPECT_EQ(powers.labels.front().text.find('e'), std::string::npos);
 }
 
 TEST_F(AxisRoomTest, NamesAreWrappedOrEndInAnEllipsis) {

@@ -1,6 +1,6 @@
 // The label layouts as numbers: nothing covers anything, nothing leaves the picture, whatever the sectors.
 
-#include "engine/pie/label_layout.h"
+#include "engine/pie/label_parts.h"
 #include "engine/pie/sector_geometry.h"
 
 #include <algorithm>
@@ -22,8 +22,8 @@ constexpr double kRadius = 140;
 enum class Layout { Circle, Side };
 
 std::vector<PlacedLabel> place(Layout layout, const std::vector<SectorLabel>& spots, double distance = 10) {
-    return layout == Layout::Circle ? circleLayout(spots, kRoom, distance)
-                                    : sideLayout(spots, kRoom, distance);
+    return layout == Layout::Circle ? circleLayout(spots, {kRoom, kRoom}, distance)
+                                    : sideLayout(spots, {kRoom, kRoom}, distance);
 }
 
 SectorLabel spotAt(double angle, double weight, QSizeF size) {
@@ -97,13 +97,16 @@ TEST_P(BothLayouts, NeverCoverNorLeaveThePicture) {
 }
 
 TEST_P(BothLayouts, ShowAllLabelsWhereThereIsRoom) {
+    std::ptrdiff_t labelled = 0, hidden = 0;
     for (int count = 1; count <= 24; ++count) {
         for (unsigned seed = 0; seed < 20; ++seed) {
             const auto labels = place(GetParam(), randomSpots(count, seed));
-            EXPECT_TRUE(std::all_of(labels.begin(), labels.end(), [](auto& label) { return label.shown; }))
-                << count << " sectors, seed " << seed;
+            labelled += count;
+            hidden += std::count_if(labels.begin(), labels.end(), [](auto& label) { return !label.shown; });
+            EXPECT_TRUE(hidden == 0 || count > 7) << count << " sectors, seed " << seed;
         }
     }
+    EXPECT_LT(hidden * 200, labelled) << "only where a line would cross others on any way";
 }
 
 TEST_P(BothLayouts, GiveUpTheSmallestFirst) {
@@ -131,8 +134,15 @@ TEST_P(BothLayouts, JoinLinesBelongToTheirLabels) {
             if (join.empty())
                 continue;
             ++joined;
-            ASSERT_LE(join.size(), 3u) << "bends once at most";
             EXPECT_EQ(join.front(), spots[i].rim);
+            for (std::size_t k = 0; k < i; ++k)
+                EXPECT_FALSE(joinsCross(join, labels[k].join)) << i << " and " << k << ", seed " << seed;
+            // Straight outwards at first, and beside the label level.
+            if (join.size() > 2) {
+                const QPointF stub = join[1] - join[0], out = direction(spots[i].angle);
+                EXPECT_NEAR(stub.x() * out.y() - stub.y() * out.x(), 0, 3) << "seed " << seed;
+                EXPECT_EQ(join.back().y(), join[join.size() - 2].y());
+            }
             EXPECT_TRUE(labels[i].box.adjusted(-3, -3, 3, 3).contains(join.back()));
             // No part of it runs inside the pie.
             for (std::size_t k = 1; k < join.size(); ++k) {

@@ -121,7 +121,7 @@ TEST(LabelThinning, StepsAndEnds) {
         {5, 30, 20, true, {0, 1, 2, 3, 4}},
         {11, 30, 70, false, {0, 3, 6, 9}},
         {11, 30, 70, true, {0, 5, 10}},  // even to the end rather than every third
-        {8, 30, 50, true, {0, 2, 4, 7}}, // 7 is prime: the last takes the room of the one before
+        {8, 30, 50, true, {0, 2, 4, 6}}, // 7 is prime: even gaps rather than the last
         {8, 30, 50, false, {0, 2, 4, 6}},
         {3, 10, 500, true, {0}},
         {2, -30, 20, true, {0, 1}}, // a reversed axis

@@ -53,9 +53,9 @@ std::vector<Row> axisRows() {
          [](const Shot& p, bool b) { return p.box(kRed).width() == (b ? 9 : 3); }},
         {"CAxis_setColors", axes,
          [](Scene& s, bool b) {
-             CAxis_setTitle(s.y, "Title", "bold", 12, -1);
-             CAxis_setTickLength2(s.y, 12, 4);
-             CAxis_setLabelStyle(s.y, "bold", 10, -1, 0);
+             CAxis_setTitle(s.y, "Title", "bold", 8, -1);
+             CAxis_setTickLength2(s.y, 9, 4);
+             CAxis_setLabelStyle(s.y, "bold", 8, -1, 0);
              b ? CAxis_setColors(s.y, kRed, kGreen, kBlue, kPink)
                : CAxis_setColors(s.y, kPink, kBlue, kGreen, kRed);
          },
@@ -167,11 +167,11 @@ std::vector<Row> axisRows() {
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.ink(QRect(40, 180, 260, 20));
-             return b ? ink.left() > 220 && ink.bottom() > 193 : ink.right() < 90 && ink.bottom() < 195;
+             return b ? ink.left() > 220 && ink.bottom() > 190 : ink.right() < 90 && ink.bottom() < 195;
          }},
         {"CAxis_setLabelStyle", axes,
          [](Scene& s, bool b) {
-             CAxis_setLabelStyle(s.y, b ? "bold" : "boldItalic", b ? 14 : 9, b ? kRed : kBlue, b ? 90 : 0);
+             CAxis_setLabelStyle(s.y, b ? "bold" : "boldItalic", b ? 10 : 9, b ? kRed : kBlue, b ? 90 : 0);
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.ink(QRect(0, 0, 45, 40)); // of the "100"

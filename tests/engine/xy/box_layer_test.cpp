@@ -23,10 +23,11 @@ CandleStickLayer* candles(Chart& chart, const Prices& p) {
 
 TEST(CandleStickLayer, BodyWickAndColoursTellThePrices) {
     Chart chart;
-    candles(chart, {{50, 60, 50, kGap, 50, 40},
-                    {10, 20, 10, 10, 10, 40},
-                    {20, 45, kGap, 20, 30, 40},
-                    {40, 30, 40, 30, 30, 40}});
+    CandleStickLayer* layer = candles(chart, {{50, 60, 50, kGap, 50, 40},
+                                              {10, 20, 10, 10, 10, 40},
+                                              {20, 45, kGap, 20, 30, 40},
+                                              {40, 30, 40, 30, 30, 40}});
+    CBaseBoxLayer_setDataGap(CandleStickLayer2BaseBoxLayer(layer), 0.5);
     const QImage image = chart.picture();
     EXPECT_EQ(boundsOf(image, kGreen), QRect(64, 151, 23, 39)); // the first row's body within its edge
     EXPECT_EQ(at(image, 63, 170), 0u);

@@ -149,7 +149,7 @@ TEST(DataLabels, FieldsTellRowNameAndValues) {
 }
 
 TEST(DataLabels, KeepInsideThePlotAndOffOneAnother) {
-    chartdraw::LabelRoom room(QSize(100, 50));
+    chartdraw::TextRoom room(QSize(100, 50));
     EXPECT_TRUE(room.isFree(QRectF(-500, 0, 2000, 50)));
     room.take(QRectF(10, 10, 20, 10));
     const struct {

@@ -97,7 +97,8 @@ TEST(LineLayer, DenseCloudsLookAsIfAllSymbolsWereDrawn) {
 TEST(LineLayer, StepsKeepTheValueUntilTheNextRow) {
     Chart chart;
     const double data[] = {10, 40, 40};
-    CXYChart_addStepLineLayer(chart.xy, data, 3, kRed, nullptr);
+    StepLineLayer* steps = CXYChart_addStepLineLayer(chart.xy, data, 3, kRed, nullptr);
+    CLayer_setLineWidth(LineLayer2Layer(StepLineLayer2LineLayer(steps)), 1);
     const QImage image = chart.picture();
     EXPECT_EQ(boundsOf(image.copy(50, 0, 150, 300), kRed), QRect(0, 210, 150, 1));
     EXPECT_EQ(boundsOf(image.copy(200, 0, 1, 300), kRed), QRect(0, 150, 1, 61));

@@ -1,0 +1,283 @@
+// Where the texts of pictures stand whose room is scarce, kind by kind.
+
+#include "engine/xy/frame_layout.h"
+#include "engine/xy/xy_chart.h"
+#include "tests/engine/room/overlap.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+using overlap::textsOf;
+
+constexpr int kClear = CHART_TRANSPARENT;
+
+/// The texts are apart and in the picture, and there are so many of them. Ends the chart.
+std::vector<QRectF> placed(BaseChart* chart, std::size_t count) {
+    std::size_t texts = 0;
+    EXPECT_EQ(overlap::faultOf(chart, texts), "");
+    EXPECT_EQ(texts, count);
+    std::vector<QRectF> boxes;
+    for (const QPolygonF& text : textsOf(chart))
+        boxes.push_back(text.boundingRect());
+    CBaseChart_destroy(chart);
+    return boxes;
+}
+
+QImage pictureOf(BaseChart* chart) {
+    const char* bytes = nullptr;
+    int length = 0;
+    CBaseChart_makeChart2(chart, CHART_FORMAT_BMP, &bytes, &length);
+    QImage image = QImage::fromData(reinterpret_cast<const uchar*>(bytes), length, "BMP");
+    CBaseChart_destroy(chart);
+    return image.convertToFormat(QImage::Format_RGB32);
+}
+
+template <class Test>
+int countIf(const QImage& image, const QRect& area, Test test) {
+    int count = 0;
+    for (int y = area.top(); y <= area.bottom(); ++y)
+        for (int x = area.left(); x <= area.right(); ++x)
+            count += test(image.pixel(x, y)) ? 1 : 0;
+    return count;
+}
+
+int countOf(const QImage& image, const QRect& area, QRgb colour) {
+    return countIf(
+        image, area, [colour](QRgb pixel) { return pixel == (0xff000000 | colour); });
+}
+
+int darkPixels(const QImage& image, const QRect& area) {
+    return countIf(
+        image, area, [](QRgb pixel) { return qGray(pixel) < 100; });
+}
+
+int lightPixels(const QImage& image, const QRect& area) {
+    return countIf(
+        image, area, [](QRgb pixel) { return qGray(pixel) > 160; });
+}
+
+/// Nearest distance of a box from a point.
+double distance(const QRectF& box, QPointF from) {
+    return std::hypot(std::clamp(from.x(), box.left(), box.right()) - from.x(),
+                      std::clamp(from.y(), box.top(), box.bottom()) - from.y());
+}
+
+/// A plot area from (50, 20) to (349, 219) in 360 x 260 pixels.
+struct Chart {
+    XYChart* xy = CXYChart_create(360, 260, 0xffffff, kClear, 0);
+    BaseChart* base = XYChart2BaseChart(xy);
+    Axis* y = CXYChart_yAxis(xy);
+
+    explicit Chart(int left = 50) {
+        CXYChart_setPlotArea(xy, left, 20, 350 - left, 200, 0xffffff, -1, -1, kClear, kClear);
+        CAxis_setLabelStyle(CXYChart_xAxis(xy), nullptr, 8, kClear, 0);
+    }
+    void hideLabels() const { CAxis_setLabelStyle(y, nullptr, 8, kClear, 0); }
+    Layer* line(const std::vector<double>& data, int colour = 0xff0000) const {
+        const int count = static_cast<int>(data.size());
+        return LineLayer2Layer(CXYChart_addLineLayer(xy, data.data(), count, colour, nullptr, 0));
+    }
+    Layer* bars(int combine, const std::vector<std::vector<double>>& sets,
+                const std::vector<int>& colours) const {
+        Layer* layer = BarLayer2Layer(CXYChart_addBarLayer2(xy, combine, 0));
+        for (std::size_t i = 0; i < sets.size(); ++i)
+            CLayer_addDataSet(layer, sets[i].data(), static_cast<int>(sets[i].size()), colours[i], nullptr);
+        CLayer_setDataLabelStyle(layer, nullptr, 8, -1, 0);
+        return layer;
+    }
+};
+
+TEST(Placement, LabelsOfAPieEndAtTitlesAndLegend) {
+    PieChart* pie = CPieChart_create(400, 300, 0xffffff, kClear, 0);
+    BaseChart* chart = PieChart2BaseChart(pie);
+    const double values[] = {30, 20, 20, 15, 10, 5};
+    const char* const names[] = {"Northern Territories", "South", "West", "East", "Islands", "Others"};
+    CPieChart_setPieSize(pie, 180, 150, 80);
+    CPieChart_setData(pie, values, 6, names, 6);
+    CPieChart_setLabelStyle(pie, nullptr, 8, -1);
+    CBaseChart_addTitle(chart, "Two lines of a title\nover a pie", "bold", 14, -1, kClear, kClear);
+    CBaseChart_addTitle2(chart, CHART_BOTTOM, "Source", nullptr, 8, -1, kClear, kClear);
+    CBaseChart_addLegend(chart, 300, 60, true, nullptr, 8);
+    const std::vector<QRectF> boxes = placed(chart, 6 + 2 + 6);
+    for (const QRectF& box : boxes)
+        EXPECT_GT(distance(box, QPointF(180, 150)), 80) << box.left() << ", " << box.top();
+}
+
+TEST(Placement, MetersShortenManyDigitsAndKeepTheirMiddleFree) {
+    AngularMeter* meter = CAngularMeter_create(200, 200, 0xffffff, kClear, 0);
+    CAngularMeter_setMeter(meter, 100, 100, 70, -135, 135);
+    CBaseMeter_setScale(AngularMeter2BaseMeter(meter), 0, 5e9, 1e9, 0, 0);
+    CBaseMeter_setLabelStyle(AngularMeter2BaseMeter(meter), nullptr, 8, -1, 0);
+    for (const QRectF& box : placed(BaseMeter2BaseChart(AngularMeter2BaseMeter(meter)), 6)) {
+        EXPECT_GT(distance(box, QPointF(100, 100)), 70);
+        EXPECT_LT(box.width(), 20); // "5G"
+    }
+}
+
+TEST(Placement, ALongWordBesideARadarIsCutOffBeforeTheData) {
+    PolarChart* polar = CPolarChart_create(300, 260, 0xffffff, kClear, 0);
+    CPolarChart_setPlotArea(polar, 150, 130, 80, kClear, CHART_LINE_COLOR, 1);
+    CAxis_setLabelStyle(CPolarChart_radialAxis(polar), nullptr, 8, kClear, 0);
+    const char* const names[] = {"Up", "Unbreakablecustomersatisfactionofall", "Down", "Left"};
+    CAngularAxis_setLabels(CPolarChart_angularAxis(polar), names, 4);
+    CAngularAxis_setLabelStyle(CPolarChart_angularAxis(polar), nullptr, 8, -1, 0);
+    int around = 0;
+    std::size_t texts = 0;
+    BaseChart* chart = PolarChart2BaseChart(polar);
+    EXPECT_EQ(overlap::faultOf(chart, texts), "");
+    for (const QPolygonF& text : textsOf(chart))
+        around += distance(text.boundingRect(), QPointF(150, 130)) >= 80 ? 1 : 0;
+    CBaseChart_destroy(chart);
+    EXPECT_EQ(around, 4);
+}
+
+TEST(Placement, LegendsWrapLongKeysAndStandInColumns) {
+    PieChart* pie = CPieChart_create(240, 200, 0xffffff, kClear, 0);
+    BaseChart* chart = PieChart2BaseChart(pie);
+    LegendBox* legend = CBaseChart_addLegend(chart, 20, 10, false, nullptr, 8);
+    for (const char* text : {"One", "Two and more", "Three", "Four", "A fifth", "Six"})
+        CLegendBox_addKey(legend, text, 0xff0000, 0, nullptr);
+    CPieChart_setPieSize(pie, 0, 0, 0);
+    const std::vector<QRectF> boxes = placed(chart, 6);
+    const auto below = std::find_if(boxes.begin() + 1, boxes.end(),
+                                    [&](const QRectF& box) { return box.top() > boxes[0].top(); });
+    ASSERT_NE(below, boxes.end()) << "there is no room for one row";
+    const auto columns = static_cast<std::size_t>(below - boxes.begin());
+    for (std::size_t i = columns; i < boxes.size(); ++i)
+        EXPECT_EQ(boxes[i].left(), boxes[i - columns].left()) << i;
+
+    pie = CPieChart_create(240, 200, 0xffffff, kClear, 0);
+    legend = CBaseChart_addLegend(PieChart2BaseChart(pie), 120, 10, true, nullptr, 8);
+    CPieChart_setPieSize(pie, 0, 0, 0);
+    CLegendBox_addKey(legend, "A key of so many words that they stand on several lines", 0, 0, nullptr);
+    CLegendBox_addKey(legend, "Unbreakablenameofaplacethatisfartoolong", 0, 0, nullptr);
+    const std::vector<QRectF> keys = placed(PieChart2BaseChart(pie), 2);
+    EXPECT_GT(keys[0].height(), 2 * keys[1].height());
+}
+
+TEST(Placement, LabelsInBarsAreReadOnThemOrLeftOut) {
+    const Chart chart;
+    chart.hideLabels();
+    chart.bars(CHART_COMBINE_STACK, {{50, 99}, {50, 1}}, {0x000080, 0xffff80});
+    const QImage image = pictureOf(chart.base);
+    // Of the axis to 120 50 is at row 136, 100 at 53.
+    EXPECT_GT(lightPixels(image, QRect(80, 145, 90, 60)), 0) << "white on the dark bar";
+    EXPECT_GT(darkPixels(image, QRect(80, 60, 90, 60)), 0) << "black on the light one";
+    EXPECT_EQ(darkPixels(image, QRect(220, 40, 110, 12)), 0) << "none in the low one";
+}
+
+TEST(Placement, BarsThatOthersHideHaveNoLabels) {
+    const auto labels = [](int combine) {
+        const Chart chart;
+        chart.hideLabels();
+        chart.bars(combine, {{20, 30}, {40, 10}}, {0xff0000, 0x00ff00});
+        const std::size_t count = textsOf(chart.base).size();
+        CBaseChart_destroy(chart.base);
+        return count;
+    };
+    EXPECT_EQ(labels(CHART_COMBINE_SIDE), 4u);
+    EXPECT_EQ(labels(CHART_COMBINE_OVERLAY), 3u); // 20 stands behind 40
+}
+
+TEST(Placement, LabelsOfValuesHaveTheDigitsOfTheirAxisAndTwoMore) {
+    const auto picture = [](const char* format) {
+        const Chart chart;
+        Layer* layer = chart.bars(CHART_COMBINE_SIDE, {{2.0 / 3, 1}}, {0xff0000});
+        CLayer_setDataLabelFormat(layer, format);
+        return pictureOf(chart.base).copy(60, 20, 130, 200);
+    };
+    EXPECT_EQ(picture("{value}"), picture("0.667"));
+}
+
+TEST(Placement, LabelsOfStepsStandBesideTheRisers) {
+    const Chart chart;
+    chart.hideLabels();
+    const double data[] = {10, 40, 10, 40};
+    StepLineLayer* steps = CXYChart_addStepLineLayer(chart.xy, data, 4, -1, nullptr);
+    CLayer_setDataLabelStyle(LineLayer2Layer(StepLineLayer2LineLayer(steps)), nullptr, 8, -1, 0);
+    const std::vector<QRectF> boxes = placed(chart.base, 4);
+    const double middle = (boxes[1].center().y() + boxes[2].center().y()) / 2;
+    EXPECT_LT(boxes[1].bottom(), middle - 40) << "above the upper end of its riser";
+    EXPECT_GT(boxes[2].top(), middle + 40) << "below the lower end";
+}
+
+TEST(Placement, LinesAreTwoPixelsWideWhereTheyHaveRoom) {
+    const auto width = [](std::size_t points) {
+        const Chart chart;
+        const int result =
+            chartdraw::object<chartdraw::Layer>(chart.line(std::vector<double>(points, 5)))->lineWidth();
+        CBaseChart_destroy(chart.base);
+        return result;
+    };
+    EXPECT_EQ(width(10), 2);
+    EXPECT_EQ(width(1000), 1);
+    const Chart chart;
+    chart.line(std::vector<double>(10, 5));
+    EXPECT_EQ(countOf(pictureOf(chart.base), QRect(200, 25, 1, 190), 0xff0000), 2);
+}
+
+TEST(Placement, NarrowCandlesShowTheirColours) {
+    XYChart* xy = CXYChart_create(550, 260, 0xffffff, kClear, 0);
+    CXYChart_setPlotArea(xy, 50, 20, 480, 200, 0xffffff, -1, -1, kClear, kClear);
+    std::vector<double> high, low, open, close;
+    for (int i = 0; i < 100; ++i) {
+        open.push_back(i % 2 == 0 ? 40 : 60);
+        close.push_back(100 - open.back());
+        high.push_back(70);
+        low.push_back(30);
+    }
+    CXYChart_addCandleStickLayer(xy, high.data(), 100, low.data(), 100, open.data(), 100, close.data(), 100,
+                                 0x00ff00, 0xff0000, -1);
+    const QImage image = pictureOf(XYChart2BaseChart(xy));
+    const QRect plot(55, 25, 470, 190);
+    EXPECT_EQ(countOf(image, plot, 0x000000), 0);
+    EXPECT_GT(countOf(image, plot, 0x00ff00), 1000);
+    EXPECT_GT(countOf(image, plot, 0xff0000), 1000);
+}
+
+TEST(Placement, OnlyBarsAndAreasNeedZero) {
+    const auto lowest = [](const Chart& chart) {
+        const auto frame = chartdraw::layoutFrame(*chartdraw::object<chartdraw::XYChart>(chart.xy));
+        CBaseChart_destroy(chart.base);
+        return frame.axes[1].map.lower();
+    };
+    const Chart line, bars, asked;
+    line.line({80, 165});
+    bars.bars(CHART_COMBINE_SIDE, {{80, 165}}, {0xff0000});
+    asked.line({80, 165});
+    CAxis_setAutoScale(asked.y, 0.1, 0.1, 0.8);
+    EXPECT_GE(lowest(line), 60);
+    EXPECT_EQ(lowest(bars), 0);
+    EXPECT_EQ(lowest(asked), 0);
+}
+
+TEST(Placement, LogAxesHaveMinorTicksAndFewDecadesMoreLabels) {
+    const auto layout = [](double least, double most, bool plain) {
+        const Chart chart;
+        chart.line({least, most});
+        CAxis_setLogScale3(chart.y, nullptr);
+        if (plain)
+            CAxis_setTickDensity(chart.y, -1, -1);
+        auto frame = chartdraw::layoutFrame(*chartdraw::object<chartdraw::XYChart>(chart.xy));
+        CBaseChart_destroy(chart.base);
+        return std::pair(frame.axes[1].labels.size(),
+                         std::count_if(frame.axes[1].ticks.begin(), frame.axes[1].ticks.end(),
+                                       [](const auto& tick) { return !tick.major; }));
+    };
+    EXPECT_EQ(layout(3, 60, false).first, 6u) << "2, 5, 10, 20, 50, 100";
+    EXPECT_GT(layout(1, 20000, false).second, 10);
+    EXPECT_EQ(layout(1, 20000, true).second, 0) << "none where none are asked for";
+}
+
+TEST(Placement, TitlesKeepFromTheBorder) {
+    const Chart chart;
+    chart.hideLabels();
+    chart.line({1, 2});
+    CAxis_setTitle(CXYChart_xAxis(chart.xy), "A title\nof two lines", nullptr, 8, -1);
+    CBaseChart_addTitle(chart.base, "Title", nullptr, 12, -1, kClear, kClear);
+    for (const QRectF& box : placed(chart.base, 2))
+        EXPECT_TRUE(QRectF(3, 2, 354, 255).contains(box)) << box.top() << " to " << box.bottom();
+}
+
+} // namespace
