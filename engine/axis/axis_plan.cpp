@@ -18,6 +18,7 @@ constexpr int kAttempts = 6;
 constexpr double kLevelSpacing = 40; // pixels between ticks of a level axis
 constexpr double kDateSpacing = 28;  // the same for dates, whose labels are short and whose steps are coarse
 constexpr double kLinesByFactor = 8; // of labels on an axis that is long enough to show a factor beside them
+constexpr double kLabelBorder = 4;   // pixels that grouped numbers keep from the border of the picture
 constexpr double kLogMinors = 3;     // least pixels between minor ticks of log axes
 constexpr double kUprightSpacing = 26; // and of an upright one
 
@@ -171,9 +172,9 @@ private:
         }
     }
 
-    bool isTooWide(const AxisPlan& plan) const {
+    bool isTooWide(const AxisPlan& plan, double spare = 0) const {
         return m_request.labelRoom > 0 && m_fit.reachesByLength() &&
-               m_fit.widest(plan.ticks) > m_request.labelRoom;
+               m_fit.widest(plan.ticks) + spare > m_request.labelRoom;
     }
 
     /// Nothing is said of how numbers are to be written.
@@ -198,7 +199,7 @@ private:
         const auto wanted = [&] { return m_fit.wantedDistance(plan.ticks, plan.map(0, m_request.length)); };
         const bool fitted = wanted() == 0;
         relabel(texts);
-        if (isTooWide(plan) || (fitted && wanted() > 0))
+        if (isTooWide(plan, kLabelBorder) || (fitted && wanted() > 0))
             relabel(before);
     }
 
