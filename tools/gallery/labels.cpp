@@ -199,7 +199,7 @@ const gallery::Family
                        }},
                       {"Thousands apart",
                        [] {
-                           return valueAxis({1.2e6, 2.1e6, 1.7e6, 3.3e6}, 60);
+                           return valueAxis({1.2e6, 2.1e6, 1.7e6, 3.3e6}, 66);
                        }},
                       {"Lines need no zero",
                        [] {
