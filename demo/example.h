@@ -6,6 +6,7 @@
 
 #include <charteditors/charteditors.h>
 #include <chartrender/chartrender.h>
+#include <chartstyle/chartstyle.h>
 
 #include <functional>
 #include <memory>
@@ -32,6 +33,11 @@ public:
     bool EditLayout();
     virtual ChartRenderResult Render(ChartPictureFormat format, CChartPicture& picture) const = 0;
 
+    /// The look and the layout as a text.
+    virtual bool WriteStyle(CChartStyleText& text) const = 0;
+    /// Takes a look from a text; one of another kind is OtherKind, a layout alone is taken.
+    virtual ChartStyleResult ReadStyle(const QByteArray& text, CChartStyleText& report) = 0;
+
     /// Takes numbers in the place of its own, with a title; false if they are for another kind.
     virtual bool Take(const ChartData& /*data*/, const QString& /*title*/) { return false; }
     virtual std::optional<Dial> GetDial() const { return std::nullopt; }
@@ -44,6 +50,24 @@ protected:
     void SetTitle(const QString& title);
 
     CChartLayout m_layout;
+};
+
+/// An example with a look of that kind.
+template <class Look>
+class LookExample : public Example {
+public:
+    bool WriteStyle(CChartStyleText& text) const override { return WriteChartStyle(m_look, &m_layout, text); }
+    ChartStyleResult ReadStyle(const QByteArray& text, CChartStyleText& report) override {
+        const auto size = static_cast<std::size_t>(text.size());
+        if (ChartStyleKindOf(text.constData(), size) == ChartStyleKind::Layout)
+            return ReadChartStyle(text.constData(), size, m_layout, report);
+        return ReadChartStyle(text.constData(), size, m_look, &m_layout, report);
+    }
+
+protected:
+    using Example::Example;
+
+    Look m_look;
 };
 
 using Examples = std::vector<std::unique_ptr<Example>>;

@@ -6,11 +6,11 @@
 namespace {
 
 /// Reads its prices from a text as any host does: 500 days, of which the first feed the indicators.
-class FinanceExample : public Example {
+class FinanceExample : public LookExample<CFinanceChart> {
 public:
     FinanceExample()
-        : Example(2, 640, 480, QStringLiteral("A share that does not exist"),
-                  QStringLiteral("Daily prices, a walk at random")) {
+        : LookExample(2, 640, 480, QStringLiteral("A share that does not exist"),
+                      QStringLiteral("Daily prices, a walk at random")) {
         m_layout.m_financeWidth = 640;
         m_look.m_mainHeight = 240;
         m_look.m_showHloc = false;
@@ -61,7 +61,6 @@ public:
 private:
     static constexpr int kDays = 500;
 
-    CFinanceChart m_look;
     Prices m_data;
 };
 

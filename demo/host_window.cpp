@@ -48,7 +48,7 @@ HostWindow::HostWindow() : m_examples(MakeExamples()) {
     sides->addWidget(MakeChart(), 1);
     setCentralWidget(body);
     statusBar()->showMessage(QStringLiteral(
-        "Examples. Drop a CSV file for your own numbers: its columns tell the kind of chart."));
+        "Examples. Drop a CSV file for your own numbers: its columns tell the kind of chart; or a style."));
     ShowKind(0);
 }
 
@@ -56,6 +56,9 @@ void HostWindow::MakeMenu() {
     QMenu* file = menuBar()->addMenu(QStringLiteral("&File"));
     file->addAction(QStringLiteral("&Open data..."), QKeySequence::Open, this, &HostWindow::AskForData);
     file->addAction(QStringLiteral("&Save picture..."), QKeySequence::Save, this, &HostWindow::AskForPicture);
+    file->addSeparator();
+    file->addAction(QStringLiteral("Open s&tyle..."), this, &HostWindow::AskForStyle);
+    file->addAction(QStringLiteral("Save st&yle..."), this, &HostWindow::AskForStyleFile);
     file->addSeparator();
     file->addAction(QStringLiteral("&Quit"), QKeySequence::Quit, this, &QWidget::close);
     QMenu* chart = menuBar()->addMenu(QStringLiteral("&Chart"));
@@ -191,18 +194,56 @@ bool HostWindow::OpenData(const QString& path, QString* error) {
     });
     if (read.error.isEmpty() && taker == m_examples.end())
         read.error = QStringLiteral("No chart here shows rows of several columns.");
-    if (!read.error.isEmpty()) {
-        if (error != nullptr)
-            *error = read.error;
-        else
-            Complain(QStringLiteral("%1\n\n%2").arg(name, read.error));
-        return false;
-    }
+    if (!read.error.isEmpty())
+        return Refuse(path, read.error, error);
     const auto kind = static_cast<int>(taker - m_examples.begin());
     statusBar()->showMessage(QStringLiteral("%1: %2 rows").arg(name).arg(table.rows.size()));
     ShowKind(kind);
     ShowChart();
     return true;
+}
+
+bool HostWindow::OpenStyle(const QString& path, QString* error) {
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return Refuse(path, file.errorString(), error);
+    const QByteArray text = file.readAll();
+    // The chart that is shown comes first: a layout suits each of them.
+    std::vector<int> order{m_kinds->currentRow()};
+    for (int kind = 0; kind < std::ssize(m_examples); ++kind)
+        order.push_back(kind);
+    CChartStyleText report;
+    for (const int kind : order) {
+        const ChartStyleResult result = m_examples[static_cast<std::size_t>(kind)]->ReadStyle(text, report);
+        if (result == ChartStyleResult::OtherKind)
+            continue;
+        if (result != ChartStyleResult::Ok)
+            break;
+        const QString remark = QString::fromUtf8(report.Data()).section(u'\n', 0, 0);
+        statusBar()->showMessage(QFileInfo(path).fileName() +
+                                 (remark.isEmpty() ? QString() : QStringLiteral(": ") + remark));
+        ShowKind(kind);
+        ShowDial();
+        ShowChart();
+        return true;
+    }
+    return Refuse(path, QString::fromUtf8(report.Data()), error);
+}
+
+void HostWindow::SaveStyle(const QString& path) {
+    CChartStyleText text;
+    QFile file(path);
+    if (!Shown().WriteStyle(text) || !file.open(QIODevice::WriteOnly) ||
+        file.write(text.Data()) != static_cast<qint64>(text.Size()))
+        Complain(QStringLiteral("The style cannot be written to %1.").arg(path));
+}
+
+bool HostWindow::Refuse(const QString& path, const QString& fault, QString* error) {
+    if (error != nullptr)
+        *error = fault;
+    else
+        Complain(QStringLiteral("%1\n\n%2").arg(QFileInfo(path).fileName(), fault));
+    return false;
 }
 
 void HostWindow::SavePicture(const QString& path) {
@@ -228,6 +269,21 @@ void HostWindow::AskForPicture() {
         SavePicture(path);
 }
 
+void HostWindow::AskForStyle() {
+    const QString path = QFileDialog::getOpenFileName(this, QStringLiteral("Open style"), QString(),
+                                                      QStringLiteral("Chart styles (*.json)"));
+    if (!path.isEmpty())
+        OpenStyle(path);
+}
+
+void HostWindow::AskForStyleFile() {
+    const QString path = QFileDialog::getSaveFileName(
+        this, QStringLiteral("Save style"), QString::fromUtf8(Shown().File()) + QStringLiteral(".json"),
+        QStringLiteral("Chart styles (*.json)"));
+    if (!path.isEmpty())
+        SaveStyle(path);
+}
+
 void HostWindow::Complain(const QString& text) {
     QMessageBox::warning(this, windowTitle(), text);
 }
@@ -239,5 +295,9 @@ void HostWindow::dragEnterEvent(QDragEnterEvent* event) {
 
 void HostWindow::dropEvent(QDropEvent* event) {
     event->acceptProposedAction();
-    OpenData(DraggedFile(event->mimeData()));
+    const QString path = DraggedFile(event->mimeData());
+    if (path.endsWith(QStringLiteral(".json"), Qt::CaseInsensitive))
+        OpenStyle(path);
+    else
+        OpenData(path);
 }

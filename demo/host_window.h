@@ -21,6 +21,10 @@ public:
     /// Shows the numbers of a file, as the kind that its columns tell; for a bad one, says what was not
     /// understood and keeps what it has. False, with `error`, if it is given, in the place of a box.
     bool OpenData(const QString& path, QString* error = nullptr);
+    /// Takes the look of a file, for the kind of chart that it tells, and shows it; the same for a bad one.
+    bool OpenStyle(const QString& path, QString* error = nullptr);
+    /// Writes the look of the chart that is shown.
+    void SaveStyle(const QString& path);
     /// Opens the editor of the kind that is shown, or that of its layout.
     void Edit();
     void EditLayout();
@@ -38,6 +42,9 @@ private:
     QWidget* MakeDial();
     void AskForData();
     void AskForPicture();
+    void AskForStyle();
+    void AskForStyleFile();
+    bool Refuse(const QString& path, const QString& fault, QString* error);
     void ShowChart();
     void ShowDial();
     void TakeDial(double value);

@@ -16,7 +16,7 @@ constexpr std::uint32_t kBad = 0xC94F43;
 
 /// What the two meters share: a scale, one pointer, and the value that it shows.
 template <class Meter>
-class MeterExample : public Example {
+class MeterExample : public LookExample<Meter> {
 public:
     std::optional<Dial> GetDial() const override {
         return Dial{m_look.m_lowerLimit, m_look.m_upperLimit, m_value};
@@ -24,8 +24,11 @@ public:
     void SetDial(double value) override { m_value = value; }
 
 protected:
+    using LookExample<Meter>::m_look;
+    using Example::m_layout;
+
     MeterExample(int kind, int width, int height, const QString& title, const QString& subtitle, double value)
-        : Example(kind, width, height, title, subtitle), m_value(value) {
+        : LookExample<Meter>(kind, width, height, title, subtitle), m_value(value) {
         m_layout.m_showLegend = m_layout.m_showLabel = false;
         m_look.m_useLabelStyle = true;
         m_look.m_labelStyle.m_font = Font("normal", 10);
@@ -55,7 +58,6 @@ protected:
         return data;
     }
 
-    Meter m_look;
     double m_value;
 };
 

@@ -15,11 +15,11 @@ constexpr Cost kCosts[] = {
     {"Insurance", 6.3, 0x8A8F98},
 };
 
-class PieExample : public Example {
+class PieExample : public LookExample<CPieChart> {
 public:
     PieExample()
-        : Example(0, 580, 440, QStringLiteral("Where the money goes"),
-                  QStringLiteral("A small bakery, costs of a year in thousands")) {
+        : LookExample(0, 580, 440, QStringLiteral("Where the money goes"),
+                      QStringLiteral("A small bakery, costs of a year in thousands")) {
         m_layout.m_labelFormat = "{label}: {percent|1}%";
         m_layout.m_showLegend = false;
         m_layout.m_piePlotArea.m_centerX = 290;
@@ -74,7 +74,6 @@ private:
         m_look.m_sectors.push_back(sector);
     }
 
-    CPieChart m_look;
     LabelledValues m_data;
 };
 

@@ -8,11 +8,11 @@ namespace {
 constexpr std::array kHarbour{4.0, 5.0, 8.0, 7.0, 6.0, 9.0, 17.0, 21.0, 13.0, 6.0, 3.0, 2.0};
 constexpr std::array kHill{6.0, 9.0, 7.0, 5.0, 4.0, 6.0, 10.0, 14.0, 16.0, 12.0, 7.0, 5.0};
 
-class PolarExample : public Example {
+class PolarExample : public LookExample<CPolarChart> {
 public:
     PolarExample()
-        : Example(3, 520, 460, QStringLiteral("Where the wind comes from"),
-                  QStringLiteral("Percent of the hours of a year, by direction")) {
+        : LookExample(3, 520, 460, QStringLiteral("Where the wind comes from"),
+                      QStringLiteral("Percent of the hours of a year, by direction")) {
         m_layout.m_polarPlotArea.m_centerX = 260;
         m_layout.m_polarPlotArea.m_centerY = 260;
         m_layout.m_polarPlotArea.m_radius = 150;
@@ -78,7 +78,6 @@ private:
         m_data.columns.push_back(column);
     }
 
-    CPolarChart m_look;
     PolarRows m_data;
 };
 

@@ -18,11 +18,12 @@ constexpr std::array kWarmth{1.0, 2.0, 6.0, 10.0, 14.0, 17.0, 19.0, 19.0, 15.0, 
 
 /// Bars of the first data sets; a second layer of lines, on its own axis, where the host has something for
 /// it.
-class XYExample : public Example {
+class XYExample : public LookExample<CXYChart> {
 public:
     XYExample()
-        : Example(1, 620, 420, QStringLiteral("Bread and weather"),
-                  QStringLiteral("Loaves a day in two shops (bars), mean temperature in degrees (line)")) {
+        : LookExample(
+              1, 620, 420, QStringLiteral("Bread and weather"),
+              QStringLiteral("Loaves a day in two shops (bars), mean temperature in degrees (line)")) {
         m_layout.m_xyPlotArea.m_left = 60;
         m_layout.m_xyPlotArea.m_top = 90;
         m_layout.m_xyPlotArea.m_width = 500;
@@ -130,7 +131,6 @@ private:
         m_look.m_layers.AddLayer(bars);
     }
 
-    CXYChart m_look;
     Rows m_data;
     NamedColumn m_line;
 };

@@ -32,6 +32,10 @@ void CChartColorField::SetValueAndShow(const CChartColor& color) {
     UpdateData(false);
 }
 
+QString CChartColorField::TextOf(const CChartColor& color) {
+    return ColorText(color);
+}
+
 bool CChartColorField::DoDataExchange(bool read) {
     if (!read) {
         m_type->setText(m_typeText);

@@ -17,6 +17,8 @@ public:
     void SetKey(int key) { m_key = key; }
     /// Sets the value and writes the controls; sends nothing.
     void SetValueAndShow(const CChartColor& color);
+    /// A colour in words.
+    static QString TextOf(const CChartColor& color);
     const CChartColor& GetValue() const { return m_color; }
 
 protected:

@@ -9,6 +9,8 @@ namespace {
 
 enum Row { Flat, Raised, Depressed, SoftLighting, NormalGlare, ReduceGlare };
 
+constexpr const char* kTypeTexts[] = {"Flat",         "Raised",      "Depressed",
+                                      "SoftLighting", "NormalGlare", "ReduceGlare"};
 constexpr int kEffectTypes[] = {0, 0, 0, 1, 3, 2}; // of the rows
 
 /// Of 32 bits without a sign, so that the least number has a negative of its own.
@@ -32,8 +34,7 @@ Row RowOf(const CChartRaisedEffect& effect) {
 } // namespace
 
 CRaisedEffectField::CRaisedEffectField() : m_form(*this, [this] { ApplyControls(); }) {
-    m_form.Combo("Type:", m_type,
-                 {"Flat", "Raised", "Depressed", "SoftLighting", "NormalGlare", "ReduceGlare"});
+    m_form.Combo("Type:", m_type, {std::begin(kTypeTexts), std::end(kTypeTexts)});
     m_directionRow = &m_form.Side("Direction:", m_side).Tip("The side that the light comes from");
     m_sizeRow = &m_form.Integer("Size:", m_size)
                      .Unsigned()
@@ -51,6 +52,16 @@ void CRaisedEffectField::SetValueAndShow(const CChartRaisedEffect& effect) {
     m_size = effect.m_value < 0 ? Minus(effect.m_value) : effect.m_value;
     EnableControls();
     m_form.LoadRows(nullptr);
+}
+
+QString CRaisedEffectField::TextOf(const CChartRaisedEffect& effect) {
+    const Row row = RowOf(effect);
+    QString text = QString::fromUtf8(kTypeTexts[row]);
+    if (row >= SoftLighting)
+        text += u' ' + QString::fromUtf8(
+                           Sides().Rows()[static_cast<std::size_t>(SideToIndex(effect.m_direction))].text);
+    const std::int32_t size = effect.m_value < 0 ? Minus(effect.m_value) : effect.m_value;
+    return row == Flat ? text : text + u' ' + QString::number(static_cast<std::uint32_t>(size));
 }
 
 void CRaisedEffectField::EnableControls() {

@@ -14,6 +14,8 @@ public:
     void SetKey(int key) { m_key = key; }
     /// Sets the value and writes the controls; sends nothing.
     void SetValueAndShow(const CChartRaisedEffect& effect);
+    /// Kind, side and size.
+    static QString TextOf(const CChartRaisedEffect& effect);
     const CChartRaisedEffect& GetValue() const { return m_effect; }
 
 private:

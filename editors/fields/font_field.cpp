@@ -37,6 +37,10 @@ void CChartFontField::SetValueAndShow(const CChartFont& font) {
     UpdateData(false);
 }
 
+QString CChartFontField::TextOf(const CChartFont& font) {
+    return platform::NarrowToText(font.m_faceName.data()) + QString::asprintf(", %g", font.m_size);
+}
+
 bool CChartFontField::DoDataExchange(bool read) {
     if (!read) {
         const QString name = platform::NarrowToText(m_font.m_faceName.data());

@@ -17,6 +17,8 @@ public:
     /// Hides the size and its caption: the font is used without it.
     void HideSize();
     void SetValueAndShow(const CChartFont& font);
+    /// Name and size.
+    static QString TextOf(const CChartFont& font);
     const CChartFont& GetValue() const { return m_font; }
 
 protected:

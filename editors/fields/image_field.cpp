@@ -17,12 +17,15 @@ void CChartImageField::SetValueAndShow(const CChartString& path) {
     UpdateData(false);
 }
 
+QString CChartImageField::TextOf(const CChartString& path) {
+    return path.empty() ? QStringLiteral("no image") : platform::NarrowToText(path.data());
+}
+
 bool CChartImageField::DoDataExchange(bool read) {
     if (!read) {
         m_preview->SetSampleColor(m_pattern);
         m_preview->RefreshPreview();
-        const QString path = platform::NarrowToText(m_pattern.m_patternFile.data());
-        TellValue(*this, path.isEmpty() ? QStringLiteral("no image") : path);
+        TellValue(*this, TextOf(m_pattern.m_patternFile));
     }
     return true;
 }

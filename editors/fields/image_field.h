@@ -15,6 +15,8 @@ public:
 
     void SetKey(int key) { m_key = key; }
     void SetValueAndShow(const CChartString& path);
+    /// The path, or that there is none.
+    static QString TextOf(const CChartString& path);
     const CChartString& GetValue() const { return m_pattern.m_patternFile; }
 
 protected:

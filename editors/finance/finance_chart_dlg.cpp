@@ -43,6 +43,7 @@ CFinanceChartDlg::CFinanceChartDlg()
 void CFinanceChartDlg::TableOfOrder() {
     m_order.Group("Order:");
     m_order.Place(nullptr, *m_panes);
+    m_order.Edits(*m_panes, CMember::Of(Chart().m_order));
     m_panes->setObjectName(QStringLiteral("Order list"));
     m_panes->setAccessibleName(m_panes->objectName());
     m_panes->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
@@ -57,7 +58,14 @@ void CFinanceChartDlg::TableOfOrder() {
 
 bool CFinanceChartDlg::OnInitDialog() {
     FillOrder();
-    m_tabs.Open({.preview = &m_preview, .left = m_order.Layout()});
+    m_tabs.Open({.preview = &m_preview,
+                 .left = m_order.Layout(),
+                 .edited = WorkingCopy(Chart(), &m_preview.m_ownLayout),
+                 .restored = [this] {
+                     const int row = m_panes->currentRow();
+                     FillOrder();
+                     m_panes->setCurrentRow(row);
+                 }});
     return CDialog::OnInitDialog();
 }
 
@@ -97,7 +105,7 @@ void CFinanceChartDlg::Move(int direction) {
     std::swap(Chart().m_order[place], Chart().m_order[m_places[static_cast<std::size_t>(row)]]);
     FillOrder();
     m_panes->setCurrentRow(row);
-    m_preview.RefreshPreview();
+    m_order.Notify();
 }
 
 void CFinanceChartDlg::Jump() {

@@ -88,6 +88,10 @@ bool CComboRow::Exchange(bool read) {
     return true;
 }
 
+QString CComboRow::Shown(const std::int32_t& code) const {
+    return m_box->itemText(m_choices.RowOf(code, m_otherwise));
+}
+
 CRadioRow::CRadioRow(CForm& form, CBinding<std::int32_t> field, std::vector<CChoice> choices)
     : CValueRow(form, std::move(field)), m_choices(std::move(choices)), m_box(new QWidget(&form.Page())),
       m_buttons(new QButtonGroup(m_box)) {

@@ -20,6 +20,10 @@ public:
 
     QWidget* Control() const override;
     void Load() override;
+    bool Store() override {
+        m_loaded = true;
+        return CValueRow::Store();
+    }
     bool Exchange(bool read) override;
 
 private:
@@ -43,6 +47,9 @@ public:
     void Load() override;
     bool Exchange(bool read) override;
 
+protected:
+    QString Shown(const std::int32_t& code) const override;
+
 private:
     CChoices m_choices;
     QComboBox* m_box;
@@ -62,6 +69,9 @@ public:
     QWidget* Control() const override { return m_box; }
     bool Exchange(bool read) override;
     void ShowState() override;
+
+protected:
+    QString Shown(const std::int32_t& code) const override { return m_choices.TextOf(code); }
 
 private:
     State StateOf(int code) const { return m_states ? m_states(code) : Live; }

@@ -1,6 +1,7 @@
 #pragma once
 // Lists to choose from: the texts that show and the codes that are stored for them.
 
+#include <QString>
 #include <cstddef>
 #include <utility>
 #include <vector>
@@ -33,6 +34,13 @@ public:
     /// The code of a row; `otherwise` if there is no such row.
     int CodeOf(int row, int otherwise) const {
         return row >= 0 && row < std::ssize(m_rows) ? m_rows[static_cast<std::size_t>(row)].code : otherwise;
+    }
+
+    /// The text of a code; its number if it has none.
+    QString TextOf(int code) const {
+        const int row = RowOf(code, -1);
+        return row < 0 ? QString::number(code)
+                       : QString::fromUtf8(m_rows[static_cast<std::size_t>(row)].text);
     }
 
 private:

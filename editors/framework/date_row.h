@@ -16,6 +16,9 @@ public:
     QWidget* Control() const override;
     bool Exchange(bool read) override;
 
+protected:
+    QString Shown(const QDate& day) const override { return day.toString(QStringLiteral("yyyy/MM/dd")); }
+
 private:
     QDateEdit* m_edit;
 };

@@ -1,6 +1,7 @@
 #include "editors/framework/editor_frame.h"
 
 #include "editors/framework/scroll_room.h"
+#include "editors/framework/strip.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/dialog.h"
 
@@ -69,8 +70,15 @@ void CollectControls(const QLayout* layout, std::vector<QWidget*>& controls) {
     }
 }
 
+CStrip* FindStrip(const QDialog& dialog) {
+    for (QObject* child : dialog.children())
+        if (auto* strip = dynamic_cast<CStrip*>(child))
+            return strip;
+    return nullptr;
+}
+
 /// Tab goes through the parts in their order, as they are laid out; then to the preview, which has nothing to
-/// edit, and to the buttons at the foot.
+/// edit, to the buttons at the foot, and to the strip.
 void OrderTabs(QDialog& dialog, const CEditorParts& parts) {
     std::vector<QWidget*> controls;
     CollectControls(parts.abovePreview, controls);
@@ -80,6 +88,8 @@ void OrderTabs(QDialog& dialog, const CEditorParts& parts) {
         controls.push_back(parts.preview);
     if (const auto* foot = dialog.findChild<QDialogButtonBox*>())
         CollectControls(foot->layout(), controls);
+    if (const auto* strip = FindStrip(dialog))
+        CollectControls(strip->layout(), controls);
     QWidget* last = &dialog;
     for (QWidget* control : controls) {
         std::vector<QWidget*> stops;
@@ -128,7 +138,13 @@ void LayOut(CDialog& dialog, const CEditorParts& parts) {
     all->setContentsMargins(kSpace, kSpace, kSpace, kSpace);
     all->setSpacing(kSpace);
     all->addLayout(sides, 1);
-    all->addWidget(dialog.MakeOkCancel());
+    auto* foot = new QHBoxLayout;
+    foot->setSpacing(2 * kSpace);
+    CStrip* strip = parts.edited != nullptr ? new CStrip(dialog) : nullptr;
+    if (strip != nullptr)
+        foot->addWidget(strip, 1);
+    foot->addWidget(dialog.MakeOkCancel());
+    all->addLayout(foot);
     OrderTabs(dialog, parts);
     dialog.SetResizable();
 }
@@ -160,9 +176,10 @@ QSize NaturalSize(CDialog& dialog, const CEditorParts& parts, bool low) {
         editing = QSize(editing.width() + part.width() + kSpace, std::max(editing.height(), part.height()));
     }
     const int width = editing.width() + kSpace;
-    const int foot = sizeOf(dialog.findChild<QDialogButtonBox*>()).height() + 3 * kSpace;
+    const QSize below = sizeOf(dialog.layout()->itemAt(1));
+    const int foot = below.height() + 3 * kSpace;
     if (parts.preview == nullptr)
-        return {width, editing.height() + foot};
+        return {std::max(width, below.width() + 2 * kSpace), editing.height() + foot};
     const int besides = width + kSpace;
     const int third = (besides + 1) / 2;
     const int head = parts.abovePreview != nullptr ? sizeOf(parts.abovePreview).height() + kSpace : 0;
@@ -185,4 +202,6 @@ void OpenEditor(CDialog& dialog, const CEditorParts& parts) {
     for (QObject* child : dialog.children())
         if (auto* keeper = dynamic_cast<CSizeKeeper*>(child))
             keeper->Open(natural);
+    if (CStrip* strip = FindStrip(dialog))
+        strip->Open({parts.preview, parts.edited, parts.restored});
 }

@@ -2,6 +2,8 @@
 // How the editor dialogs are laid out: the preview at the left, what edits beside it, the buttons at the
 // foot.
 
+#include "editors/framework/working_copy.h"
+
 class CChartPreviewView;
 class CDialog;
 class QLayout;
@@ -12,6 +14,11 @@ struct CEditorParts {
     QLayout* abovePreview = nullptr;
     QLayout* left = nullptr; ///< between the preview and the body
     QLayout* body = nullptr;
+    /// What the dialog edits: with it there is a strip at the foot, for undo and all that goes with it. Null:
+    /// none.
+    std::shared_ptr<CWorkingCopy> edited{};
+    /// Called when it has been brought back to another state and all rows show it: for what hangs on more.
+    std::function<void()> restored{};
 };
 
 /// Lays out `dialog`, with OK and Cancel, when it is opened for the first time, and gives it its size, each

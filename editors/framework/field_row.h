@@ -31,6 +31,9 @@ public:
         return Base::Store();
     }
 
+protected:
+    QString Shown(const typename Field::Value& value) const override { return Field::TextOf(value); }
+
 private:
     int m_key;
     Field m_widget;

@@ -9,6 +9,7 @@
 #include "platform/widgets/simple_combo.h"
 #include "resources/string_table.h"
 
+#include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
@@ -338,6 +339,51 @@ void CForm::LoadRows(const void* owner) {
     for (const auto& row : m_rows)
         if (owner == nullptr || row->Owner() == owner)
             row->Loaded();
+}
+
+void CForm::Committed() {
+    CCommittedEvent event;
+    QCoreApplication::sendEvent(m_page.window(), &event);
+}
+
+void CForm::Reload() {
+    LoadRows(nullptr);
+    for (const auto& list : m_lists)
+        list->FillAgain();
+    ShowStates();
+}
+
+void CForm::EachSpot(const std::function<void(const CSpot&)>& visit) const {
+    const auto tell = [&visit](const CSpot& spot) {
+        if (spot.member.address != nullptr)
+            visit(spot);
+    };
+    for (const auto& row : m_rows) {
+        const auto owner = std::find_if(m_lists.begin(), m_lists.end(),
+                                        [&row](const auto& list) { return list.get() == row->Owner(); });
+        CListBase* list = owner == m_lists.end() ? nullptr : owner->get();
+        const int items = list == nullptr ? 0 : list->Count();
+        if (list == nullptr)
+            tell({row->Control(), row->Member(-1), row.get()});
+        for (int item = 0; item < items; ++item)
+            tell({row->Control(), row->Member(item), row.get(), list, item});
+    }
+    for (const auto& list : m_lists)
+        tell({&list->Combo(), list->Member(), nullptr, list.get()});
+    for (const CSpot& other : m_others)
+        tell(other);
+}
+
+void CForm::EachControl(const std::function<void(const QWidget&)>& visit) const {
+    for (const auto& row : m_rows)
+        visit(*row->Control());
+}
+
+CFormRow* CForm::RowOf(const QWidget& widget) const {
+    const auto found = std::find_if(m_rows.begin(), m_rows.end(), [&widget](const auto& row) {
+        return row->Label() == &widget || row->Control() == &widget || row->Control()->isAncestorOf(&widget);
+    });
+    return found == m_rows.end() ? nullptr : found->get();
 }
 
 int CForm::SelectedOrWarn(CSimpleCombo& list, const char* message) {

@@ -37,6 +37,15 @@ class QLayout;
 class QPushButton;
 class QVBoxLayout;
 
+/// A place of a page that edits a member of the model.
+struct CSpot {
+    QWidget* control = nullptr;
+    CMember member{};
+    CFormRow* row = nullptr;   ///< null for a list or a button
+    CListBase* list = nullptr; ///< the list itself, or the one whose item the row shows
+    int item = -1;             ///< of the list
+};
+
 class CForm final : public CDialogControls {
 public:
     using Click = std::function<void()>;
@@ -107,6 +116,11 @@ public:
     /// a page that has no layout when it starts.
     QLayout* Layout() const;
 
+    /// Says that `control`, which is no row, edits that member: the button to a dialog of its own.
+    void Edits(QWidget& control, CMember member) {
+        m_others.push_back({.control = &control, .member = member});
+    }
+
     // What the page asks for.
     void Start() override;
     bool Exchange(bool read) override;
@@ -118,7 +132,21 @@ public:
     /// Reads and validates. On failure the last good values come back, the offending text is selected and a
     /// complaint raised; `pressed` if a press of the mouse is the cause, which then has no other effect.
     bool UpdateDataSafe(bool pressed = false);
-    void Notify() { m_notify(); }
+    void Notify() {
+        m_notify();
+        Committed();
+    }
+    /// What a change ends with that is told to nobody.
+    void Committed();
+    /// Model into all rows and lists, after it has changed from outside.
+    void Reload();
+    /// Calls `visit` for every place of the page that edits a member of the model: rows, those of lists once
+    /// for each item, lists, and buttons to other dialogs.
+    void EachSpot(const std::function<void(const CSpot&)>& visit) const;
+    /// Calls `visit` for the control of every row.
+    void EachControl(const std::function<void(const QWidget&)>& visit) const;
+    /// The row whose control, or label, is `widget` or has it inside; null for none.
+    CFormRow* RowOf(const QWidget& widget) const;
     /// Model into mirrors and controls, for the rows that follow a list or a CCurrent, or for all (null).
     void LoadRows(const void* owner);
     /// Greys what the values of the page say.
@@ -146,6 +174,7 @@ private:
     std::function<void()> m_notify;
     std::vector<std::unique_ptr<CFormRow>> m_rows;
     std::vector<std::unique_ptr<CListBase>> m_lists;
+    std::vector<CSpot> m_others; ///< buttons to other dialogs
     QVBoxLayout* m_bands;
     QHBoxLayout* m_columns = nullptr; ///< of the current band
     QVBoxLayout* m_column = nullptr;

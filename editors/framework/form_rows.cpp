@@ -74,6 +74,8 @@ void CFormRow::StoreAndTell(bool tell) {
         m_form.ShowStates();
         if (tell)
             m_form.Notify();
+        else
+            m_form.Committed();
         Afterwards();
     }
 }

@@ -35,6 +35,15 @@ public:
     virtual void Afterwards() {}
     /// Commits, if `focus` is the row's text or number edit.
     virtual bool CommitIfIn(const QWidget* /*focus*/) { return false; }
+    /// Whether the row's edit holds a text that has not been committed.
+    virtual bool Uncommitted() const { return false; }
+    /// The member of the model that the row edits, in the item of that number or in the present one (-1).
+    virtual CMember Member(int /*item*/) const { return {}; }
+    /// How the value at such a member is told, also one of another object.
+    virtual QString TextAt(const void* /*member*/) const { return {}; }
+    /// For a row of an item: the value of a new item, null text where the row has none, and taking it.
+    virtual QString FreshText() const { return {}; }
+    virtual void TakeFresh() {}
     /// The key that the row's field sends, 0 for a row without a field.
     virtual int Key() const { return 0; }
     /// Whether a change is told even if there was nowhere to store it.
@@ -53,6 +62,7 @@ public:
     void SetName(const QString& name);
     QString Name() const;
     void SetLabel(QWidget* label) { m_label = label; }
+    QWidget* Label() const { return m_label; } ///< null for none
 
 protected:
     CForm& Form() const { return m_form; }
@@ -78,6 +88,7 @@ public:
     using CFormRow::CFormRow;
 
     bool CommitIfIn(const QWidget* focus) override;
+    bool Uncommitted() const override { return ControlText() != m_settled; }
     /// Reads, normalises, stores and, if `tell`, tells: what leaving the control does. `pressed` as in
     /// CForm::UpdateDataSafe.
     void Commit(bool tell = true, bool pressed = false);
@@ -144,8 +155,31 @@ public:
         return stored;
     }
     void Afterwards() override { m_field.Afterwards(); }
+    CMember Member(int item) const override { return m_field.Member(item); }
+    QString TextAt(const void* member) const override { return Shown(m_field.ValueAt(member)); }
+    QString FreshText() const override {
+        return m_field.HasFresh() ? Shown(m_field.FreshValue()) : QString();
+    }
+    void TakeFresh() override {
+        m_field.Store(m_field.FreshValue());
+        if (m_then)
+            m_then();
+    }
 
 protected:
+    /// A value as the row tells it.
+    virtual QString Shown(const T& value) const {
+        if constexpr (std::is_same_v<T, bool>)
+            return value ? QStringLiteral("on") : QStringLiteral("off");
+        else if constexpr (std::is_floating_point_v<T>)
+            return QString::number(value, 'g', 6);
+        else if constexpr (std::is_integral_v<T>)
+            return QString::number(value);
+        else if constexpr (std::is_same_v<T, QString>)
+            return u'"' + value + u'"';
+        else
+            return {};
+    }
     Self& Me() { return static_cast<Self&>(*this); }
 
     CBinding<T> m_field;

@@ -36,5 +36,6 @@ CObjects LayerObjects(Manager& layers, std::function<Layer*(Layer*)> edit,
                         layers.InsertLayer(made, row);
                     }
                     return made != nullptr;
-                }};
+                },
+            .member = CMember::Of(layers)};
 }

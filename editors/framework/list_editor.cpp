@@ -27,10 +27,22 @@ void CListBase::Fill() {
     FillAndSelect(0);
 }
 
+void CListBase::FillAgain() {
+    FillAndSelect(m_combo.Selected());
+}
+
+void CListBase::Select(int index) {
+    if (index != m_combo.Selected() && index < Count()) {
+        m_combo.Select(index);
+        SyncFromItem(index);
+    }
+}
+
 void CListBase::SyncFromItem(int index) {
     if (index < 0)
         RenewDefault();
     m_form.LoadRows(this);
+    m_form.Committed(); // nothing has changed, but other values show
 }
 
 void CListBase::RefreshCaption() {

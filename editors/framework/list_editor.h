@@ -24,6 +24,15 @@ public:
     int Selected() const;
     /// Fills the list anew and selects the first item.
     virtual void Fill();
+    /// The same, but keeps the row that is selected.
+    void FillAgain();
+    /// Selects an item as a click does.
+    void Select(int index);
+    virtual int Count() const = 0;
+    virtual QString CaptionOf(int index) const = 0;
+    /// The member of the model that holds the items.
+    virtual CMember Member() const { return {}; }
+    CSimpleCombo& Combo() const { return m_combo; }
     /// Shows an item's values, or a default item's for -1. Writes nothing into the model.
     void SyncFromItem(int index);
     /// Replaces the selected row by its new caption.
@@ -32,11 +41,9 @@ public:
     void RefreshSwatch() { ShowSwatch(Selected()); }
 
 protected:
-    virtual int Count() const = 0;
     /// Appends a new item; false when the person has changed their mind.
     virtual bool Append() = 0;
     virtual void Erase(int index) = 0;
-    virtual QString CaptionOf(int index) const = 0;
     /// A sample of the item's colour, null for items without one. `size` is in pixels of the screen.
     virtual QImage SwatchOf(int /*index*/, QSize /*size*/) const { return {}; }
     /// A fresh default item to show while nothing is selected.
@@ -44,7 +51,6 @@ protected:
 
     void MakeButtons(); ///< "Add" and "Delete" below the list
     CForm& Form() const { return m_form; }
-    CSimpleCombo& Combo() const { return m_combo; }
     void Add();
     void Remove();
     /// The selected row, or a warning and -1; the first row is selected then.
@@ -111,16 +117,18 @@ public:
         return Bind<Item>([](Item& item) -> Item& { return item; }, [this] { RefreshCaption(); });
     }
 
-protected:
     int Count() const override { return m_items.size(); }
+    QString CaptionOf(int index) const override {
+        return RowCaption(m_caption, index, m_name ? m_name(m_items[index]) : QString());
+    }
+    CMember Member() const override { return CMember::Of(m_items); }
+
+protected:
     bool Append() override {
         m_items.push_back(m_make ? m_make() : Item());
         return true;
     }
     void Erase(int index) override { m_items.erase(m_items.begin() + index); }
-    QString CaptionOf(int index) const override {
-        return RowCaption(m_caption, index, m_name ? m_name(m_items[index]) : QString());
-    }
     QImage SwatchOf(int index, QSize size) const override {
         return m_swatch ? m_swatch(m_items[index], size) : QImage();
     }
@@ -129,14 +137,25 @@ protected:
 private:
     template <class T, class Part>
     CBinding<T> Bind(Part part, std::function<void()> afterwards = {}) {
-        return {[this, part]() -> T { return part(Selected() < 0 ? m_default : m_items[Selected()]); },
-                [this, part](const T& value) {
-                    const int row = Selected();
-                    if (row >= 0)
-                        part(m_items[row]) = value;
-                    return row >= 0;
-                },
-                this, std::move(afterwards)};
+        CBinding<T> binding(
+            [this, part]() -> T { return part(Selected() < 0 ? m_default : m_items[Selected()]); },
+            [this, part](const T& value) {
+                const int row = Selected();
+                if (row >= 0)
+                    part(m_items[row]) = value;
+                return row >= 0;
+            },
+            this, std::move(afterwards));
+        binding.At(
+            [this, part](int item) {
+                const int row = item < 0 ? Selected() : item;
+                return row < 0 || row >= Count() ? CMember() : CMember::Of(part(m_items[row]));
+            },
+            [](const void* member) { return *static_cast<const T*>(member); });
+        return binding.Fresh([part]() -> T {
+            Item fresh{};
+            return part(fresh);
+        });
     }
 
     Container& m_items;

@@ -21,6 +21,8 @@ struct CObjects {
     std::function<void(int row)> copy{};
     /// Lets two objects change places; none when the order is of no interest.
     std::function<void(int row, int other)> exchange{};
+    /// The member of the model that holds the objects.
+    CMember member{};
 };
 
 class CObjectList : public CListBase {
@@ -47,12 +49,13 @@ public:
     }
 
     void Fill() override;
+    int Count() const override { return m_objects.count(); }
+    QString CaptionOf(int index) const override { return m_objects.caption(index); }
+    CMember Member() const override { return m_objects.member; }
 
 protected:
-    int Count() const override { return m_objects.count(); }
     bool Append() override { return m_objects.add(); }
     void Erase(int index) override { m_objects.erase(index); }
-    QString CaptionOf(int index) const override { return m_objects.caption(index); }
 
 private:
     void Modify();

@@ -26,7 +26,10 @@ CChartLayoutDlg::CChartLayoutDlg()
 }
 
 bool CChartLayoutDlg::OnInitDialog() {
-    m_tabs.Open({.preview = &m_preview, .abovePreview = m_form.Layout()});
+    m_tabs.Open({.preview = &m_preview,
+                 .abovePreview = m_form.Layout(),
+                 .edited = WorkingCopy(m_preview.m_ownLayout),
+                 .restored = [this] { m_tabs.Choose(SizePage()); }});
     m_tabs.Choose(SizePage());
     return CDialog::OnInitDialog();
 }

@@ -43,7 +43,8 @@ CAngularMeterDlg::CAngularMeterDlg()
 }
 
 bool CAngularMeterDlg::OnInitDialog() {
-    m_tabs.Open({.preview = &m_preview});
+    m_tabs.Open(
+        {.preview = &m_preview, .edited = WorkingCopy(m_preview.m_ownAngularMeter, &m_preview.m_ownLayout)});
     return CDialog::OnInitDialog();
 }
 
@@ -70,7 +71,8 @@ CLinearMeterDlg::CLinearMeterDlg()
 }
 
 bool CLinearMeterDlg::OnInitDialog() {
-    m_tabs.Open({.preview = &m_preview});
+    m_tabs.Open(
+        {.preview = &m_preview, .edited = WorkingCopy(m_preview.m_ownLinearMeter, &m_preview.m_ownLayout)});
     return CDialog::OnInitDialog();
 }
 

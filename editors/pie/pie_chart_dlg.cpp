@@ -27,7 +27,9 @@ CPieChartDlg::CPieChartDlg()
 }
 
 bool CPieChartDlg::OnInitDialog() {
-    OpenEditor(*this, {.preview = &m_preview, .body = m_form.Layout()});
+    OpenEditor(*this, {.preview = &m_preview,
+                       .body = m_form.Layout(),
+                       .edited = WorkingCopy(m_preview.m_ownPieChart, &m_preview.m_ownLayout)});
     return CDialog::OnInitDialog();
 }
 

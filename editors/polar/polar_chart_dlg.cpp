@@ -15,7 +15,8 @@ CPolarChartDlg::CPolarChartDlg()
 }
 
 bool CPolarChartDlg::OnInitDialog() {
-    m_tabs.Open({.preview = &m_preview});
+    m_tabs.Open(
+        {.preview = &m_preview, .edited = WorkingCopy(m_preview.m_ownPolarChart, &m_preview.m_ownLayout)});
     return CDialog::OnInitDialog();
 }
 

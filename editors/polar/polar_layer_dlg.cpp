@@ -67,7 +67,15 @@ void CPolarLayerDlg::LoadLayer(CPolarLayer& layer) {
 }
 
 bool CPolarLayerDlg::OnInitDialog() {
-    OpenEditor(*this, {.preview = &m_preview, .body = m_form.Layout()});
+    const auto layerOf = [this](int kind) -> CPolarLayer& {
+        return *m_layers[static_cast<std::size_t>(kind)];
+    };
+    OpenEditor(*this, {.preview = &m_preview,
+                       .body = m_form.Layout(),
+                       .edited = std::make_shared<CWorkingLayer<CPolarLayerMgr, CPolarLayer>>(
+                           layerOf, static_cast<int>(m_layers.size()), m_layerType,
+                           [this](CPolarLayer& layer) { m_preview.SetPreviewLayer(&layer); }),
+                       .restored = [this] { ShowType(); }});
     const bool started = CDialog::OnInitDialog();
     ShowType();
     return started;

@@ -28,6 +28,18 @@ void CChartPreviewView::RefreshPreview() {
     viewport()->update();
 }
 
+void CChartPreviewView::DrawNow() {
+    m_picture.Clear();
+    m_dirty = false;
+    DrawPicture();
+    viewport()->update();
+}
+
+void CChartPreviewView::SetCaption(const QString& caption) {
+    m_caption = caption;
+    viewport()->update();
+}
+
 bool CChartPreviewView::event(QEvent* event) {
     // The first thing that happens to a widget about to be seen.
     if (event->type() == QEvent::Polish && m_kind == PreviewLayout && !m_fitMode && m_layout) {
@@ -105,6 +117,8 @@ void CChartPreviewView::paintEvent(QPaintEvent* event) {
     PaintPicture(painter, place, event->rect());
     if (m_marked)
         PaintFocus(painter);
+    if (!m_caption.isEmpty())
+        PaintCaption(painter);
 }
 
 /// To be seen on any picture.
@@ -114,6 +128,18 @@ void CChartPreviewView::PaintFocus(QPainter& painter) const {
     painter.drawRect(mark);
     painter.setPen(QPen(Qt::black, 1, Qt::DotLine));
     painter.drawRect(mark);
+}
+
+void CChartPreviewView::PaintCaption(QPainter& painter) const {
+    constexpr int kGap = 6;
+    const QSize text = fontMetrics().size(0, m_caption);
+    const QRect tag(kGap, kGap, text.width() + 2 * kGap, text.height() + kGap);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(palette().color(QPalette::Highlight));
+    painter.drawRoundedRect(tag, kGap / 2.0, kGap / 2.0);
+    painter.setPen(palette().color(QPalette::HighlightedText));
+    painter.drawText(tag, Qt::AlignCenter, m_caption);
 }
 
 /// Where the picture is, in the pane's pixels.

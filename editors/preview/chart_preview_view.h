@@ -43,6 +43,11 @@ public:
     /// Marks the picture stale; the next paint draws a new one. The only way to ask for it.
     void RefreshPreview();
 
+    /// Draws the picture at once, of what is there now; it stays until the next RefreshPreview.
+    void DrawNow();
+    /// A few words in the corner of the pane; none when empty.
+    void SetCaption(const QString& caption);
+
     /// Carries out fitModeCommand or scrollModeCommand; ignores others.
     void OnCommand(int command);
 
@@ -77,6 +82,7 @@ private:
     void PaintPicture(QPainter& painter, const QRect& place, const QRect& clip) const;
     void PaintFocus(QPainter& painter) const;
     void SetMarked(bool marked);
+    void PaintCaption(QPainter& painter) const;
     void SetFitMode(bool fit);
     void TakeScrollSizes();
     void UpdateScrollBars();
@@ -84,6 +90,7 @@ private:
     bool CanSwitchMode() const;
     void PopUpMenu(const QPoint& place);
 
+    QString m_caption;
     double m_scale = 1;       // pixels of the screen to one of the chart, in the picture that is there
     QSize m_scrollSize{0, 0}; // what the bars scroll over
     bool m_marked = false;    // shows that it has the focus, which came by the keyboard

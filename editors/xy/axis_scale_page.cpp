@@ -15,30 +15,36 @@ constexpr int kNoScale = 0;
 constexpr double kSecondsOfDay = 86400;
 constexpr char kFollowed[] = "The axis that this one follows, while its scale type is \"None\"";
 
+QDate DayAt(const void* time) {
+    const int ymd = CChart_getChartYMD(*static_cast<const double*>(time));
+    return {ymd / 10000, ymd % 10000 / 100, ymd % 100};
+}
+
 /// Chart time, in which the model holds a day, as a date.
 CBinding<QDate> Day(double& time) {
-    return {[&time] {
-                const int ymd = CChart_getChartYMD(time);
-                return QDate(ymd / 10000, ymd % 10000 / 100, ymd % 100);
-            },
-            [&time](const QDate& day) {
-                if (day.isValid())
-                    time = CChart_chartTime(day.year(), day.month(), day.day(), 0, 0, 0);
-                return day.isValid();
-            }};
+    CBinding<QDate> binding([&time] { return DayAt(&time); },
+                            [&time](const QDate& day) {
+                                if (day.isValid())
+                                    time = CChart_chartTime(day.year(), day.month(), day.day(), 0, 0, 0);
+                                return day.isValid();
+                            });
+    return binding.At([&time](int) { return CMember::Of(time); }, &DayAt);
+}
+
+std::int32_t DaysAt(const void* seconds) {
+    const double days = std::trunc(*static_cast<const double*>(seconds) * 1.1574074074074073e-05);
+    constexpr double kMost = std::numeric_limits<std::int32_t>::max();
+    return std::isnan(days) ? 0 : static_cast<std::int32_t>(std::clamp(days, -kMost, kMost));
 }
 
 /// Seconds, which show as whole days.
 CBinding<std::int32_t> Days(double& seconds) {
-    return {[&seconds] {
-                const double days = std::trunc(seconds * 1.1574074074074073e-05);
-                constexpr double kMost = std::numeric_limits<std::int32_t>::max();
-                return std::isnan(days) ? 0 : static_cast<std::int32_t>(std::clamp(days, -kMost, kMost));
-            },
-            [&seconds](std::int32_t days) {
-                seconds = days * kSecondsOfDay;
-                return true;
-            }};
+    CBinding<std::int32_t> binding([&seconds] { return DaysAt(&seconds); },
+                                   [&seconds](std::int32_t days) {
+                                       seconds = days * kSecondsOfDay;
+                                       return true;
+                                   });
+    return binding.At([&seconds](int) { return CMember::Of(seconds); }, &DaysAt);
 }
 
 } // namespace
@@ -108,8 +114,10 @@ void CAxisScalePage::SyncGroup(CAxisDlg& dialog) {
     };
 
     m_form.Group("SyncAxis:");
-    const CBinding<std::int32_t> primary([&axis] { return axis.m_syncKind; },
-                                         [follow](int kind) { return follow(kind, -1); }, this, showAgain);
+    CBinding<std::int32_t> primary([&axis] { return axis.m_syncKind; },
+                                   [follow](int kind) { return follow(kind, -1); }, this, showAgain);
+    primary.At([&axis](int) { return CMember::Of(axis.m_syncKind); },
+               [](const void* member) { return *static_cast<const unsigned char*>(member); });
     m_form.Radio("Primary:", primary, {{"X", 1}, {"Y", 2}, {"X2", 4}, {"Y2", 8}})
         .States(stateOf)
         .Tip(kFollowed);

@@ -2,6 +2,8 @@
 #include "editors/xy/xy_pages.h"
 #include "resources/string_table.h"
 
+#include <QPushButton>
+
 CXYAxisPage::CXYAxisPage(CXYChart& chart, QWidget& owner, std::function<void()> axesChanged)
     : m_chart(chart), m_axesChanged(std::move(axesChanged)), m_form(*this, owner) {
     // An axis can be edited while it is not in use.
@@ -11,14 +13,21 @@ CXYAxisPage::CXYAxisPage(CXYChart& chart, QWidget& owner, std::function<void()> 
     };
     m_form.Check("Swap XY", chart.m_swapXY).Tip("X runs upwards and Y to the right");
     m_form.Group("Primary:");
-    m_form.Buttons({{"X Axis ...", [this] { EditPrimary(m_chart.m_xAxis, CAxisDlg::X); }},
-                    {"Y Axis ...", [this] { EditPrimary(m_chart.m_yAxis, CAxisDlg::Y); }}});
+    const auto primary =
+        m_form.Buttons({{"X Axis ...", [this] { EditPrimary(m_chart.m_xAxis, CAxisDlg::X); }},
+                        {"Y Axis ...", [this] { EditPrimary(m_chart.m_yAxis, CAxisDlg::Y); }}});
+    m_form.Edits(*primary[0], CMember::Of(chart.m_xAxis));
+    m_form.Edits(*primary[1], CMember::Of(chart.m_yAxis));
     m_form.Group("Secondary X Axis (X2)");
     m_form.Check("Use X2 Axis", chart.m_useX2Axis).Tip("Shows a second X axis, at the top");
-    m_form.Buttons({{"X2 Axis ...", [this, follower] { follower(m_chart.m_x2Axis, CAxisDlg::X2); }}});
+    const auto x2 =
+        m_form.Buttons({{"X2 Axis ...", [this, follower] { follower(m_chart.m_x2Axis, CAxisDlg::X2); }}});
+    m_form.Edits(*x2[0], CMember::Of(chart.m_x2Axis));
     m_form.Group("Secondary Y Axis (Y2)");
     m_form.Check("Use Y2 Axis", chart.m_useY2Axis).Tip("Shows a second Y axis, at the right");
-    m_form.Buttons({{"Y2 Axis ...", [this, follower] { follower(m_chart.m_y2Axis, CAxisDlg::Y2); }}});
+    const auto y2 =
+        m_form.Buttons({{"Y2 Axis ...", [this, follower] { follower(m_chart.m_y2Axis, CAxisDlg::Y2); }}});
+    m_form.Edits(*y2[0], CMember::Of(chart.m_y2Axis));
     m_form.Column();
     m_form.Group("Additional:");
     m_form.Objects(Axes(), LoadChartString(ChartText::SelectAxis));
@@ -47,7 +56,8 @@ CObjects CXYAxisPage::Axes() {
                 axes.DeleteAxis(row);
                 SetChanged();
             },
-        .modify = [this, &axes](int row) { return EditFollower(*axes.GetAxis(row), CAxisDlg::Additional); }};
+        .modify = [this, &axes](int row) { return EditFollower(*axes.GetAxis(row), CAxisDlg::Additional); },
+        .member = CMember::Of(axes)};
 }
 
 void CXYAxisPage::SetChanged() {

@@ -14,7 +14,8 @@ CXYChartDlg::CXYChartDlg()
 }
 
 bool CXYChartDlg::OnInitDialog() {
-    m_tabs.Open({.preview = &m_preview});
+    m_tabs.Open(
+        {.preview = &m_preview, .edited = WorkingCopy(m_preview.m_ownXYChart, &m_preview.m_ownLayout)});
     return CDialog::OnInitDialog();
 }
 

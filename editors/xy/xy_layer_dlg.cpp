@@ -54,7 +54,18 @@ bool CXYLayerDlg::OnInitDialog() {
         m_body->addWidget(&m_group, 1);
     }
     ShowType(); // first, for the caption takes room
-    OpenEditor(*this, {.preview = &m_preview, .body = m_body});
+    const auto layerOf = [this](int kind) -> CXYChartLayer& {
+        return *m_layers[static_cast<std::size_t>(kind)];
+    };
+    OpenEditor(*this, {.preview = &m_preview,
+                       .body = m_body,
+                       .edited = std::make_shared<CWorkingLayer<CXYChartLayerMgr, CXYChartLayer>>(
+                           layerOf, kLayerKinds, m_layerType,
+                           [this](CXYChartLayer& layer) { m_preview.SetPreviewLayer(&layer); }, &m_name),
+                       .restored = [this] {
+                           CurrentLayer().m_name = m_name;
+                           ShowType();
+                       }});
     return CDialog::OnInitDialog();
 }
 

@@ -64,11 +64,11 @@ void CXYLayerPage::AxisRows() {
         layer(row)->m_yAxis = axis;
     };
     const auto showAgain = [this] { ShowAxes(); };
-    m_form
-        .Radio(m_layers->Bind<std::int32_t>(
-                   kindOf,
-                   [stand](int row, int kind) { stand(row, static_cast<unsigned char>(kind), nullptr); }),
-               {{"Y", kY}, {"Y2", kY2}})
+    auto kinds = m_layers->Bind<std::int32_t>(
+        kindOf, [stand](int row, int kind) { stand(row, static_cast<unsigned char>(kind), nullptr); });
+    kinds.At([layer](int row) { return row < 0 ? CMember() : CMember::Of(layer(row)->m_yAxisKind); },
+             [](const void* member) { return *static_cast<const unsigned char*>(member); });
+    m_form.Radio(kinds, {{"Y", kY}, {"Y2", kY2}})
         .Tip("The axis that the selected layer stands on")
         .Then(showAgain);
     m_form.Part();

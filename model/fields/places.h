@@ -25,9 +25,8 @@ struct Place {
     void (*assign)(void* to, const void* from); ///< Between two places of the type.
     /// For a list of layers: puts a copy of the layer of that index in the place of the one of `to`.
     void (*replace)(void* to, const void* from, int index) = nullptr;
-
-    /// An axis pointer: it has a meaning only together with the code before it.
-    bool Joins() const { return *type == typeid(CXYChartAxis*); }
+    /// An axis that is followed or stood on: it has a meaning only together with the code before it.
+    bool joins = false;
 };
 using Places = std::vector<Place>;
 
@@ -42,6 +41,9 @@ Places PlacesOf(const CLinearMeter& object);
 Places PlacesOf(const CXYChartAxis& object);
 Places PlacesOf(const CXYChartLayer& object);
 Places PlacesOf(const CPolarLayer& object);
+
+/// The row of an axis in the place of its pointer; -1 for none.
+Place JoiningPlace(const char* path, const std::int32_t& row);
 
 /// What a person would call one change: a value, a colour or font as a whole, a list that has got longer or
 /// shorter, a layer that has become one of another kind.

@@ -26,7 +26,7 @@ std::string FullText(const Places& places, const Place& place) {
     std::string text = place.text;
     for (const Place* next = &place + 1; next != places.data() + places.size(); ++next) {
         const bool part = place.kind == Place::Whole && IsBelow(next->path, place.path);
-        const bool axis = next == &place + 1 && next->Joins() && next->text != "none";
+        const bool axis = next == &place + 1 && next->joins && next->text != "none";
         if (!part && !axis)
             break;
         if (!next->text.empty())
@@ -66,8 +66,8 @@ std::vector<Change> Changes(const Places& from, const Places& to) {
         const bool otherKind = *old->type != *place.type;
         if (place.text == old->text && !otherKind && place.kind != Place::Whole)
             continue;
-        const Place& unit = place.Joins() ? to[i - 1] : place;
-        const Place& oldUnit = place.Joins() ? *(old - 1) : *old;
+        const Place& unit = place.joins ? to[i - 1] : place;
+        const Place& oldUnit = place.joins ? *(old - 1) : *old;
         Change change{unit.path, FullText(from, oldUnit), FullText(to, unit)};
         if (otherKind) // of layer
             change = {place.path, KindText(from, place.path), KindText(to, place.path)};
@@ -82,6 +82,20 @@ std::vector<Change> Changes(const Places& from, const Places& to) {
     return found;
 }
 
+Place JoiningPlace(const char* path, const std::int32_t& row) {
+    const auto copy = [](void* to, const void* from) {
+        *static_cast<std::int32_t*>(to) = *static_cast<const std::int32_t*>(from);
+    };
+    return {path,
+            row < 0 ? "none" : std::to_string(row),
+            Place::Single,
+            &row,
+            &typeid(std::int32_t),
+            copy,
+            nullptr,
+            true};
+}
+
 const Place* FindPlace(const Places& places, const std::string& path) {
     const auto found =
         std::find_if(places.begin(), places.end(), [&](const Place& place) { return place.path == path; });
@@ -94,8 +108,11 @@ bool AssignAt(const std::string& path, const Places& to, const Places& from) {
     if (target == nullptr || source == nullptr)
         return false;
     if (*target->type == *source->type) {
-        if (!target->Joins())
-            target->assign(const_cast<void*>(target->address), source->address);
+        target->assign(const_cast<void*>(target->address), source->address);
+        const Place* joined = target + 1;
+        if (joined != to.data() + to.size() && joined->joins &&
+            source[1].joins) // a pointer is turned by Relate
+            joined->assign(const_cast<void*>(joined->address), source[1].address);
         return true;
     }
     // A layer of another kind: its list puts a copy in its place.
@@ -119,9 +136,9 @@ void Relate(const std::string& path, const Places& now, const Places& before, co
     const Place* last = nullptr;
     for (const Place& place : now) {
         const bool taken = place.path == path || IsBelow(place.path, path) ||
-                           (place.Joins() && last != nullptr && last->path == path);
+                           (place.joins && last != nullptr && last->path == path);
         last = &place;
-        if (!place.Joins())
+        if (!place.joins)
             continue;
         const auto& source = taken ? theirs : old;
         const auto at = source.find(place.path);

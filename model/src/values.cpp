@@ -79,6 +79,7 @@ public:
     void Add(const std::string& path, CXYChartAxis* const& axis, Words) {
         const int index = m_axes ? m_axes->GetAxisIndex(axis) : -1;
         Put(path, !axis ? "none" : index < 0 ? "gone" : NumberText(index), axis);
+        places.back().joins = true;
     }
     void Add(const std::string& path, const Container auto& list, Words) {
         Put(path, NumberText(list.size()), list, Place::List);
@@ -117,7 +118,7 @@ private:
     }
     template <class T>
     void Put(const std::string& path, std::string text, const T& value, Place::Kind kind = Place::Single) {
-        places.push_back({path, std::move(text), kind, &value, &typeid(T), Copy<T>});
+        places.push_back({path, std::move(text), kind, &value, &typeid(T), Copy<T>, nullptr, false});
     }
 
     const CXYChartAxisMgr* m_axes = nullptr;

@@ -3,6 +3,7 @@
 #include "platform/widgets/clear_buttons.h"
 #include "platform/widgets/complaint.h"
 #include "platform/widgets/field_changed.h"
+#include "platform/widgets/scout.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -25,6 +26,11 @@ CDialog::CDialog(const QString& caption) {
 }
 
 int CDialog::DoModal() {
+    if (const CScout* scout = CScout::Present()) {
+        if (OnInitDialog())
+            scout->Look(*this);
+        return kCancel;
+    }
     // The owner is found when the dialog is shown, as the active window can change until then.
     if (QWidget* active = QApplication::activeWindow(); active != nullptr && active != this) {
         setParent(active,

@@ -44,6 +44,7 @@ public:
 
     /// Says what the virtual operations below work on; it must live as long as the dialog is used.
     void SetControls(CDialogControls* controls) { m_controls = controls; }
+    CDialogControls* Controls() const { return m_controls; }
 
     /// The person may change the size of the dialog, which is fixed if this is not said.
     void SetResizable() { m_resizable = true; }

@@ -18,5 +18,13 @@ private:
     int m_key;
 };
 
+/// A change has come to its end: stored, told, and shown. Sent to the window of the page.
+class CCommittedEvent : public QEvent {
+public:
+    static constexpr auto kType = static_cast<QEvent::Type>(0x402);
+
+    CCommittedEvent() : QEvent(kType) {}
+};
+
 /// Sends the message to `target`, null for nobody. Keys other than a field's: 0 a plain change.
 void SendFieldChanged(QWidget* target, int key);

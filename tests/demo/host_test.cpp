@@ -120,6 +120,28 @@ TEST_F(Host, DroppedNumbersAreShownByTheirKindAndBadOnesRefused) {
     EXPECT_EQ(Chart(), after);
 }
 
+TEST_F(Host, AStyleThatWasSavedComesBackToItsKind) {
+    const QString path = m_folder.filePath("look.json");
+    const QImage before = Chart();
+    m_window->SaveStyle(path);
+    const auto leaveTheDonut = [](QWidget& editor) {
+        QTest::keyClick(editor.findChild<QWidget*>("Use DonutType"), Qt::Key_Space);
+    };
+    Answer(Qt::Key_Return, leaveTheDonut, [&] { Press("&Edit chart..."); });
+    EXPECT_NE(Chart(), before);
+    m_window->ShowKind(3); // another one
+    Drop(path);
+    EXPECT_EQ(m_window->findChild<QListWidget*>()->currentItem()->text(), "Pie chart");
+    EXPECT_EQ(Chart(), before);
+    const QString said = Answer(
+        Qt::Key_Return, [](QWidget&) {},
+        [&] {
+            Drop(Write("bad.json", "{\"chartStyle\":1,\"kind\":\"pie\",\n\"chart\":{\"depth3D\":true}}"));
+        });
+    EXPECT_TRUE(said.startsWith("bad.json\n\nline 2: chart.depth3D")) << qPrintable(said);
+    EXPECT_EQ(Chart(), before);
+}
+
 TEST_F(Host, SavesWhatItShows) {
     for (const char* name : {"chart.png", "chart.bmp"}) {
         const QString path = m_folder.filePath(QString::fromUtf8(name));

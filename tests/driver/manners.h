@@ -3,6 +3,7 @@
 
 #include "tests/driver/properties.h"
 #include "tests/driver/random_person.h"
+#include "tests/driver/steps.h"
 
 #if __has_include(<malloc.h>)
 #include <malloc.h>
@@ -75,7 +76,9 @@ template <class Object>
 void TestAnybody(const Object& start, const CChartLayout& layout, const Properties& rows) {
     Object object(start);
     NeedApplication();
-    RandomPerson(1).Use(RandomEventCount(), [&] { Show(object, layout); });
+    RandomPerson anybody(1);
+    MindSteps(anybody);
+    anybody.Use(RandomEventCount(), [&] { Show(object, layout); });
     std::map<std::string, std::string> before;
     for (const auto& [path, text] : model::Values(start))
         before[path] = text;
@@ -107,6 +110,9 @@ void TestEditor(const char* caption, const QStringList& tabs, const Object& star
     }));
     TestWaysOut(start, layout, rows);
     TestMemoryIsFlat(start, layout);
+    TestSteps(start, layout, rows);
+    TestChanges(start, layout, rows);
+    TestSearch(start, layout, rows);
     TestAnybody(start, layout, rows);
 }
 

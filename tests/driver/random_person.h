@@ -34,7 +34,17 @@ public:
             run();
     }
 
+    /// Called with a dialog that has just opened, and with one that is about to be closed.
+    std::function<void(QWidget&)> m_meeting;
+    std::function<void(QWidget&)> m_leaving;
+
 private:
+    void Leave(QWidget& dialog) {
+        if (QWidget* popup = QApplication::activePopupWidget())
+            popup->close();
+        if (m_leaving)
+            m_leaving(dialog);
+    }
     int Below(int bound) { return std::uniform_int_distribution(0, bound - 1)(m_random); }
 
     void Act() {
@@ -44,10 +54,15 @@ private:
         if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr && Below(3) == 0)
             popup->close();
         if (m_left <= 0) {
+            Leave(*modal);
             static_cast<QDialog*>(modal)->reject();
             return;
         }
         m_tried = modal;
+        if (m_meeting && !modal->property("met").toBool()) {
+            modal->setProperty("met", true);
+            m_meeting(*modal);
+        }
         // The buttons that end the dialog have their turn now and then.
         QList<QWidget*> controls;
         for (QWidget* widget : modal->findChildren<QWidget*>()) {
@@ -59,6 +74,7 @@ private:
         for (int i = 0; i < 40 && m_left > 0 && QApplication::activeModalWidget() == modal; ++i, --m_left)
             Send(controls[Below(static_cast<int>(controls.size()))]);
         if (Below(10) == 0 && QApplication::activeModalWidget() == modal) {
+            Leave(*modal);
             auto* end = modal->findChild<QWidget*>(Below(4) == 0 ? "Cancel" : "OK");
             if (end != nullptr)
                 QTest::mouseClick(end, Qt::LeftButton);
@@ -104,9 +120,10 @@ private:
 
     void SendKey(QWidget* widget) {
         static constexpr Qt::Key kKeys[] = {
-            Qt::Key_Left,      Qt::Key_Right,  Qt::Key_Up,    Qt::Key_Down,   Qt::Key_Home,
-            Qt::Key_End,       Qt::Key_Tab,    Qt::Key_Space, Qt::Key_PageUp, Qt::Key_PageDown,
-            Qt::Key_Backspace, Qt::Key_Return, Qt::Key_Delete};
+            Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Up,        Qt::Key_Down,
+            Qt::Key_Home,   Qt::Key_End,      Qt::Key_Tab,       Qt::Key_Space,
+            Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Backspace, Qt::Key_Return,
+            Qt::Key_Delete, Qt::Key_Z,        Qt::Key_Y,         Qt::Key_F9};
         static constexpr char kTexts[] = "0123456789-.eA";
         static constexpr Qt::KeyboardModifier kHeld[] = {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
                                                          Qt::ControlModifier};

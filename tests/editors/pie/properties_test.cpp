@@ -58,6 +58,12 @@ TEST(PieProperties, KeepsItsManners) {
     TestAnybody(StartPie(), CChartLayout(), kRows);
 }
 
+TEST(PieProperties, EachEditIsAStepAChangeAndARowToFind) {
+    driver::TestSteps(StartPie(), CChartLayout(), kRows);
+    driver::TestChanges(StartPie(), CChartLayout(), kRows);
+    driver::TestSearch(StartPie(), CChartLayout(), kRows);
+}
+
 TEST(PieProperties, AWideAngleNeedsAShadow) {
     CPieChart pie;
     EXPECT_TRUE(Edit(pie, [](Person& person) {
