@@ -21,6 +21,7 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QTimer>
 #include <algorithm>
 #include <map>
@@ -91,6 +92,8 @@ void EachRow(const CForm& form, const std::function<void(const CSpot&)>& visit) 
         spot.control = const_cast<QWidget*>(&control);
         spot.row = form.RowOf(control);
         visit(spot);
+        for (QRadioButton* choice : control.findChildren<QRadioButton*>()) // each has a label of its own
+            visit({.control = choice});
     });
 }
 

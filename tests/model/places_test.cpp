@@ -2,7 +2,7 @@
 
 #include "model/fields/places.h"
 #include "model/fields/values.h"
-#include "tests/driver/random_model.h"
+#include "tests/model/models.h"
 #include <gtest/gtest.h>
 
 namespace {
@@ -17,8 +17,8 @@ TYPED_TEST_SUITE(PlacesTest, Kinds);
 
 TYPED_TEST(PlacesTest, SettingEachChangeBackGivesTheObject) {
     for (unsigned seed = 0; seed < 12; ++seed) {
-        const auto before = driver::RandomModel(seed).Make<TypeParam>();
-        auto object = driver::RandomModel(seed + 1000).Make<TypeParam>();
+        const auto before = models::Random(seed).Make<TypeParam>();
+        auto object = models::Random(seed + 1000).Make<TypeParam>();
         const auto places = [&] { return model::PlacesOf(object); };
         // A second time for axes that follow one that was not there yet.
         for (int round = 0; round < 3; ++round)

@@ -291,6 +291,14 @@ TEST(XYEditor, EachControlOfAnAxisReachesItsField) {
     TestProperties(chart, CChartLayout(), kNamedAxisRows);
 }
 
+TEST(XYEditor, EachEditInADialogOfItsOwnIsAStepAChangeAndARowToFind) {
+    for (const Properties& rows : {AxisRows("Primary|Y Axis ...", "yAxis"), kAdditionalRows}) {
+        TestSteps(ChartOf(1), CChartLayout(), rows);
+        TestChanges(ChartOf(1), CChartLayout(), rows);
+    }
+    TestSearch(ChartOf(1), CChartLayout(), kAdditionalRows);
+}
+
 TEST(XYEditor, EachControlOfALayerReachesItsField) {
     const auto kinds = LayerKinds();
     for (int type = 0; type < std::ssize(kinds); ++type) {
