@@ -86,8 +86,10 @@ void OrderTabs(QDialog& dialog, const CEditorParts& parts) {
     CollectControls(parts.body, controls);
     if (parts.preview != nullptr)
         controls.push_back(parts.preview);
-    if (const auto* foot = dialog.findChild<QDialogButtonBox*>())
+    if (auto* foot = dialog.findChild<QDialogButtonBox*>()) {
         CollectControls(foot->layout(), controls);
+        foot->setFocusProxy(nullptr); // or it is one more stop on OK, behind the strip
+    }
     if (const auto* strip = FindStrip(dialog))
         CollectControls(strip->layout(), controls);
     QWidget* last = &dialog;
