@@ -3,6 +3,7 @@
 // current one of several objects. With no item selected a value is still shown, a default item's, but there
 // is nowhere to store a change.
 
+#include "model/fields/type_tag.h"
 #include "platform/narrow_text.h"
 
 #include <charteditors/chart_string.h>
@@ -12,7 +13,6 @@
 #include <functional>
 #include <memory>
 #include <type_traits>
-#include <typeinfo>
 #include <utility>
 
 /// The value as the type that a control shows: numbers, flags and codes by a cast, texts by their encoding.
@@ -32,10 +32,10 @@ To ValueAs(const From& value) {
 struct CMember {
     template <class Field>
     static CMember Of(const Field& field) {
-        return {&field, &typeid(Field)};
+        return {&field, model::TypeTag<Field>()};
     }
     const void* address = nullptr;
-    const std::type_info* type = nullptr;
+    const void* type = nullptr;
 };
 
 template <class T>

@@ -134,7 +134,7 @@ CSpots::CSpots(CDialog& dialog, const model::Places& places) {
         form->EachSpot([&](const CSpot& spot) {
             const auto [begin, end] = byAddress.equal_range(spot.member.address);
             for (auto place = begin; place != end; ++place)
-                if (*place->second->type == *spot.member.type &&
+                if (place->second->type == spot.member.type &&
                     m_byPath.emplace(place->second->path, m_spots.size()).second) {
                     m_spots.push_back(spot);
                     break;

@@ -437,7 +437,7 @@ void CStrip::RevealSpot(const CSpot& spot, bool focus) {
 std::string CStrip::PathOf(const CFormRow& row) const {
     const CMember member = row.Member(-1);
     for (const model::Place& place : m_parts.edited->Places())
-        if (member.address != nullptr && place.address == member.address && *place.type == *member.type)
+        if (member.address != nullptr && place.address == member.address && place.type == member.type)
             return place.path;
     return {};
 }

@@ -2,9 +2,9 @@
 // Where the values of an object are: each field with its path, its address and its text. Through these a
 // control finds the field that it edits, and two objects of one class are told apart and set alike again.
 
+#include "model/fields/type_tag.h"
 #include <charteditors/charteditors.h>
 #include <string>
-#include <typeinfo>
 #include <vector>
 
 namespace model {
@@ -20,8 +20,8 @@ struct Place {
     std::string path; ///< "sectors[1].color.color"; "" for the object itself.
     std::string text; ///< Of a single value or a list, as in Value; else empty.
     Kind kind;
-    const void* address;        ///< Of the member. Good as long as the lists above it keep their items.
-    const std::type_info* type; ///< What stands there; of a layer its kind.
+    const void* address; ///< Of the member. Good as long as the lists above it keep their items.
+    const void* type;    ///< What stands there, as TypeTag tells; of a layer its kind.
     void (*assign)(void* to, const void* from); ///< Between two places of the type.
     /// For a list of layers: puts a copy of the layer of that index in the place of the one of `to`.
     void (*replace)(void* to, const void* from, int index) = nullptr;

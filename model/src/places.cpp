@@ -63,7 +63,7 @@ std::vector<Change> Changes(const Places& from, const Places& to) {
             old = at->second;
         if (old == nullptr) // below what has been told
             continue;
-        const bool otherKind = *old->type != *place.type;
+        const bool otherKind = old->type != place.type;
         if (place.text == old->text && !otherKind && place.kind != Place::Whole)
             continue;
         const Place& unit = place.joins ? to[i - 1] : place;
@@ -90,7 +90,7 @@ Place JoiningPlace(const char* path, const std::int32_t& row) {
             row < 0 ? "none" : std::to_string(row),
             Place::Single,
             &row,
-            &typeid(std::int32_t),
+            TypeTag<std::int32_t>(),
             copy,
             nullptr,
             true};
@@ -107,7 +107,7 @@ bool AssignAt(const std::string& path, const Places& to, const Places& from) {
     const Place* source = FindPlace(from, path);
     if (target == nullptr || source == nullptr)
         return false;
-    if (*target->type == *source->type) {
+    if (target->type == source->type) {
         target->assign(const_cast<void*>(target->address), source->address);
         const Place* joined = target + 1;
         if (joined != to.data() + to.size() && joined->joins &&
@@ -129,7 +129,7 @@ bool AssignAt(const std::string& path, const Places& to, const Places& from) {
 
 void Relate(const std::string& path, const Places& now, const Places& before, const Places& from) {
     const Place* axes = FindPlace(now, "axes");
-    if (axes == nullptr || *axes->type != typeid(CXYChartAxisMgr))
+    if (axes == nullptr || axes->type != TypeTag<CXYChartAxisMgr>())
         return;
     const auto old = ByPath(before);
     const auto theirs = ByPath(from);

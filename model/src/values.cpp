@@ -118,7 +118,7 @@ private:
     }
     template <class T>
     void Put(const std::string& path, std::string text, const T& value, Place::Kind kind = Place::Single) {
-        places.push_back({path, std::move(text), kind, &value, &typeid(T), Copy<T>, nullptr, false});
+        places.push_back({path, std::move(text), kind, &value, TypeTag<T>(), Copy<T>, nullptr, false});
     }
 
     const CXYChartAxisMgr* m_axes = nullptr;

@@ -252,8 +252,8 @@ TEST(Effects, OfEachValueOfAnXYChart) {
     Paths with, without;
     const auto see = [&](int layerType, int scene, auto&& partOf) {
         PreviewFake view;
-        view.m_ownLayout.SetChartSize(kSize, kSize);
-        view.m_ownLayout.m_xyPlotArea.m_left = view.m_ownLayout.m_xyPlotArea.m_top = 70;
+        view.m_ownLayout.SetChartSize(kSize + 60, kSize + 60);
+        view.m_ownLayout.m_xyPlotArea.m_left = view.m_ownLayout.m_xyPlotArea.m_top = 100;
         view.m_ownLayout.m_xyPlotArea.m_width = view.m_ownLayout.m_xyPlotArea.m_height = 100;
         view.m_chart = &view.m_ownXYChart;
         CXYChart& chart = view.m_ownXYChart;

@@ -27,6 +27,8 @@
 #else
 #define CHARTSTYLE_API __declspec(dllimport)
 #endif
+#elif defined(CHARTSTYLE_ROOM) // inside another library
+#define CHARTSTYLE_API
 #else
 #define CHARTSTYLE_API __attribute__((visibility("default")))
 #endif
