@@ -17,6 +17,7 @@ struct CSpotName {
     QString group; ///< its caption; empty for none
     QString item;  ///< the row of the list whose item it is; empty for none
     QString label;
+    int before = 0; ///< how many of the same name stand before it
 
     /// "Page > Group > Item", as far as there are any.
     QString Place() const;

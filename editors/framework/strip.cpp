@@ -517,10 +517,14 @@ void CStrip::Search() {
 
 void CStrip::AddSearchRows(const QString& opener, const std::function<void(const CSpotName&)>& goTo,
                            std::vector<CSearchRow>& rows) {
+    const std::ptrdiff_t first = std::ssize(rows);
     const auto add = [&](const CSpot& spot, const QString& value) {
-        const CSpotName name = NameOf(spot);
-        if (CanShow(*spot.control) && !name.label.isEmpty())
-            rows.push_back({name, value, opener, [goTo, name] { goTo(name); }});
+        CSpotName name = NameOf(spot);
+        if (!CanShow(*spot.control) || name.label.isEmpty())
+            return;
+        name.before = static_cast<int>(std::count_if(
+            rows.begin() + first, rows.end(), [&](const CSearchRow& row) { return Same(row.name, name); }));
+        rows.push_back({name, value, opener, [goTo, name] { goTo(name); }});
     };
     EachPlace(m_dialog, [&](const CSpot& spot) {
         const CMember member = spot.row == nullptr ? CMember() : spot.row->Member(-1);
@@ -582,8 +586,9 @@ std::vector<CSearchRow> CStrip::SearchRows() {
 
 void CStrip::GoTo(const CSpotName& name) {
     std::optional<CSpot> found;
+    int before = 0;
     const auto look = [&](const CSpot& spot) {
-        if (!found && CanShow(*spot.control) && Same(NameOf(spot), name))
+        if (!found && CanShow(*spot.control) && Same(NameOf(spot), name) && before++ == name.before)
             found = spot;
     };
     EachPlace(m_dialog, look);
