@@ -1,6 +1,6 @@
 #pragma once
-// A look into dialogs without running them: while a scout lives, DoModal starts a dialog as ever, lets the scout
-// look at it, and gives kCancel. Nothing shows.
+// A look into dialogs without running them: while a scout lives, DoModal starts a dialog as ever, lets the
+// scout look at it, and gives kCancel. Nothing shows.
 
 #include <functional>
 #include <utility>
