@@ -18,9 +18,11 @@ double rowRoom(const Layer& layer, const PlotFrame& frame);
 /// The x range of a layer whose rows take up room: half a row more at both ends.
 DataRange widenedXRange(const Layer& layer, const DataRange& range);
 
-/// The nearest whole position.
+/// The nearest whole position, limited to +-1e9; the lowest for NaN.
 inline int whole(double position) {
-    return static_cast<int>(std::floor(position + 0.5));
+    constexpr int kFarthest = 1'000'000'000;
+    const double at = std::floor(position + 0.5);
+    return at > -kFarthest && at < kFarthest ? static_cast<int>(at) : at > 0 ? kFarthest : -kFarthest;
 }
 
 /// The pixels between whole positions along x and along y, ends included and in either order.

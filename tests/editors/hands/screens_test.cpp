@@ -11,11 +11,12 @@ namespace {
 using namespace driver;
 
 void Look(const Person& person, const Dialog& dialog, double points) {
-    QTest::qWait(400); // the frame comes, and the window moves
     QWidget& window = person.Window();
     SCOPED_TRACE(testing::Message() << dialog.name << " at " << points);
     const QRect screen(window.screen()->availableGeometry());
-    EXPECT_TRUE(screen.contains(window.frameGeometry())) << window.width() << " x " << window.height();
+    QTest::qWait(200); // the frame comes, and the window moves when its manager gets to it
+    EXPECT_TRUE(QTest::qWaitFor([&] { return screen.contains(window.frameGeometry()); }, 20000))
+        << window.width() << " x " << window.height();
     for (const QAbstractButton* end : window.findChildren<QAbstractButton*>())
         if (end->parentWidget()->inherits("QDialogButtonBox"))
             EXPECT_EQ(end->visibleRegion().boundingRect(), end->rect());
@@ -50,7 +51,8 @@ TEST(Screens, KeepTheSizeThatAPersonGave) {
         preview = person.Find("Preview").height();
         const QSize before = person.Window().size();
         RealHand::Drag(person.Window().frameGeometry().bottomRight(), {0, -40});
-        QTest::qWait(300);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return person.Window().size() != before; }, 20000));
+        QTest::qWait(300); // the last of the drag
         given = person.Window().size();
         EXPECT_LT(given.height(), before.height());
         EXPECT_EQ(preview - person.Find("Preview").height(), before.height() - given.height());
