@@ -16,13 +16,13 @@ CHistory::CHistory(CWorkingCopy& copy) : m_copy(copy), m_places(copy.Places()) {
 bool CHistory::Commit(unsigned gesture) {
     model::Places places = m_copy.Places();
     std::vector<model::Change> changes = model::Changes(m_places, places);
+    m_places = std::move(places); // without a change too: addresses may be others
     if (changes.empty())
         return false;
     Step& top = m_steps[m_now];
     const bool goesOn = m_now > 0 && !CanRedo() && gesture != 0 && top.gesture == gesture &&
                         top.changes.size() == 1 && changes.size() == 1 &&
                         top.changes.front().path == changes.front().path;
-    m_places = std::move(places);
     if (goesOn) {
         top.kept = m_copy.Keep();
         top.changes.front().to = changes.front().to;

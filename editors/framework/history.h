@@ -10,8 +10,8 @@ public:
     /// What the host gave is what `copy` holds now.
     explicit CHistory(CWorkingCopy& copy);
 
-    /// Takes in what has changed since the last time, as one step. False if nothing has. Changes of one
-    /// gesture at one path make one step: an arrow that is held down.
+    /// Takes in what has changed since the last time, as one step. False if nothing that counts has. Changes
+    /// of one gesture at one path make one step: an arrow that is held down.
     bool Commit(unsigned gesture);
 
     bool CanUndo() const { return m_now > 0; }
@@ -29,6 +29,8 @@ public:
     /// What the host gave.
     const CWorkingCopy::Kept& Opening() const { return m_steps.front().kept; }
     const model::Places& OpeningPlaces() const { return m_opening; }
+    /// The copy as it was at the last call of `Commit`, `Undo` or `Redo`.
+    const model::Places& Places() const { return m_places; }
     /// What differs from it now.
     std::vector<model::Change> SinceOpening() const { return model::Changes(m_opening, m_places); }
 
@@ -44,5 +46,5 @@ private:
     std::vector<Step> m_steps; ///< the first is what the host gave
     std::size_t m_now = 0;
     model::Places m_opening;
-    model::Places m_places; ///< as they were after the last step
+    model::Places m_places;
 };

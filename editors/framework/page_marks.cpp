@@ -53,9 +53,17 @@ std::vector<CPageMarks*> CPageMarks::AllIn(const QWidget& dialog) {
 }
 
 void CPageMarks::SetDots(std::vector<QWidget*> anchors) {
+    if (std::equal(anchors.begin(), anchors.end(), m_dots.begin(), m_dots.end()))
+        return;
+    const auto paintAnew = [this] { // no more than the dots: what lies below is painted as well
+        for (const QPointer<QWidget>& anchor : m_dots)
+            if (anchor != nullptr)
+                update(DotAt(*anchor).toAlignedRect());
+    };
+    paintAnew();
     m_dots.assign(anchors.begin(), anchors.end());
     raise();
-    update();
+    paintAnew();
 }
 
 void CPageMarks::Ring(QWidget& control) {
@@ -81,6 +89,14 @@ QRect CPageMarks::PlaceOf(const QWidget& control) const {
     return {control.mapTo(parentWidget(), QPoint()), control.size()};
 }
 
+QRectF CPageMarks::DotAt(const QWidget& anchor) const {
+    const QRect place = PlaceOf(anchor);
+    const double line = std::min(place.height(), fontMetrics().height() + 8); // of an edit of many
+    const QPointF corner(std::max(place.left() - kDotAway, kDotRadius) - kDotRadius,
+                         place.top() + line / 2 - kDotRadius);
+    return {corner, QSizeF(2 * kDotRadius, 2 * kDotRadius)};
+}
+
 void CPageMarks::paintEvent(QPaintEvent*) {
     QPainter painter(this);
     painter.setRenderHint(QPainter::Antialiasing);
@@ -88,12 +104,9 @@ void CPageMarks::paintEvent(QPaintEvent*) {
     for (const QPointer<QWidget>& anchor : m_dots) {
         if (anchor == nullptr || !anchor->isVisible())
             continue;
-        const QRect place = PlaceOf(*anchor);
-        const double line = std::min(place.height(), fontMetrics().height() + 8); // of an edit of many
-        const QPointF centre(std::max(place.left() - kDotAway, kDotRadius), place.top() + line / 2);
         painter.setPen(Qt::NoPen);
         painter.setBrush(mark);
-        painter.drawEllipse(centre, kDotRadius, kDotRadius);
+        painter.drawEllipse(DotAt(*anchor));
     }
     if (m_ringed != nullptr && m_ringed->isVisible()) {
         painter.setPen(QPen(mark, 2));

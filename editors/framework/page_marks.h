@@ -27,6 +27,7 @@ protected:
 
 private:
     explicit CPageMarks(QWidget& page);
+    QRectF DotAt(const QWidget& anchor) const;
     QRect PlaceOf(const QWidget& control) const;
 
     std::vector<QPointer<QWidget>> m_dots;

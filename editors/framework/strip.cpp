@@ -25,6 +25,7 @@
 #include <QTimer>
 #include <algorithm>
 #include <map>
+#include <optional>
 #include <utility>
 
 namespace {
@@ -263,10 +264,8 @@ CFormRow* CStrip::RowOf(const QWidget& widget) const {
 void CStrip::Committed() {
     if (m_history == nullptr || !m_dialog.isVisible())
         return;
-    if (m_history->Commit(m_gesture))
-        ShowStates();
-    else
-        ShowDots();
+    m_history->Commit(m_gesture);
+    ShowStates(); // without a change too: another item of a list may have become the current one
 }
 
 void CStrip::Step(bool back) {
@@ -316,24 +315,25 @@ void CStrip::ShowStates() {
         button.setAccessibleDescription(tip);
     };
     const CWorkingCopy& copy = *m_parts.edited;
+    const model::Places& now = m_history->Places();
+    const std::vector<model::Change> changes = Changes();
+    std::optional<CSpots> spots;
+    if (canUndo || canRedo || !changes.empty())
+        spots.emplace(m_dialog, now);
     QString undo, redo;
-    if (canUndo || canRedo) {
-        const model::Places now = copy.Places();
-        const CSpots spots(m_dialog, now);
-        if (canUndo)
-            undo = TipOf("Undo", m_history->UndoStep(), spots, copy.PlacesOf(m_history->BeforeStep()), now);
-        if (canRedo)
-            redo = TipOf("Redo", m_history->RedoStep(), spots, now, copy.PlacesOf(m_history->AfterStep()));
-    }
+    if (canUndo)
+        undo = TipOf("Undo", m_history->UndoStep(), *spots, copy.PlacesOf(m_history->BeforeStep()), now);
+    if (canRedo)
+        redo = TipOf("Redo", m_history->RedoStep(), *spots, now, copy.PlacesOf(m_history->AfterStep()));
     show(*m_undo, canUndo, undo, " (Ctrl+Z)");
     show(*m_redo, canRedo, redo, " (Ctrl+Shift+Z)");
-    const std::size_t count = Changes().size();
+    const std::size_t count = changes.size();
     m_changes->SetCaption(count == 0   ? QStringLiteral("No changes")
                           : count == 1 ? QStringLiteral("1 change")
                                        : QStringLiteral("%1 changes").arg(count));
     m_changes->setEnabled(count != 0);
     m_before->setEnabled(count != 0);
-    ShowDots();
+    ShowDots(changes, spots ? &*spots : nullptr);
 }
 
 // ---- Changes
@@ -360,7 +360,7 @@ std::vector<std::pair<model::Change, CChangeText>> CStrip::ToldChanges() const {
     return told;
 }
 
-void CStrip::ShowDots() {
+void CStrip::ShowDots(const std::vector<model::Change>& changes, const CSpots* spots) {
     std::map<CPageMarks*, std::vector<QWidget*>> dots;
     for (CPageMarks* marks : CPageMarks::AllIn(m_dialog))
         dots[marks];
@@ -368,10 +368,7 @@ void CStrip::ShowDots() {
         if (control != nullptr)
             control->setAccessibleDescription(told);
     m_described.clear();
-    const std::vector<model::Change> changes = Changes();
     if (!changes.empty()) {
-        const model::Places now = m_parts.edited->Places();
-        const CSpots spots(m_dialog, now);
         const auto mark = [&](QWidget& control, QWidget* label, const QString& was) {
             QWidget* anchor = label != nullptr ? label : &control;
             std::vector<QWidget*>& anchors = dots[&CPageMarks::Of(control)];
@@ -383,7 +380,7 @@ void CStrip::ShowDots() {
             focus->setAccessibleDescription((told.isEmpty() ? told : told + QStringLiteral("; ")) + was);
         };
         for (const model::Change& change : changes) {
-            const CChangeText text = TextOf(change, spots, m_history->OpeningPlaces(), now);
+            const CChangeText text = TextOf(change, *spots, m_history->OpeningPlaces(), m_history->Places());
             if (text.spot == nullptr)
                 continue;
             const CSpot& spot = *text.spot;

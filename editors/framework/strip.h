@@ -65,7 +65,8 @@ private:
     /// After the working copy has been changed other than by a control.
     void Reload();
     void ShowStates();
-    void ShowDots();
+    /// `spots` are those of the present places; null if there is no change.
+    void ShowDots(const std::vector<model::Change>& changes, const CSpots* spots);
     void Reveal(const std::string& path, bool focus);
     void RevealSpot(const CSpot& spot, bool focus);
     CFormRow* RowOf(const QWidget& widget) const;

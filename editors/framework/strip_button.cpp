@@ -54,9 +54,11 @@ CStripButton::CStripButton(Sign sign, const QString& name, QWidget* parent)
 }
 
 void CStripButton::SetCaption(const QString& caption) {
+    const QSize before = sizeHint();
     m_caption = caption;
     setAccessibleName(caption);
-    updateGeometry();
+    if (sizeHint() != before)
+        updateGeometry(); // which lays out and paints the whole dialog
     update();
 }
 
