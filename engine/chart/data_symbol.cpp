@@ -1,5 +1,6 @@
 #include "engine/chart/data_symbol.h"
 
+#include "engine/chart/blend.h"
 #include "engine/data/fast_loop.h"
 
 #include <algorithm>
@@ -51,23 +52,15 @@ std::span<const QPointF> corners(int shape) {
     }
 }
 
-constexpr int kLanes = 8; ///< pixels that are blended together
-
-/// Lays premultiplied pixels over others, as the raster engine does to the last bit. `width` is a multiple of
+/// Lays premultiplied pixels over others. `width` is a multiple of
 /// the lanes, and the rows of `from` have no more.
 CHART_FAST_LOOP void blendRows(QRgb* __restrict to, std::size_t stride, const QRgb* __restrict from,
                                std::size_t width, std::size_t rows) {
-    constexpr QRgb pair = 0xff00ff; // every second channel
     for (; rows > 0; --rows, to += stride, from += width) {
         for (std::size_t x = 0; x < width; x += kLanes) {
 #pragma GCC unroll 1 // only what stays a loop is turned into operations on many pixels
-            for (std::size_t k = x; k < x + kLanes; ++k) {
-                const QRgb above = from[k], below = to[k], part = 255 - (above >> 24);
-                QRgb even = (below & pair) * part, odd = (below >> 8 & pair) * part;
-                even = (even + (even >> 8 & pair) + 0x800080) >> 8 & pair;
-                odd = (odd + (odd >> 8 & pair) + 0x800080) & ~pair;
-                to[k] = above + (even | odd);
-            }
+            for (std::size_t k = x; k < x + kLanes; ++k)
+                to[k] = over(from[k], to[k]);
         }
     }
 }

@@ -1,5 +1,6 @@
 #include "engine/chart/symbol_cloud.h"
 
+#include "engine/chart/blend.h"
 #include "engine/data/fast_loop.h"
 
 #include <algorithm>
@@ -9,7 +10,6 @@ namespace chartdraw {
 
 namespace {
 
-constexpr int kLanes = 8;     ///< pixels that are blended together
 constexpr int kTile = 8;      ///< pixels a side
 constexpr int kVisits = 12;   ///< symbols after which a tile is looked at
 constexpr int kLargest = 64;  ///< pixels
@@ -19,17 +19,11 @@ constexpr double kOften = 16; ///< times that the area is covered, from which on
 /// no more.
 CHART_FAST_LOOP void blendBehind(QRgb* __restrict to, std::size_t stride, const QRgb* __restrict from,
                                  std::size_t width, std::size_t rows) {
-    constexpr QRgb pair = 0xff00ff; // every second channel
     for (; rows > 0; --rows, to += stride, from += width) {
         for (std::size_t x = 0; x < width; x += kLanes) {
 #pragma GCC unroll 1 // only what stays a loop is turned into operations on many pixels
-            for (std::size_t k = x; k < x + kLanes; ++k) {
-                const QRgb above = to[k], below = from[k], part = 255 - (above >> 24);
-                QRgb even = (below & pair) * part, odd = (below >> 8 & pair) * part;
-                even = (even + (even >> 8 & pair) + 0x800080) >> 8 & pair;
-                odd = (odd + (odd >> 8 & pair) + 0x800080) & ~pair;
-                to[k] = above + (even | odd);
-            }
+            for (std::size_t k = x; k < x + kLanes; ++k)
+                to[k] = over(to[k], from[k]);
         }
     }
 }

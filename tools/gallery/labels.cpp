@@ -8,6 +8,7 @@
 
 namespace {
 
+using gallery::Chart;
 using gallery::points;
 
 constexpr int kClear = CHART_TRANSPARENT;
@@ -88,20 +89,6 @@ BaseChart* radar() {
     CBaseChart_addTitle(PolarChart2BaseChart(polar), "Comparison", "bold", points(10), -1, kClear, kClear);
     return PolarChart2BaseChart(polar);
 }
-
-struct Chart {
-    XYChart* xy = CXYChart_create(360, 260, CHART_BACKGROUND_COLOR, kClear, 0);
-    BaseChart* base = XYChart2BaseChart(xy);
-    Axis* x = CXYChart_xAxis(xy);
-    Axis* y = CXYChart_yAxis(xy);
-
-    explicit Chart(int left = 50) {
-        CXYChart_setPlotArea(xy, left, 35, 345 - left, 180, -1, -1, -1, -1, -1);
-        for (Axis* axis : {x, y})
-            CAxis_setLabelStyle(axis, nullptr, points(8), -1, 0);
-    }
-    void label(Layer* layer) const { CLayer_setDataLabelStyle(layer, nullptr, points(8), -1, 0); }
-};
 
 BaseChart* barsOf(int combine) {
     const Chart chart;

@@ -6,29 +6,11 @@
 
 namespace {
 
+using gallery::Chart;
 using gallery::points;
 
 constexpr int kClear = CHART_TRANSPARENT;
 const char kLong[] = "A title of many words that has no place on a single line of this small picture";
-
-struct Chart {
-    XYChart* xy = CXYChart_create(360, 260, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
-    BaseChart* base = XYChart2BaseChart(xy);
-    Axis* x = CXYChart_xAxis(xy);
-    Axis* y = CXYChart_yAxis(xy);
-
-    explicit Chart(int left = 50) {
-        CXYChart_setPlotArea(xy, left, 35, 345 - left, 180, -1, -1, -1, -1, -1);
-        for (Axis* axis : {x, y})
-            CAxis_setLabelStyle(axis, nullptr, points(8), -1, 0);
-    }
-    void addLine(const std::vector<double>& data) const {
-        CXYChart_addLineLayer(xy, data.data(), static_cast<int>(data.size()), -1, nullptr, 0);
-    }
-    void addBars(const std::vector<double>& data, const char* name = nullptr) const {
-        CXYChart_addBarLayer(xy, data.data(), static_cast<int>(data.size()), -1, name, 0);
-    }
-};
 
 BaseChart* largeNumbers() {
     const Chart chart(40);
