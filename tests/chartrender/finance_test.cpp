@@ -31,9 +31,9 @@ TEST(RenderFinance, OfTheSamplePricesIsThePreview) {
     data.count = RowCount(rows.close);
     data.leadingRows = 30;
     CChartPicture picture;
-    ASSERT_EQ(RenderFinanceChart(preview.m_ownFinanceChart, preview.m_ownLayout, data,
-                                 ChartPictureFormat::Bmp, picture),
-              ChartRenderResult::Ok);
+    ASSERT_EQ(
+        RenderFinanceChart(preview.m_ownFinanceChart, preview.m_ownLayout, data, ChartPictureFormat::Bmp, picture),
+        ChartRenderResult::Ok);
     const auto& previewed = preview.m_picture.Bytes();
     EXPECT_TRUE(std::equal(previewed.begin(), previewed.end(), reinterpret_cast<const char*>(picture.Data()),
                            reinterpret_cast<const char*>(picture.Data()) + picture.Size()));
@@ -125,8 +125,7 @@ TEST(RenderFinance, AnswersBadDataWithoutAPicture) {
         data.count = 2;
         edit(data);
         CChartPicture picture;
-        const ChartRenderResult answer =
-            RenderFinanceChart(look, layout, data, ChartPictureFormat::Bmp, picture);
+        const ChartRenderResult answer = RenderFinanceChart(look, layout, data, ChartPictureFormat::Bmp, picture);
         EXPECT_EQ(picture.Empty(), answer != ChartRenderResult::Ok);
         return answer;
     };

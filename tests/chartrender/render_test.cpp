@@ -34,12 +34,10 @@ TEST(Render, ShowsTheHostsDataInTheModelsLooks) {
     const char* labels[] = {"Labour", nullptr, "K\xc3\xb6ln"};
     const Recording recording;
     CChartPicture picture;
-    ASSERT_EQ(
-        RenderPieChart(twoSectors(), CChartLayout(), {values, labels, 3}, ChartPictureFormat::Bmp, picture),
-        ChartRenderResult::Ok);
-    EXPECT_THAT(
-        recording.Lines(),
-        Contains("CPieChart_setData(PieChart#1, [25, 18.5, 15], [\"Labour\", \"second\", \"K\xc3\xb6ln\"])"));
+    ASSERT_EQ(RenderPieChart(twoSectors(), CChartLayout(), {values, labels, 3}, ChartPictureFormat::Bmp, picture),
+              ChartRenderResult::Ok);
+    EXPECT_THAT(recording.Lines(),
+                Contains("CPieChart_setData(PieChart#1, [25, 18.5, 15], [\"Labour\", \"second\", \"K\xc3\xb6ln\"])"));
     RenderPieChart(twoSectors(), CChartLayout(), {values, nullptr, 3}, ChartPictureFormat::Bmp, picture);
     EXPECT_THAT(recording.Lines(),
                 Contains(R"(CPieChart_setData(PieChart#2, [25, 18.5, 15], ["first", "second", ""]))"));
@@ -58,8 +56,8 @@ TEST(Render, OfTheSampleDataIsThePreview) {
     const std::span<const double> values = rounded;
     const char* labels[] = {"Sector 1", "Sector 2", "Sector 3", "Sector 4", "Sector 5"};
     CChartPicture picture;
-    RenderPieChart(preview.m_ownPieChart, preview.m_ownLayout, {values.data(), labels, 5},
-                   ChartPictureFormat::Bmp, picture);
+    RenderPieChart(preview.m_ownPieChart, preview.m_ownLayout, {values.data(), labels, 5}, ChartPictureFormat::Bmp,
+                   picture);
     const auto& previewed = preview.m_picture.Bytes();
     EXPECT_TRUE(bytesOf(picture) == QByteArray(previewed.data(), std::ssize(previewed)));
 }
@@ -71,8 +69,7 @@ TEST(Render, MakesTheSamePictureInBothFormats) {
     const CPieChartData data = {values, nullptr, 3};
     ASSERT_EQ(RenderPieChart(twoSectors(), CChartLayout(), data, ChartPictureFormat::Bmp, bitmap),
               ChartRenderResult::Ok);
-    ASSERT_EQ(RenderPieChart(twoSectors(), CChartLayout(), data, ChartPictureFormat::Png, png),
-              ChartRenderResult::Ok);
+    ASSERT_EQ(RenderPieChart(twoSectors(), CChartLayout(), data, ChartPictureFormat::Png, png), ChartRenderResult::Ok);
     EXPECT_TRUE(bytesOf(bitmap).startsWith("BM"));
     EXPECT_TRUE(bytesOf(png).startsWith("\x89PNG"));
     const QImage image = QImage::fromData(bytesOf(png)).convertToFormat(QImage::Format_RGB32);

@@ -34,8 +34,8 @@ Meter threePointers() {
 }
 
 template <class Meter>
-using RenderMeter = ChartRenderResult (*)(const Meter&, const CChartLayout&, const CMeterData&,
-                                          ChartPictureFormat, CChartPicture&);
+using RenderMeter = ChartRenderResult (*)(const Meter&, const CChartLayout&, const CMeterData&, ChartPictureFormat,
+                                          CChartPicture&);
 
 template <class Meter>
 void expectValuesOfTheFirstPointers(RenderMeter<Meter> render) {
@@ -49,10 +49,9 @@ void expectValuesOfTheFirstPointers(RenderMeter<Meter> render) {
     };
     const Recording recording;
     EXPECT_EQ(result(), ChartRenderResult::Ok);
-    EXPECT_THAT(linesOf(recording, "addPointer"),
-                ElementsAre("CBaseMeter_addPointer(BaseMeter#1, 55, 0, 0)",
-                            "CBaseMeter_addPointer(BaseMeter#1, nan, 0, 0)",
-                            "CBaseMeter_addPointer(BaseMeter#1, 30, 0, 0)"));
+    EXPECT_THAT(linesOf(recording, "addPointer"), ElementsAre("CBaseMeter_addPointer(BaseMeter#1, 55, 0, 0)",
+                                                              "CBaseMeter_addPointer(BaseMeter#1, nan, 0, 0)",
+                                                              "CBaseMeter_addPointer(BaseMeter#1, 30, 0, 0)"));
     EXPECT_EQ(recording.Count("CLegendBox_addKey"), 0);
     EXPECT_EQ(recording.Lines().back(), "CBaseChart_destroy(BaseChart#1)");
     EXPECT_FALSE(picture.Empty());

@@ -103,10 +103,7 @@ const Case cases[] = {
      },
      {R"(CXYChart_addScatterLayer(XYChart#1, [1, 2, 3], [7, 8, 9], "layer", 1, 5, -1, -1))",
       "CLineLayer_setSymbolScale(LineLayer#1, [10, 11, 12], 0, [], 0)"}},
-    {"Areas",
-     3,
-     [](Plot& plot) { plot.UseSets(); },
-     {R"(CLayer_addDataSet(Layer#1, [1, 2, 3], -1, "layer"))"}},
+    {"Areas", 3, [](Plot& plot) { plot.UseSets(); }, {R"(CLayer_addDataSet(Layer#1, [1, 2, 3], -1, "layer"))"}},
     {"WhiskerBoxes",
      4,
      [](Plot& plot) {
@@ -181,8 +178,7 @@ const Case cases[] = {
      {"CLayer_setXData(Layer#1, [7, 8, 9])"}},
 };
 
-INSTANTIATE_TEST_SUITE_P(RenderXY, XYData, testing::ValuesIn(cases),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(RenderXY, XYData, testing::ValuesIn(cases), [](const auto& test) { return test.param.name; });
 
 TEST(RenderXY, DrawsNothingOfLayersWithoutData) {
     Plot plot(0);

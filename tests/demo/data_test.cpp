@@ -29,8 +29,8 @@ std::string Read(const QByteArray& bytes) {
         for (const NamedColumn& column : rows->columns)
             shown += ' ' + column.name.toStdString() + ' ' + Join(column.values);
     } else if (const auto* prices = std::get_if<Prices>(&read.data)) {
-        shown = "prices: " + Join(prices->open) + ", " + Join(prices->high) + ", " + Join(prices->low) +
-                ", " + Join(prices->close) + ", " + Join(prices->volume);
+        shown = "prices: " + Join(prices->open) + ", " + Join(prices->high) + ", " + Join(prices->low) + ", " +
+                Join(prices->close) + ", " + Join(prices->volume);
     } else {
         const auto& polar = std::get<PolarRows>(read.data);
         shown = "polar: " + Join(polar.angles) + ", " + Join(polar.columns[0].values);

@@ -43,8 +43,7 @@ protected:
         FAIL() << "no button " << text;
     }
     /// Presses a key in the next modal window; returns what it says, or its title.
-    QString Answer(Qt::Key key, const std::function<void(QWidget&)>& act,
-                   const std::function<void()>& cause) {
+    QString Answer(Qt::Key key, const std::function<void(QWidget&)>& act, const std::function<void()>& cause) {
         QString said;
         QTimer timer;
         QObject::connect(&timer, &QTimer::timeout, [&] {
@@ -135,9 +134,7 @@ TEST_F(Host, AStyleThatWasSavedComesBackToItsKind) {
     EXPECT_EQ(Chart(), before);
     const QString said = Answer(
         Qt::Key_Return, [](QWidget&) {},
-        [&] {
-            Drop(Write("bad.json", "{\"chartStyle\":1,\"kind\":\"pie\",\n\"chart\":{\"depth3D\":true}}"));
-        });
+        [&] { Drop(Write("bad.json", "{\"chartStyle\":1,\"kind\":\"pie\",\n\"chart\":{\"depth3D\":true}}")); });
     EXPECT_TRUE(said.startsWith("bad.json\n\nline 2: chart.depth3D")) << qPrintable(said);
     EXPECT_EQ(Chart(), before);
 }
@@ -147,11 +144,9 @@ TEST_F(Host, SavesWhatItShows) {
         const QString path = m_folder.filePath(QString::fromUtf8(name));
         m_window->SavePicture(path);
         const QImage saved(path);
-        EXPECT_EQ(saved.convertToFormat(QImage::Format_RGB32), Chart().convertToFormat(QImage::Format_RGB32))
-            << name;
+        EXPECT_EQ(saved.convertToFormat(QImage::Format_RGB32), Chart().convertToFormat(QImage::Format_RGB32)) << name;
     }
     const QString said = Answer(
-        Qt::Key_Return, [](QWidget&) {},
-        [&] { m_window->SavePicture(m_folder.filePath("no folder/chart.png")); });
+        Qt::Key_Return, [](QWidget&) {}, [&] { m_window->SavePicture(m_folder.filePath("no folder/chart.png")); });
     EXPECT_TRUE(said.startsWith("The picture cannot be written")) << qPrintable(said);
 }

@@ -39,9 +39,8 @@ inline bool IsOtherChoice(const QWidget& widget) {
 inline std::vector<QWidget*> Focusable(QWidget& window) {
     std::vector<QWidget*> found;
     for (QWidget* widget : window.findChildren<QWidget*>())
-        if (widget->isVisibleTo(&window) && widget->isEnabled() &&
-            (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr &&
-            !IsOtherChoice(*widget))
+        if (widget->isVisibleTo(&window) && widget->isEnabled() && (widget->focusPolicy() & Qt::TabFocus) != 0 &&
+            widget->focusProxy() == nullptr && !IsOtherChoice(*widget))
             found.push_back(widget);
     return found;
 }
@@ -66,8 +65,7 @@ inline void NothingIsCutOff(QWidget& window) {
         const bool hasText = qobject_cast<const QLabel*>(widget) != nullptr ||
                              qobject_cast<const QAbstractButton*>(widget) != nullptr ||
                              qobject_cast<const QComboBox*>(widget) != nullptr ||
-                             qobject_cast<const QGroupBox*>(widget) != nullptr ||
-                             widget->inherits("QAbstractSpinBox");
+                             qobject_cast<const QGroupBox*>(widget) != nullptr || widget->inherits("QAbstractSpinBox");
         // A text that may be of any length gives up its width of its own will.
         const bool wide = widget->sizePolicy().horizontalPolicy() != QSizePolicy::Ignored;
         if (hasText && widget->minimumWidth() != widget->maximumWidth()) {
@@ -82,8 +80,8 @@ inline void NothingIsCutOff(QWidget& window) {
             EXPECT_GT(widget->width(), widget->fontMetrics().horizontalAdvance(button->text()) + 4)
                 << Describe(*widget);
         const QWidget* parent = widget->parentWidget();
-        if (!widget->isWindow() && !parent->inherits("QAbstractScrollArea") &&
-            !parent->inherits("QAbstractItemView") && parent->objectName() != "qt_scrollarea_viewport") {
+        if (!widget->isWindow() && !parent->inherits("QAbstractScrollArea") && !parent->inherits("QAbstractItemView") &&
+            parent->objectName() != "qt_scrollarea_viewport") {
             EXPECT_TRUE(parent->rect().contains(widget->geometry()))
                 << Describe(*widget) << " in " << Describe(*parent);
         }
@@ -95,18 +93,15 @@ inline void NothingScrolls(QWidget& window) {
     for (const QScrollArea* room : window.findChildren<QScrollArea*>())
         if (room->isVisible()) {
             EXPECT_TRUE(window.height() > 700 || !room->verticalScrollBar()->isVisible()) << Describe(window);
-            EXPECT_TRUE(window.width() > 1340 || !room->horizontalScrollBar()->isVisible())
-                << Describe(window);
+            EXPECT_TRUE(window.width() > 1340 || !room->horizontalScrollBar()->isVisible()) << Describe(window);
         }
 }
 
 inline bool HasText(const QWidget& widget) {
     const auto* label = qobject_cast<const QLabel*>(&widget);
-    return (label != nullptr && !label->text().isEmpty()) ||
-           qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
+    return (label != nullptr && !label->text().isEmpty()) || qobject_cast<const QAbstractButton*>(&widget) != nullptr ||
            qobject_cast<const QComboBox*>(&widget) != nullptr || widget.inherits("QAbstractSpinBox") ||
-           widget.inherits("QAbstractItemView") || widget.inherits("QPlainTextEdit") ||
-           widget.inherits("QTabBar");
+           widget.inherits("QAbstractItemView") || widget.inherits("QPlainTextEdit") || widget.inherits("QTabBar");
 }
 
 /// No two controls that show a text lie over each other, as far as they can be seen.
@@ -168,19 +163,16 @@ inline void LettersAreUnique(QWidget& window) {
     const auto take = [&](const QString& text, const QWidget& widget) {
         const qsizetype at = text.indexOf(u'&');
         if (at >= 0) {
-            EXPECT_FALSE(letters.contains(text[at + 1], Qt::CaseInsensitive))
-                << Describe(widget) << text.toStdString();
+            EXPECT_FALSE(letters.contains(text[at + 1], Qt::CaseInsensitive)) << Describe(widget) << text.toStdString();
             letters += text[at + 1];
-        } else if (text.contains(QRegularExpression(QStringLiteral("\\w"))) && text != "OK" &&
-                   text != "Cancel") {
+        } else if (text.contains(QRegularExpression(QStringLiteral("\\w"))) && text != "OK" && text != "Cancel") {
             without += text;
         }
     };
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
         if (!widget->isVisibleTo(&window))
             continue;
-        if (const auto* label = qobject_cast<const QLabel*>(widget);
-            label != nullptr && label->buddy() != nullptr)
+        if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && label->buddy() != nullptr)
             take(label->text(), *label);
         else if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
             take(button->text(), *button);
@@ -213,8 +205,7 @@ inline void BoxesAreSeen(QWidget& window) {
         const bool round = qobject_cast<QRadioButton*>(button) != nullptr;
         const bool isBox = round || qobject_cast<QCheckBox*>(button) != nullptr;
         const QColor page = button->palette().color(QPalette::Window);
-        if (!isBox || !button->isVisible() || !button->isEnabled() || button->isChecked() ||
-            page.lightness() > 128)
+        if (!isBox || !button->isVisible() || !button->isEnabled() || button->isChecked() || page.lightness() > 128)
             continue;
         QStyleOptionButton option;
         option.initFrom(button);

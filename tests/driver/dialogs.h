@@ -21,9 +21,7 @@ Dialog DialogOf(const std::string& name, const Object& start, const char* place 
                 EXPECT_FALSE(Edit(
                     object,
                     [&](Person& person) {
-                        const auto cancel = [](Person& inner) {
-                            static_cast<QDialog&>(inner.Window()).reject();
-                        };
+                        const auto cancel = [](Person& inner) { static_cast<QDialog&>(inner.Window()).reject(); };
                         Go(person, place, act, cancel);
                         cancel(person);
                     }));

@@ -8,27 +8,13 @@
 
 namespace driver {
 
-inline bool Show(CChartLayout& edited, const CChartLayout& /*layout*/) {
-    return ShowChartLayoutWnd(edited);
-}
-inline bool Show(CXYChart& chart, const CChartLayout& layout) {
-    return ShowXYChartWnd(chart, layout);
-}
-inline bool Show(CPieChart& chart, const CChartLayout& layout) {
-    return ShowPieChartWnd(chart, layout);
-}
-inline bool Show(CPolarChart& chart, const CChartLayout& layout) {
-    return ShowPolarChartWnd(chart, layout);
-}
-inline bool Show(CFinanceChart& chart, const CChartLayout& layout) {
-    return ShowFinanceChartWnd(chart, layout);
-}
-inline bool Show(CAngularMeter& meter, const CChartLayout& layout) {
-    return ShowAngularMeterWnd(meter, layout);
-}
-inline bool Show(CLinearMeter& meter, const CChartLayout& layout) {
-    return ShowLinearMeterWnd(meter, layout);
-}
+inline bool Show(CChartLayout& edited, const CChartLayout& /*layout*/) { return ShowChartLayoutWnd(edited); }
+inline bool Show(CXYChart& chart, const CChartLayout& layout) { return ShowXYChartWnd(chart, layout); }
+inline bool Show(CPieChart& chart, const CChartLayout& layout) { return ShowPieChartWnd(chart, layout); }
+inline bool Show(CPolarChart& chart, const CChartLayout& layout) { return ShowPolarChartWnd(chart, layout); }
+inline bool Show(CFinanceChart& chart, const CChartLayout& layout) { return ShowFinanceChartWnd(chart, layout); }
+inline bool Show(CAngularMeter& meter, const CChartLayout& layout) { return ShowAngularMeterWnd(meter, layout); }
+inline bool Show(CLinearMeter& meter, const CChartLayout& layout) { return ShowLinearMeterWnd(meter, layout); }
 
 /// What differs between two objects, a line each; empty if they are equal in every field.
 template <class Object>

@@ -64,8 +64,7 @@ void TestMemoryIsFlat(const Object& start, const CChartLayout& layout) {
     open(times);
     const std::size_t after = mallinfo2().uordblks;
     // Caches may still settle; what leaks grows with the openings.
-    EXPECT_LT(after, before + 32768 + static_cast<std::size_t>(times) * 200)
-        << "bytes in use, was " << before;
+    EXPECT_LT(after, before + 32768 + static_cast<std::size_t>(times) * 200) << "bytes in use, was " << before;
 #else
     open(times);
 #endif
@@ -84,11 +83,9 @@ void TestAnybody(const Object& start, const CChartLayout& layout, const Properti
         before[path] = text;
     for (const auto& [path, text] : model::Values(object)) {
         for (const Property& row : rows) {
-            const std::string pattern =
-                std::regex_replace(std::regex_replace(row.Path(), std::regex(R"([.])"), R"(\.)"),
-                                   std::regex(R"(\[\d+\])"), R"(\[\d+\])");
-            if (!std::regex_match(path, std::regex(pattern)) ||
-                (before.contains(path) && before.at(path) == text))
+            const std::string pattern = std::regex_replace(
+                std::regex_replace(row.Path(), std::regex(R"([.])"), R"(\.)"), std::regex(R"(\[\d+\])"), R"(\[\d+\])");
+            if (!std::regex_match(path, std::regex(pattern)) || (before.contains(path) && before.at(path) == text))
                 continue;
             const double value = std::atof(text.c_str());
             EXPECT_TRUE(std::isfinite(value)) << path << ' ' << text;

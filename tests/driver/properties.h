@@ -86,8 +86,7 @@ inline Properties EffectRows(const std::string& place, const std::string& prefix
 /// How a text looks, in the groups "Font:" and "Effect:".
 inline Properties LookRows(const std::string& place, const std::string& prefix) {
     return Properties{{place, "Font:", "", "31", LookField(prefix, "font") + ".size=31"}} +
-           ColorRows(place, "Font:", prefix, {"fontColor", "backColor", "edgeColor"}) +
-           EffectRows(place, prefix);
+           ColorRows(place, "Font:", prefix, {"fontColor", "backColor", "edgeColor"}) + EffectRows(place, prefix);
 }
 
 // ---- Doing what a row says
@@ -151,8 +150,7 @@ inline void GiveInPicker(const Person& picker, const QString& give) {
 inline void Give(const Person& person, const Property& row) {
     QWidget& control = person.At(QString::fromStdString(row.group), QString::fromStdString(row.label));
     const QString give = QString::fromStdString(row.give);
-    if (qobject_cast<QAbstractSpinBox*>(&control) != nullptr &&
-        qobject_cast<QDateEdit*>(&control) == nullptr) {
+    if (qobject_cast<QAbstractSpinBox*>(&control) != nullptr && qobject_cast<QDateEdit*>(&control) == nullptr) {
         GiveNumber(person, control, row);
     } else if (auto* box = qobject_cast<QComboBox*>(&control)) {
         GiveChoice(person, *box, row);
@@ -167,9 +165,7 @@ inline void Give(const Person& person, const Property& row) {
     }
 }
 
-inline void LeaveByOk(Person& person) {
-    person.Ok();
-}
+inline void LeaveByOk(Person& person) { person.Ok(); }
 
 /// Goes to `place`, acts there, and comes back: the dialogs on the way are left by `leave`.
 inline void Go(Person& person, const QString& place, const std::function<void(Person&)>& act,
@@ -212,8 +208,8 @@ void TestProperties(const Object& start, const CChartLayout& layout, const Prope
         bool changed = false;
         std::string now;
         for (const auto& [path, from, to] : model::Differences(before, model::Values(object))) {
-            const bool here = path == row.Path() || path.starts_with(row.Path() + '.') ||
-                              path.starts_with(row.Path() + '[');
+            const bool here =
+                path == row.Path() || path.starts_with(row.Path() + '.') || path.starts_with(row.Path() + '[');
             EXPECT_TRUE(here) << path << ": " << from << " -> " << to;
             changed = changed || here;
             if (path == row.Path())
@@ -246,12 +242,10 @@ void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Pro
                 std::set<QWidget*> named;
                 for (const Property& row : rows)
                     if (row.place == place || (row.place.empty() && inDialog))
-                        named.insert(
-                            &there.At(QString::fromStdString(row.group), QString::fromStdString(row.label)));
+                        named.insert(&there.At(QString::fromStdString(row.group), QString::fromStdString(row.label)));
                 for (QWidget* control : there.Inputs())
-                    EXPECT_TRUE(named.contains(control))
-                        << "no row for " << qPrintable(there.GroupOf(*control)) << '/'
-                        << qPrintable(there.LabelOf(*control));
+                    EXPECT_TRUE(named.contains(control)) << "no row for " << qPrintable(there.GroupOf(*control)) << '/'
+                                                         << qPrintable(there.LabelOf(*control));
             });
         }
         for (const auto& [place, withRows] : tabs)

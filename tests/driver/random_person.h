@@ -92,15 +92,14 @@ private:
             SendMouse(widget, QEvent::MouseButtonPress, at, button, button);
             break;
         case 1:
-            SendMouse(widget, QEvent::MouseMove, at, Qt::NoButton,
-                      Below(2) == 0 ? Qt::LeftButton : Qt::NoButton);
+            SendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, Below(2) == 0 ? Qt::LeftButton : Qt::NoButton);
             break;
         case 2:
             SendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
             break;
         case 3: {
-            QWheelEvent wheel(at, widget->mapToGlobal(at), {}, {0, (Below(5) - 2) * 120}, {}, {},
-                              Qt::NoScrollPhase, false);
+            QWheelEvent wheel(at, widget->mapToGlobal(at), {}, {0, (Below(5) - 2) * 120}, {}, {}, Qt::NoScrollPhase,
+                              false);
             QApplication::sendEvent(widget, &wheel);
             break;
         }
@@ -112,18 +111,16 @@ private:
         }
     }
 
-    void SendMouse(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton button,
-                   Qt::MouseButtons held) {
+    void SendMouse(QWidget* widget, QEvent::Type type, QPoint at, Qt::MouseButton button, Qt::MouseButtons held) {
         QMouseEvent event(type, at, widget->mapToGlobal(at), button, held, {});
         QApplication::sendEvent(widget, &event);
     }
 
     void SendKey(QWidget* widget) {
-        static constexpr Qt::Key kKeys[] = {
-            Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Up,        Qt::Key_Down,
-            Qt::Key_Home,   Qt::Key_End,      Qt::Key_Tab,       Qt::Key_Space,
-            Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Backspace, Qt::Key_Return,
-            Qt::Key_Delete, Qt::Key_Z,        Qt::Key_Y,         Qt::Key_F9};
+        static constexpr Qt::Key kKeys[] = {Qt::Key_Left,   Qt::Key_Right,    Qt::Key_Up,        Qt::Key_Down,
+                                            Qt::Key_Home,   Qt::Key_End,      Qt::Key_Tab,       Qt::Key_Space,
+                                            Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Backspace, Qt::Key_Return,
+                                            Qt::Key_Delete, Qt::Key_Z,        Qt::Key_Y,         Qt::Key_F9};
         static constexpr char kTexts[] = "0123456789-.eA";
         static constexpr Qt::KeyboardModifier kHeld[] = {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
                                                          Qt::ControlModifier};
@@ -132,8 +129,7 @@ private:
         const bool text = Below(2) == 0;
         const char typed = kTexts[Below(static_cast<int>(sizeof kTexts) - 1)];
         const int key = text ? typed : static_cast<int>(kKeys[Below(static_cast<int>(std::size(kKeys)))]);
-        QKeyEvent press(QEvent::KeyPress, key, kHeld[Below(4)],
-                        text ? QString(QLatin1Char(typed)) : QString());
+        QKeyEvent press(QEvent::KeyPress, key, kHeld[Below(4)], text ? QString(QLatin1Char(typed)) : QString());
         QApplication::sendEvent(widget, &press);
     }
 

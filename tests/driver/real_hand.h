@@ -38,8 +38,7 @@ public:
     /// To a place of the screen, in the toolkit's pixels.
     static void Move(QPoint to) {
         const QPointF place = QPointF(to) * qGuiApp->devicePixelRatio();
-        Do({QStringLiteral("mousemove"), QString::number(place.x(), 'f', 0),
-            QString::number(place.y(), 'f', 0)});
+        Do({QStringLiteral("mousemove"), QString::number(place.x(), 'f', 0), QString::number(place.y(), 'f', 0)});
     }
     static void Press(QPoint place) {
         Move(place);

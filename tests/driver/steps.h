@@ -49,8 +49,7 @@ inline void MindSteps(RandomPerson& anybody) {
         const QString opening = dialog.property("opening").toString();
         if (opening.isEmpty() || CopiedLook(dialog).isEmpty()) // no strip, or an edit that cannot be read
             return;
-        if (AllTheWay(dialog, "Redo") < 0 ||
-            (StripButton(dialog, "Undo").isEnabled() && AllTheWay(dialog, "Undo") < 0))
+        if (AllTheWay(dialog, "Redo") < 0 || (StripButton(dialog, "Undo").isEnabled() && AllTheWay(dialog, "Undo") < 0))
             return;
         AllTheWay(dialog, "Redo");
         const QString last = CopiedLook(dialog);
@@ -150,8 +149,8 @@ inline std::vector<int> LinesOf(const Property& row, const QListWidget& list) {
     std::vector<int> lines;
     for (int i = 0; i < list.count(); ++i) {
         const QString line = list.item(i)->text();
-        const bool all = std::all_of(parts.begin(), parts.end(),
-                                     [&line](const QString& part) { return line.contains(part); });
+        const bool all =
+            std::all_of(parts.begin(), parts.end(), [&line](const QString& part) { return line.contains(part); });
         if (line.startsWith(label) && all)
             lines.push_back(i);
     }
@@ -162,8 +161,7 @@ inline std::vector<int> LinesOf(const Property& row, const QListWidget& list) {
 template <class Object>
 void TestSearch(const Object& start, const CChartLayout& layout, const Properties& rows) {
     const auto isThere = [](const Person& person, const Property& row) {
-        const QWidget& control =
-            person.At(QString::fromStdString(row.group), QString::fromStdString(row.label));
+        const QWidget& control = person.At(QString::fromStdString(row.group), QString::fromStdString(row.label));
         const QWidget* focus = person.Window().focusWidget();
         const auto* radio = qobject_cast<const QRadioButton*>(focus); // any of one group
         return !control.isEnabled() || focus == &control || control.isAncestorOf(focus) ||

@@ -10,10 +10,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     using Call = void (*)(surface::Caller&);
     static std::vector<Call> creators, others;
     if (creators.empty()) {
-#define OPERATION(name)                                                                                      \
-    if (!std::string_view(#name).ends_with("_destroy"))                                                      \
-        (std::string_view(#name).ends_with("_create") ? creators : others)                                   \
-            .push_back([](surface::Caller& c) { c.call(&name); });
+#define OPERATION(name)                                                                                                \
+    if (!std::string_view(#name).ends_with("_destroy"))                                                                \
+        (std::string_view(#name).ends_with("_create") ? creators : others).push_back([](surface::Caller& c) {          \
+            c.call(&name);                                                                                             \
+        });
 #include "operations.inc"
 #undef OPERATION
     }

@@ -26,8 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (size < sizeof fields.value)
         return 0;
     std::memcpy(&fields.value, data, sizeof fields.value);
-    const std::string_view text(reinterpret_cast<const char*>(data) + sizeof fields.value,
-                                size - sizeof fields.value);
+    const std::string_view text(reinterpret_cast<const char*>(data) + sizeof fields.value, size - sizeof fields.value);
     // A number has at most 21 digits with a four-byte separator for each three, 20 decimals and the signs; a
     // single letter of a date becomes "September" or less.
     const std::size_t most = 100 + 10 * text.size();

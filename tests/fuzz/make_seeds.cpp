@@ -20,9 +20,8 @@ int main(int argc, char** argv) {
         const char* name;
         QByteArray bytes;
     } others[] = {
-        {"seed.gif",
-         QByteArray::fromHex("47494638396101000100800000000000ffffff21f90400000000002c000000000100"
-                             "010000020244010 03b")},
+        {"seed.gif", QByteArray::fromHex("47494638396101000100800000000000ffffff21f90400000000002c000000000100"
+                                         "010000020244010 03b")},
         {"seed.wbmp", QByteArray::fromHex("000008 02aa55")},
     };
     for (const auto& other : others) {

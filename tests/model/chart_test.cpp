@@ -117,8 +117,7 @@ TEST(XYChart, FailingCopyLeavesNoPointerIntoTheSource) {
     const int failures = model_test::failEachAllocation([&] { chart = source; },
                                                         [&] {
                                                             const std::string now = relations(chart);
-                                                            EXPECT_EQ(now.find('!'), std::string::npos)
-                                                                << now;
+                                                            EXPECT_EQ(now.find('!'), std::string::npos) << now;
                                                         });
     EXPECT_GT(failures, 10);
     EXPECT_EQ(relations(chart), related);

@@ -8,19 +8,11 @@
 namespace {
 
 // The text that tells the elements of each container apart.
-CChartString& textOf(CChartString& element) {
-    return element;
-}
-CChartString& textOf(CChartColor& element) {
-    return element.m_patternFile;
-}
-CChartString& textOf(CPieChartSector& element) {
-    return element.m_text;
-}
+CChartString& textOf(CChartString& element) { return element; }
+CChartString& textOf(CChartColor& element) { return element.m_patternFile; }
+CChartString& textOf(CPieChartSector& element) { return element.m_text; }
 
-void mark(auto& element, int number) {
-    textOf(element) = std::to_string(number).c_str();
-}
+void mark(auto& element, int number) { textOf(element) = std::to_string(number).c_str(); }
 
 template <class Element>
 std::string markOf(const Element& element) {

@@ -23,8 +23,7 @@ std::string ReadFile(const std::filesystem::path& path) {
 std::set<std::string> Declared(const std::string& folder, const char* classes, const char* field) {
     std::set<std::string> found;
     const std::regex classPattern(classes), fieldPattern(field);
-    for (const auto& file :
-         std::filesystem::directory_iterator(std::filesystem::path(MODEL_FOLDER) / folder)) {
+    for (const auto& file : std::filesystem::directory_iterator(std::filesystem::path(MODEL_FOLDER) / folder)) {
         const std::string text = ReadFile(file);
         for (std::sregex_iterator c(text.begin(), text.end(), classPattern), end; c != end; ++c) {
             const std::string body = c->str(2);
@@ -38,9 +37,7 @@ std::set<std::string> Declared(const std::string& folder, const char* classes, c
     return found;
 }
 
-std::chrono::year_month_day today() {
-    return std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now());
-}
+std::chrono::year_month_day today() { return std::chrono::floor<std::chrono::days>(std::chrono::system_clock::now()); }
 
 /// A day as the fake surface gives its midnight.
 double midnight(std::chrono::year_month_day day) {
@@ -51,11 +48,10 @@ double midnight(std::chrono::year_month_day day) {
 } // namespace
 
 TEST(Fields, AllStandInTheTables) {
-    const auto headers = Declared("include/charteditors",
-                                  R"(class CHARTEDITORS_API (\w+)[^;{]*\{([^}]*(?:\{[^}]*\}[^}]*)*?)\n\};)",
-                                  R"(\n    (?!void)[\w:]+(?: char)?\*? m_(\w+)(?:\[5\])?(?: = [^;]*)?;)");
-    const auto tables =
-        Declared("fields", R"(struct FieldsOf<(\w+)> \{([^;]*;?[^;]*;)\s*\};)", R"(::m_(\w+)[,}])");
+    const auto headers =
+        Declared("include/charteditors", R"(class CHARTEDITORS_API (\w+)[^;{]*\{([^}]*(?:\{[^}]*\}[^}]*)*?)\n\};)",
+                 R"(\n    (?!void)[\w:]+(?: char)?\*? m_(\w+)(?:\[5\])?(?: = [^;]*)?;)");
+    const auto tables = Declared("fields", R"(struct FieldsOf<(\w+)> \{([^;]*;?[^;]*;)\s*\};)", R"(::m_(\w+)[,}])");
     EXPECT_GT(headers.size(), 30U);
     EXPECT_THAT(tables, testing::ContainerEq(headers));
 }
@@ -83,12 +79,12 @@ TEST(Values, TellWhatDiffersByPathAndWord) {
     for (const auto& difference : model::Differences(before, after))
         if (difference.path.find("dataSetColors[0]") == std::string::npos)
             lines.push_back(difference.path + ": " + difference.from + " to " + difference.to);
-    EXPECT_THAT(lines, testing::IsSupersetOf(
-                           {"majorHGridColor.color: 0x00c0c0c0 to 0x80ff0001", "swapXY: false to true",
-                            "xAxis.zeroAffinity: 0 to 0.1", "x2Axis.syncAxis: none to gone",
-                            "y2Axis.syncAxis: none to 0", "axes[0].scaleType: none to date", "layers: 0 to 1",
-                            "layers[0].seed:  to 7", "layers[0].type:  to bar",
-                            "layers[0].combineMethod:  to 9", "layers[0].dataSetColors:  to 1"}));
+    EXPECT_THAT(lines,
+                testing::IsSupersetOf({"majorHGridColor.color: 0x00c0c0c0 to 0x80ff0001", "swapXY: false to true",
+                                       "xAxis.zeroAffinity: 0 to 0.1", "x2Axis.syncAxis: none to gone",
+                                       "y2Axis.syncAxis: none to 0", "axes[0].scaleType: none to date",
+                                       "layers: 0 to 1", "layers[0].seed:  to 7", "layers[0].type:  to bar",
+                                       "layers[0].combineMethod:  to 9", "layers[0].dataSetColors:  to 1"}));
     EXPECT_EQ(model::Differences(after, before).size(), model::Differences(before, after).size());
 }
 

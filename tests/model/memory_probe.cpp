@@ -10,17 +10,11 @@ long s_left = -1; // allocations until one fails; less than 0: none does
 
 namespace model_test {
 
-long allocations() {
-    return s_allocations;
-}
+long allocations() { return s_allocations; }
 
-MemoryLimit::MemoryLimit(long granted) {
-    s_left = granted;
-}
+MemoryLimit::MemoryLimit(long granted) { s_left = granted; }
 
-MemoryLimit::~MemoryLimit() {
-    s_left = -1;
-}
+MemoryLimit::~MemoryLimit() { s_left = -1; }
 
 } // namespace model_test
 
@@ -35,10 +29,6 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
-void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
+void operator delete(void* memory) noexcept { std::free(memory); }
 
-void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
+void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }

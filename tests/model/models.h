@@ -87,8 +87,8 @@ public:
 
     void operator()(std::int32_t& value, Words words) {
         if (!words.empty() && Below(8) != 0)
-            value = static_cast<std::int32_t>(
-                words[static_cast<std::size_t>(Below(static_cast<int>(words.size())))].code);
+            value =
+                static_cast<std::int32_t>(words[static_cast<std::size_t>(Below(static_cast<int>(words.size())))].code);
         else
             value = Below(8) == 0 ? static_cast<std::int32_t>(m_random()) : Below(601) - 100;
     }
@@ -97,27 +97,24 @@ public:
     void operator()(std::uint32_t& value, Words) { value = static_cast<std::uint32_t>(m_random()); }
     void operator()(double& value, Words) {
         using Limits = std::numeric_limits<double>;
-        constexpr double kOdd[] = {0.0,  -0.0,   0.1,    1e300, 1.7e308, -1.7e308,
-                                   1e15, 5e-324, 6.2e10, -1,    1,       Limits::quiet_NaN(),
-                                   0.5,  100,    9e9,    1000,  1e17,    Limits::infinity(),
-                                   90,   -1e300, 0.01,   12,    -90,     -Limits::infinity()};
-        value = Below(4) == 0 ? kOdd[Below(std::ssize(kOdd))]
-                              : std::uniform_real_distribution(-100.0, 400.0)(m_random);
+        constexpr double kOdd[] = {
+            0.0, -0.0, 0.1, 1e300, 1.7e308, -1.7e308,           1e15, 5e-324, 6.2e10, -1, 1,   Limits::quiet_NaN(),
+            0.5, 100,  9e9, 1000,  1e17,    Limits::infinity(), 90,   -1e300, 0.01,   12, -90, -Limits::infinity()};
+        value = Below(4) == 0 ? kOdd[Below(std::ssize(kOdd))] : std::uniform_real_distribution(-100.0, 400.0)(m_random);
     }
     void operator()(CChartString& text, Words) {
-        constexpr const char* kTexts[] = {
-            "",
-            "plain",
-            "two\nlines",
-            "\"quoted\" \\",
-            "\xEA\xB7\xB8\xEB\xA6\xBC",
-            "{value}%",
-            "{value|mmm}",
-            "{",
-            "<*size=40*>big<*/*>",
-            "\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d",
-            "LiberationSerif-Bold.ttf",
-            "a text that is far too long for any place where it may stand in a chart"};
+        constexpr const char* kTexts[] = {"",
+                                          "plain",
+                                          "two\nlines",
+                                          "\"quoted\" \\",
+                                          "\xEA\xB7\xB8\xEB\xA6\xBC",
+                                          "{value}%",
+                                          "{value|mmm}",
+                                          "{",
+                                          "<*size=40*>big<*/*>",
+                                          "\xd7\xa9\xd7\x9c\xd7\x95\xd7\x9d",
+                                          "LiberationSerif-Bold.ttf",
+                                          "a text that is far too long for any place where it may stand in a chart"};
         text = kTexts[Below(std::ssize(kTexts))];
     }
     void operator()(std::int32_t (&order)[5], Words) {

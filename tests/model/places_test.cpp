@@ -11,8 +11,8 @@ using model::Change;
 
 template <class Object>
 class PlacesTest : public testing::Test {};
-using Kinds = testing::Types<CChartLayout, CXYChart, CPieChart, CPolarChart, CFinanceChart, CAngularMeter,
-                             CLinearMeter>;
+using Kinds =
+    testing::Types<CChartLayout, CXYChart, CPieChart, CPolarChart, CFinanceChart, CAngularMeter, CLinearMeter>;
 TYPED_TEST_SUITE(PlacesTest, Kinds);
 
 TYPED_TEST(PlacesTest, SettingEachChangeBackGivesTheObject) {
@@ -47,9 +47,8 @@ TEST(Changes, AreToldAsAPersonWouldTellThem) {
         told.push_back(path.find("olor") == std::string::npos && path.find("font") == std::string::npos
                            ? path + ": " + from + " to " + to
                            : path);
-    EXPECT_EQ(told,
-              (std::vector<std::string>{"edgeColor", "xAxis.title.font", "layers[0].yAxisKind: y to axis 0",
-                                        "layers[1]: line to area", "depth: 0 to 7"}));
+    EXPECT_EQ(told, (std::vector<std::string>{"edgeColor", "xAxis.title.font", "layers[0].yAxisKind: y to axis 0",
+                                              "layers[1]: line to area", "depth: 0 to 7"}));
     CPieChart pie, longer;
     longer.m_sectors.push_back({});
     longer.m_depth3D = 5;

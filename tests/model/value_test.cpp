@@ -35,8 +35,7 @@ TEST(ChartString, HoldsWhatItIsGiven) {
         {"null is empty", [](CChartString& s) { s = static_cast<const char*>(nullptr); }, ""},
         {"stops at a zero byte", [](CChartString& s) { s = "ab\0cd"; }, "ab"},
         {"appends", [](CChartString& s) { s += "ef"; }, "abcdefghijklmnopqrstef"},
-        {"appends null", [](CChartString& s) { s += static_cast<const char*>(nullptr); },
-         "abcdefghijklmnopqrst"},
+        {"appends null", [](CChartString& s) { s += static_cast<const char*>(nullptr); }, "abcdefghijklmnopqrst"},
         {"appends a string", [](CChartString& s) { s += text("!"); }, "abcdefghijklmnopqrst!"},
         {"assigns itself", [](CChartString& s) { s = *&s; }, "abcdefghijklmnopqrst"},
         {"appends itself", [](CChartString& s) { s += s; }, "abcdefghijklmnopqrstabcdefghijklmnopqrst"},
@@ -108,13 +107,12 @@ TEST(ChartColor, GivesTheNumberOfItsKind) {
     // The program runs in a UTF-8 locale: a Korean name goes through as it is, a broken byte is replaced.
     CChartColor pattern;
     pattern.m_type = 1;
-    for (const auto& [file, given] : {std::pair("", ""), std::pair("\xEA\xB7\xB8.png", "\xEA\xB7\xB8.png"),
-                                      std::pair("\xFFq", "\xEF\xBF\xBDq")}) {
+    for (const auto& [file, given] :
+         {std::pair("", ""), std::pair("\xEA\xB7\xB8.png", "\xEA\xB7\xB8.png"), std::pair("\xFFq", "\xEF\xBF\xBDq")}) {
         pattern.m_patternFile = file;
         model_test::surfaceCalls.clear();
         pattern.GetChartColor(chart);
-        EXPECT_THAT(model_test::surfaceCalls,
-                    testing::ElementsAre(std::string("patternColor2(") + given + ", 0, 0)"));
+        EXPECT_THAT(model_test::surfaceCalls, testing::ElementsAre(std::string("patternColor2(") + given + ", 0, 0)"));
     }
 }
 
@@ -167,8 +165,7 @@ TEST(ChartLayout, LaysOutEveryPlotAreaToFit) {
         const auto& angular = layout.m_angularPlotArea;
         const auto& linear = layout.m_linearPlotArea;
         using Numbers = std::vector<int>;
-        EXPECT_EQ((Numbers{layout.m_width, layout.m_height, layout.m_financeWidth}),
-                  (Numbers{c.w, c.h, c.w}));
+        EXPECT_EQ((Numbers{layout.m_width, layout.m_height, layout.m_financeWidth}), (Numbers{c.w, c.h, c.w}));
         EXPECT_EQ((Numbers{xy.m_left, xy.m_top, xy.m_width, xy.m_height}), c.xy);
         EXPECT_EQ((Numbers{pie.m_centerX, pie.m_centerY, pie.m_radius}), c.pie);
         EXPECT_EQ((Numbers{polar.m_centerX, polar.m_centerY, polar.m_radius}), c.polar);
@@ -187,9 +184,8 @@ TEST(ChartLayout, LaysOutEveryPlotAreaToFit) {
 }
 
 TEST(StringTable, HasItsTextsByNumber) {
-    const std::pair<int, const char*> texts[] = {{1, "(ARGB)"},     {79, "{value|yyyy/mm/dd}"}, {80, ""},
-                                                 {84, "MainChart"}, {127, "Zone %d"},           {128, ""},
-                                                 {-1, ""}};
+    const std::pair<int, const char*> texts[] = {
+        {1, "(ARGB)"}, {79, "{value|yyyy/mm/dd}"}, {80, ""}, {84, "MainChart"}, {127, "Zone %d"}, {128, ""}, {-1, ""}};
     for (const auto& [number, expected] : texts)
         EXPECT_STREQ(LoadChartString(number), expected) << number;
 }

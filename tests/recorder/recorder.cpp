@@ -31,8 +31,8 @@ Log& log() {
 
 const void* rootOf(const void* handle) {
     const auto& names = log().names;
-    const auto known = std::find_if(names.begin(), names.end(),
-                                    [&](const auto& entry) { return entry.first.second == handle; });
+    const auto known =
+        std::find_if(names.begin(), names.end(), [&](const auto& entry) { return entry.first.second == handle; });
     return known == names.end() ? handle : known->second.root;
 }
 
@@ -43,23 +43,16 @@ Recording::Recording() {
     log().on = true;
 }
 
-Recording::~Recording() {
-    log().on = false;
-}
+Recording::~Recording() { log().on = false; }
 
-const std::vector<std::string>& Recording::Lines() const {
-    return log().lines;
-}
+const std::vector<std::string>& Recording::Lines() const { return log().lines; }
 
 int Recording::Count(const std::string& operation) const {
     return static_cast<int>(std::count_if(
-        Lines().begin(), Lines().end(),
-        [&](const std::string& line) { return line.starts_with(operation + "("); }));
+        Lines().begin(), Lines().end(), [&](const std::string& line) { return line.starts_with(operation + "("); }));
 }
 
-void Recording::Clear() {
-    log().lines.clear();
-}
+void Recording::Clear() { log().lines.clear(); }
 
 Call::Call(const char* name, std::initializer_list<std::string> arguments) {
     if (log().depth++ > 0 || !log().on)
@@ -70,13 +63,9 @@ Call::Call(const char* name, std::initializer_list<std::string> arguments) {
     log().lines.push_back(line + ")");
 }
 
-Call::~Call() {
-    --log().depth;
-}
+Call::~Call() { --log().depth; }
 
-std::string text(bool value) {
-    return value ? "true" : "false";
-}
+std::string text(bool value) { return value ? "true" : "false"; }
 
 std::string text(int value) {
     char buffer[16];

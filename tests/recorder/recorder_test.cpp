@@ -7,9 +7,7 @@
 using recorder::Recording;
 using testing::ElementsAre;
 
-TEST(Recorder, KnowsAllOperations) {
-    EXPECT_EQ(recorder::operationCount, 222);
-}
+TEST(Recorder, KnowsAllOperations) { EXPECT_EQ(recorder::operationCount, 222); }
 
 TEST(Recorder, WritesNumbersTextsAndArraysInOneForm) {
     CChart_metalColor(1, 2); // before the recording
@@ -23,14 +21,13 @@ TEST(Recorder, WritesNumbersTextsAndArraysInOneForm) {
     const char* labels[] = {"a \"b\"\\", nullptr, "c\nd", "\xc3\xa9"};
     CPieChart_setData(nullptr, values, 2, labels, 4);
     CPieChart_setData(nullptr, nullptr, 0, nullptr, 3);
-    EXPECT_THAT(
-        recording.Lines(),
-        ElementsAre("CChart_chartTime(2001, 1, -1, 0, 65535, 0x00010000)",
-                    "CChart_metalColor(-1, 0xff000000)", "CChart_encodeFilter(6, 1, 0.1)",
-                    "CAxis_setLinearScale(null, 5, -2.5, 1.7e+308, 0.3333333333333333)",
-                    "CPieChart_setStartAngle(null, 90, true)",
-                    "CPieChart_setData(null, [1, 2.5], [\"a \\\"b\\\"\\\\\", null, \"c\\nd\", \"\xc3\xa9\"])",
-                    "CPieChart_setData(null, [], [])"));
+    EXPECT_THAT(recording.Lines(),
+                ElementsAre("CChart_chartTime(2001, 1, -1, 0, 65535, 0x00010000)", "CChart_metalColor(-1, 0xff000000)",
+                            "CChart_encodeFilter(6, 1, 0.1)",
+                            "CAxis_setLinearScale(null, 5, -2.5, 1.7e+308, 0.3333333333333333)",
+                            "CPieChart_setStartAngle(null, 90, true)",
+                            "CPieChart_setData(null, [1, 2.5], [\"a \\\"b\\\"\\\\\", null, \"c\\nd\", \"\xc3\xa9\"])",
+                            "CPieChart_setData(null, [], [])"));
     EXPECT_EQ(recording.Count("CPieChart_setData"), 2);
     EXPECT_EQ(recording.Count("CPieChart_set"), 0);
 }
@@ -45,9 +42,8 @@ TEST(Recorder, NumbersHandlesUntilTheyEnd) {
         CRanTable_destroy(second);
     }
     EXPECT_THAT(recording.Lines(),
-                ElementsAre("CRanTable_create(1, 1, 1)", "CRanTable_create(2, 1, 1)",
-                            "CRanTable_destroy(RanTable#1)", "CRanTable_setCol(RanTable#2, 0, 1, 1)",
-                            "CRanTable_destroy(RanTable#2)", "CRanTable_create(1, 1, 1)",
-                            "CRanTable_create(2, 1, 1)", "CRanTable_destroy(RanTable#3)",
+                ElementsAre("CRanTable_create(1, 1, 1)", "CRanTable_create(2, 1, 1)", "CRanTable_destroy(RanTable#1)",
+                            "CRanTable_setCol(RanTable#2, 0, 1, 1)", "CRanTable_destroy(RanTable#2)",
+                            "CRanTable_create(1, 1, 1)", "CRanTable_create(2, 1, 1)", "CRanTable_destroy(RanTable#3)",
                             "CRanTable_setCol(RanTable#4, 0, 1, 1)", "CRanTable_destroy(RanTable#4)"));
 }

@@ -31,8 +31,7 @@ public:
 
 inline QImage pictureOf(const CChartPreview& view) {
     const auto& bytes = view.m_picture.Bytes();
-    return QImage::fromData(QByteArray(bytes.data(), std::ssize(bytes)), "BMP")
-        .convertToFormat(QImage::Format_RGB32);
+    return QImage::fromData(QByteArray(bytes.data(), std::ssize(bytes)), "BMP").convertToFormat(QImage::Format_RGB32);
 }
 
 /// The calls that make or set something, a line each: without casts, getters and arithmetic. Long arrays of

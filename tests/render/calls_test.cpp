@@ -343,8 +343,7 @@ CBaseMeter_addPointer(BaseMeter#1, 75.35, 204, -1)
 CBaseChart_makeChart2()"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Render, Calls, testing::ValuesIn(cases),
-                         [](const auto& test) { return test.param.name; });
+INSTANTIATE_TEST_SUITE_P(Render, Calls, testing::ValuesIn(cases), [](const auto& test) { return test.param.name; });
 
 TEST(LayoutSample, HasNoLabelsWhereNoneAreShownAndIsNoneOfNoKind) {
     for (const int type : {-1, 0, 1, 3, 6}) {
@@ -361,8 +360,7 @@ TEST(LayoutSample, OfPricesIsAsWideAsTheLayoutSays) {
     view.m_ownLayout.m_chartType = 2;
     view.m_ownLayout.m_financeWidth = 321;
     std::istringstream calls(callsOf(DrawLayoutSample, view));
-    static const std::regex shown("CXYChart_add.*|CHLOCLayer.*|CLegendBox_addKey.LegendBox#1.*"),
-        value(": [^\"]*\"");
+    static const std::regex shown("CXYChart_add.*|CHLOCLayer.*|CLegendBox_addKey.LegendBox#1.*"), value(": [^\"]*\"");
     std::string found = "\n";
     for (std::string line; std::getline(calls, line);)
         if (std::regex_match(line, shown))

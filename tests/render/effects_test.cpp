@@ -27,9 +27,7 @@ CChartColor General(std::uint32_t value) {
 /// Gives the value of one place another look.
 class Change {
     static void To(bool& value, model::Words) { value = !value; }
-    static void To(unsigned char& value, model::Words) {
-        value = static_cast<unsigned char>(value == 1 ? 2 : 1);
-    }
+    static void To(unsigned char& value, model::Words) { value = static_cast<unsigned char>(value == 1 ? 2 : 1); }
     static void To(std::int32_t& value, model::Words words) {
         if (words.empty()) {
             value += value >= 100 ? 20 : value >= 30 ? 40 : 3;
@@ -42,8 +40,7 @@ class Change {
     }
     static void To(double& value, model::Words) { value = value * 1.5 + 1; }
     static void To(CChartString& value, model::Words) {
-        value = std::string_view(value.data(), value.size()).ends_with(".ttc") ? "LiberationSerif-Bold.ttf"
-                                                                               : "Other";
+        value = std::string_view(value.data(), value.size()).ends_with(".ttc") ? "LiberationSerif-Bold.ttf" : "Other";
     }
     static void To(CChartColor& value, model::Words) {
         value.m_color = value.m_color == 0xa05a2c ? 0x2ca05a : 0xa05a2c;
@@ -158,8 +155,8 @@ TEST(Effects, OfEachValueOfALinearMeter) {
     zone.m_text = "Zone";
     meter.m_zones.push_back(zone);
     EXPECT_THAT(effects(view, meter, meter, DrawLinearMeter).without,
-                testing::ElementsAre("labelStyle.font.faceName", "texts[0].font.faceName",
-                                     "zones[0].alignment", "zones[0].font.faceName"));
+                testing::ElementsAre("labelStyle.font.faceName", "texts[0].font.faceName", "zones[0].alignment",
+                                     "zones[0].font.faceName"));
 }
 
 TEST(Effects, OfEachValueOfAPolarChart) {
@@ -167,8 +164,7 @@ TEST(Effects, OfEachValueOfAPolarChart) {
     view.m_ownLayout.SetChartSize(kSize, kSize);
     view.m_polarChart = &view.m_ownPolarChart;
     CPolarChart& chart = view.m_ownPolarChart;
-    chart.m_useLinearScale = chart.m_useAltBgColor = chart.m_useAngularLabelStyle =
-        chart.m_useRadialLabelStyle = true;
+    chart.m_useLinearScale = chart.m_useAltBgColor = chart.m_useAngularLabelStyle = chart.m_useRadialLabelStyle = true;
     chart.m_minorTickInc = 10;
     chart.m_edgeColor = General(0);
     chart.m_bgColor1 = General(0x80dddddd);
@@ -193,12 +189,11 @@ TEST(Effects, OfEachValueOfAPolarChart) {
     chart.m_showAngularLabels = chart.m_useAltBgColor = false;
     const Effects others = effects(view, chart, chart, DrawPolarChart);
     Paths without;
-    std::set_intersection(some.without.begin(), some.without.end(), others.without.begin(),
-                          others.without.end(), std::inserter(without, without.end()));
-    EXPECT_THAT(without,
-                testing::ElementsAre("angularLabelStyle.alignment", "angularLabelStyle.font.faceName",
-                                     "layers[1].symbolSize", // its symbols have sizes of their own
-                                     "radialLabelStyle.font.faceName", "radialZones[0].edgeColor.color"));
+    std::set_intersection(some.without.begin(), some.without.end(), others.without.begin(), others.without.end(),
+                          std::inserter(without, without.end()));
+    EXPECT_THAT(without, testing::ElementsAre("angularLabelStyle.alignment", "angularLabelStyle.font.faceName",
+                                              "layers[1].symbolSize", // its symbols have sizes of their own
+                                              "radialLabelStyle.font.faceName", "radialZones[0].edgeColor.color"));
 }
 
 /// An axis with all that can stand at one.

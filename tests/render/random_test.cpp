@@ -15,9 +15,7 @@
 
 namespace {
 
-int rounds() {
-    return std::max(80, qEnvironmentVariableIntValue("CHART_RANDOM_MODELS"));
-}
+int rounds() { return std::max(80, qEnvironmentVariableIntValue("CHART_RANDOM_MODELS")); }
 
 template <class Model>
 void draw(void (*routine)(CChartPreview&), Model CChartPreview::*own, bool ofTheLayoutsSize = true) {

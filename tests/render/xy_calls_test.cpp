@@ -519,8 +519,7 @@ CLayer_setUseYAxis(Layer#1, Axis#4)
          view.m_singleLayerMode = true;
          view.m_previewLayer = &add<CXYLineLayer>(chart, 1, "");
      },
-     "\nCLegendBox_addKey(LegendBox#1, \"Legend\", -1, 0, null)\n",
-     "CXYChart_addBarLayer2 CAxis_setLinearScale"},
+     "\nCLegendBox_addKey(LegendBox#1, \"Legend\", -1, 0, null)\n", "CXYChart_addBarLayer2 CAxis_setLinearScale"},
 };
 
 constexpr auto kName = [](const auto& test) { return test.param.name; };

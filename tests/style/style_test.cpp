@@ -11,9 +11,7 @@
 
 namespace {
 
-std::string Text(const CChartStyleText& text) {
-    return {text.Data(), text.Size()};
-}
+std::string Text(const CChartStyleText& text) { return {text.Data(), text.Size()}; }
 
 template <class Chart>
 ChartStyleResult Read(const std::string& text, Chart& chart, CChartLayout* layout = nullptr,
@@ -54,8 +52,8 @@ TYPED_TEST(RoundTrip, GivesEveryFieldBack) {
         ASSERT_EQ(Read(Write(chart, &layout), other, &otherLayout, &report), ChartStyleResult::Ok) << report;
         ASSERT_EQ(report, "");
         const auto differences = model::Differences(chart, other);
-        ASSERT_TRUE(differences.empty())
-            << seed << ' ' << differences[0].path << ' ' << differences[0].from << ' ' << differences[0].to;
+        ASSERT_TRUE(differences.empty()) << seed << ' ' << differences[0].path << ' ' << differences[0].from << ' '
+                                         << differences[0].to;
         ASSERT_TRUE(model::Differences(layout, otherLayout).empty()) << seed;
     }
 }
@@ -107,8 +105,7 @@ TEST(Style, ReportsWhatItDoesNotKnowAndKeepsItInAMerge) {
 }
 
 TEST(Style, ChangesNothingWhereAnythingIsWrong) {
-    const std::string deep =
-        R"({"chartStyle":1,"kind":"pie","x":)" + std::string(40, '[') + std::string(40, ']') + '}';
+    const std::string deep = R"({"chartStyle":1,"kind":"pie","x":)" + std::string(40, '[') + std::string(40, ']') + '}';
     std::string items;
     for (int i = 0; i <= 10000; ++i)
         items += i ? ",{}" : "{}";

@@ -95,10 +95,8 @@ TEST_F(ColorDlg, ComposesTypedNumbers) {
         std::uint32_t color;
     };
     const Case cases[] = {
-        {"10", "20", "30", "254", 0xFE0A141E},
-        {"10", "20", "30", "255", 0xFF000000}, // fully transparent has one form
-        {"10", "20", "30", "999", 0xFF000000},
-        {"300", "256", "255", "0", 0x00FFFFFF},
+        {"10", "20", "30", "254", 0xFE0A141E}, {"10", "20", "30", "255", 0xFF000000}, // fully transparent has one form
+        {"10", "20", "30", "999", 0xFF000000}, {"300", "256", "255", "0", 0x00FFFFFF},
         {"0", "0", "-1", "0", 0xFFFFFFFF}, // numbers are not limited from below
     };
     RunModal(m_dialog, [&] {
@@ -312,10 +310,9 @@ TEST_F(ColorDlg, TellsColoursInWords) {
         std::uint32_t color;
         const char* text;
     };
-    for (const Case& c :
-         {Case{0, 0x002F5D8A, "#2F5D8A, opaque"}, Case{0, 0x802F5D8A, "#2F5D8A, 50 % transparent"},
-          Case{0, 0xFF000000, "transparent"}, Case{2, 0x000102, "Metal #000102, opaque, 90 degrees"},
-          Case{1, 0, "Pattern: brick.png"}}) {
+    for (const Case& c : {Case{0, 0x002F5D8A, "#2F5D8A, opaque"}, Case{0, 0x802F5D8A, "#2F5D8A, 50 % transparent"},
+                          Case{0, 0xFF000000, "transparent"}, Case{2, 0x000102, "Metal #000102, opaque, 90 degrees"},
+                          Case{1, 0, "Pattern: brick.png"}}) {
         CChartColor color;
         color.m_type = c.type;
         color.m_color = c.color;

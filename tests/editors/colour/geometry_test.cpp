@@ -43,8 +43,7 @@ TEST(GridGeometry, HitsCellsButNoGaps) {
 }
 
 TEST(SpectrumGeometry, KeepsToTheScalesAtAnySize) {
-    for (const QSize size :
-         {QSize(0, 0), QSize(36, 15), QSize(37, 16), QSize(35, 14), QSize(1, 300), QSize(150, 90)}) {
+    for (const QSize size : {QSize(0, 0), QSize(36, 15), QSize(37, 16), QSize(35, 14), QSize(1, 300), QSize(150, 90)}) {
         const SpectrumGeometry geometry(size);
         for (int at = -20; at < 320; ++at) {
             EXPECT_TRUE(geometry.HueAt(at) >= 0 && geometry.HueAt(at) <= 239);

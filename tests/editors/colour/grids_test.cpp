@@ -40,12 +40,8 @@ protected:
     static QPoint Place(GridShape shape, int index, const QWidget& grid) {
         return shape.CellRect(index, grid.size()).center();
     }
-    void ClickPalette(int index) {
-        QTest::mouseClick(&m_palette, Qt::LeftButton, {}, Place({8, 5}, index, m_palette));
-    }
-    void ClickCustom(int index) {
-        QTest::mouseClick(&m_custom, Qt::LeftButton, {}, Place({3, 6}, index, m_custom));
-    }
+    void ClickPalette(int index) { QTest::mouseClick(&m_palette, Qt::LeftButton, {}, Place({8, 5}, index, m_palette)); }
+    void ClickCustom(int index) { QTest::mouseClick(&m_custom, Qt::LeftButton, {}, Place({3, 6}, index, m_custom)); }
     using Keys = std::vector<int>;
 
     MessageLog m_log;
@@ -121,8 +117,7 @@ TEST_F(Grids, ShowSwatchesAndFrames) {
     EXPECT_EQ(image.pixel(cell(8).topLeft() - QPoint(2, 2)), 0xFF3F3F3F);
     EXPECT_EQ(image.pixel(cell(8).bottomRight() + QPoint(2, 2)), 0xFF3F3F3F);
     EXPECT_EQ(image.pixel(cell(20).topLeft() - QPoint(2, 2)), 0xFFA0A0A0);
-    EXPECT_EQ(image.pixel(cell(0).topLeft() - QPoint(2, 2)),
-              m_palette.palette().color(QPalette::Button).rgb());
+    EXPECT_EQ(image.pixel(cell(0).topLeft() - QPoint(2, 2)), m_palette.palette().color(QPalette::Button).rgb());
 
     // Half transparent red over the white and the black squares of the board.
     m_palette.SetPalette(2);

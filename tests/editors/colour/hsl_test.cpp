@@ -53,8 +53,8 @@ TEST(Hsl, ComesBackOverTheWholeCube) {
         for (int green = 0; green < 256; green += 5) {
             for (int blue = 0; blue < 256; blue += 5) {
                 const Hsl hsl = HslOf(Rgb(red, green, blue));
-                ASSERT_TRUE(hsl.hue >= 0 && hsl.hue <= 239 && hsl.sat >= 0 && hsl.sat <= 240 &&
-                            hsl.lum >= 0 && hsl.lum <= 240);
+                ASSERT_TRUE(hsl.hue >= 0 && hsl.hue <= 239 && hsl.sat >= 0 && hsl.sat <= 240 && hsl.lum >= 0 &&
+                            hsl.lum <= 240);
                 const std::uint32_t back = RgbOf(hsl.hue, hsl.sat, hsl.lum);
                 ASSERT_LE(back, 0xFFFFFFU);
                 ASSERT_LE(std::abs(RedOf(back) - red), 4) << red << ' ' << green << ' ' << blue;

@@ -43,13 +43,13 @@ TEST_F(ImageFileDlg, OffersTheKindsOfImages) {
         const char* shown;
         const char* patterns;
     };
-    const Kind kinds[] = {{"All Image Files (*.png;*.jpeg;*.jpg;*.gif;*.wbmp;*.wmp)",
-                           " (*.png *.jpeg *.jpg *.gif *.wbmp *.wmp)"},
-                          {"PNG (*.png)", " (*.png)"},
-                          {"JPEG (*.jpeg;*.jpg)", " (*.jpeg *jpg)"},
-                          {"GIF (*.gif)", " (*.gif)"},
-                          {"WMP (*.wbmp;*.wmp)", " (*.wbmp *wmp)"},
-                          {"All Files (*.*)", " (*)"}};
+    const Kind kinds[] = {
+        {"All Image Files (*.png;*.jpeg;*.jpg;*.gif;*.wbmp;*.wmp)", " (*.png *.jpeg *.jpg *.gif *.wbmp *.wmp)"},
+        {"PNG (*.png)", " (*.png)"},
+        {"JPEG (*.jpeg;*.jpg)", " (*.jpeg *jpg)"},
+        {"GIF (*.gif)", " (*.gif)"},
+        {"WMP (*.wbmp;*.wmp)", " (*.wbmp *wmp)"},
+        {"All Files (*.*)", " (*)"}};
     const QStringList filters = m_dialog.nameFilters();
     ASSERT_EQ(filters.size(), std::ssize(kinds));
     for (int i = 0; i < filters.size(); ++i)
@@ -77,8 +77,7 @@ TEST_F(ImageFileDlg, ShowsTheFileThatIsSelected) {
             for (int row = 0; row < 3; ++row) {
                 const QModelIndex index = files->model()->index(row, 0, files->rootIndex());
                 if (index.data().toString() == name)
-                    QTest::mouseClick(files->viewport(), Qt::LeftButton, {},
-                                      files->visualRect(index).center());
+                    QTest::mouseClick(files->viewport(), Qt::LeftButton, {}, files->visualRect(index).center());
             }
             return Preview()->grab().toImage().pixelColor(Preview()->rect().center());
         };

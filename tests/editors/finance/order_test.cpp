@@ -6,9 +6,7 @@ using namespace driver;
 
 namespace {
 
-std::vector<int> OrderOf(const CFinanceChart& chart) {
-    return {std::begin(chart.m_order), std::end(chart.m_order)};
-}
+std::vector<int> OrderOf(const CFinanceChart& chart) { return {std::begin(chart.m_order), std::end(chart.m_order)}; }
 
 /// The editor with its order list.
 struct Order {

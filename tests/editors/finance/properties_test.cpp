@@ -9,9 +9,9 @@ namespace {
 /// A chart that shows every property.
 CFinanceChart StartChart() {
     CFinanceChart chart;
-    for (bool* show : {&chart.m_showSma, &chart.m_showBollingerBand, &chart.m_showVolBars,
-                       &chart.m_showCandleStick, &chart.m_showDonchianChannel, &chart.m_showRsi,
-                       &chart.m_showMomentum, &chart.m_showSlowStochastic, &chart.m_showMacd})
+    for (bool* show : {&chart.m_showSma, &chart.m_showBollingerBand, &chart.m_showVolBars, &chart.m_showCandleStick,
+                       &chart.m_showDonchianChannel, &chart.m_showRsi, &chart.m_showMomentum,
+                       &chart.m_showSlowStochastic, &chart.m_showMacd})
         *show = true;
     chart.m_rsiRange = 10;
     return chart;
@@ -86,6 +86,6 @@ TEST(FinanceEditor, EachControlReachesItsField) {
 }
 
 TEST(FinanceEditor, KeepsItsManners) {
-    TestEditor("FinanceChart", {"MainChart", "RSI", "Momentum", "SlowStochastic", "MACD"}, StartChart(),
-               CChartLayout(), kTable);
+    TestEditor("FinanceChart", {"MainChart", "RSI", "Momentum", "SlowStochastic", "MACD"}, StartChart(), CChartLayout(),
+               kTable);
 }

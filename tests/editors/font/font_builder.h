@@ -18,9 +18,7 @@ struct NameRecord {
 inline QByteArray Number16(unsigned number) {
     return QByteArray(1, static_cast<char>(number >> 8)) + QByteArray(1, static_cast<char>(number));
 }
-inline QByteArray Number32(unsigned number) {
-    return Number16(number >> 16) + Number16(number);
-}
+inline QByteArray Number32(unsigned number) { return Number16(number >> 16) + Number16(number); }
 
 inline QByteArray NameTable(const std::vector<NameRecord>& records) {
     QByteArray table = Number16(0) + Number16(static_cast<unsigned>(records.size())) +
@@ -32,8 +30,7 @@ inline QByteArray NameTable(const std::vector<NameRecord>& records) {
             text += Number16(unit.unicode());
         for (const int field : {record.platform, record.encoding, record.language, record.nameId})
             table += Number16(static_cast<unsigned>(field));
-        table +=
-            Number16(static_cast<unsigned>(text.size())) + Number16(static_cast<unsigned>(storage.size()));
+        table += Number16(static_cast<unsigned>(text.size())) + Number16(static_cast<unsigned>(storage.size()));
         storage += text;
     }
     return table + storage;
@@ -43,8 +40,8 @@ inline QByteArray NameTable(const std::vector<NameRecord>& records) {
 /// a file.
 inline QByteArray FontAt(qsizetype place, const QByteArray& nameTable, unsigned version = 0x00010000) {
     const auto tables = static_cast<unsigned>(place) + 12 + 2 * 16;
-    return Number32(version) + Number16(2) + QByteArray(6, '\0') + QByteArray("glyf") + Number32(0) +
-           Number32(tables) + Number32(4) + QByteArray("name") + Number32(0) + Number32(tables + 4) +
+    return Number32(version) + Number16(2) + QByteArray(6, '\0') + QByteArray("glyf") + Number32(0) + Number32(tables) +
+           Number32(4) + QByteArray("name") + Number32(0) + Number32(tables + 4) +
            Number32(static_cast<unsigned>(nameTable.size())) + QByteArray("GLYF") + nameTable;
 }
 
@@ -61,9 +58,7 @@ inline QByteArray Collection(const std::vector<QByteArray>& fonts) {
         bodies.resize((bodies.size() + 3) / 4 * 4);
         const auto place = static_cast<unsigned>(12 + 4 * count + bodies.size());
         header += Number32(place);
-        const auto byte = [&](qsizetype at) {
-            return static_cast<unsigned>(static_cast<unsigned char>(font[at]));
-        };
+        const auto byte = [&](qsizetype at) { return static_cast<unsigned>(static_cast<unsigned char>(font[at])); };
         const unsigned tables = byte(4) << 8 | byte(5);
         for (unsigned i = 0; i < tables; ++i) {
             const qsizetype at = 12 + 16 * i + 8;

@@ -48,19 +48,16 @@ protected:
     }
     static void ClickRow(QListWidget* list, int row) {
         list->scrollToItem(list->item(row));
-        QTest::mouseClick(list->viewport(), Qt::LeftButton, {},
-                          list->visualItemRect(list->item(row)).center());
+        QTest::mouseClick(list->viewport(), Qt::LeftButton, {}, list->visualItemRect(list->item(row)).center());
     }
     static void Enter(QWidget* edit) { QTest::keyClick(edit, Qt::Key_Return); }
     /// What the dialog holds and what it shows, which is to be the same.
     std::string Font() {
         const auto text = [](const CChartFont& font) {
-            return QString::asprintf("%s, %s, %g", font.m_faceName.data(), font.m_fileName.data(),
-                                     font.m_size)
+            return QString::asprintf("%s, %s, %g", font.m_faceName.data(), font.m_fileName.data(), font.m_size)
                 .toStdString();
         };
-        EXPECT_EQ(text(m_dialog.findChild<CChartPreviewView*>("Sample")->m_sampleFont),
-                  text(m_dialog.m_font));
+        EXPECT_EQ(text(m_dialog.findChild<CChartPreviewView*>("Sample")->m_sampleFont), text(m_dialog.m_font));
         return text(m_dialog.m_font);
     }
 

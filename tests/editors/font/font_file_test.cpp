@@ -79,9 +79,7 @@ TEST_F(FontFile, TakesTheNameInTheRightLanguage) {
         {{}, {}, {}, {}},
     };
     for (std::size_t i = 0; i < std::size(cases); ++i) {
-        const auto expect = [](const QString& name) {
-            return name.isNull() ? "0" : "1 " + name.toStdString();
-        };
+        const auto expect = [](const QString& name) { return name.isNull() ? "0" : "1 " + name.toStdString(); };
         const QByteArray font = Font(cases[i].records);
         {
             const Environment locale("LC_ALL", "ko_KR.UTF-8");
@@ -131,9 +129,8 @@ TEST_F(FontFile, RefusesWhatIsNoTrueType) {
 }
 
 TEST_F(FontFile, ReadsEachFaceOfACollection) {
-    const QByteArray collection =
-        Collection({Font({{.text = "One"}}), Font({{.text = "Two"}}), Font({{.text = "Three"}}, 0x4F54544F),
-                    Font({{.text = "Four"}})});
+    const QByteArray collection = Collection({Font({{.text = "One"}}), Font({{.text = "Two"}}),
+                                              Font({{.text = "Three"}}, 0x4F54544F), Font({{.text = "Four"}})});
     EXPECT_EQ(Read(collection, 0), "4 One");
     EXPECT_EQ(Read(collection, 1), "4 Two");
     EXPECT_EQ(Read(collection, 2), "0");
@@ -154,8 +151,7 @@ TEST_F(FontFile, ChecksEveryOffset) {
         for (qsizetype length = 0; length < whole.size(); ++length)
             EXPECT_EQ(Read(whole.left(length)), length < enough ? "0" : name) << length;
         for (qsizetype at = 0; at + 4 <= whole.size(); at += 2) {
-            for (const unsigned number :
-                 {0xFFFFFFFFU, 0x7FFFFFFFU, 0xFFFF0000U, static_cast<unsigned>(whole.size())}) {
+            for (const unsigned number : {0xFFFFFFFFU, 0x7FFFFFFFU, 0xFFFF0000U, static_cast<unsigned>(whole.size())}) {
                 Read(QByteArray(whole).replace(at, 4, Number32(number)));
                 Read(QByteArray(whole).replace(at, 2, Number16(number & 0xFFFF)), 1);
             }

@@ -23,9 +23,7 @@ protected:
     static void ScreenReader(QWidget& control, const QString& action) {
         QAccessible::queryAccessibleInterface(&control)->actionInterface()->doAction(action);
     }
-    static bool BoxIsOpen() {
-        return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr;
-    }
+    static bool BoxIsOpen() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()) != nullptr; }
 
     static constexpr const char* kComplaint = "\"X\" must be a whole number.";
 };
@@ -36,9 +34,9 @@ TEST_F(Commits, APressThatMakesAnEditComplainDoesNothingElse) {
     auto& add = person.Find<QPushButton>("Add");
     auto& show = person.Find<QCheckBox>("Show Title");
     const bool shown = show.isChecked();
-    for (QWidget* pressed : {static_cast<QWidget*>(&angle), static_cast<QWidget*>(&add),
-                             static_cast<QWidget*>(&show), static_cast<QWidget*>(editor.m_tabs.tabBar()),
-                             static_cast<QWidget*>(&person.Find<QComboBox>("Alignment"))}) {
+    for (QWidget* pressed :
+         {static_cast<QWidget*>(&angle), static_cast<QWidget*>(&add), static_cast<QWidget*>(&show),
+          static_cast<QWidget*>(editor.m_tabs.tabBar()), static_cast<QWidget*>(&person.Find<QComboBox>("Alignment"))}) {
         SCOPED_TRACE(pressed->objectName().toStdString());
         const QPoint at(pressed == &angle ? angle.width() - 8 : 8, pressed->height() / 4);
         person.Type("X", "x");

@@ -23,8 +23,7 @@ TEST_F(Dialogs, OpenOnTheFirstPageWithTheFocusOnTheDialog) {
 TEST_F(Dialogs, ATabShowsItsPageAndKeepsTheOthers) {
     Open();
     person.Type("Free", "12");
-    QTest::mouseClick(editor.m_tabs.tabBar(), Qt::LeftButton, {},
-                      editor.m_tabs.tabBar()->tabRect(1).center());
+    QTest::mouseClick(editor.m_tabs.tabBar(), Qt::LeftButton, {}, editor.m_tabs.tabBar()->tabRect(1).center());
     EXPECT_EQ(values.m_free, 12); // left, and so committed
     EXPECT_TRUE(editor.m_itemsPage.isVisible());
     EXPECT_FALSE(editor.m_valuesPage.isVisible());
@@ -147,8 +146,7 @@ TEST_F(Dialogs, WithoutPagesEnterInAnEditCommitsAndElsewhereIsOk) {
     EXPECT_EQ(dialog.DoModal(), CDialog::kOK);
     EXPECT_EQ(dialog.m_free, 6);
 
-    QTimer::singleShot(0, &dialog,
-                       [&] { QTest::keyClick(dialog.findChild<QWidget*>("Free"), Qt::Key_Escape); });
+    QTimer::singleShot(0, &dialog, [&] { QTest::keyClick(dialog.findChild<QWidget*>("Free"), Qt::Key_Escape); });
     EXPECT_EQ(dialog.DoModal(), CDialog::kCancel);
 }
 

@@ -42,8 +42,7 @@ protected:
     }
     QString TextIn(const char* field) {
         QStringList texts;
-        for (const QLabel* label :
-             page.findChild<CDialog*>(QString::fromUtf8(field))->findChildren<QLabel*>())
+        for (const QLabel* label : page.findChild<CDialog*>(QString::fromUtf8(field))->findChildren<QLabel*>())
             if (!label->isHidden())
                 texts << label->text();
         return texts.join(u' ').remove(u'&');
@@ -149,8 +148,7 @@ TEST_F(Fields, AFontShowsItsNameAndSize) {
 TEST_F(Fields, AColourNamesItsKindAndKeepsTheLastNameForOthers) {
     OpenPage();
     EXPECT_EQ(TextIn("Color"), "(ARGB)");
-    const std::pair<int, const char*> kinds[] = {
-        {2, "(Metal)"}, {1, "(Pattern)"}, {9, "(Pattern)"}, {0, "(ARGB)"}};
+    const std::pair<int, const char*> kinds[] = {{2, "(Metal)"}, {1, "(Pattern)"}, {9, "(Pattern)"}, {0, "(ARGB)"}};
     for (const auto& [type, text] : kinds) {
         page.m_color.m_type = type;
         page.Load();

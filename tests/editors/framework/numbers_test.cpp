@@ -121,8 +121,7 @@ TEST_F(Numbers, WhatNobodyChangedStaysAsItIs) {
     Open();
     EXPECT_EQ(person.TextOf("Real"), "1.23");
     EXPECT_EQ(person.TextOf("Percent"), "100");
-    for (const char* edit :
-         {"Floored", "Free", "Percent", "Real", "Whole", "Share", "Quiet", "Text", "Label"}) {
+    for (const char* edit : {"Floored", "Free", "Percent", "Real", "Whole", "Share", "Quiet", "Text", "Label"}) {
         person.Find(edit).setFocus();
         person.Leave();
     }
@@ -160,13 +159,12 @@ TEST_F(Numbers, QuietOnesAreStoredOnLeavingAndToldByEnter) {
 
 TEST_F(Numbers, TextThatIsNoNumberIsRefusedOnce) {
     Open();
-    for (const auto& [edit, text, wants] :
-         {std::tuple{"Floored", "12x", "\"Floored\" must be a whole number."},
-          std::tuple{"Floored", "1.5", "\"Floored\" must be a whole number."},
-          std::tuple{"Free", "9999999999", "\"Free\" must be a whole number."},
-          std::tuple{"Percent", "", "\"Percent\" must be a whole number."},
-          std::tuple{"Real", "abc", "\"Real\" must be a number."},
-          std::tuple{"Whole", "inf", "\"Whole\" must be a number."}}) {
+    for (const auto& [edit, text, wants] : {std::tuple{"Floored", "12x", "\"Floored\" must be a whole number."},
+                                            std::tuple{"Floored", "1.5", "\"Floored\" must be a whole number."},
+                                            std::tuple{"Free", "9999999999", "\"Free\" must be a whole number."},
+                                            std::tuple{"Percent", "", "\"Percent\" must be a whole number."},
+                                            std::tuple{"Real", "abc", "\"Real\" must be a number."},
+                                            std::tuple{"Whole", "inf", "\"Whole\" must be a number."}}) {
         SCOPED_TRACE(testing::Message() << edit << ' ' << text);
         const double before = StoredIn(values, edit);
         const QString shown = person.TextOf(edit);

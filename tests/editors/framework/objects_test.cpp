@@ -19,28 +19,23 @@ class CObjectsDialog : public CDialog {
 public:
     CObjectsDialog() : CDialog(QStringLiteral("Objects")), m_form(*this, [this] { ++m_told; }) {
         m_form.Group("Object:");
-        m_list =
-            &m_form.Objects({.count = [this] { return static_cast<int>(m_names.size()); },
-                             .caption = [this](int row) { return m_names[row]; },
-                             .add = [this] { return Take(m_names.size()); },
-                             .erase = [this](int row) { m_names.removeAt(row); },
-                             .modify = [this](int row) { return Take(row); },
-                             .copy = [this](int row) { m_names.append(m_names[row]); },
-                             .exchange = [this](int row, int other) { m_names.swapItemsAt(row, other); }},
-                            "Select anyone.");
+        m_list = &m_form.Objects({.count = [this] { return static_cast<int>(m_names.size()); },
+                                  .caption = [this](int row) { return m_names[row]; },
+                                  .add = [this] { return Take(m_names.size()); },
+                                  .erase = [this](int row) { m_names.removeAt(row); },
+                                  .modify = [this](int row) { return Take(row); },
+                                  .copy = [this](int row) { m_names.append(m_names[row]); },
+                                  .exchange = [this](int row, int other) { m_names.swapItemsAt(row, other); }},
+                                 "Select anyone.");
         m_form.Column();
-        m_form.Combo("Row:", m_row, {}).RowsFrom([this] { return m_names; }).EnabledIf([this] {
-            return m_live;
-        });
+        m_form.Combo("Row:", m_row, {}).RowsFrom([this] { return m_names; }).EnabledIf([this] { return m_live; });
         m_form.Radio("Side:", m_side, {{"L", 1}, {"R", 2}, {"T", 3}}).States([this](int code) {
             return code == 2 ? CRadioRow::GreyAndOff : m_live ? CRadioRow::Live : CRadioRow::Grey;
         });
         m_form.Check("Live", m_live);
         m_form.Date("Day:", m_day);
         m_form.Integer("Wait:", m_wait).Unit("(days)");
-        m_form.Combo("Which:", m_which, {"first", "second", "none"}).Then([this] {
-            m_form.LoadRows(&m_current);
-        });
+        m_form.Combo("Which:", m_which, {"first", "second", "none"}).Then([this] { m_form.LoadRows(&m_current); });
         m_form.Text("Name:", m_current[&Object::m_name]);
         m_form.Integer("Size:", m_current[&Object::m_size]);
     }

@@ -25,9 +25,7 @@ void WriteInto(QAbstractSpinBox& number, const QString& text) {
     RealHand::Write(text);
 }
 
-QMessageBox* OpenBox() {
-    return qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-}
+QMessageBox* OpenBox() { return qobject_cast<QMessageBox*>(QApplication::activeModalWidget()); }
 
 TEST(Hands, APressThatMeetsABadTextDoesNothingAndRunsNowhere) {
     CPieChart pie = PieOf({"a", "b"});

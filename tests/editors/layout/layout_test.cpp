@@ -101,14 +101,12 @@ const std::pair<ChartType, Properties> kPlotAreas[] = {
     {Polar, CircleRows("PolarChart:", "polarPlotArea", "Center X:", "Center Y:")},
     {Angular,
      CircleRows("Angular Meter:", "angularPlotArea", "CenterX:", "CenterY:") +
-         Properties{
-             {"PlotArea", "Angular Meter:", "StartAngle:", "-45.5", "angularPlotArea.startAngle=-45.5", {10}},
-             // What is typed shows with the next change of anything else.
-             {"PlotArea", "Angular Meter:", "EndAngle:", "45.5", "angularPlotArea.endAngle=45.5", {10}}}},
-    {Linear,
-     RectangleRows("Linear Meter:", "linearPlotArea") +
-         Properties{{"PlotArea", "Linear Meter:", "AxisPos:", kSides, "linearPlotArea.axisPos=bottom"},
-                    {"PlotArea", "Linear Meter:", "Reverse", "", "linearPlotArea.reverse=true"}}},
+         Properties{{"PlotArea", "Angular Meter:", "StartAngle:", "-45.5", "angularPlotArea.startAngle=-45.5", {10}},
+                    // What is typed shows with the next change of anything else.
+                    {"PlotArea", "Angular Meter:", "EndAngle:", "45.5", "angularPlotArea.endAngle=45.5", {10}}}},
+    {Linear, RectangleRows("Linear Meter:", "linearPlotArea") +
+                 Properties{{"PlotArea", "Linear Meter:", "AxisPos:", kSides, "linearPlotArea.axisPos=bottom"},
+                            {"PlotArea", "Linear Meter:", "Reverse", "", "linearPlotArea.reverse=true"}}},
 };
 
 } // namespace
@@ -185,6 +183,6 @@ TEST(LayoutEditor, ReverseShowsUncheckedWhateverTheLayoutHolds) {
 }
 
 TEST(LayoutEditor, KeepsItsManners) {
-    TestEditor("ChartLayout", {"General", "Title", "DataLabel", "Legend", "PlotArea"}, StartLayout(Linear),
-               {}, kRows + kPlotAreas[Linear].second);
+    TestEditor("ChartLayout", {"General", "Title", "DataLabel", "Legend", "PlotArea"}, StartLayout(Linear), {},
+               kRows + kPlotAreas[Linear].second);
 }

@@ -47,8 +47,7 @@ TEST(Habits, AControlTellsWhatItsValueMeans) {
         {"Layer", "3D", "Z Gap", "Pixels from one layer to the next, 0 or more"},
         {"Axis>Primary|X Axis ...>Scale", "Auto Scale", "Zero Affinity",
          "How far 0 may be from the data for the scale to start there, 0 to 1; 1 always"},
-        {"Axis>Primary|X Axis ...>Tick", "Density", "MinorSpacing",
-         "Least pixels between ticks; 0 or -1 for none"},
+        {"Axis>Primary|X Axis ...>Tick", "Density", "MinorSpacing", "Least pixels between ticks; 0 or -1 for none"},
         {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>Scale", "SyncAxis", "X2",
          "The axis that this one follows, while its scale type is \"None\""},
     };

@@ -25,8 +25,7 @@ protected:
 private:
     QPalette m_usual;
 };
-INSTANTIATE_TEST_SUITE_P(Settings, Looks,
-                         testing::Values(Setting{8, false}, Setting{12, false}, Setting{9, true}));
+INSTANTIATE_TEST_SUITE_P(Settings, Looks, testing::Values(Setting{8, false}, Setting{12, false}, Setting{9, true}));
 
 TEST_P(Looks, OfEveryDialogAreWhole) {
     AtFont(
@@ -39,9 +38,8 @@ TEST_P(Looks, OfEveryDialogAreWhole) {
                     EXPECT_LE(window.width(), 1366);
                     EXPECT_LE(window.height(), 768 - 30);
                     const auto* preview = window.findChild<QWidget*>(QStringLiteral("Preview"));
-                    if (dialog.own && preview != nullptr &&
-                        window.width() < 1350)                                // where the screen is not full
-                        EXPECT_GE(preview->width() * 3 + 20, window.width()); // its margins
+                    if (dialog.own && preview != nullptr && window.width() < 1350) // where the screen is not full
+                        EXPECT_GE(preview->width() * 3 + 20, window.width());      // its margins
                     OnEachPage(
                         person,
                         [&](const QString& tab) {

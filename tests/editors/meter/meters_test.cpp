@@ -82,8 +82,8 @@ Properties PointerRows(const char* fillLabel) {
         {"Pointer", "", "Value:", "33.25", "pointers[0].value=33.25"},
         {"Pointer", "", fillLabel, "Metal", "pointers[0].fillColor.type=metal"},
         {"Pointer", "", "EdgeColor:", "Metal", "pointers[0].edgeColor.type=metal"},
-        {"Pointer", "Shape:", "Type:",
-         "DiamondPointer|TriangularPointer|ArrowPointer|ArrowPointer2|LinePointer|PencilPointer",
+        {"Pointer",
+         "Shape:", "Type:", "DiamondPointer|TriangularPointer|ArrowPointer|ArrowPointer2|LinePointer|PencilPointer",
          "pointers[0].shape=pencil"},
         {"Pointer", "Shape:", "LengthRatio:", "0.6", "pointers[0].lengthRatio=0.6", {0.1}},
         {"Pointer", "Shape:", "WidthRatio:", "2.5", "pointers[0].widthRatio=2.5", {0.1}},
@@ -109,15 +109,14 @@ Properties LabelRows() {
            ColorRows("Label", "", "labelStyle.", {"backColor", "edgeColor"});
 }
 
-const Properties kAngularRows =
-    Properties{{"General", "LineWidth", "AxisWidth:", "6", "axisWidth=6", {1, 0}},
-               {"Ring", "", "StartRadius:", "111", "rings[0].startRadius=111", {10, 0}},
-               {"Ring", "", "EndRadius:", "199", "rings[0].endRadius=199", {10, 0}},
-               {"Zone", "", "StartValue:", "-5.5", "zones[0].startValue=-5.5", {10}},
-               {"Zone", "", "EndValue:", "77", "zones[0].endValue=77", {10}}} +
-    GeneralRows() + PointerRows("FillColor:") + TextRows() + LabelRows() +
-    ColorRows("Ring", "", "rings[0].", {"fillColor", "edgeColor"}) +
-    ColorRows("Zone", "", "zones[0].", {"fillColor", "edgeColor"});
+const Properties kAngularRows = Properties{{"General", "LineWidth", "AxisWidth:", "6", "axisWidth=6", {1, 0}},
+                                           {"Ring", "", "StartRadius:", "111", "rings[0].startRadius=111", {10, 0}},
+                                           {"Ring", "", "EndRadius:", "199", "rings[0].endRadius=199", {10, 0}},
+                                           {"Zone", "", "StartValue:", "-5.5", "zones[0].startValue=-5.5", {10}},
+                                           {"Zone", "", "EndValue:", "77", "zones[0].endValue=77", {10}}} +
+                                GeneralRows() + PointerRows("FillColor:") + TextRows() + LabelRows() +
+                                ColorRows("Ring", "", "rings[0].", {"fillColor", "edgeColor"}) +
+                                ColorRows("Zone", "", "zones[0].", {"fillColor", "edgeColor"});
 
 const Properties kLinearRows =
     Properties{{"Zone", "", "Text:", "hot", "zones[0].text=hot"},
@@ -149,8 +148,8 @@ TEST(LinearMeterEditor, EachControlReachesItsField) {
 }
 
 TEST(AngularMeterEditor, KeepsItsManners) {
-    TestEditor("AngularMeter", {"General", "Pointer", "Ring", "Zone", "Text", "Label"}, StartAngular(),
-               CChartLayout(), kAngularRows);
+    TestEditor("AngularMeter", {"General", "Pointer", "Ring", "Zone", "Text", "Label"}, StartAngular(), CChartLayout(),
+               kAngularRows);
 }
 
 TEST(LinearMeterEditor, KeepsItsManners) {

@@ -22,9 +22,7 @@ void Repeat(QWidget& control, int key, int times) {
     }
 }
 
-void UndoKey(const Person& person) {
-    QTest::keyClick(person.Window().focusWidget(), Qt::Key_Z, Qt::ControlModifier);
-}
+void UndoKey(const Person& person) { QTest::keyClick(person.Window().focusWidget(), Qt::Key_Z, Qt::ControlModifier); }
 
 std::string Tip(const Person& person, const char* button) {
     return StripButton(person.Window(), button).toolTip().toStdString();
@@ -73,8 +71,7 @@ TEST(PieStrip, AnArrowThatIsHeldIsOneStep) {
         EXPECT_GE(held.toInt(), 6);
         EXPECT_EQ(Tip(person, "Undo"), "Undo Depth: 1 to " + held.toStdString() + " (Ctrl+Z)");
         Repeat(depth, Qt::Key_Up, 1);
-        const std::string last =
-            "Depth: " + held.toStdString() + " to " + person.TextOf("Depth").toStdString();
+        const std::string last = "Depth: " + held.toStdString() + " to " + person.TextOf("Depth").toStdString();
         EXPECT_EQ(Tip(person, "Undo"), "Undo " + last + " (Ctrl+Z)");
         UndoKey(person);
         EXPECT_EQ(person.TextOf("Depth"), held);

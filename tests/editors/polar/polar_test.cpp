@@ -98,15 +98,14 @@ Properties PlainLetters(Properties rows) {
 }
 
 const Properties kLabelRows = PlainLetters(
-    Properties{
-        {"General", "", "BackColor:", "Metal", "backColor.type=metal"},
-        {"General", "AltBgColor:", "Ring", "", "altBgRing=true", {}, false},
-        {kAround, "", "Show Labels", "", "showAngularLabels=false"},
-        {kAround, "", "Text:", "West", "angularLabels[0]=West"},
-        {kAround, "", "Use LabelStyle", "", "useAngularLabelStyle=false"},
-        {kAround, "", "Alignment:", kAlignments, "angularLabelStyle.alignment=bottomRight2", {}, false},
-        {kAround, "Angle:", "", "33", "angularLabelStyle.angle=33", {10}},
-        {kAround, "Angle:", "Vertical", "", "angularLabelStyle.vertical=true"}} +
+    Properties{{"General", "", "BackColor:", "Metal", "backColor.type=metal"},
+               {"General", "AltBgColor:", "Ring", "", "altBgRing=true", {}, false},
+               {kAround, "", "Show Labels", "", "showAngularLabels=false"},
+               {kAround, "", "Text:", "West", "angularLabels[0]=West"},
+               {kAround, "", "Use LabelStyle", "", "useAngularLabelStyle=false"},
+               {kAround, "", "Alignment:", kAlignments, "angularLabelStyle.alignment=bottomRight2", {}, false},
+               {kAround, "Angle:", "", "33", "angularLabelStyle.angle=33", {10}},
+               {kAround, "Angle:", "Vertical", "", "angularLabelStyle.vertical=true"}} +
     LookRows(kAround, "angularLabelStyle.") +
     Properties{{kAlong, "", "Use LabelStyle", "", "useRadialLabelStyle=false"},
                {kAlong, "Font:", "", "31", "radialLabelStyle.font.size=31"},
@@ -125,8 +124,7 @@ TEST(PolarEditor, EachControlReachesItsField) {
 }
 
 TEST(PolarEditor, KeepsItsWordWhateverIsDone) {
-    TestEditor("PolarChart",
-               {"General", "Label (Angular)", "Label (Radial)", "Zone (Angular)", "Zone (Radial)"},
+    TestEditor("PolarChart", {"General", "Label (Angular)", "Label (Radial)", "Zone (Angular)", "Zone (Radial)"},
                StartPolar(true), CChartLayout(), kLabelRows);
 }
 
@@ -143,8 +141,7 @@ TEST(PolarEditor, ListsLayersByNumberKindAndName) {
                 layer.Ok();
             });
         person.In(person.Button("Layer:", "Add..."), [](Person& layer) { layer.Cancel(); });
-        EXPECT_EQ(person.Rows("Layer"),
-                  QStringList({"Layer 1 ( Line )", "Layer 2 ( SplineArea ) : (\"Fish\")"}));
+        EXPECT_EQ(person.Rows("Layer"), QStringList({"Layer 1 ( Line )", "Layer 2 ( SplineArea ) : (\"Fish\")"}));
         EXPECT_EQ(person.List("Layer").currentRow(), 1);
         person.Select("Layer", 0);
         person.Click(person.Button("Layer:", "Delete"));

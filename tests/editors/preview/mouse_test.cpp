@@ -18,18 +18,14 @@ void mouse(void (*act)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint,
     act(view.windowHandle(), button, {}, view.viewport()->pos() + place, -1);
 }
 
-void move(TestView& view, QPoint place) {
-    QTest::mouseMove(view.windowHandle(), view.viewport()->pos() + place);
-}
+void move(TestView& view, QPoint place) { QTest::mouseMove(view.windowHandle(), view.viewport()->pos() + place); }
 
 void doubleClick(TestView& view, Qt::MouseButton button = Qt::LeftButton) {
     mouse(QTest::mouseDClick, view, button, {20, 20});
     QTest::mouseRelease(view.windowHandle(), button); // ends the press that the double click leaves
 }
 
-QMenu* openMenu() {
-    return qobject_cast<QMenu*>(QApplication::activePopupWidget());
-}
+QMenu* openMenu() { return qobject_cast<QMenu*>(QApplication::activePopupWidget()); }
 
 QMenu* rightClick(TestView& view) {
     mouse(QTest::mousePress, view, Qt::RightButton, {20, 20});
@@ -76,8 +72,7 @@ TEST(Mouse, RightButtonOpensTheMenuOfModes) {
         EXPECT_EQ(scrollMode->text(), "&Scroll Mode");
         EXPECT_EQ(fitMode->isChecked(), fit);
         EXPECT_EQ(scrollMode->isChecked(), !fit);
-        QTest::mouseClick(menu, Qt::LeftButton, {},
-                          menu->actionGeometry(fit ? scrollMode : fitMode).center());
+        QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(fit ? scrollMode : fitMode).center());
         EXPECT_EQ(view.m_fitMode, !fit);
         QCoreApplication::processEvents();
     }

@@ -47,8 +47,7 @@ TEST(FitMode, PlacesThePictureInThePane) {
         // neighbours.
         for (const int part : {1, 3}) {
             const QPoint from(fit.picture.width() * part / 4, fit.picture.height() * part / 4);
-            const QPoint to =
-                fit.place.topLeft() + QPoint(fit.place.width() * part / 4, fit.place.height() * part / 4);
+            const QPoint to = fit.place.topLeft() + QPoint(fit.place.width() * part / 4, fit.place.height() * part / 4);
             const int reach = fit.picture.width() / fit.place.width() + 2;
             EXPECT_NEAR(qBlue(pane.pixel(to)), from.x() & 255, reach);
             EXPECT_NEAR(qGreen(pane.pixel(to)), from.y() & 255, reach);
@@ -77,11 +76,10 @@ TEST(ScrollMode, ShowsThePictureAtNaturalSize) {
         bool barAcross;
         bool barDown;
     };
-    for (const Case& scroll :
-         {Case{{100, 80}, false, false}, Case{{200, 150}, false, false}, Case{{201, 80}, true, false},
-          Case{{120, 151}, false, true}, Case{{201, 150}, true, true},
-          Case{{200, 151}, true, true}, // one bar takes room that
-          Case{{700, 600}, true, true}}) {
+    for (const Case& scroll : {Case{{100, 80}, false, false}, Case{{200, 150}, false, false},
+                               Case{{201, 80}, true, false}, Case{{120, 151}, false, true},
+                               Case{{201, 150}, true, true}, Case{{200, 151}, true, true}, // one bar takes room that
+                               Case{{700, 600}, true, true}}) {
         TestView view({200, 150}, scroll.picture);
         view.OnCommand(scrollModeCommand);
         QImage pane = view.Pane();
@@ -113,10 +111,10 @@ TEST(ScrollMode, KeepsItsPromisesWhenResized) {
     };
     const int bar = 150 - view.viewport()->height();
     const Step steps[] = {
-        {{100, 90}, {150, 120}},                          // smaller: stays
-        {{350, 90}, {400 - 350 + bar, 120}},              // wider: no further than the edge
-        {{350, 290}, {400 - 350 + bar, 300 - 290 + bar}}, // higher, too
-        {{400, 290}, {bar, 300 - 290 + bar}},             // the bar down takes room from the width
+        {{100, 90}, {150, 120}},                                         // smaller: stays
+        {{350, 90}, {400 - 350 + bar, 120}},                             // wider: no further than the edge
+        {{350, 290}, {400 - 350 + bar, 300 - 290 + bar}},                // higher, too
+        {{400, 290}, {bar, 300 - 290 + bar}},                            // the bar down takes room from the width
         {{410, 299}, {bar > 10 ? bar - 10 : 0, bar > 10 ? bar + 1 : 1}}, // and the bar across from the height
         {{400, 300}, {0, 0}},                                            // all of it: no bars
         {{500, 400}, {0, 0}},                                            // and surround
@@ -127,8 +125,7 @@ TEST(ScrollMode, KeepsItsPromisesWhenResized) {
         const QImage pane = view.Pane();
         EXPECT_EQ(view.Scroll(), step.scroll) << step.pane.width() << 'x' << step.pane.height();
         EXPECT_TRUE(showsNaturalSize(pane, step.scroll, picture));
-        EXPECT_EQ(view.ScrollRange(),
-                  QPoint(std::max(0, 400 - pane.width()), std::max(0, 300 - pane.height())));
+        EXPECT_EQ(view.ScrollRange(), QPoint(std::max(0, 400 - pane.width()), std::max(0, 300 - pane.height())));
     }
 }
 

@@ -54,9 +54,7 @@ TestView::TestView(QSize pane, QSize picture) {
     Pane();
 }
 
-void TestView::ResizePane(QSize pane) {
-    resize(pane + QSize(2, 2) * frameWidth());
-}
+void TestView::ResizePane(QSize pane) { resize(pane + QSize(2, 2) * frameWidth()); }
 
 QImage TestView::Pane() {
     QCoreApplication::processEvents();
@@ -65,13 +63,9 @@ QImage TestView::Pane() {
     return all.copy(QRect(viewport()->pos() * scale, viewport()->size() * scale));
 }
 
-QPoint TestView::Scroll() const {
-    return {horizontalScrollBar()->value(), verticalScrollBar()->value()};
-}
+QPoint TestView::Scroll() const { return {horizontalScrollBar()->value(), verticalScrollBar()->value()}; }
 
-QPoint TestView::ScrollRange() const {
-    return {horizontalScrollBar()->maximum(), verticalScrollBar()->maximum()};
-}
+QPoint TestView::ScrollRange() const { return {horizontalScrollBar()->maximum(), verticalScrollBar()->maximum()}; }
 
 QRect shownRect(const QImage& pane) {
     QRect shown;
@@ -89,8 +83,8 @@ testing::AssertionResult showsNaturalSize(const QImage& pane, QPoint origin, QSi
             const QPoint from = origin + QPoint(x, y);
             const QRgb expected = all.contains(from) ? codeAt(from.x(), from.y()) : kSurround;
             if (pane.pixel(x, y) != expected)
-                return testing::AssertionFailure() << std::hex << pane.pixel(x, y) << " instead of "
-                                                   << expected << std::dec << " at " << x << ',' << y;
+                return testing::AssertionFailure() << std::hex << pane.pixel(x, y) << " instead of " << expected
+                                                   << std::dec << " at " << x << ',' << y;
         }
     return testing::AssertionSuccess();
 }

@@ -98,8 +98,7 @@ void BuildAxes(const Person& person) {
     });
 }
 
-void AddLayer(const Person& person, const char* name, int kind,
-              const std::function<void(const Person&)>& more) {
+void AddLayer(const Person& person, const char* name, int kind, const std::function<void(const Person&)>& more) {
     person.In(
         person.Button("Layer", "Add..."),
         [&](const Person& layer) {
@@ -134,9 +133,8 @@ TEST(XYEditor, BuildsACombinedChart) {
         person.Give("Width", "2");
         BuildAxes(person);
         BuildLayers(person);
-        EXPECT_EQ(person.Rows("Layer"),
-                  QStringList({"Layer 1 ( Bar ) : (\"Sales\")", "Layer 2 ( Line ) : (\"Units\")",
-                               "Layer 3 ( CandleStick ) : (\"Price\")"}));
+        EXPECT_EQ(person.Rows("Layer"), QStringList({"Layer 1 ( Bar ) : (\"Sales\")", "Layer 2 ( Line ) : (\"Units\")",
+                                                     "Layer 3 ( CandleStick ) : (\"Price\")"}));
         KeepPicture(person, "built");
         person.Ok();
     }));

@@ -13,30 +13,28 @@ Properties GridRows(const char* group, const std::string& prefix) {
     for (const auto& [label, letter] : {std::pair("Horz", "H"), std::pair("Vert", "V")}) {
         const std::string field = prefix + letter + "Grid";
         rows.push_back({tab, group, label, "4", field + "Width=4", {1, 0}, false});
-        rows.push_back(
-            {tab, group, std::string(label) + " Color", "Metal", field + "Color.type=metal", {}, false});
+        rows.push_back({tab, group, std::string(label) + " Color", "Metal", field + "Color.type=metal", {}, false});
     }
     return rows;
 }
 
-const Properties kChartRows =
-    GridRows("Major Grid:", "major") + GridRows("Minor Grid:", "minor") +
-    Properties{
-        {"General", "Line:", "Width:", "4", "lineWidth=4", {1, 0}},
-        {"General", "Line:", "Line Color", "Metal", "lineColor.type=metal", {}, false},
-        {"Background", "", "Use Background", "", "useBackground=false", {}, false},
-        {"Background", "Type:", "4Q", "", "backgroundType=quarters", {}, false},
-        {"Background", "Type:", "Image", "", "backgroundType=image", {}, false},
-        {"Background", "Type:", "Image...", CHART_IMAGE, "backImage=" CHART_IMAGE, {}, false},
-        {"Axis", "", "Swap XY", "", "swapXY=true"},
-        {"Axis", "Secondary X Axis (X2)", "Use X2 Axis", "", "useX2Axis=true"},
-        {"Axis", "Secondary Y Axis (Y2)", "Use Y2 Axis", "", "useY2Axis=true"},
-        {"Layer", "3D:", "Show 3D", "", "show3D=true", {}, false},
-        {"Layer", "3D:", "Depth:", "12", "depth=12", {1, 0}, false},
-        {"Layer", "3D:", "Z Gap:", "3", "zGap=3", {1, 0}, false},
-        {"Layer", "Layer Y Axis:", "Y2", "", "layers[0].yAxisKind=y2", {}, false},
-    } +
-    ColorRows("Background", "Type:", "", {"backColor", "altColor", "edgeColor"});
+const Properties kChartRows = GridRows("Major Grid:", "major") + GridRows("Minor Grid:", "minor") +
+                              Properties{
+                                  {"General", "Line:", "Width:", "4", "lineWidth=4", {1, 0}},
+                                  {"General", "Line:", "Line Color", "Metal", "lineColor.type=metal", {}, false},
+                                  {"Background", "", "Use Background", "", "useBackground=false", {}, false},
+                                  {"Background", "Type:", "4Q", "", "backgroundType=quarters", {}, false},
+                                  {"Background", "Type:", "Image", "", "backgroundType=image", {}, false},
+                                  {"Background", "Type:", "Image...", CHART_IMAGE, "backImage=" CHART_IMAGE, {}, false},
+                                  {"Axis", "", "Swap XY", "", "swapXY=true"},
+                                  {"Axis", "Secondary X Axis (X2)", "Use X2 Axis", "", "useX2Axis=true"},
+                                  {"Axis", "Secondary Y Axis (Y2)", "Use Y2 Axis", "", "useY2Axis=true"},
+                                  {"Layer", "3D:", "Show 3D", "", "show3D=true", {}, false},
+                                  {"Layer", "3D:", "Depth:", "12", "depth=12", {1, 0}, false},
+                                  {"Layer", "3D:", "Z Gap:", "3", "zGap=3", {1, 0}, false},
+                                  {"Layer", "Layer Y Axis:", "Y2", "", "layers[0].yAxisKind=y2", {}, false},
+                              } +
+                              ColorRows("Background", "Type:", "", {"backColor", "altColor", "edgeColor"});
 
 /// What shows in a chart of four quarters, with a layer on the first of two additional axes.
 Properties OtherChartRows() {
@@ -132,15 +130,8 @@ Properties AxisRows() {
 /// What shows when the axis follows another additional one, and the kind of scale, which takes a label format
 /// with it.
 const Properties kFollowingRows = {
-    {"Axis>Additional|Modify...>Scale",
-     "SyncAxis:",
-     "Additional:",
-     "Axis 1|Axis 2",
-     "axes[0].syncAxis=1",
-     {},
-     false},
-    {"Axis>Additional|Modify...>Scale", "", "Scale Type:", "None|Auto Scale|Linear Scale|Date Scale",
-     "axes[0]"},
+    {"Axis>Additional|Modify...>Scale", "SyncAxis:", "Additional:", "Axis 1|Axis 2", "axes[0].syncAxis=1", {}, false},
+    {"Axis>Additional|Modify...>Scale", "", "Scale Type:", "None|Auto Scale|Linear Scale|Date Scale", "axes[0]"},
 };
 
 /// One property of each of the other axes, and what those that can follow another one have besides.
@@ -151,12 +142,7 @@ const Properties kNamedAxisRows = {
     {"Axis>Secondary X Axis (X2)|X2 Axis ...>Scale", "SyncAxis:", "Y", "", "x2Axis.syncKind=y"},
     {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>General", "", "Width:", "4", "y2Axis.width=4", {1, 0}},
     {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>Scale", "SyncAxis:", "X", "", "y2Axis.syncKind=x"},
-    {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>Scale",
-     "SyncAxis:",
-     "Slope:",
-     "2.5",
-     "y2Axis.syncSlope=2.5",
-     {0.1}},
+    {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>Scale", "SyncAxis:", "Slope:", "2.5", "y2Axis.syncSlope=2.5", {0.1}},
 };
 
 const char* const kSymbols =
@@ -164,8 +150,8 @@ const char* const kSymbols =
     "InvertedTriangleSymbol|CircleSymbol|CrossSymbol|Cross2Symbol";
 
 /// A row of the dialog of the first layer.
-Property Row(const char* group, const char* label, const char* give, const std::string& change,
-             Number number = {}, bool seen = true) {
+Property Row(const char* group, const char* label, const char* give, const std::string& change, Number number = {},
+             bool seen = true) {
     return {"Layer>Modify...", group, label, give, "layers[0]." + change, number, seen};
 }
 
@@ -186,22 +172,21 @@ Properties BorderEffectRows() {
 std::vector<KindOfLayer> LayerKinds() {
     return {
         {"Bar Layer",
-         Properties{
-             Row("Bar Layer", "Shape:",
-                 "NoShape|SquareShape|DiamondShape|TriangleShape|RightTriangleShape|LeftTriangleShape|"
-                 "InvertedTriangleShape|CircleShape|CircleShapeNoShading",
-                 "shape=flatCircle"),
-             Row("Bar Layer", "Combine Method:", "Overlay|Stack|Side|Percentage", "combineMethod=percentage"),
-             Row("Bar Layer", "Aggregate Label", "", "aggregateLabel=false", {}, false),
-             Row("Bar Layer", "Label For Each Seg", "", "labelForEachSeg=false", {}, false),
-             Row("Bar Layer", "Gap", "", "useOverlap=false"),
-             Row("Overlap:", "Ratio:", "0.75", "overlapRatio=0.75", {0.1}),
-             Row("Overlap:", "First On Top", "", "firstOnTop=false"),
-             Row("Gap:", "Bar Gap:", "0.35", "barGap=0.35", {0.1}, false),
-             Row("Gap:", "Sub Bar Gap:", "0.125", "subBarGap=0.13", {0.1}, false),
-             Row("Border:", "Use BorderColor", "", "useBorderColor=false"),
-             Row("Border:", "BorderColor", "Metal", "edgeColor.type=metal", {}, false),
-             Row("Color:", "DataSet", "Metal", "dataSetColors[0].type=metal")} +
+         Properties{Row("Bar Layer", "Shape:",
+                        "NoShape|SquareShape|DiamondShape|TriangleShape|RightTriangleShape|LeftTriangleShape|"
+                        "InvertedTriangleShape|CircleShape|CircleShapeNoShading",
+                        "shape=flatCircle"),
+                    Row("Bar Layer", "Combine Method:", "Overlay|Stack|Side|Percentage", "combineMethod=percentage"),
+                    Row("Bar Layer", "Aggregate Label", "", "aggregateLabel=false", {}, false),
+                    Row("Bar Layer", "Label For Each Seg", "", "labelForEachSeg=false", {}, false),
+                    Row("Bar Layer", "Gap", "", "useOverlap=false"),
+                    Row("Overlap:", "Ratio:", "0.75", "overlapRatio=0.75", {0.1}),
+                    Row("Overlap:", "First On Top", "", "firstOnTop=false"),
+                    Row("Gap:", "Bar Gap:", "0.35", "barGap=0.35", {0.1}, false),
+                    Row("Gap:", "Sub Bar Gap:", "0.125", "subBarGap=0.13", {0.1}, false),
+                    Row("Border:", "Use BorderColor", "", "useBorderColor=false"),
+                    Row("Border:", "BorderColor", "Metal", "edgeColor.type=metal", {}, false),
+                    Row("Color:", "DataSet", "Metal", "dataSetColors[0].type=metal")} +
              BorderEffectRows(),
          {Row("Bar Layer", "Overlap", "", "useOverlap=true")}},
         {"Line Layer",

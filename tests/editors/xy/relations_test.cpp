@@ -87,12 +87,8 @@ private:
                 return *button;
         throw std::runtime_error("no button " + text.toStdString());
     }
-    QAbstractButton& Button(const QString& group, const QString& text) const {
-        return Button(*m_window, group, text);
-    }
-    QListWidget& List(const QString& group) const {
-        return *Group(*m_window, group).findChild<QListWidget*>();
-    }
+    QAbstractButton& Button(const QString& group, const QString& text) const { return Button(*m_window, group, text); }
+    QListWidget& List(const QString& group) const { return *Group(*m_window, group).findChild<QListWidget*>(); }
     static void Choose(QComboBox& box, int row) {
         box.setCurrentIndex(row);
         emit box.activated(row);
@@ -304,8 +300,7 @@ void ExpectChart(const CXYChart& chart, const Plain& plain) {
     for (int i = 0; i < chart.m_axes.GetAxisCount(); ++i) {
         const CXYChartAxis& axis = *chart.m_axes.GetAxis(i);
         EXPECT_EQ(axis.m_offset, plain.axes[static_cast<std::size_t>(i)].id);
-        ExpectFollows(chart, plain, axis.m_syncKind, axis.m_syncAxis,
-                      plain.axes[static_cast<std::size_t>(i)].follows);
+        ExpectFollows(chart, plain, axis.m_syncKind, axis.m_syncAxis, plain.axes[static_cast<std::size_t>(i)].follows);
     }
     ASSERT_EQ(chart.m_layers.GetLayerCount(), std::ssize(plain.layers));
     for (int i = 0; i < chart.m_layers.GetLayerCount(); ++i) {

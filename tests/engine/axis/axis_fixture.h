@@ -71,6 +71,5 @@ inline AxisRequest ofRows(int count, int first = 0) {
 } // namespace chartdraw
 
 inline std::ostream& operator<<(std::ostream& out, const QRectF& rect) {
-    return out << "(" << rect.left() << ", " << rect.top() << ") to (" << rect.right() << ", "
-               << rect.bottom() << ")";
+    return out << "(" << rect.left() << ", " << rect.top() << ") to (" << rect.right() << ", " << rect.bottom() << ")";
 }

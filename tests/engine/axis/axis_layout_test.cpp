@@ -127,10 +127,8 @@ void expectReadable(const AxisLayout& layout, bool level) {
         EXPECT_FALSE(outline(layout.labels[i - 1]).intersects(outline(layout.labels[i])))
             << layout.labels[i - 1].text << " / " << layout.labels[i].text;
     }
-    for (const AxisLayout::Label& label : layout.labels) {
-        EXPECT_TRUE(!level || QRectF(layout.place.picture).contains(label.box()))
-            << label.text << ' ' << label.box();
-    }
+    for (const AxisLayout::Label& label : layout.labels)
+        EXPECT_TRUE(!level || QRectF(layout.place.picture).contains(label.box())) << label.text << ' ' << label.box();
 }
 
 TEST_F(AxisLayoutTest, LabelsNeverLieOverEachOtherNorLeaveThePicture) {
@@ -138,8 +136,7 @@ TEST_F(AxisLayoutTest, LabelsNeverLieOverEachOtherNorLeaveThePicture) {
         for (const int side : {BottomCenter, Left}) {
             for (const double size : {8.0, 12.0}) {
                 for (const double angle : {0.0, 20.0, 45.0, 90.0, -60.0}) {
-                    SCOPED_TRACE(testing::Message()
-                                 << crowd.name << ' ' << side << ' ' << size << ' ' << angle);
+                    SCOPED_TRACE(testing::Message() << crowd.name << ' ' << side << ' ' << size << ' ' << angle);
                     Axis tried(chart, Direction::X);
                     crowd.apply(tried);
                     tried.setLabelStyle("", size, kTextColour, angle);

@@ -49,9 +49,9 @@ TEST(AxisPlace, TakesMarginsOffTheEnds) {
     const Row rows[] = {
         {2, 0, 0, false, 50, 350},        {2, 30, 10, false, 60, 320}, // top is the right end
         {4, 30, 10, false, 240, 80},                                   //
-        {4, 30, 10, true, 80, 240},       // reversal changes the values' way, not the room
-        {6, 0, 0, true, 50, 250},         //
-        {4, 199, 0, false, 250, 249},     // a pixel is left between the ends
+        {4, 30, 10, true, 80, 240},                                    // reversal changes the values' way, not the room
+        {6, 0, 0, true, 50, 250},                                      //
+        {4, 199, 0, false, 250, 249},                                  // a pixel is left between the ends
         {4, 3000, 1000, false, 201, 199}, // too much shrinks in proportion: 149 and 49 of 199
     };
     for (const Row& row : rows) {

@@ -100,8 +100,8 @@ TEST_F(AxisPlanTest, RulesChooseDateLabels) {
     for (int day = 0; day < 160; ++day)
         days.push_back(chartTime(2002, 10, 15 + day));
     x.setLabels(days, "");
-    x.setRules({{encodeFilter(5, 1, 0.05), "{value|mmm yy}", 1, true},
-                {encodeFilter(4, 1, 0.05), "{value|mmm}", 1, false}});
+    x.setRules(
+        {{encodeFilter(5, 1, 0.05), "{value|mmm yy}", 1, true}, {encodeFilter(4, 1, 0.05), "{value|mmm}", 1, false}});
     const AxisRequest shown = ofRows(160);
     EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, shown)), (Texts{"Nov 02", "Dec", "Jan 03", "Feb", "Mar"}));
 
@@ -117,8 +117,7 @@ TEST_F(AxisPlanTest, RulesChooseDateLabels) {
 
     Axis dates(chart, Direction::X);
     dates.setLimits(Type::Date, chartTime(2004, 1, 1), chartTime(2004, 7, 1), {});
-    dates.setRules(
-        {{encodeFilter(5, 1, 0), "{value|yyyy}", 1, false}, {encodeFilter(4, 1, 0), "{value|m}", 1, false}});
+    dates.setRules({{encodeFilter(5, 1, 0), "{value|yyyy}", 1, false}, {encodeFilter(4, 1, 0), "{value|m}", 1, false}});
     EXPECT_EQ(textsOf(layoutAt(dates, BottomCenter)), (Texts{"2004", "2", "3", "4", "5", "6", "7"}));
 }
 
@@ -151,8 +150,7 @@ TEST_F(AxisPlanTest, AFormatOfLabelsDressesWhatTheRowsAreCalled) {
     x.setLabels({0, 1}, "{value|\tJan\tFeb}");
     EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, ofRows(2))), (std::vector<std::string>{"Jan", "Feb"}));
     x.setLabelFormat("{value}/{label}/{value|1}");
-    EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, ofRows(2))),
-              (std::vector<std::string>{"Jan/Jan/0.0", "Feb/Feb/1.0"}));
+    EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, ofRows(2))), (std::vector<std::string>{"Jan/Jan/0.0", "Feb/Feb/1.0"}));
     x.setLabels({0, 1}, "{value|2}"); // the rows' own format is the last word
     EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, ofRows(2))), (std::vector<std::string>{"0.00", "1.00"}));
 }

@@ -18,8 +18,7 @@ protected:
     }
     static void expectInside(const std::vector<AxisLayout::Label>& labels) {
         for (const AxisLayout::Label& label : labels) {
-            EXPECT_TRUE(QRectF(-0.5, 0, 400.5, 300).contains(label.box()))
-                << label.text << " " << label.box();
+            EXPECT_TRUE(QRectF(-0.5, 0, 400.5, 300).contains(label.box())) << label.text << " " << label.box();
             for (const AxisLayout::Label& other : labels)
                 EXPECT_TRUE(&other == &label || !other.box().intersects(label.box())) << label.text;
         }

@@ -57,8 +57,7 @@ TEST(Legend, StandsInAColumn) {
     const QImage image = chart.picture();
     for (int i = 1; i < 4; ++i) {
         EXPECT_EQ(pictures::boundsOf(image, kKeys[i]).left(), pictures::boundsOf(image, kKeys[0]).left());
-        EXPECT_GT(pictures::boundsOf(image, kKeys[i]).top(),
-                  pictures::boundsOf(image, kKeys[i - 1]).bottom());
+        EXPECT_GT(pictures::boundsOf(image, kKeys[i]).top(), pictures::boundsOf(image, kKeys[i - 1]).bottom());
     }
     const QRect box = pictures::boundsOf(image, kEdge);
     EXPECT_EQ(box.height(), CBox_getHeight(TextBox2Box(LegendBox2TextBox(chart.legend))));

@@ -9,8 +9,7 @@
 #include <ostream>
 
 inline std::ostream& operator<<(std::ostream& out, const QRect& rect) {
-    return out << "QRect(" << rect.x() << ", " << rect.y() << ", " << rect.width() << ", " << rect.height()
-               << ")";
+    return out << "QRect(" << rect.x() << ", " << rect.y() << ", " << rect.width() << ", " << rect.height() << ")";
 }
 
 namespace pictures {
@@ -20,16 +19,14 @@ inline QImage of(BaseChart* chart, bool destroy = true) {
     const char* bytes = nullptr;
     int length = 0;
     EXPECT_TRUE(CBaseChart_makeChart2(chart, CHART_FORMAT_BMP, &bytes, &length));
-    QImage image = QImage::fromData(reinterpret_cast<const uchar*>(bytes), length, "BMP")
-                       .convertToFormat(QImage::Format_RGB32);
+    QImage image =
+        QImage::fromData(reinterpret_cast<const uchar*>(bytes), length, "BMP").convertToFormat(QImage::Format_RGB32);
     if (destroy)
         CBaseChart_destroy(chart);
     return image;
 }
 
-inline unsigned at(const QImage& image, int x, int y) {
-    return image.pixel(x, y) & 0xffffffu;
-}
+inline unsigned at(const QImage& image, int x, int y) { return image.pixel(x, y) & 0xffffffu; }
 
 /// The smallest rectangle that holds all pixels of exactly this colour.
 inline QRect boundsOf(const QImage& image, unsigned colour) {

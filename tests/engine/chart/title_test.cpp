@@ -59,8 +59,7 @@ TEST(Lines, LieOnWholePixels) {
     const QRect upright = pictures::boundsOf(image, kGreen);
     EXPECT_EQ(upright.width(), 3);
     EXPECT_EQ(upright.center().x(), 100);
-    EXPECT_EQ(pictures::inked(image, kWhite), level.width() + 3 * upright.height())
-        << "width 0 draws nothing";
+    EXPECT_EQ(pictures::inked(image, kWhite), level.width() + 3 * upright.height()) << "width 0 draws nothing";
 }
 
 } // namespace

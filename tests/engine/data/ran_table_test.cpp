@@ -32,8 +32,7 @@ TEST(RanTable, TheSequenceNeverChanges) {
     EXPECT_EQ(filled(9, 0, 0, 1), (Numbers{0.2128878334709854, 0.881829896419184, 0.32768151078441876}));
     EXPECT_EQ(filled(9, 5, 0, 1), (Numbers{0.9147118273567436, 0.2060616539740059, 0.750534633723213}));
     EXPECT_EQ(filled(-1, 0, 0, 1), (Numbers{0.6179694563434383, 0.8052456633403555, 0.6377479218026851}));
-    EXPECT_EQ(filled(9, 5, 50e6, 250e6),
-              (Numbers{232942365.47134873, 91212330.79480118, 200106926.74464262}));
+    EXPECT_EQ(filled(9, 5, 50e6, 250e6), (Numbers{232942365.47134873, 91212330.79480118, 200106926.74464262}));
 }
 
 TEST(RanTable, AColumnDoesNotDependOnTheOthers) {
@@ -88,8 +87,7 @@ TEST(RanTable, PriceRowsAreConsistentAndBounded) {
             SCOPED_TRACE(testing::Message() << walk.start << ' ' << walk.lower << " seed " << seed);
             RanTable table(seed, 5, 130);
             table.setHLOCCols(1, walk.start, walk.minDelta, walk.maxDelta, walk.lower, walk.upper);
-            const auto high = table.column(1), low = table.column(2), open = table.column(3),
-                       close = table.column(4);
+            const auto high = table.column(1), low = table.column(2), open = table.column(3), close = table.column(4);
             for (std::size_t i = 0; i < 130; ++i) {
                 ASSERT_LE(walk.low, low[i]);
                 ASSERT_LE(low[i], std::min(open[i], close[i]));

@@ -30,9 +30,7 @@ long s_left = 0;
 
 constexpr std::size_t kPictureBytes = 64 * 1024;
 
-bool fails() {
-    return s_armed && --s_left == 0;
-}
+bool fails() { return s_armed && --s_left == 0; }
 
 int findLibrary(dl_phdr_info* info, std::size_t, void*) {
     if (std::strstr(info->dlpi_name, "libchartdraw") == nullptr)
@@ -55,12 +53,8 @@ int findLibrary(dl_phdr_info* info, std::size_t, void*) {
         return made;
     throw std::bad_alloc();
 }
-[[gnu::noinline]] void operator delete(void* memory) noexcept {
-    std::free(memory);
-}
-[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept {
-    std::free(memory);
-}
+[[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
+[[gnu::noinline]] void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
 
 extern "C" void* malloc(std::size_t bytes) {
     return s_armed && bytes >= kPictureBytes && fails() ? nullptr : __libc_malloc(bytes);
@@ -78,8 +72,7 @@ bool drawEverything() {
     CBox_setBackground(TextBox2Box(title), 0xeeeeff, 0, 1);
     CAxis_addMark(CXYChart_yAxis2(xy), 4, 0xff0000, "Mark", nullptr, 8);
     CAxis_setLabels2(CXYChart_xAxis(xy), values, 6, "{value|1}");
-    Layer* bars =
-        BarLayer2Layer(CXYChart_addBarLayer(xy, values, 6, CChart_metalColor(0x808080, 45), "Bars", 5));
+    Layer* bars = BarLayer2Layer(CXYChart_addBarLayer(xy, values, 6, CChart_metalColor(0x808080, 45), "Bars", 5));
     CLayer_setDataLabelStyle(bars, nullptr, 8, -1, 30);
     LineLayer* line = SplineLayer2LineLayer(CXYChart_addSplineLayer(xy, values, 6, -1, "Spline"));
     CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(line), 0), CHART_CIRCLE_SYMBOL, 9, -1, 0, 1);

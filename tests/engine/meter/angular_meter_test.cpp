@@ -62,8 +62,7 @@ int runsAt(const QImage& image, double distance) {
     int runs = 0;
     bool before = false;
     for (double degrees = -91; degrees < 91; degrees += 0.1) {
-        const bool ink =
-            QColor(image.pixel(pictures::roundPoint(kCentre, degrees, distance))).lightness() < 200;
+        const bool ink = QColor(image.pixel(pictures::roundPoint(kCentre, degrees, distance))).lightness() < 200;
         runs += ink && !before ? 1 : 0;
         before = ink;
     }
@@ -186,10 +185,9 @@ TEST(AngularMeter, ShowsAReadableScaleWhateverTheIncrements) {
     const struct {
         double lower, upper, major, minor, micro;
     } rows[] = {
-        {0, 100, 1e-6, 1e-7, 1e-8}, {0, 100, 0, 0, 0},        {0, 100, -1, -1, -1},
-        {0, 100, nan, nan, nan},    {0, 100, 1e300, 1, 0.1},  {1e300, -1e300, 1, 1, 1},
-        {0, 1e-300, 1, 1e-310, 0},  {5, 5, 1e-9, 1e-9, 1e-9}, {nan, INFINITY, 10, 5, 1},
-        {1e9, 1e9 + 1e-6, 1, 1, 1},
+        {0, 100, 1e-6, 1e-7, 1e-8}, {0, 100, 0, 0, 0},          {0, 100, -1, -1, -1},      {0, 100, nan, nan, nan},
+        {0, 100, 1e300, 1, 0.1},    {1e300, -1e300, 1, 1, 1},   {0, 1e-300, 1, 1e-310, 0}, {5, 5, 1e-9, 1e-9, 1e-9},
+        {nan, INFINITY, 10, 5, 1},  {1e9, 1e9 + 1e-6, 1, 1, 1},
     };
     for (const auto& row : rows) {
         Meter m(-90, 90, false);

@@ -79,14 +79,11 @@ TEST(LinearMeter, FitsPointersToTheBarWithTheTipAtTheScale) {
                 const QRect ink = patches[0];
                 const bool upright = row.side == CHART_LEFT || row.side == CHART_RIGHT;
                 // A point that narrows to nothing may leave its last pixel or two white.
-                EXPECT_NEAR(upright ? ink.left() : ink.top(), upright ? row.across.left() : row.across.top(),
-                            2)
+                EXPECT_NEAR(upright ? ink.left() : ink.top(), upright ? row.across.left() : row.across.top(), 2)
                     << shape << ", side " << row.side;
-                EXPECT_NEAR(upright ? ink.right() : ink.bottom(),
-                            upright ? row.across.right() : row.across.bottom(), 2)
+                EXPECT_NEAR(upright ? ink.right() : ink.bottom(), upright ? row.across.right() : row.across.bottom(), 2)
                     << shape << ", side " << row.side;
-                const double middle =
-                    upright ? ink.top() + ink.height() / 2.0 : ink.left() + ink.width() / 2.0;
+                const double middle = upright ? ink.top() + ink.height() / 2.0 : ink.left() + ink.width() / 2.0;
                 EXPECT_NEAR(middle, upright ? 200 : 100, 0.6) << shape << ", side " << row.side;
                 const int breadth = upright ? ink.height() : ink.width();
                 EXPECT_LE(breadth, 14) << shape;
@@ -107,9 +104,7 @@ TEST(LinearMeter, LimitsPointersAndLaysThemOverTexts) {
 }
 
 TEST(LinearMeter, PutsTheLabelOfAZoneInItOrBesideTheBar) {
-    const auto dress = [](TextBox* label) {
-        CBox_setBackground(TextBox2Box(label), kBlue, CHART_TRANSPARENT, 0);
-    };
+    const auto dress = [](TextBox* label) { CBox_setBackground(TextBox2Box(label), kBlue, CHART_TRANSPARENT, 0); };
     Meter m(CHART_LEFT);
     dress(CLinearMeter_addZone(m.meter, 0, 50, kGreen, "low")); // rows 150 to 249
     QRect label = pictures::boundsOf(pictures::of(m.chart, false), kBlue);
@@ -126,8 +121,7 @@ TEST(LinearMeter, PutsTheLabelOfAZoneInItOrBesideTheBar) {
         Meter narrow(side);
         const bool upright = side == CHART_LEFT || side == CHART_RIGHT;
         for (int i = 0; i < 8; ++i) { // each too thin, all together wider than the zones
-            TextBox* box =
-                CLinearMeter_addZone(narrow.meter, 50 + i, 51 + i, kGreen, upright ? "A long text" : "Z");
+            TextBox* box = CLinearMeter_addZone(narrow.meter, 50 + i, 51 + i, kGreen, upright ? "A long text" : "Z");
             dress(box);
         }
         QImage image = narrow.picture();

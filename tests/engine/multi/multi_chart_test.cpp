@@ -21,8 +21,7 @@ struct Multi {
     BaseChart* chart;
 
     Multi(int width = 100, int height = 100)
-        : multi(CMultiChart_create(width, height, kWhite, CHART_TRANSPARENT, 0)),
-          chart(MultiChart2BaseChart(multi)) {}
+        : multi(CMultiChart_create(width, height, kWhite, CHART_TRANSPARENT, 0)), chart(MultiChart2BaseChart(multi)) {}
     ~Multi() { CBaseChart_destroy(chart); }
     Multi(const Multi&) = delete;
     Multi& operator=(const Multi&) = delete;
@@ -136,8 +135,7 @@ TEST(MultiChart, DrawsEachChartWithItsOwnColoursAndSmoothness) {
     Multi m;
     CMultiChart_addChart(m.multi, 40, 40, chart);
     const QImage image = m.picture();
-    EXPECT_EQ(pictures::at(image, 40, 80), static_cast<unsigned>(kRed))
-        << "patterns begin at the chart's corner";
+    EXPECT_EQ(pictures::at(image, 40, 80), static_cast<unsigned>(kRed)) << "patterns begin at the chart's corner";
     EXPECT_EQ(pictures::at(image, 41, 80), static_cast<unsigned>(kBlue));
     const QImage pointer = image.copy(40, 40, 50, 25);
     for (int y = 0; y < pointer.height(); ++y) {

@@ -70,9 +70,8 @@ TEST(Line, FarEndsKeepTheSlope) {
 
 TEST(FillRect, CoversWholePixels) {
     const std::pair<QRectF, QRect> cases[] = {
-        {{3, 4, 5, 6}, {3, 4, 5, 6}},          {{3.4, 4.4, 5, 6}, {3, 4, 5, 6}},
-        {{8, 10, -5, -6}, {3, 4, 5, 6}},       {{2.6, 3.6, 1, 1}, {3, 4, 1, 1}},
-        {{-1e30, -5, 2e30, 8}, {0, 0, 32, 3}}, {{-kInfinity, 2, kInfinity, 3}, {}},
+        {{3, 4, 5, 6}, {3, 4, 5, 6}},     {{3.4, 4.4, 5, 6}, {3, 4, 5, 6}},      {{8, 10, -5, -6}, {3, 4, 5, 6}},
+        {{2.6, 3.6, 1, 1}, {3, 4, 1, 1}}, {{-1e30, -5, 2e30, 8}, {0, 0, 32, 3}}, {{-kInfinity, 2, kInfinity, 3}, {}},
     };
     for (const auto& [rect, covered] : cases) {
         const QImage image = drawn(32, 16, [&, given = rect](Canvas& on) { on.fillRect(given, kInkColour); });
@@ -166,8 +165,7 @@ TEST(Polyline, PiecesLookLikeOneStroke) {
 
 TEST(Polyline, ShowsNoJointsWhenItShowsThrough) {
     for (const double width : {1.0, 2.0, 8.0}) {
-        const QImage image =
-            drawn(300, 100, [&](Canvas& on) { on.polyline(wave(400, 300, 100), 0x80000000, width); });
+        const QImage image = drawn(300, 100, [&](Canvas& on) { on.polyline(wave(400, 300, 100), 0x80000000, width); });
         int darkest = 255;
         for (int y = 0; y < 100; ++y)
             for (int x = 0; x < 300; ++x)
@@ -198,9 +196,7 @@ TEST(DrawImage, StandsByItsAlignmentAndIsCutAtTheArea) {
         });
         EXPECT_EQ(inked(image), QRect(corner, stamp.size())) << alignment;
     }
-    const QImage cut = drawn(32, 16, [&](Canvas& on) {
-        drawImage(on, stamp.scaled(100, 100), {5, 3, 20, 10}, 9);
-    });
+    const QImage cut = drawn(32, 16, [&](Canvas& on) { drawImage(on, stamp.scaled(100, 100), {5, 3, 20, 10}, 9); });
     EXPECT_EQ(inked(cut), QRect(5, 3, 20, 10));
     EXPECT_TRUE(inked(drawn(8, 8, [](Canvas& on) { drawImage(on, {}, {0, 0, 8, 8}, 5); })).isNull());
 }

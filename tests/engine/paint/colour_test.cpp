@@ -100,8 +100,8 @@ TEST(Palette, SeriesCarryBlackTextAndShowOnWhite) {
 
 TEST(Colour, UnknownSymbolsAreInvisible) {
     const ColourTable table;
-    for (const Colour colour : {kTransparent, kDefaultColour, 0xffff0028u, 0xfffffffeu, 0xff123456u,
-                                0xff400000u, 0xff7fffffu, 0xff80ffffu, 0xff900000u, 0xff000001u}) {
+    for (const Colour colour : {kTransparent, kDefaultColour, 0xffff0028u, 0xfffffffeu, 0xff123456u, 0xff400000u,
+                                0xff7fffffu, 0xff80ffffu, 0xff900000u, 0xff000001u}) {
         EXPECT_TRUE(table.invisible(colour)) << std::hex << colour;
         EXPECT_EQ(table.solid(colour).alpha(), 0);
         EXPECT_EQ(table.brush(colour, QRectF(0, 0, 9, 9)).style(), Qt::NoBrush);
@@ -124,14 +124,12 @@ TEST(Metal, TokensAreInternedAndMeanTheSameEverywhere) {
 
 TEST(Metal, BandsRunAlongTheAngleAndNotAcross) {
     for (const int angle : {0, 90, 180}) {
-        const QImage image = drawn(
-            100, 100, [&](Canvas& on) { on.fillRect(QRectF(0, 0, 100, 100), metalColour(0x808080, angle)); });
+        const QImage image =
+            drawn(100, 100, [&](Canvas& on) { on.fillRect(QRectF(0, 0, 100, 100), metalColour(0x808080, angle)); });
         int turns = 0;
         int last = 0;
         for (int i = 1; i < 100; ++i) {
-            const auto at = [&](int step) {
-                return angle == 90 ? image.pixel(50, step) : image.pixel(step, 50);
-            };
+            const auto at = [&](int step) { return angle == 90 ? image.pixel(50, step) : image.pixel(step, 50); };
             EXPECT_EQ(at(i), angle == 90 ? image.pixel(3, i) : image.pixel(i, 3)); // even across
             const int slope = qRed(at(i)) - qRed(at(i - 1));
             turns += slope * last < 0 ? 1 : 0;

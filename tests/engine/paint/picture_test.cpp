@@ -46,9 +46,7 @@ QByteArray gif() {
 }
 
 // By hand: type 0, 9 x 2 pixels, a bit each from the top, 1 white, rows padded to bytes.
-QByteArray wbmp() {
-    return bytes({0, 0, 9, 2, 0xff, 0x80, 0x00, 0x80});
-}
+QByteArray wbmp() { return bytes({0, 0, 9, 2, 0xff, 0x80, 0x00, 0x80}); }
 
 std::map<std::string, QByteArray> files() {
     return {{"png", encoded(sample(), "png")},
@@ -146,9 +144,8 @@ TEST_F(PictureFile, NamedInUtf8WithAnySuffix) {
 TEST_F(PictureFile, WhatIsNoFileIsNull) {
     const std::string pipe = path("pipe");
     ASSERT_EQ(mkfifo(pipe.c_str(), 0600), 0); // reading it would wait for ever
-    for (const std::string& name :
-         {pipe, path("missing.png"), path(""), std::string(), std::string("\xff\xfe"),
-          std::string("/dev/zero"), write("empty", ""), std::string("/proc/self/maps")})
+    for (const std::string& name : {pipe, path("missing.png"), path(""), std::string(), std::string("\xff\xfe"),
+                                    std::string("/dev/zero"), write("empty", ""), std::string("/proc/self/maps")})
         EXPECT_TRUE(loadPicture(name).isNull()) << name;
 }
 

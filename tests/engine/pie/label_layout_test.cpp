@@ -66,8 +66,7 @@ TEST(StackApart, MovesAsLittleAsCan) {
         {"none", {}, {}, 0, 100, {}},
     };
     for (const auto& row : rows) {
-        EXPECT_THAT(stackApart(row.wished, row.lengths, row.low, row.high),
-                    Pointwise(DoubleNear(1e-9), row.expected))
+        EXPECT_THAT(stackApart(row.wished, row.lengths, row.low, row.high), Pointwise(DoubleNear(1e-9), row.expected))
             << row.what;
     }
 }

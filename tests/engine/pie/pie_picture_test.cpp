@@ -59,8 +59,7 @@ TEST(PiePicture, ShowsEachSectorAtItsAngles) {
             const double half = i < 2 ? 45 : 90;
             for (const double off : {-half + 3, 0.0, half - 3}) {
                 for (const double distance : {40.0, 77.0}) {
-                    EXPECT_EQ(polar(image, row.middles[i] + off, distance),
-                              static_cast<unsigned>(kColours[i]))
+                    EXPECT_EQ(polar(image, row.middles[i] + off, distance), static_cast<unsigned>(kColours[i]))
                         << row.what << ", sector " << i << ", " << off << " off its middle";
                 }
             }
@@ -79,8 +78,7 @@ TEST(PiePicture, LetsNoBackgroundThroughBetweenNeighbours) {
         const QImage image = pie.picture();
         for (int y = 0; y < 200; ++y) {
             for (int x = 0; x < 200; ++x) {
-                const double away =
-                    std::hypot(x + 0.5 - 100, (y + 0.5 - 100) * (solid ? std::numbers::sqrt2 : 1));
+                const double away = std::hypot(x + 0.5 - 100, (y + 0.5 - 100) * (solid ? std::numbers::sqrt2 : 1));
                 if (away < 77) {
                     ASSERT_EQ(pictures::at(image, x, y), static_cast<unsigned>(kRed)) << x << ", " << y;
                 } else if (solid && away < 82 && y > 120) {
@@ -170,8 +168,7 @@ TEST(PiePicture, ShowsInnerAndCutWalls) {
     EXPECT_EQ(qRed(image.pixel(100, 106)), 0);
     EXPECT_LT(QColor(image.pixel(100, 106)).green(), 240);
     EXPECT_EQ(pictures::at(image, 100, 118), kWhite);
-    EXPECT_EQ(pictures::at(image, 100, 131), static_cast<unsigned>(kRed))
-        << "the near one begins with its face";
+    EXPECT_EQ(pictures::at(image, 100, 131), static_cast<unsigned>(kRed)) << "the near one begins with its face";
 }
 
 } // namespace

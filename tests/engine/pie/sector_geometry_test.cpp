@@ -56,9 +56,7 @@ TEST(SectorSpans, RunEitherWayFromTheStart) {
     }
 }
 
-PieBody tilted() {
-    return {.centre = {100, 100}, .radius = 80, .inner = 40, .flatness = 0.5, .depth = {0, 20}};
-}
+PieBody tilted() { return {.centre = {100, 100}, .radius = 80, .inner = 40, .flatness = 0.5, .depth = {0, 20}}; }
 
 TEST(PieBody, ShowsTheOuterWallInFrontAndTheInnerOneBehind) {
     const PieBody body = tilted();

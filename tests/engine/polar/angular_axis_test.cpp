@@ -44,8 +44,7 @@ TEST_F(AngularAxisTest, PutsValuesOnTheTurnAndGoesOnRound) {
     };
     for (const auto& row : rows) {
         axis.setLinearScale(row.lower, row.upper, {});
-        EXPECT_NEAR(axis.turn(row.value), row.turn, 1e-9)
-            << row.lower << ".." << row.upper << ": " << row.value;
+        EXPECT_NEAR(axis.turn(row.value), row.turn, 1e-9) << row.lower << ".." << row.upper << ": " << row.value;
     }
     EXPECT_TRUE(std::isnan(axis.turn(kNan)));
     EXPECT_TRUE(std::isnan(axis.turn(kNoValue)));
@@ -54,8 +53,7 @@ TEST_F(AngularAxisTest, PutsValuesOnTheTurnAndGoesOnRound) {
 }
 
 TEST_F(AngularAxisTest, HasSpokesAtRoundValuesAndNamesTheTopOnce) {
-    EXPECT_THAT(labels(),
-                ElementsAre("0", "30", "60", "90", "120", "150", "180", "210", "240", "270", "300", "330"));
+    EXPECT_THAT(labels(), ElementsAre("0", "30", "60", "90", "120", "150", "180", "210", "240", "270", "300", "330"));
     axis.setLinearScale(0, 24, {3, 1, 0});
     EXPECT_THAT(labels(), ElementsAre("0", "3", "6", "9", "12", "15", "18", "21"));
     EXPECT_THAT(turns(), Pointwise(DoubleNear(1e-9), {0.0, 0.125, 0.25, 0.375, 0.5, 0.625, 0.75, 0.875}));

@@ -31,8 +31,7 @@ struct Polar {
                          int width = 3) {
         PolarLineLayer* layer =
             CPolarChart_addLineLayer(polar, data.data(), static_cast<int>(data.size()), colour, "line");
-        CPolarLayer_setAngles(PolarLineLayer2PolarLayer(layer), angles.data(),
-                              static_cast<int>(angles.size()));
+        CPolarLayer_setAngles(PolarLineLayer2PolarLayer(layer), angles.data(), static_cast<int>(angles.size()));
         CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(layer), width);
         return layer;
     }
@@ -267,10 +266,8 @@ TEST(PolarChart, PlacesDataLabelsBesideTheirPointsAndApart) {
         EXPECT_TRUE(image.rect().contains(box)) << box;
         together += box.height() > 20 || box.width() > 45 ? 1 : 0; // two that touch are one patch
         double nearest = 1000;
-        for (std::size_t i = 0; i < data.size(); ++i) {
-            nearest = std::min(nearest,
-                               pictures::nearestOf(box, pictures::roundPoint(kCentre, angles[i], data[i])));
-        }
+        for (std::size_t i = 0; i < data.size(); ++i)
+            nearest = std::min(nearest, pictures::nearestOf(box, pictures::roundPoint(kCentre, angles[i], data[i])));
         EXPECT_LE(nearest, 4) << box;
     }
     EXPECT_LE(together, 6);

@@ -18,8 +18,7 @@ constexpr double kTolerance = 2; // pixels
 
 inline std::vector<QPolygonF> textsOf(BaseChart* chart) {
     auto* drawn = chartdraw::object<chartdraw::Chart>(chart);
-    QImage image(std::max(1, drawn->width()), std::max(1, drawn->height()),
-                 QImage::Format_ARGB32_Premultiplied);
+    QImage image(std::max(1, drawn->width()), std::max(1, drawn->height()), QImage::Format_ARGB32_Premultiplied);
     std::vector<QPolygonF> texts;
     chartdraw::Canvas canvas(image, drawn->colours());
     canvas.recordTexts(&texts);
@@ -33,8 +32,7 @@ inline QPolygonF shrunk(const QPolygonF& outline, double by) {
     const double width = std::hypot(a.x(), a.y()), height = std::hypot(b.x(), b.y());
     const QPointF x = a * (std::min(by, width / 2) / std::max(1e-9, width));
     const QPointF y = b * (std::min(by, height / 2) / std::max(1e-9, height));
-    return {
-        {outline[0] + x + y, outline[1] - x + y, outline[2] - x - y, outline[3] + x - y, outline[0] + x + y}};
+    return {{outline[0] + x + y, outline[1] - x + y, outline[2] - x - y, outline[3] + x - y, outline[0] + x + y}};
 }
 
 inline std::string place(const QPolygonF& text) {
@@ -57,8 +55,8 @@ inline std::string faultOf(BaseChart* chart, std::size_t& count) {
     }
     for (std::size_t i = 0; i < texts.size(); ++i)
         for (std::size_t k = 0; k < i; ++k)
-            if (texts[i].boundingRect().intersects(texts[k].boundingRect()) &&
-                texts[i].intersects(texts[k]) && !texts[i].intersected(texts[k]).isEmpty())
+            if (texts[i].boundingRect().intersects(texts[k].boundingRect()) && texts[i].intersects(texts[k]) &&
+                !texts[i].intersected(texts[k]).isEmpty())
                 return "overlap: " + place(texts[k]) + " and " + place(texts[i]);
     return {};
 }

@@ -78,8 +78,7 @@ struct Chart {
         const int count = static_cast<int>(data.size());
         return LineLayer2Layer(CXYChart_addLineLayer(xy, data.data(), count, colour, nullptr, 0));
     }
-    Layer* bars(int combine, const std::vector<std::vector<double>>& sets,
-                const std::vector<int>& colours) const {
+    Layer* bars(int combine, const std::vector<std::vector<double>>& sets, const std::vector<int>& colours) const {
         Layer* layer = BarLayer2Layer(CXYChart_addBarLayer2(xy, combine, 0));
         for (std::size_t i = 0; i < sets.size(); ++i)
             CLayer_addDataSet(layer, sets[i].data(), static_cast<int>(sets[i].size()), colours[i], nullptr);
@@ -140,8 +139,8 @@ TEST(Placement, LegendsWrapLongKeysAndStandInColumns) {
         CLegendBox_addKey(legend, text, 0xff0000, 0, nullptr);
     CPieChart_setPieSize(pie, 0, 0, 0);
     const std::vector<QRectF> boxes = placed(chart, 6);
-    const auto below = std::find_if(boxes.begin() + 1, boxes.end(),
-                                    [&](const QRectF& box) { return box.top() > boxes[0].top(); });
+    const auto below =
+        std::find_if(boxes.begin() + 1, boxes.end(), [&](const QRectF& box) { return box.top() > boxes[0].top(); });
     ASSERT_NE(below, boxes.end()) << "there is no room for one row";
     const auto columns = static_cast<std::size_t>(below - boxes.begin());
     for (std::size_t i = columns; i < boxes.size(); ++i)
@@ -205,8 +204,7 @@ TEST(Placement, LabelsOfStepsStandBesideTheRisers) {
 TEST(Placement, LinesAreTwoPixelsWideWhereTheyHaveRoom) {
     const auto width = [](std::size_t points) {
         const Chart chart;
-        const int result =
-            chartdraw::object<chartdraw::Layer>(chart.line(std::vector<double>(points, 5)))->lineWidth();
+        const int result = chartdraw::object<chartdraw::Layer>(chart.line(std::vector<double>(points, 5)))->lineWidth();
         CBaseChart_destroy(chart.base);
         return result;
     };
@@ -227,8 +225,8 @@ TEST(Placement, NarrowCandlesShowTheirColours) {
         high.push_back(70);
         low.push_back(30);
     }
-    CXYChart_addCandleStickLayer(xy, high.data(), 100, low.data(), 100, open.data(), 100, close.data(), 100,
-                                 0x00ff00, 0xff0000, -1);
+    CXYChart_addCandleStickLayer(xy, high.data(), 100, low.data(), 100, open.data(), 100, close.data(), 100, 0x00ff00,
+                                 0xff0000, -1);
     const QImage image = pictureOf(XYChart2BaseChart(xy));
     const QRect plot(55, 25, 470, 190);
     EXPECT_EQ(countOf(image, plot, 0x000000), 0);

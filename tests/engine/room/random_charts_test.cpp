@@ -27,8 +27,7 @@ const char* const kNames[] = {"North",
                               "Costs of maintenance",
                               "x",
                               "Umsatz je Mitarbeiter"};
-const char* const kTitles[] = {"Sales",
-                               "A title of many words that has no place on a single line of a small picture",
+const char* const kTitles[] = {"Sales", "A title of many words that has no place on a single line of a small picture",
                                "First line\nSecond line", "Überschrift", "年間売上高と費用の比較"};
 
 class Maker {
@@ -100,14 +99,14 @@ private:
     void dress(BaseChart* chart) {
         TextBox* title = nullptr;
         if (!oneIn(3))
-            title = CBaseChart_addTitle(chart, kTitles[below(5)], oneIn(2) ? "bold" : nullptr, m_font * 1.2,
-                                        -1, CHART_TRANSPARENT, CHART_TRANSPARENT);
+            title = CBaseChart_addTitle(chart, kTitles[below(5)], oneIn(2) ? "bold" : nullptr, m_font * 1.2, -1,
+                                        CHART_TRANSPARENT, CHART_TRANSPARENT);
         const int top = title != nullptr ? CBox_getHeight(TextBox2Box(title)) : 0;
         if (oneIn(4))
             CBaseChart_addLegend(chart, m_width * (1 + below(3)) / 5, top + 5, oneIn(2), nullptr, m_font);
         else if (oneIn(8) && m_height >= 260)
-            CBaseChart_addTitle2(chart, CHART_BOTTOM, kTitles[below(2)], nullptr, m_font, -1,
-                                 CHART_TRANSPARENT, CHART_TRANSPARENT);
+            CBaseChart_addTitle2(chart, CHART_BOTTOM, kTitles[below(2)], nullptr, m_font, -1, CHART_TRANSPARENT,
+                                 CHART_TRANSPARENT);
     }
 
     BaseChart* pie() {
@@ -117,8 +116,7 @@ private:
         for (int i = 0; i < count; ++i)
             names.push_back(name());
         const std::vector<double> values = data(count);
-        CPieChart_setPieSize(pie, m_width / 2, m_height / 2 + 10,
-                             std::min(m_width, m_height) / (3 + below(3)));
+        CPieChart_setPieSize(pie, m_width / 2, m_height / 2 + 10, std::min(m_width, m_height) / (3 + below(3)));
         CPieChart_setData(pie, values.data(), count, names.data(), count);
         CPieChart_setLabelStyle(pie, nullptr, m_font, -1);
         CPieChart_setStartAngle(pie, below(360), !oneIn(4));
@@ -132,8 +130,7 @@ private:
     }
 
     BaseChart* polar() {
-        PolarChart* polar =
-            CPolarChart_create(m_width, m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
+        PolarChart* polar = CPolarChart_create(m_width, m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
         CPolarChart_setPlotArea(polar, m_width / 2, m_height / 2 + 10, std::min(m_width, m_height) / 3,
                                 CHART_TRANSPARENT, CHART_LINE_COLOR, 1);
         const int count = this->count();
@@ -163,8 +160,7 @@ private:
         CBaseMeter_addPointer(meter, top * part(), 0xcc0000, -1);
     }
     BaseChart* angularMeter() {
-        AngularMeter* meter =
-            CAngularMeter_create(m_width, m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
+        AngularMeter* meter = CAngularMeter_create(m_width, m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
         const double angles[] = {-135, 135, -90, 90, 0, 360};
         const int which = below(3);
         CAngularMeter_setMeter(meter, m_width / 2, m_height / 2 + 10,
@@ -174,16 +170,13 @@ private:
         return BaseMeter2BaseChart(AngularMeter2BaseMeter(meter));
     }
     BaseChart* linearMeter() {
-        LinearMeter* meter =
-            CLinearMeter_create(m_width, m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
+        LinearMeter* meter = CLinearMeter_create(m_width, m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
         const int sides[] = {CHART_LEFT, CHART_RIGHT, CHART_TOP, CHART_BOTTOM};
         const int side = below(4);
         if (side < 2)
-            CLinearMeter_setMeter(meter, m_width / 2, m_height / 5, 20, m_height * 3 / 5, sides[side],
-                                  oneIn(4));
+            CLinearMeter_setMeter(meter, m_width / 2, m_height / 5, 20, m_height * 3 / 5, sides[side], oneIn(4));
         else
-            CLinearMeter_setMeter(meter, m_width / 10, m_height / 2, m_width * 4 / 5, 20, sides[side],
-                                  oneIn(4));
+            CLinearMeter_setMeter(meter, m_width / 10, m_height / 2, m_width * 4 / 5, 20, sides[side], oneIn(4));
         scale(LinearMeter2BaseMeter(meter));
         for (int i = below(4); i > 0; --i)
             CLinearMeter_addZone(meter, part() * 50, 50 + part() * 50, 0xffeeaa, name());
@@ -257,9 +250,8 @@ private:
                 layer = LineLayer2Layer(CXYChart_addLineLayer(chart, a.data(), count, -1, name(), 0));
                 break;
             case 1:
-                layer =
-                    LineLayer2Layer(CXYChart_addScatterLayer(chart, b.data(), count, a.data(), count, name(),
-                                                             CHART_CIRCLE_SYMBOL, 5 + below(9), -1, -1));
+                layer = LineLayer2Layer(CXYChart_addScatterLayer(chart, b.data(), count, a.data(), count, name(),
+                                                                 CHART_CIRCLE_SYMBOL, 5 + below(9), -1, -1));
                 break;
             case 2:
                 layer = AreaLayer2Layer(CXYChart_addAreaLayer2(chart, combines[1 + 2 * below(2)], 0));
@@ -268,8 +260,8 @@ private:
                 break;
             case 3:
                 layer = BaseBoxLayer2Layer(BoxWhiskerLayer2BaseBoxLayer(
-                    CXYChart_addBoxWhiskerLayer(chart, a.data(), count, b.data(), count, c.data(), count,
-                                                d.data(), count, nullptr, 0, -1, -1, -1)));
+                    CXYChart_addBoxWhiskerLayer(chart, a.data(), count, b.data(), count, c.data(), count, d.data(),
+                                                count, nullptr, 0, -1, -1, -1)));
                 break;
             default:
                 layer = BarLayer2Layer(CXYChart_addBarLayer2(chart, combines[below(4)], oneIn(4) ? 8 : 0));

@@ -57,11 +57,7 @@ TEST(NumberFormat, FixedDecimalsRoundHalfAwayFromZero) {
 }
 
 TEST(NumberFormat, ZeroHasNoSign) {
-    expectAll({{-0.0, "", "0"},
-               {-0.0, "2", "0.00"},
-               {-0.001, "2", "0.00"},
-               {-0.001, "0~.+", "0"},
-               {0, "E1", "0.0e0"}});
+    expectAll({{-0.0, "", "0"}, {-0.0, "2", "0.00"}, {-0.001, "2", "0.00"}, {-0.001, "0~.+", "0"}, {0, "E1", "0.0e0"}});
 }
 
 TEST(NumberFormat, SeparatorsAndSign) {
@@ -165,9 +161,8 @@ TEST(FormatFields, KnownUnknownAndUnclosed) {
 }
 
 TEST(FormatFields, ListsGiveTheTextOfANumber) {
-    const std::pair<double, const char*> cases[] = {{0, "<low>"}, {1, "<a}{|b>"}, {1.4, "<a}{|b>"},
-                                                    {2, "<>"},    {3, "<\tc\\>"}, {4, "<>"},
-                                                    {-1, "<>"},   {NAN, "<>"}};
+    const std::pair<double, const char*> cases[] = {{0, "<low>"},   {1, "<a}{|b>"}, {1.4, "<a}{|b>"}, {2, "<>"},
+                                                    {3, "<\tc\\>"}, {4, "<>"},      {-1, "<>"},       {NAN, "<>"}};
     for (const auto& [value, text] : cases)
         EXPECT_EQ(formatValue(value, "<{value|\tlow\ta\\}\\{|b\t\t\\\tc\\\\}>"), text) << value;
     EXPECT_EQ(formatValue(1, "{value|\ta\tb\\}"), "b}"); // the end is missing

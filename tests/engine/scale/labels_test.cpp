@@ -96,8 +96,7 @@ TEST(LabelPicker, StartsAndTheirSteps) {
         {FilterType::StartOfYear, 1, 0.05, 0, "2.1.03"},
         {FilterType::StartOfYear, 1, 0, 0, ""},
         {FilterType::StartOfYear, 2, 0.05, 0, ""}, // 2003 is odd
-        {FilterType::StartOfDay, 10, 0, 0,
-         "13.1.03 21.1.03 31.1.03 3.2.03 11.2.03 21.2.03 3.3.03 11.3.03 21.3.03"},
+        {FilterType::StartOfDay, 10, 0, 0, "13.1.03 21.1.03 31.1.03 3.2.03 11.2.03 21.2.03 3.3.03 11.3.03 21.3.03"},
         {FilterType::RegularSpacing, 20, 0, 5, "9.1.03 6.2.03 6.3.03"},
         {FilterType::AllPass, 40, 0, 0, "2.1.03 27.2.03"},
         {FilterType::NonePass, 1, 1, 0, ""},
@@ -136,8 +135,6 @@ TEST(LabelThinning, StepsAndEnds) {
         EXPECT_EQ(thinLabels(labels, 4, c.keepEnds), c.kept) << c.count << " of " << c.width;
     }
     const double nan = std::numeric_limits<double>::quiet_NaN();
-    EXPECT_EQ(thinLabels(std::vector<LabelExtent>{{0, 9}, {nan, nan}, {20, 11}}, 1, true),
-              (std::vector<int>{0, 1, 2}));
-    EXPECT_EQ(thinLabels(std::vector<LabelExtent>(100'000), 1, true), std::vector<int>{0})
-        << "all at one place";
+    EXPECT_EQ(thinLabels(std::vector<LabelExtent>{{0, 9}, {nan, nan}, {20, 11}}, 1, true), (std::vector<int>{0, 1, 2}));
+    EXPECT_EQ(thinLabels(std::vector<LabelExtent>(100'000), 1, true), std::vector<int>{0}) << "all at one place";
 }

@@ -79,9 +79,7 @@ TEST(AutoScale, LinearLimits) {
         {{1e9, 1e9 + 1},
          tight,
          "1000000000.0 | 1000000000.2 | 1000000000.4 | 1000000000.6 | 1000000000.8 | 1000000001.0"},
-        {{-1e300, 1e300},
-         tight,
-         "-1e300 | -7.5e299 | -5e299 | -2.5e299 | 0 | 2.5e299 | 5e299 | 7.5e299 | 1e300"},
+        {{-1e300, 1e300}, tight, "-1e300 | -7.5e299 | -5e299 | -2.5e299 | 0 | 2.5e299 | 5e299 | 7.5e299 | 1e300"},
         {{0, 1e-300}, tight, "0 | 2e-301 | 4e-301 | 6e-301 | 8e-301 | 1e-300"},
         // A tenth of the axis free above: 80 / 0.9 is 88.9; nothing free below zero.
         {{0, 80}, {0.1, 0.1, 0}, "0 | 20 | 40 | 60 | 80 | 100"},
@@ -133,8 +131,7 @@ TEST(AutoScale, DatesKeepTheirLimits) {
     const Scale plain = autoDateScale(range({day, day + 80000}), {0, 0, 0});
     EXPECT_EQ(plain.lower(), day);
     EXPECT_EQ(plain.upper(), day + 80000);
-    EXPECT_EQ(autoDateScale(range({day, day + 80000}), {0.1, 0.1, 0}).upper(), day + 90000)
-        << "a tenth of 100000";
+    EXPECT_EQ(autoDateScale(range({day, day + 80000}), {0.1, 0.1, 0}).upper(), day + 90000) << "a tenth of 100000";
     EXPECT_EQ(autoDateScale({}, {}).lower(), chartTime(2000, 1, 1));
     EXPECT_EQ(autoDateScale(range({1e300}), {}).upper(), kLastChartTime + 1);
 }
@@ -276,10 +273,9 @@ TEST(DateTicks, GivenIncrementsCountFromTheLowerLimit) {
 
 TEST(AllTicks, HostileRequestsAreAnsweredAtOnce) {
     const double numbers[] = {0, -1, 1e-320, 1e-9, 0.3, 86400, 1e300, DBL_MAX, kNan, kInf, kNoValue};
-    for (const Scale& scale :
-         {Scale::linear(0, 1e-300), Scale::linear(-1e308, 1e308), Scale::linear(1e9, 1e9 + 0.01),
-          Scale::log(1e-300, 1e300), Scale::log(1, 1.00001), Scale::date(0, 1e300),
-          Scale::date(63e9, 63e9 + 1), Scale::items(1000000, true)})
+    for (const Scale& scale : {Scale::linear(0, 1e-300), Scale::linear(-1e308, 1e308), Scale::linear(1e9, 1e9 + 0.01),
+                               Scale::log(1e-300, 1e300), Scale::log(1, 1.00001), Scale::date(0, 1e300),
+                               Scale::date(63e9, 63e9 + 1), Scale::items(1000000, true)})
         for (const double major : numbers)
             for (const double minor : numbers)
                 for (const double length : {-5.0, 1.0, 333.0, 20000.0, 1e300, kNan}) {

@@ -14,8 +14,7 @@ int blocks(const Shot& shot, const QRect& part, bool upright) {
     int gap = 0;
     const int end = upright ? part.bottom() : part.right();
     for (int at = upright ? part.top() : part.left(); at <= end; ++at) {
-        const QRect slice =
-            upright ? QRect(part.left(), at, part.width(), 1) : QRect(at, part.top(), 1, part.height());
+        const QRect slice = upright ? QRect(part.left(), at, part.width(), 1) : QRect(at, part.top(), 1, part.height());
         const bool ink = !shot.ink(slice).isNull();
         gap = ink ? 0 : gap + 1;
         if (ink && !inside)
@@ -42,9 +41,7 @@ void months(Scene& s) {
 std::vector<Row> axisRows() {
     return {
         {"CAxis_setReverse", bars, [](Scene& s, bool b) { CAxis_setReverse(s.y, b); },
-         [](const Shot& p, bool b) {
-             return p.is(225, b ? 30 : 160, kGreen) && !p.is(75, b ? 120 : 60, kGreen);
-         }},
+         [](const Shot& p, bool b) { return p.is(225, b ? 30 : 160, kGreen) && !p.is(75, b ? 120 : 60, kGreen); }},
         {"CAxis_setWidth", axes,
          [](Scene& s, bool b) {
              CAxis_setColors(s.y, kRed, -1, -1, kNone);
@@ -56,8 +53,7 @@ std::vector<Row> axisRows() {
              CAxis_setTitle(s.y, "Title", "bold", 8, -1);
              CAxis_setTickLength2(s.y, 9, 4);
              CAxis_setLabelStyle(s.y, "bold", 8, -1, 0);
-             b ? CAxis_setColors(s.y, kRed, kGreen, kBlue, kPink)
-               : CAxis_setColors(s.y, kPink, kBlue, kGreen, kRed);
+             b ? CAxis_setColors(s.y, kRed, kGreen, kBlue, kPink) : CAxis_setColors(s.y, kPink, kBlue, kGreen, kRed);
          },
          [](const Shot& p, bool b) { // outwards: line, ticks, labels, title
              const int line = b ? kRed : kPink, label = b ? kGreen : kBlue, title = b ? kBlue : kGreen,
@@ -103,8 +99,7 @@ std::vector<Row> axisRows() {
              CAxis_setTickDensity(s.y, b ? 70 : 25, b ? 12 : 0);
          },
          [](const Shot& p, bool b) {
-             return (blocks(p, QRect(0, 10, 40, 170), true) < 4) == b &&
-                    p.has(kRed, QRect(42, 0, 1, 200)) == b;
+             return (blocks(p, QRect(0, 10, 40, 170), true) < 4) == b && p.has(kRed, QRect(42, 0, 1, 200)) == b;
          }},
         {"CAxis_setAutoScale", bars,
          [](Scene& s, bool b) { CAxis_setAutoScale(s.y, b ? 0.9 : 0, b ? 0 : 0.5, b ? 1 : 0); },
@@ -119,8 +114,7 @@ std::vector<Row> axisRows() {
              const auto tick = [&](int y, int reach) {
                  return p.is(50 - reach, y, kRed) || p.is(50 - reach, y + 1, kRed);
              };
-             return b ? p.box(kGreen).top() == 80 && tick(70, 8) && tick(120, 8) && tick(95, 3) &&
-                            !tick(95, 8)
+             return b ? p.box(kGreen).top() == 80 && tick(70, 8) && tick(120, 8) && tick(95, 3) && !tick(95, 8)
                       : p.box(kGreen).top() == 21 && tick(95, 8) && tick(38, 3) && !tick(38, 8);
          }},
         {"CAxis_setLinearScale3", bars,
@@ -177,8 +171,7 @@ std::vector<Row> axisRows() {
              const QRect ink = p.ink(QRect(0, 0, 45, 40)); // of the "100"
              return p.has(b ? kRed : kBlue) && (ink.width() < ink.height()) == b;
          }},
-        {"CAxis_setLabelFormat", axes,
-         [](Scene& s, bool b) { CAxis_setLabelFormat(s.y, b ? "{value|3}" : "I"); },
+        {"CAxis_setLabelFormat", axes, [](Scene& s, bool b) { CAxis_setLabelFormat(s.y, b ? "{value|3}" : "I"); },
          [](const Shot& p, bool b) { return (p.ink(kLeft).width() > 28) == b; }},
         {"CAxis_setLabels2", bars,
          [](Scene& s, bool b) {
@@ -204,8 +197,7 @@ std::vector<Row> axisRows() {
         {"CAxis_setMultiFormat2", months,
          [](Scene& s, bool b) {
              CAxis_setLabelStyle(s.x, "bold", 10, -1, 0);
-             CAxis_setMultiFormat2(s.x,
-                                   CChart_encodeFilter(b ? CHART_START_OF_YEAR : CHART_START_OF_MONTH, 1, 0),
+             CAxis_setMultiFormat2(s.x, CChart_encodeFilter(b ? CHART_START_OF_YEAR : CHART_START_OF_MONTH, 1, 0),
                                    b ? "<*color=ff0000*>I" : "<*color=ff00ff*>I", b ? 1 : 3, b);
              CAxis_setMultiFormat2(s.x, CChart_encodeFilter(CHART_ALL_PASS, 1, 0), "<*color=ff*>I", 1, false);
          },
@@ -216,18 +208,15 @@ std::vector<Row> axisRows() {
          }},
         {"CAxis_addMark", axes,
          [](Scene& s, bool b) {
-             CAxis_addMark(s.y, b ? 30 : 70, b ? kRed : kBlue, b ? "WWWW" : "", b ? "bold" : "normal",
-                           b ? 9 : 20);
+             CAxis_addMark(s.y, b ? 30 : 70, b ? kRed : kBlue, b ? "WWWW" : "", b ? "bold" : "normal", b ? 9 : 20);
          },
          [](const Shot& p, bool b) {
-             return p.is(150, yOf(b ? 30 : 70), b ? kRed : kBlue) &&
-                    p.has(kRed, QRect(0, yOf(30) - 8, 45, 16)) == b;
+             return p.is(150, yOf(b ? 30 : 70), b ? kRed : kBlue) && p.has(kRed, QRect(0, yOf(30) - 8, 45, 16)) == b;
          }},
         {"CAxis_addZone", axes,
          [](Scene& s, bool b) { CAxis_addZone(s.y, b ? 20 : 60, b ? 40 : 80, b ? kRed : kBlue); },
          [](const Shot& p, bool b) {
-             return p.fills(b ? kRed : kBlue, b ? QRect(51, yOf(40), 199, 30) : QRect(51, yOf(80), 199, 30),
-                            1);
+             return p.fills(b ? kRed : kBlue, b ? QRect(51, yOf(40), 199, 30) : QRect(51, yOf(80), 199, 30), 1);
          }},
         {"CAxis_copyAxis", bars,
          [](Scene& s, bool b) {
@@ -244,29 +233,20 @@ std::vector<Row> axisRows() {
          },
          [](const Shot& p, bool b) { return std::abs(p.box(kGreen).top() - (b ? 50 : 100)) <= 1; }},
         {"CXYChart_xAxis2", axes,
-         [](Scene& s, bool b) {
-             CAxis_setColors(CXYChart_xAxis2(s.xy), b ? kRed : kBlue, kNone, kNone, kNone);
-         },
+         [](Scene& s, bool b) { CAxis_setColors(CXYChart_xAxis2(s.xy), b ? kRed : kBlue, kNone, kNone, kNone); },
          [](const Shot& p, bool b) { return p.is(150, 20, b ? kRed : kBlue); }},
         {"CXYChart_yAxis2", axes,
-         [](Scene& s, bool b) {
-             CAxis_setColors(CXYChart_yAxis2(s.xy), b ? kRed : kBlue, kNone, kNone, kNone);
-         },
+         [](Scene& s, bool b) { CAxis_setColors(CXYChart_yAxis2(s.xy), b ? kRed : kBlue, kNone, kNone, kNone); },
          [](const Shot& p, bool b) { return p.is(250, 100, b ? kRed : kBlue); }},
         {"CXYChart_xAxis", axes,
-         [](Scene& s, bool b) {
-             CAxis_setColors(CXYChart_xAxis(s.xy), b ? kRed : kBlue, kNone, kNone, kNone);
-         },
+         [](Scene& s, bool b) { CAxis_setColors(CXYChart_xAxis(s.xy), b ? kRed : kBlue, kNone, kNone, kNone); },
          [](const Shot& p, bool b) { return p.is(150, 170, b ? kRed : kBlue); }},
         {"CXYChart_yAxis", axes,
-         [](Scene& s, bool b) {
-             CAxis_setColors(CXYChart_yAxis(s.xy), b ? kRed : kBlue, kNone, kNone, kNone);
-         },
+         [](Scene& s, bool b) { CAxis_setColors(CXYChart_yAxis(s.xy), b ? kRed : kBlue, kNone, kNone, kNone); },
          [](const Shot& p, bool b) { return p.is(50, 100, b ? kRed : kBlue); }},
         {"CChart_encodeFilter", months,
          [](Scene& s, bool b) {
-             CAxis_setMultiFormat2(s.x, CChart_encodeFilter(CHART_REGULAR_SPACING, b ? 6 : 4, 0), "I", 1,
-                                   false);
+             CAxis_setMultiFormat2(s.x, CChart_encodeFilter(CHART_REGULAR_SPACING, b ? 6 : 4, 0), "I", 1, false);
          },
          [](const Shot& p, bool b) { return blocks(p, kBelow, false) == (b ? 2 : 3); }},
     };

@@ -29,27 +29,15 @@ inline const char* const s_image = CHART_SOURCE "/docs/images/pie-chart.png";
 inline const char* const s_font = "/usr/share/fonts/truetype/dejavu/DejaVuSans.ttf";
 
 template <class T>
-constexpr bool isArray = std::is_same_v<T, const double*> || std::is_same_v<T, const int*> ||
-                         std::is_same_v<T, const char* const*>;
+constexpr bool isArray =
+    std::is_same_v<T, const double*> || std::is_same_v<T, const int*> || std::is_same_v<T, const char* const*>;
 
-inline BaseChart* baseOf(XYChart* chart) {
-    return XYChart2BaseChart(chart);
-}
-inline BaseChart* baseOf(PieChart* chart) {
-    return PieChart2BaseChart(chart);
-}
-inline BaseChart* baseOf(PolarChart* chart) {
-    return PolarChart2BaseChart(chart);
-}
-inline BaseChart* baseOf(MultiChart* chart) {
-    return MultiChart2BaseChart(chart);
-}
-inline BaseChart* baseOf(AngularMeter* meter) {
-    return BaseMeter2BaseChart(AngularMeter2BaseMeter(meter));
-}
-inline BaseChart* baseOf(LinearMeter* meter) {
-    return BaseMeter2BaseChart(LinearMeter2BaseMeter(meter));
-}
+inline BaseChart* baseOf(XYChart* chart) { return XYChart2BaseChart(chart); }
+inline BaseChart* baseOf(PieChart* chart) { return PieChart2BaseChart(chart); }
+inline BaseChart* baseOf(PolarChart* chart) { return PolarChart2BaseChart(chart); }
+inline BaseChart* baseOf(MultiChart* chart) { return MultiChart2BaseChart(chart); }
+inline BaseChart* baseOf(AngularMeter* meter) { return BaseMeter2BaseChart(AngularMeter2BaseMeter(meter)); }
+inline BaseChart* baseOf(LinearMeter* meter) { return BaseMeter2BaseChart(LinearMeter2BaseMeter(meter)); }
 
 /// Where arguments come from: values at and beyond all limits, and the handles that calls have given.
 class Caller {
@@ -143,8 +131,7 @@ private:
         const std::size_t chance = below(20);
         if (chance == 0 && !m_all.empty())
             return static_cast<Handle*>(m_all[below(m_all.size())]);
-        return chance == 1 || fitting.empty() ? nullptr
-                                              : static_cast<Handle*>(fitting[below(fitting.size())]);
+        return chance == 1 || fitting.empty() ? nullptr : static_cast<Handle*>(fitting[below(fitting.size())]);
     }
 
     /// The chart that the first argument belongs to; null for a creator.
@@ -180,8 +167,7 @@ private:
     }
 
     int number() {
-        static const int odd[] = {INT_MIN,           -20000,          -1, 0, 1, 20000, INT_MAX,
-                                  CHART_TRANSPARENT, CHART_TEXT_COLOR};
+        static const int odd[] = {INT_MIN, -20000, -1, 0, 1, 20000, INT_MAX, CHART_TRANSPARENT, CHART_TEXT_COLOR};
         return below(4) == 0 ? odd[below(std::size(odd))] : static_cast<int>(below(450)) - 50;
     }
 

@@ -4,8 +4,7 @@ namespace surface {
 
 std::vector<Row> chartRows() {
     return {
-        {"CBaseChart_setSize", blank,
-         [](Scene& s, bool b) { CBaseChart_setSize(s.chart, b ? 40 : 70, b ? 90 : 30); },
+        {"CBaseChart_setSize", blank, [](Scene& s, bool b) { CBaseChart_setSize(s.chart, b ? 40 : 70, b ? 90 : 30); },
          [](const Shot& p, bool b) { return p.size() == (b ? QSize(40, 90) : QSize(70, 30)); }},
         {"CBaseChart_setBackground", blank,
          [](Scene& s, bool b) { CBaseChart_setBackground(s.chart, b ? kRed : kBlue, b ? kBlue : kGreen, 0); },
@@ -17,12 +16,8 @@ std::vector<Row> chartRows() {
          [](Scene& s, bool b) { CBaseChart_setBackground(s.chart, kBlue, kNone, b ? 4 : 0); },
          [](const Shot& p, bool b) { return p.is(1, 100, kBlue) != b && p.is(150, 100, kBlue); }},
         {"CBaseChart_setBgImage", blank,
-         [](Scene& s, bool b) {
-             CBaseChart_setBgImage(s.chart, imageFile(), b ? CHART_BOTTOM_RIGHT : CHART_TOP);
-         },
-         [](const Shot& p, bool b) {
-             return p.fills(kBlue, b ? QRect(290, 190, 10, 10) : QRect(150, 0, 10, 10), 0);
-         }},
+         [](Scene& s, bool b) { CBaseChart_setBgImage(s.chart, imageFile(), b ? CHART_BOTTOM_RIGHT : CHART_TOP); },
+         [](const Shot& p, bool b) { return p.fills(kBlue, b ? QRect(290, 190, 10, 10) : QRect(150, 0, 10, 10), 0); }},
         {"CBaseChart_setRoundedFrame", blank,
          [](Scene& s, bool b) {
              CBaseChart_setBackground(s.chart, kGreen, kNone, 0);
@@ -30,11 +25,9 @@ std::vector<Row> chartRows() {
                : CBaseChart_setRoundedFrame(s.chart, kBlue, 0, 0, 20, 40);
          },
          [](const Shot& p, bool b) {
-             return b ? p.is(10, 10, kRed) && p.is(295, 3, kRed) && p.is(288, 12, kGreen) &&
-                            p.is(296, 196, kRed) && p.is(291, 191, kGreen) && p.is(1, 198, kRed) &&
-                            p.is(5, 194, kGreen)
-                      : p.is(0, 0, kGreen) && p.is(299, 0, kGreen) && p.is(296, 196, kBlue) &&
-                            p.is(10, 189, kBlue);
+             return b ? p.is(10, 10, kRed) && p.is(295, 3, kRed) && p.is(288, 12, kGreen) && p.is(296, 196, kRed) &&
+                            p.is(291, 191, kGreen) && p.is(1, 198, kRed) && p.is(5, 194, kGreen)
+                      : p.is(0, 0, kGreen) && p.is(299, 0, kGreen) && p.is(296, 196, kBlue) && p.is(10, 189, kBlue);
          }},
         {"CBaseChart_setDefaultFonts", blank,
          [](Scene& s, bool b) {
@@ -44,8 +37,8 @@ std::vector<Row> chartRows() {
              const char* const styles[] = {"normal", "bold", "italic", "boldItalic"};
              const int colours[] = {kRed, kGreen, kBlue, kPink};
              for (int i = 0; i < 4; ++i)
-                 CBaseChart_addText(s.chart, 0, 40 * i, "WWWWWWWW", styles[i], 20, colours[i], CHART_TOP_LEFT,
-                                    0, false);
+                 CBaseChart_addText(s.chart, 0, 40 * i, "WWWWWWWW", styles[i], 20, colours[i], CHART_TOP_LEFT, 0,
+                                    false);
          },
          [](const Shot& p, bool b) {
              const int red = p.box(kRed).width(), green = p.box(kGreen).width(), blue = p.box(kBlue).width(),
@@ -80,9 +73,8 @@ std::vector<Row> chartRows() {
          }},
         {"CBaseChart_addTitle2", blank,
          [](Scene& s, bool b) {
-             CBaseChart_addTitle2(s.chart, b ? CHART_BOTTOM_LEFT : CHART_RIGHT, b ? "TTTTTTTT" : "TT",
-                                  "normal", b ? 10 : 30, b ? kRed : kBlue, b ? kCyan : kGreen,
-                                  b ? kBrown : kPink);
+             CBaseChart_addTitle2(s.chart, b ? CHART_BOTTOM_LEFT : CHART_RIGHT, b ? "TTTTTTTT" : "TT", "normal",
+                                  b ? 10 : 30, b ? kRed : kBlue, b ? kCyan : kGreen, b ? kBrown : kPink);
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.box(b ? kRed : kBlue), box = p.box(b ? kCyan : kGreen);
@@ -93,20 +85,17 @@ std::vector<Row> chartRows() {
         {"CBaseChart_addText", blank,
          [](Scene& s, bool b) {
              b ? CBaseChart_addText(s.chart, 60, 40, "TTTT", "bold", 20, kRed, CHART_TOP_LEFT, 0, false)
-               : CBaseChart_addText(s.chart, 200, 150, "TTTT", "bold", 10, kBlue, CHART_BOTTOM_RIGHT, 0,
-                                    true);
+               : CBaseChart_addText(s.chart, 200, 150, "TTTT", "bold", 10, kBlue, CHART_BOTTOM_RIGHT, 0, true);
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.box(b ? kRed : kBlue);
-             return b ? ink.left() >= 60 && ink.left() < 64 && ink.top() >= 40 && ink.top() < 52 &&
-                            ink.width() > 50
+             return b ? ink.left() >= 60 && ink.left() < 64 && ink.top() >= 40 && ink.top() < 52 && ink.width() > 50
                       : ink.right() < 200 && ink.right() > 190 && ink.bottom() < 150 && ink.bottom() > 130 &&
                             ink.height() > 2 * ink.width();
          }},
         {"CBaseChart_addText", blank, // the angle
          [](Scene& s, bool b) {
-             CBaseChart_addText(s.chart, 150, 100, "TTTTTTTT", "bold", 10, kRed, CHART_CENTER, b ? 90 : 0,
-                                false);
+             CBaseChart_addText(s.chart, 150, 100, "TTTTTTTT", "bold", 10, kRed, CHART_CENTER, b ? 90 : 0, false);
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.box(kRed);
@@ -121,24 +110,20 @@ std::vector<Row> chartRows() {
              return b ? p.fills(kRed, QRect(20, 48, 101, 5)) : p.fills(kBlue, QRect(196, 30, 9, 61));
          }},
         {"CBaseChart_addLegend", pairs,
-         [](Scene& s, bool b) {
-             CBaseChart_addLegend(s.chart, b ? 60 : 10, b ? 10 : 30, b, "normal", b ? 16 : 8);
-         },
+         [](Scene& s, bool b) { CBaseChart_addLegend(s.chart, b ? 60 : 10, b ? 10 : 30, b, "normal", b ? 16 : 8); },
          [](const Shot& p, bool b) {
              const QRect left(0, 0, 300, 70);
              const QRect green = p.box(kGreen, left), red = p.box(kRed, left);
-             return b ? green.left() >= 60 && green.left() < 80 && green.left() == red.left() &&
-                            green.width() > 10
-                      : green.left() >= 10 && green.left() < 30 && green.top() == red.top() &&
-                            green.width() < 14 && green.top() > 30;
+             return b ? green.left() >= 60 && green.left() < 80 && green.left() == red.left() && green.width() > 10
+                      : green.left() >= 10 && green.left() < 30 && green.top() == red.top() && green.width() < 14 &&
+                            green.top() > 30;
          }},
         {"CBaseChart_patternColor", blank,
          [](Scene& s, bool b) {
              // Two rows of three pixels; the start moves them.
              const int pixels[] = {kRed, kGreen, kBlue, kWhite, kPink, kCyan};
              CBaseChart_setBackground(
-                 s.chart, CBaseChart_patternColor(s.chart, pixels, 6, b ? 2 : 1, b ? 1 : 0, b ? 0 : 0), kNone,
-                 0);
+                 s.chart, CBaseChart_patternColor(s.chart, pixels, 6, b ? 2 : 1, b ? 1 : 0, b ? 0 : 0), kNone, 0);
          },
          [](const Shot& p, bool b) {
              return b ? p.is(100, 101, kWhite) && p.is(100, 100, kRed) && p.is(101, 100, kGreen) &&
@@ -147,8 +132,8 @@ std::vector<Row> chartRows() {
          }},
         {"CBaseChart_patternColor2", blank,
          [](Scene& s, bool b) {
-             CBaseChart_setBackground(
-                 s.chart, CBaseChart_patternColor2(s.chart, imageFile(), b ? 5 : 0, b ? 3 : 0), kNone, 0);
+             CBaseChart_setBackground(s.chart, CBaseChart_patternColor2(s.chart, imageFile(), b ? 5 : 0, b ? 3 : 0),
+                                      kNone, 0);
          },
          [](const Shot& p, bool b) { return p.is(b ? 5 : 0, 50, kBrown) && p.is(b ? 4 : 10, 50, kBlue); }},
         {"CChart_metalColor", blank,
@@ -161,8 +146,7 @@ std::vector<Row> chartRows() {
          }},
         {"CChart_softLighting", blank,
          [](Scene& s, bool b) {
-             CBaseChart_setBackground(s.chart, kGreen, kNone,
-                                      CChart_softLighting(b ? CHART_LEFT : CHART_TOP, 0));
+             CBaseChart_setBackground(s.chart, kGreen, kNone, CChart_softLighting(b ? CHART_LEFT : CHART_TOP, 0));
          },
          [](const Shot& p, bool b) { // falls off from that side
              const auto alike = [&](int x1, int y1, int x2, int y2) {
@@ -186,12 +170,9 @@ std::vector<Row> chartRows() {
          }},
         // ---- boxes and texts
         {"CBox_setBackground", text,
-         [](Scene& s, bool b) {
-             CBox_setBackground(TextBox2Box(s.text), b ? kCyan : kGreen, b ? kBlue : kPink, 0);
-         },
+         [](Scene& s, bool b) { CBox_setBackground(TextBox2Box(s.text), b ? kCyan : kGreen, b ? kBlue : kPink, 0); },
          [](const Shot& p, bool b) { return p.has(b ? kCyan : kGreen) && p.is(100, 80, b ? kBlue : kPink); }},
-        {"CBox_setPos", text,
-         [](Scene& s, bool b) { CBox_setPos(TextBox2Box(s.text), b ? 30 : 120, b ? 150 : 20); },
+        {"CBox_setPos", text, [](Scene& s, bool b) { CBox_setPos(TextBox2Box(s.text), b ? 30 : 120, b ? 150 : 20); },
          [](const Shot& p, bool b) {
              const QRect ink = p.box(kRed);
              return std::abs(ink.left() - (b ? 32 : 122)) <= 2 && std::abs(ink.top() - (b ? 154 : 24)) <= 4;
@@ -206,17 +187,14 @@ std::vector<Row> chartRows() {
          }},
         {"CTextBox_setText", text, [](Scene& s, bool b) { CTextBox_setText(s.text, b ? "I" : "WWWW"); },
          [](const Shot& p, bool b) { return (p.box(kRed).width() < 10) == b; }},
-        {"CTextBox_setFontAngle", text,
-         [](Scene& s, bool b) { CTextBox_setFontAngle(s.text, b ? 0 : 90, b); },
+        {"CTextBox_setFontAngle", text, [](Scene& s, bool b) { CTextBox_setFontAngle(s.text, b ? 0 : 90, b); },
          [](const Shot& p, bool b) { // letters one below the other are upright: H is two posts
              const QRect ink = p.box(kRed);
              return b ? ink.height() > 90 : ink.height() > 40 && ink.height() < 90;
          }},
-        {"CTextBox_setFontColor", text,
-         [](Scene& s, bool b) { CTextBox_setFontColor(s.text, b ? kBlue : kGreen); },
+        {"CTextBox_setFontColor", text, [](Scene& s, bool b) { CTextBox_setFontColor(s.text, b ? kBlue : kGreen); },
          [](const Shot& p, bool b) { return p.has(b ? kBlue : kGreen) && !p.has(kRed); }},
-        {"CTextBox_setFontSize", text,
-         [](Scene& s, bool b) { CTextBox_setFontSize(s.text, b ? 10 : 20, b ? 20 : 10); },
+        {"CTextBox_setFontSize", text, [](Scene& s, bool b) { CTextBox_setFontSize(s.text, b ? 10 : 20, b ? 20 : 10); },
          [](const Shot& p, bool b) {
              return (p.box(kRed).height() < 18) == b && p.box(kRed).width() > 5 * (b ? 17 : 8);
          }},
@@ -240,9 +218,7 @@ std::vector<Row> chartRows() {
              CBox_setBackground(TextBox2Box(s.text), kCyan, kNone, 0);
              CTextBox_setHeight(s.text, b ? 40 : 70);
          },
-         [](const Shot& p, bool b) {
-             return p.box(kCyan).height() == (b ? 40 : 70) && p.box(kCyan).top() == 80;
-         }},
+         [](const Shot& p, bool b) { return p.box(kCyan).height() == (b ? 40 : 70) && p.box(kCyan).top() == 80; }},
         {"CTextBox_setMargin", text,
          [](Scene& s, bool b) {
              CBox_setBackground(TextBox2Box(s.text), kCyan, kNone, 0);
@@ -260,8 +236,8 @@ std::vector<Row> chartRows() {
          },
          [](const Shot& p, bool b) {
              const QRect box = p.box(kCyan), ink = p.box(kRed);
-             const int left = ink.left() - box.left(), right = box.right() - ink.right(),
-                       top = ink.top() - box.top(), bottom = box.bottom() - ink.bottom();
+             const int left = ink.left() - box.left(), right = box.right() - ink.right(), top = ink.top() - box.top(),
+                       bottom = box.bottom() - ink.bottom();
              return b ? left > 28 && right > 8 && right < 15 && top > 20 && bottom < 12
                       : left < 4 && right > 18 && top > 10 && top < 20 && bottom > 28;
          }},
@@ -286,12 +262,8 @@ std::vector<Row> chartRows() {
          },
          [](const Shot& p, bool b) { return p.has(kBrown) == b && p.has(kRed) != b; }},
         {"CDrawArea_load", blank,
-         [](Scene& s, bool b) {
-             CDrawArea_load(CBaseChart_getDrawArea(s.chart), b ? imageFile() : "none.png");
-         },
-         [](const Shot& p, bool b) {
-             return p.size() == (b ? QSize(20, 10) : QSize(300, 200)) && p.has(kBrown) == b;
-         }},
+         [](Scene& s, bool b) { CDrawArea_load(CBaseChart_getDrawArea(s.chart), b ? imageFile() : "none.png"); },
+         [](const Shot& p, bool b) { return p.size() == (b ? QSize(20, 10) : QSize(300, 200)) && p.has(kBrown) == b; }},
         // ---- plot area
         {"CXYChart_setPlotArea", blank,
          [](Scene& s, bool b) {
@@ -303,8 +275,7 @@ std::vector<Row> chartRows() {
              CAxis_setWidth(CXYChart_xAxis(s.xy), 0);
          },
          [](const Shot& p, bool b) {
-             return b ? p.is(250, 100, kRed) && p.is(120, 80, kGreen) && p.is(100, 90, kBlue) &&
-                            p.is(75, 100, kCyan)
+             return b ? p.is(250, 100, kRed) && p.is(120, 80, kGreen) && p.is(100, 90, kBlue) && p.is(75, 100, kCyan)
                       : p.is(180, 100, kBlue) && p.is(105, 100, kRed) && p.has(kPink) && p.has(kBrown) &&
                             !p.has(kGreen);
          }},
@@ -317,12 +288,8 @@ std::vector<Row> chartRows() {
                     p.has(b ? kBlue : kGreen) && p.is(250, yOf(50), b ? kPink : kCyan);
          }},
         {"CPlotArea_setBackground2", axes,
-         [](Scene& s, bool b) {
-             CPlotArea_setBackground2(s.plot, imageFile(), b ? CHART_TOP_LEFT : CHART_CENTER);
-         },
-         [](const Shot& p, bool b) {
-             return p.fills(kBlue, b ? QRect(60, 20, 10, 10) : QRect(150, 90, 10, 10), 1);
-         }},
+         [](Scene& s, bool b) { CPlotArea_setBackground2(s.plot, imageFile(), b ? CHART_TOP_LEFT : CHART_CENTER); },
+         [](const Shot& p, bool b) { return p.fills(kBlue, b ? QRect(60, 20, 10, 10) : QRect(150, 90, 10, 10), 1); }},
         {"CPlotArea_set4QBgColor", axes,
          [](Scene& s, bool b) {
              CAxis_setLinearScale(s.x, -2, 2, 1, 0);
@@ -361,14 +328,9 @@ std::vector<Row> chartRows() {
                     p.box(kPink, QRect(85, 80, 40, 1)).width() == (b ? 3 : 9);
          }},
         {"CXYChart_swapXY", bars, [](Scene& s, bool b) { CXYChart_swapXY(s.xy, b); },
-         [](const Shot& p, bool b) {
-             return p.box(kGreen).height() > 130 ? b : !b && p.box(kGreen).width() > 180;
-         }},
-        {"CXYChart_setTrimData", bars,
-         [](Scene& s, bool b) { CXYChart_setTrimData(s.xy, b ? 1 : 0, b ? 2 : 1); },
-         [](const Shot& p, bool b) {
-             return p.box(kGreen).top() == yOf(b ? 60 : 20) && p.box(kGreen).width() > 100;
-         }},
+         [](const Shot& p, bool b) { return p.box(kGreen).height() > 130 ? b : !b && p.box(kGreen).width() > 180; }},
+        {"CXYChart_setTrimData", bars, [](Scene& s, bool b) { CXYChart_setTrimData(s.xy, b ? 1 : 0, b ? 2 : 1); },
+         [](const Shot& p, bool b) { return p.box(kGreen).top() == yOf(b ? 60 : 20) && p.box(kGreen).width() > 100; }},
         {"CXYChart_setAxisAtOrigin", axes,
          [](Scene& s, bool b) {
              CAxis_setLinearScale(s.x, -2, 2, 1, 0);
@@ -393,9 +355,7 @@ std::vector<Row> chartRows() {
              CAxis_setColors(s.y, kBlue, kNone, kNone, kNone);
              CXYChart_setYAxisOnRight(s.xy, b);
          },
-         [](const Shot& p, bool b) {
-             return p.is(b ? 250 : 50, 100, kBlue) && !p.is(b ? 50 : 250, 100, kBlue);
-         }},
+         [](const Shot& p, bool b) { return p.is(b ? 250 : 50, 100, kBlue) && !p.is(b ? 50 : 250, 100, kBlue); }},
         {"CXYChart_addAxis", axes,
          [](Scene& s, bool b) {
              Axis* axis = CXYChart_addAxis(s.xy, b ? CHART_RIGHT : CHART_TOP, b ? 20 : 10);

@@ -8,9 +8,7 @@ const double kThree[] = {30, 60, 90};
 const double kOther[] = {90, 30, 60};
 
 /// Labels at the tops of the bars of `bars`, from left to right.
-QRect above(int row, double value) {
-    return {55 + 50 * row, yOf(value) - 20, 40, 18};
-}
+QRect above(int row, double value) { return {55 + 50 * row, yOf(value) - 20, 40, 18}; }
 
 void candles(Scene& s, int rise, int fall, int edge) {
     const double high[] = {90, 80}, low[] = {10, 20}, open[] = {30, 70}, close[] = {60, 40};
@@ -38,13 +36,12 @@ std::vector<Row> layerRows() {
              CXYChart_addBarLayer(s.xy, b ? kThree : kOther, b ? 3 : 2, b ? kRed : kBlue, "", b ? 0 : 9);
          },
          [](const Shot& p, bool b) {
-             return p.has(b ? kRed : kBlue) &&
-                    (b ? p.box(kRed).top() == yOf(90) : !p.is(xOf(2), yOf(20), kBlue));
+             return p.has(b ? kRed : kBlue) && (b ? p.box(kRed).top() == yOf(90) : !p.is(xOf(2), yOf(20), kBlue));
          }},
         {"CXYChart_addBarLayer2", axes,
          [](Scene& s, bool b) {
-             Layer* layer = BarLayer2Layer(
-                 CXYChart_addBarLayer2(s.xy, b ? CHART_COMBINE_STACK : CHART_COMBINE_PERCENTAGE, 0));
+             Layer* layer =
+                 BarLayer2Layer(CXYChart_addBarLayer2(s.xy, b ? CHART_COMBINE_STACK : CHART_COMBINE_PERCENTAGE, 0));
              const double low[] = {20, 20}, high[] = {30, 60};
              CLayer_addDataSet(layer, low, 2, kRed, nullptr);
              CLayer_addDataSet(layer, high, 2, kBlue, nullptr);
@@ -55,8 +52,7 @@ std::vector<Row> layerRows() {
          }},
         {"CXYChart_addLineLayer", axes,
          [](Scene& s, bool b) {
-             thick(CXYChart_addLineLayer(s.xy, b ? kThree : kOther, b ? 3 : 2, b ? kRed : kBlue, nullptr,
-                                         b ? 0 : 20));
+             thick(CXYChart_addLineLayer(s.xy, b ? kThree : kOther, b ? 3 : 2, b ? kRed : kBlue, nullptr, b ? 0 : 20));
          },
          [](const Shot& p, bool b) {
              return p.has(b ? kRed : kBlue, QRect(xOf(1) - 3, yOf(b ? 60 : 30) - 3, 7, 7)) &&
@@ -79,8 +75,8 @@ std::vector<Row> layerRows() {
          }},
         {"CXYChart_addAreaLayer2", axes,
          [](Scene& s, bool b) {
-             Layer* layer = AreaLayer2Layer(
-                 CXYChart_addAreaLayer2(s.xy, b ? CHART_COMBINE_STACK : CHART_COMBINE_PERCENTAGE, 0));
+             Layer* layer =
+                 AreaLayer2Layer(CXYChart_addAreaLayer2(s.xy, b ? CHART_COMBINE_STACK : CHART_COMBINE_PERCENTAGE, 0));
              const double low[] = {20, 20, 20}, high[] = {60, 60, 60};
              CLayer_addDataSet(layer, low, 3, kRed, nullptr);
              CLayer_addDataSet(layer, high, 3, kBlue, nullptr);
@@ -93,8 +89,8 @@ std::vector<Row> layerRows() {
          [](Scene& s, bool b) {
              const double xs[] = {1, 3}, ys[] = {20, 70};
              CXYChart_addScatterLayer(s.xy, b ? xs : xs + 1, b ? 2 : 1, b ? ys : ys + 1, b ? 2 : 1, nullptr,
-                                      b ? CHART_SQUARE_SYMBOL : CHART_CROSS_SYMBOL, b ? 15 : 25,
-                                      b ? kRed : kBlue, b ? kBlue : kRed);
+                                      b ? CHART_SQUARE_SYMBOL : CHART_CROSS_SYMBOL, b ? 15 : 25, b ? kRed : kBlue,
+                                      b ? kBlue : kRed);
          },
          [](const Shot& p, bool b) {
              return p.is(xOf(3), yOf(70), b ? kRed : kBlue) && p.is(xOf(1), yOf(20), kRed) == b &&
@@ -102,8 +98,7 @@ std::vector<Row> layerRows() {
          }},
         {"CXYChart_addBoxWhiskerLayer", axes,
          [](Scene& s, bool b) {
-             const double high[] = {60}, low[] = {30}, most[] = {90}, least[] = {10}, middle[] = {40},
-                          other[] = {50};
+             const double high[] = {60}, low[] = {30}, most[] = {90}, least[] = {10}, middle[] = {40}, other[] = {50};
              CXYChart_addBoxWhiskerLayer(s.xy, high, 1, low, 1, b ? most : middle, b ? 1 : 0, least, 1,
                                          b ? middle : other, 1, b ? kRed : kPink, b ? kGreen : kBlue,
                                          b ? kBlue : kGreen);
@@ -140,8 +135,8 @@ std::vector<Row> layerRows() {
         {"CXYChart_addCandleStickLayer", axes,
          [](Scene& s, bool b) { candles(s, b ? kRed : kBlue, b ? kBlue : kGreen, b ? kGreen : kRed); },
          [](const Shot& p, bool b) { // the first rises from 30 to 60, the second falls from 70 to 40
-             return p.is(xOf(0) + 4, yOf(45), b ? kRed : kBlue) &&
-                    p.is(xOf(1), yOf(55), b ? kBlue : kGreen) && p.is(xOf(1), yOf(75), b ? kGreen : kRed);
+             return p.is(xOf(0) + 4, yOf(45), b ? kRed : kBlue) && p.is(xOf(1), yOf(55), b ? kBlue : kGreen) &&
+                    p.is(xOf(1), yOf(75), b ? kGreen : kRed);
          }},
         {"CXYChart_addInterLineLayer", axes,
          [](Scene& s, bool b) {
@@ -163,8 +158,7 @@ std::vector<Row> layerRows() {
              const double level[] = {10, 10, 10};
              LineLayer* lower = CXYChart_addLineLayer(s.xy, level, 3, kNone, nullptr, 0);
              // The layer is a line layer with two lines.
-             CXYChart_addInterLineLayer(s.xy,
-                                        CLineLayer_getLine(reinterpret_cast<LineLayer*>(layer), b ? 0 : 1),
+             CXYChart_addInterLineLayer(s.xy, CLineLayer_getLine(reinterpret_cast<LineLayer*>(layer), b ? 0 : 1),
                                         CLineLayer_getLine(lower, 0), kRed, kRed);
          },
          [](const Shot& p, bool b) {
@@ -175,9 +169,7 @@ std::vector<Row> layerRows() {
              Mark* mark = CAxis_addMark(s.y, b ? 0 : 90, kNone, "", nullptr, 8);
              CXYChart_addInterLineLayer(s.xy, CLineLayer_getLine(s.line, 0), CMark_getLine(mark), kRed, kRed);
          },
-         [](const Shot& p, bool b) {
-             return p.is(xOf(2), yOf(30), kRed) == b && p.is(xOf(2), yOf(75), kRed) != b;
-         }},
+         [](const Shot& p, bool b) { return p.is(xOf(2), yOf(30), kRed) == b && p.is(xOf(2), yOf(75), kRed) != b; }},
         {"CLayer_addDataSet", bars,
          [](Scene& s, bool b) {
              CLayer_addDataSet(s.layer, b ? kThree : kOther, b ? 3 : 1, b ? kRed : kBlue, b ? "red" : "");
@@ -190,16 +182,12 @@ std::vector<Row> layerRows() {
                     p.has(colour, QRect(0, 0, 300, 18)) == b;
          }},
         {"CLayer_getDataSet", pairs,
-         [](Scene& s, bool b) {
-             CDataSet_setDataColor(CLayer_getDataSet(s.layer, b ? 1 : 0), kPink, -1, -1, -1);
-         },
-         [](const Shot& p, bool b) {
-             return p.has(kPink) && p.has(b ? kGreen : kRed) && !p.has(b ? kRed : kGreen);
-         }},
+         [](Scene& s, bool b) { CDataSet_setDataColor(CLayer_getDataSet(s.layer, b ? 1 : 0), kPink, -1, -1, -1); },
+         [](const Shot& p, bool b) { return p.has(kPink) && p.has(b ? kGreen : kRed) && !p.has(b ? kRed : kGreen); }},
         {"CLayer_set3D", bars,
          [](Scene& s, bool b) { // in front of the bars, which its depth and gap move backwards
-             CLayer_set3D(LineLayer2Layer(CXYChart_addLineLayer(s.xy, kOther, 3, kRed, nullptr, 0)),
-                          b ? 20 : 6, b ? 0 : 30);
+             CLayer_set3D(LineLayer2Layer(CXYChart_addLineLayer(s.xy, kOther, 3, kRed, nullptr, 0)), b ? 20 : 6,
+                          b ? 0 : 30);
          },
          [](const Shot& p, bool b) {
              const QColor side = p.at(100 + 14, yOf(60) - 14); // a ribbon of its depth
@@ -212,9 +200,7 @@ std::vector<Row> layerRows() {
          [](Scene& s, bool b) { CLayer_setBorderColor(s.layer, b ? kRed : kBlue, b ? 0 : 1); },
          [](const Shot& p, bool b) { return p.is(225, yOf(80), b ? kRed : kBlue); }},
         {"CLayer_setBorderColor", bars,
-         [](Scene& s, bool b) {
-             CLayer_setBorderColor(s.layer, kNone, b ? CChart_softLighting(CHART_LEFT, 0) : 0);
-         },
+         [](Scene& s, bool b) { CLayer_setBorderColor(s.layer, kNone, b ? CChart_softLighting(CHART_LEFT, 0) : 0); },
          [](const Shot& p, bool b) { return p.is(225, yOf(40), kGreen) != b; }},
         {"CLayer_setXData", line,
          [](Scene& s, bool b) {
@@ -239,8 +225,7 @@ std::vector<Row> layerRows() {
          [](const Shot& p, bool b) { return p.box(kGreen).top() == (b ? 95 : 50); }},
         {"CLayer_setDataLabelStyle", bars,
          [](Scene& s, bool b) {
-             CLayer_setDataLabelStyle(s.layer, b ? "bold" : "boldItalic", b ? 12 : 9, b ? kRed : kBlue,
-                                      b ? 0 : 90);
+             CLayer_setDataLabelStyle(s.layer, b ? "bold" : "boldItalic", b ? 12 : 9, b ? kRed : kBlue, b ? 0 : 90);
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.ink(above(1, 60));
@@ -280,15 +265,12 @@ std::vector<Row> layerRows() {
                : CDataSet_setDataColor(CLayer_getDataSet(s.layer, 0), kBlue, kRed, kBrown, kPink);
          },
          [](const Shot& p, bool b) {
-             return p.box(b ? kRed : kBlue).width() > 150 && p.has(b ? kBlue : kRed) &&
-                    p.has(b ? kCyan : kPink);
+             return p.box(b ? kRed : kBlue).width() > 150 && p.has(b ? kBlue : kRed) && p.has(b ? kCyan : kPink);
          }},
         {"CDataSet_setDataSymbol", line,
          [](Scene& s, bool b) {
-             b ? CDataSet_setDataSymbol(CLayer_getDataSet(s.layer, 0), CHART_SQUARE_SYMBOL, 25, kRed, kBlue,
-                                        5)
-               : CDataSet_setDataSymbol(CLayer_getDataSet(s.layer, 0), CHART_CROSS_SYMBOL, 35, kBlue, kPink,
-                                        1);
+             b ? CDataSet_setDataSymbol(CLayer_getDataSet(s.layer, 0), CHART_SQUARE_SYMBOL, 25, kRed, kBlue, 5)
+               : CDataSet_setDataSymbol(CLayer_getDataSet(s.layer, 0), CHART_CROSS_SYMBOL, 35, kBlue, kPink, 1);
          },
          [](const Shot& p, bool b) {
              const QRect all = p.ink(QRect(xOf(2) - 25, yOf(60) - 12, 51, 3));
@@ -297,8 +279,8 @@ std::vector<Row> layerRows() {
          }},
         {"CBarLayer_setBarShape", pairs,
          [](Scene& s, bool b) {
-             CBarLayer_setBarShape(s.bars, b ? CHART_TRIANGLE_SHAPE : CHART_INVERTED_TRIANGLE_SHAPE,
-                                   b ? 0 : 1, b ? 1 : 0);
+             CBarLayer_setBarShape(s.bars, b ? CHART_TRIANGLE_SHAPE : CHART_INVERTED_TRIANGLE_SHAPE, b ? 0 : 1,
+                                   b ? 1 : 0);
          },
          [](const Shot& p, bool b) { // the green bar of the second row, or the red one of the first
              const QRect green = p.box(kGreen, QRect(150, yOf(58), 100, 1)),
@@ -332,16 +314,12 @@ std::vector<Row> layerRows() {
              return p.box(kRed, QRect(110, 0, 80, 170)).size() == (b ? QSize(31, 11) : QSize(11, 31));
          }},
         {"CBaseBoxLayer_setDataGap", boxes,
-         [](Scene& s, bool b) {
-             CBaseBoxLayer_setDataGap(reinterpret_cast<BaseBoxLayer*>(s.layer), b ? 0.2 : 0.8);
-         },
+         [](Scene& s, bool b) { CBaseBoxLayer_setDataGap(reinterpret_cast<BaseBoxLayer*>(s.layer), b ? 0.2 : 0.8); },
          [](const Shot& p, bool b) {
              return std::abs(p.box(kGreen, QRect(50, 0, 100, 200)).width() - (b ? 80 : 20)) <= 3;
          }},
         {"CBaseBoxLayer_setDataWidth", boxes,
-         [](Scene& s, bool b) {
-             CBaseBoxLayer_setDataWidth(reinterpret_cast<BaseBoxLayer*>(s.layer), b ? 31 : 61);
-         },
+         [](Scene& s, bool b) { CBaseBoxLayer_setDataWidth(reinterpret_cast<BaseBoxLayer*>(s.layer), b ? 31 : 61); },
          [](const Shot& p, bool b) {
              return std::abs(p.box(kGreen, QRect(50, 0, 100, 200)).width() - (b ? 31 : 61)) <= 1;
          }},
@@ -350,8 +328,8 @@ std::vector<Row> layerRows() {
              CBaseChart_addLegend(s.chart, 0, 180, false, nullptr, 7);
              const int colours[] = {kRed, kBlue, kPink};
              const char* const names[] = {"one", "two"};
-             CBoxWhiskerLayer_setBoxColors(reinterpret_cast<BoxWhiskerLayer*>(s.layer),
-                                           b ? colours : colours + 1, 2, names, b ? 2 : 1);
+             CBoxWhiskerLayer_setBoxColors(reinterpret_cast<BoxWhiskerLayer*>(s.layer), b ? colours : colours + 1, 2,
+                                           names, b ? 2 : 1);
          },
          [](const Shot& p, bool b) {
              return p.is(100, yOf(40), b ? kRed : kBlue) && p.is(200, yOf(60), b ? kBlue : kPink) &&
@@ -364,8 +342,8 @@ std::vector<Row> layerRows() {
          },
          [](const Shot& p, bool b) { // closes: 60, 40, 70, after 50 or 90
              const int rise = b ? kRed : kBlue, fall = b ? kBlue : kGreen;
-             return p.has(b ? rise : fall, QRect(50, 20, 6, 150)) &&
-                    p.has(fall, QRect(xOf(1) - 2, 20, 5, 150)) && p.has(rise, QRect(xOf(2) - 2, 20, 5, 150));
+             return p.has(b ? rise : fall, QRect(50, 20, 6, 150)) && p.has(fall, QRect(xOf(1) - 2, 20, 5, 150)) &&
+                    p.has(rise, QRect(xOf(2) - 2, 20, 5, 150));
          }},
     };
 }

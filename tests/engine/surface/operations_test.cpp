@@ -119,8 +119,7 @@ TEST(Operations, OfRandomTablesPassOnTheirArguments) {
     CRanTable_setDateCol(table, 0, friday, day, false);
     EXPECT_EQ(column(table, 0)[1], friday + day);
     CRanTable_setHLOCCols(table, 2, 100, -3, 5, 90, 110);
-    const Doubles high = column(table, 2), low = column(table, 3), open = column(table, 4),
-                  close = column(table, 5);
+    const Doubles high = column(table, 2), low = column(table, 3), open = column(table, 4), close = column(table, 5);
     for (std::size_t i = 0; i < high.size(); ++i) {
         EXPECT_TRUE(90 <= low[i] && low[i] <= open[i] && open[i] <= high[i] && high[i] <= 110);
         EXPECT_TRUE(close[i] - open[i] >= -3 - 1e-9 && close[i] - open[i] <= 5 + 1e-9);
@@ -132,8 +131,7 @@ TEST(Operations, OfRandomTablesPassOnTheirArguments) {
 
 TEST(Operations, ThatAnswerSayWhatWasAsked) {
     EXPECT_EQ(CChart_getChartYMD(CChart_chartTime(2024, 2, 29, 23, 59, 58)), 20240229);
-    EXPECT_EQ(CChart_chartTime(2024, 2, 29, 4, 5, 6) - CChart_chartTime(2024, 2, 29, 0, 0, 0),
-              4 * 3600 + 5 * 60 + 6);
+    EXPECT_EQ(CChart_chartTime(2024, 2, 29, 4, 5, 6) - CChart_chartTime(2024, 2, 29, 0, 0, 0), 4 * 3600 + 5 * 60 + 6);
     Scene s;
     bars(s);
     EXPECT_STREQ(CBaseChart_formatValue(s.chart, 1234.5, "{value|1,.}"), "1,234.5");
@@ -168,15 +166,14 @@ TEST(Operations, OfMultiChartsPlaceTheirCharts) {
     CBaseChart_addLegend(all.chart, 0, 160, false, nullptr, 8);
     const QRect keys(0, 160, 300, 40);
     const Shot shot(all.chart);
-    EXPECT_TRUE(shot.is(20, 50, kPink) && !shot.inked(19, 50) && !shot.inked(20, 49) &&
-                shot.is(200, 99, kCyan) && !shot.inked(200, 100));
+    EXPECT_TRUE(shot.is(20, 50, kPink) && !shot.inked(19, 50) && !shot.inked(20, 49) && shot.is(200, 99, kCyan) &&
+                !shot.inked(200, 100));
     EXPECT_TRUE(shot.has(kBlue, keys)); // of the first one's sectors
     CMultiChart_setMainChart(multi, second.chart);
     const Shot named(all.chart);
     EXPECT_TRUE(named.has(kGreen, keys) && !named.has(kBlue, keys));
     CDataSet_setDataColor(CLayer_getDataSet(second.layer, 0), kBrown, -1, -1, -1);
-    EXPECT_TRUE(
-        Shot(all.chart).has(kBrown, keys)); // what changes in a chart is seen in the one that shows it
+    EXPECT_TRUE(Shot(all.chart).has(kBrown, keys)); // what changes in a chart is seen in the one that shows it
 }
 
 template <class Target, class Source>
@@ -198,18 +195,18 @@ void expectCast(Target* (*cast)(Source*), const char* name) {
     HLOCLayer* prices = CXYChart_addHLOCLayer(xy.xy, value, 1, value, 1, value, 1, value, 1, 0);
     const double radius[] = {50};
     PolarSplineAreaLayer* splineArea = CPolarChart_addSplineAreaLayer(scenes[2].polar, radius, 1, 0, nullptr);
-    const auto all = std::tuple(
-        xy.xy, scenes[1].pie, scenes[2].polar, reinterpret_cast<MultiChart*>(scenes[5].chart),
-        scenes[3].meter, scenes[3].round, scenes[4].straight,
-        CXYChart_addBarLayer(xy.xy, value, 1, 0, nullptr, 0), line, CXYChart_addAreaLayer2(xy.xy, 1, 0),
-        CXYChart_addInterLineLayer(xy.xy, CLineLayer_getLine(line, 0), CMark_getLine(mark), 0, 0),
-        BoxWhiskerLayer2BaseBoxLayer(box), CXYChart_addSplineLayer(xy.xy, value, 1, 0, nullptr),
-        CXYChart_addStepLineLayer(xy.xy, value, 1, 0, nullptr), prices,
-        CXYChart_addCandleStickLayer(xy.xy, value, 1, value, 1, value, 1, value, 1, 0, 0, 0), box,
-        scenes[2].polarLine, CPolarChart_addAreaLayer(scenes[2].polar, radius, 1, 0, nullptr),
-        CPolarChart_addSplineLineLayer(scenes[2].polar, radius, 1, 0, nullptr), splineArea, text,
-        CBaseChart_addLegend(xy.chart, 0, 0, true, nullptr, 8), mark, TextBox2Box(text), CMark_getLine(mark),
-        CBaseMeter_addPointer(scenes[3].meter, 0, 0, 0), xy.chart);
+    const auto all =
+        std::tuple(xy.xy, scenes[1].pie, scenes[2].polar, reinterpret_cast<MultiChart*>(scenes[5].chart),
+                   scenes[3].meter, scenes[3].round, scenes[4].straight,
+                   CXYChart_addBarLayer(xy.xy, value, 1, 0, nullptr, 0), line, CXYChart_addAreaLayer2(xy.xy, 1, 0),
+                   CXYChart_addInterLineLayer(xy.xy, CLineLayer_getLine(line, 0), CMark_getLine(mark), 0, 0),
+                   BoxWhiskerLayer2BaseBoxLayer(box), CXYChart_addSplineLayer(xy.xy, value, 1, 0, nullptr),
+                   CXYChart_addStepLineLayer(xy.xy, value, 1, 0, nullptr), prices,
+                   CXYChart_addCandleStickLayer(xy.xy, value, 1, value, 1, value, 1, value, 1, 0, 0, 0), box,
+                   scenes[2].polarLine, CPolarChart_addAreaLayer(scenes[2].polar, radius, 1, 0, nullptr),
+                   CPolarChart_addSplineLineLayer(scenes[2].polar, radius, 1, 0, nullptr), splineArea, text,
+                   CBaseChart_addLegend(xy.chart, 0, 0, true, nullptr, 8), mark, TextBox2Box(text), CMark_getLine(mark),
+                   CBaseMeter_addPointer(scenes[3].meter, 0, 0, 0), xy.chart);
     Source* source = std::get<Source*>(all);
     ASSERT_NE(source, nullptr) << name;
     EXPECT_EQ(static_cast<void*>(cast(source)), static_cast<void*>(source)) << name;
@@ -236,23 +233,21 @@ TEST(Operations, AreAllInTheseTables) {
     std::set<std::string> named;
     for (const Row& row : allRows())
         named.insert(row.operation);
-    for (const char* number : {"CArrayMath_create",        "CArrayMath_destroy",     "CArrayMath_result",
-                               "CArrayMath_max",           "CArrayMath_add",         "CArrayMath_sub",
-                               "CArrayMath_mul2",          "CArrayMath_div2",        "CArrayMath_financeDiv",
-                               "CArrayMath_abs",           "CArrayMath_delta",       "CArrayMath_movAvg",
-                               "CArrayMath_movMax",        "CArrayMath_movMin",      "CArrayMath_movStdDev",
-                               "CArrayMath_expAvg",        "CArrayMath_selectGTZ",   "CArrayMath_selectLTZ",
-                               "CArrayMath_selectEQZ",     "CRanTable_create",       "CRanTable_destroy",
-                               "CRanTable_setCol",         "CRanTable_setDateCol",   "CRanTable_setHLOCCols",
-                               "CRanTable_getCol",         "CChart_chartTime",       "CChart_getChartYMD",
-                               "CBaseChart_formatValue",   "CBaseChart_getLegend",   "CBox_getHeight",
-                               "CBaseChart_getDrawArea",   "CDrawArea_getWidth",     "CDrawArea_getHeight",
-                               "CDrawArea_destroy",        "CLayer_setHTMLImageMap", "CMultiChart_addChart",
-                               "CMultiChart_setMainChart", "CBaseChart_makeChart2",  "CBaseChart_destroy"})
+    for (const char* number :
+         {"CArrayMath_create",        "CArrayMath_destroy",    "CArrayMath_result",      "CArrayMath_max",
+          "CArrayMath_add",           "CArrayMath_sub",        "CArrayMath_mul2",        "CArrayMath_div2",
+          "CArrayMath_financeDiv",    "CArrayMath_abs",        "CArrayMath_delta",       "CArrayMath_movAvg",
+          "CArrayMath_movMax",        "CArrayMath_movMin",     "CArrayMath_movStdDev",   "CArrayMath_expAvg",
+          "CArrayMath_selectGTZ",     "CArrayMath_selectLTZ",  "CArrayMath_selectEQZ",   "CRanTable_create",
+          "CRanTable_destroy",        "CRanTable_setCol",      "CRanTable_setDateCol",   "CRanTable_setHLOCCols",
+          "CRanTable_getCol",         "CChart_chartTime",      "CChart_getChartYMD",     "CBaseChart_formatValue",
+          "CBaseChart_getLegend",     "CBox_getHeight",        "CBaseChart_getDrawArea", "CDrawArea_getWidth",
+          "CDrawArea_getHeight",      "CDrawArea_destroy",     "CLayer_setHTMLImageMap", "CMultiChart_addChart",
+          "CMultiChart_setMainChart", "CBaseChart_makeChart2", "CBaseChart_destroy"})
         named.insert(number);
-#define OPERATION(name)                                                                                      \
-    if (std::string(#name)[0] == 'C' && !std::string(#name).ends_with("_create") &&                          \
-        !std::string(#name).starts_with("CandleStick"))                                                      \
+#define OPERATION(name)                                                                                                \
+    if (std::string(#name)[0] == 'C' && !std::string(#name).ends_with("_create") &&                                    \
+        !std::string(#name).starts_with("CandleStick"))                                                                \
         EXPECT_TRUE(named.contains(#name)) << #name;
 #include "operations.inc"
 #undef OPERATION

@@ -41,8 +41,9 @@ requires(!std::is_const_v<Handle>) void expectNothing(const char* name, Result (
 
 /// Operations without a handle: nothing to expect.
 template <class Result, class First, class... Args>
-requires(!std::is_pointer_v<First> || std::is_const_v<std::remove_pointer_t<First>>) void expectNothing(
-    const char*, Result (*)(First, Args...), void*) {}
+requires(!std::is_pointer_v<First> ||
+         std::is_const_v<std::remove_pointer_t<First>>) void expectNothing(const char*, Result (*)(First, Args...),
+                                                                           void*) {}
 
 bool endsWith(std::string_view name, std::string_view end) {
     return name.size() >= end.size() && name.substr(name.size() - end.size()) == end;
@@ -53,10 +54,10 @@ bool endsWith(std::string_view name, std::string_view end) {
 TEST(Surface, HandlesOfNoOrAnotherKindGiveNothing) {
     ArrayMath* array = CArrayMath_create(nullptr, 0);
     RanTable* table = CRanTable_create(0, 0, 0);
-#define OPERATION(name)                                                                                      \
-    expectNothing(#name, &name, nullptr);                                                                    \
-    expectNothing(#name, &name,                                                                              \
-                  std::string_view(#name).starts_with("CArrayMath") ? static_cast<void*>(table)              \
+#define OPERATION(name)                                                                                                \
+    expectNothing(#name, &name, nullptr);                                                                              \
+    expectNothing(#name, &name,                                                                                        \
+                  std::string_view(#name).starts_with("CArrayMath") ? static_cast<void*>(table)                        \
                                                                     : static_cast<void*>(array));
 #include "operations.inc"
 #undef OPERATION
@@ -67,17 +68,14 @@ TEST(Surface, HandlesOfNoOrAnotherKindGiveNothing) {
 TEST(Surface, AnyCallsWithAnyArguments) {
     using Call = void (*)(Caller&);
     std::vector<Call> creators, others;
-#define OPERATION(name)                                                                                      \
-    if (!endsWith(#name, "_destroy"))                                                                        \
-        (endsWith(#name, "_create") ? creators : others).push_back([](Caller& caller) {                      \
-            caller.call(&name);                                                                              \
-        });
+#define OPERATION(name)                                                                                                \
+    if (!endsWith(#name, "_destroy"))                                                                                  \
+        (endsWith(#name, "_create") ? creators : others).push_back([](Caller& caller) { caller.call(&name); });
 #include "operations.inc"
 #undef OPERATION
     ASSERT_GE(creators.size() + others.size(), 200u);         // the header was read
     const char* wanted = std::getenv("CHART_RANDOM_SECONDS"); // else a handful
-    const auto end =
-        std::chrono::steady_clock::now() + std::chrono::seconds(wanted != nullptr ? std::atoi(wanted) : 0);
+    const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(wanted != nullptr ? std::atoi(wanted) : 0);
     for (unsigned seed = 0; seed < 12 || std::chrono::steady_clock::now() < end; ++seed) {
         std::mt19937 random(seed);
         Caller caller([&] { return static_cast<unsigned>(random()); });

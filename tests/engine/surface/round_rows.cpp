@@ -48,13 +48,9 @@ std::vector<Row> roundRows() {
         // ---- pie
         {"CPieChart_setPieSize", pie,
          [](Scene& s, bool b) { CPieChart_setPieSize(s.pie, b ? 100 : 200, b ? 90 : 120, b ? 40 : 70); },
-         [](const Shot& p, bool b) {
-             return p.fills(kRed, b ? QRect(100, 50, 41, 81) : QRect(200, 50, 71, 141));
-         }},
+         [](const Shot& p, bool b) { return p.fills(kRed, b ? QRect(100, 50, 41, 81) : QRect(200, 50, 71, 141)); }},
         {"CPieChart_setDonutSize", pie,
-         [](Scene& s, bool b) {
-             CPieChart_setDonutSize(s.pie, b ? 100 : 200, b ? 90 : 120, b ? 40 : 70, b ? 30 : 20);
-         },
+         [](Scene& s, bool b) { CPieChart_setDonutSize(s.pie, b ? 100 : 200, b ? 90 : 120, b ? 40 : 70, b ? 30 : 20); },
          [](const Shot& p, bool b) {
              return b ? p.is(135, 90, kRed) && !p.is(125, 90, kRed) && p.fills(kRed, QRect(100, 50, 41, 81))
                       : p.is(225, 120, kRed) && !p.is(215, 120, kRed);
@@ -74,21 +70,18 @@ std::vector<Row> roundRows() {
          [](Scene& s, bool b) { CPieChart_setLabelFormat(s.pie, b ? "{percent|4}{percent|4}" : "I"); },
          [](const Shot& p, bool b) { return (p.ink().width() > 200) == b; }},
         {"CPieChart_setLabelStyle", pie,
-         [](Scene& s, bool b) {
-             CPieChart_setLabelStyle(s.pie, b ? "bold" : "normal", b ? 16 : 8, b ? kPink : kCyan);
-         },
+         [](Scene& s, bool b) { CPieChart_setLabelStyle(s.pie, b ? "bold" : "normal", b ? 16 : 8, b ? kPink : kCyan); },
          [](const Shot& p, bool b) { return p.has(b ? kPink : kCyan) && (p.ink().width() > 210) == b; }},
         {"CPieChart_setLabelLayout", pie,
          [](Scene& s, bool b) {
              CPieChart_setLabelFormat(s.pie, "I");
              CPieChart_setLabelStyle(s.pie, "bold", 12, kPink);
-             CPieChart_setLabelLayout(s.pie, b ? CHART_SIDE_LAYOUT : CHART_CIRCLE_LAYOUT, b ? 10 : 40,
-                                      b ? 10 : -1, b ? 80 : -1);
+             CPieChart_setLabelLayout(s.pie, b ? CHART_SIDE_LAYOUT : CHART_CIRCLE_LAYOUT, b ? 10 : 40, b ? 10 : -1,
+                                      b ? 80 : -1);
          },
          [](const Shot& p, bool b) {
              const QRect labels = p.box(kPink);
-             return b ? labels.bottom() < 85 && labels.top() > 9
-                      : labels.right() > 240 && labels.bottom() > 120;
+             return b ? labels.bottom() < 85 && labels.top() > 9 : labels.right() > 240 && labels.bottom() > 120;
          }},
         {"CPieChart_setLineColor", pie,
          [](Scene& s, bool b) {
@@ -102,14 +95,11 @@ std::vector<Row> roundRows() {
              return p.has(b ? kCyan : kBrown, QRect(205, 0, 95, 200)) &&
                     !p.has(b ? kBrown : kCyan, QRect(212, 0, 88, 200));
          }},
-        {"CPieChart_setStartAngle", pie,
-         [](Scene& s, bool b) { CPieChart_setStartAngle(s.pie, b ? 90 : 0, b); },
+        {"CPieChart_setStartAngle", pie, [](Scene& s, bool b) { CPieChart_setStartAngle(s.pie, b ? 90 : 0, b); },
          [](const Shot& p, bool b) {
-             return pieIs(p, 180, 40, kRed) == b && pieIs(p, 315, 40, b ? kGreen : kRed) &&
-                    pieIs(p, 45, 40, kBlue);
+             return pieIs(p, 180, 40, kRed) == b && pieIs(p, 315, 40, b ? kGreen : kRed) && pieIs(p, 45, 40, kBlue);
          }},
-        {"CPieChart_set3D", pie,
-         [](Scene& s, bool b) { CPieChart_set3D(s.pie, b ? 10 : 30, b ? 60 : 0, !b); },
+        {"CPieChart_set3D", pie, [](Scene& s, bool b) { CPieChart_set3D(s.pie, b ? 10 : 30, b ? 60 : 0, !b); },
          [](const Shot& p, bool b) {
              const int height = p.box(kRed).height();
              return b ? height < 80 && height > 30 : height > 110 && p.inked(220, 100);
@@ -124,16 +114,13 @@ std::vector<Row> roundRows() {
              CPieChart_setLabelLayout(s.pie, CHART_SIDE_LAYOUT, 30, -1, -1);
              CPieChart_setLineColor(s.pie, -1, kNone);
              CPieChart_setLabelFormat(s.pie, "I");
-             CSector_setColor(CPieChart_sector(s.pie, 0), b ? kPink : kCyan, b ? kCyan : kBrown,
-                              b ? kBrown : kPink);
+             CSector_setColor(CPieChart_sector(s.pie, 0), b ? kPink : kCyan, b ? kCyan : kBrown, b ? kBrown : kPink);
          },
          [](const Shot& p, bool b) {
              const QRect rim(148, 50, 6, 45); // beside blue
-             return pieIs(p, 90, 40, b ? kPink : kCyan) &&
-                    p.has(b ? kBrown : kPink, QRect(213, 0, 87, 200)) &&
+             return pieIs(p, 90, 40, b ? kPink : kCyan) && p.has(b ? kBrown : kPink, QRect(213, 0, 87, 200)) &&
                     p.any(
-                        rim,
-                        [b](QColor c) { return (b ? c.green() : c.red()) > 50 && (b || c.green() < 200); });
+                        rim, [b](QColor c) { return (b ? c.green() : c.red()) > 50 && (b || c.green() < 200); });
          }},
         {"CSector_setExplode", pie,
          [](Scene& s, bool b) { CSector_setExplode(CPieChart_sector(s.pie, 0), b ? 25 : 5); },
@@ -150,16 +137,13 @@ std::vector<Row> roundRows() {
         {"CBaseMeter_setScale", straightMeter, // lengths of ticks: major, minor, micro
          [](Scene& s, bool b) { CBaseMeter_setScale(s.meter, 0, 100, 50, b ? 25 : 10, b ? 12.5 : 5); },
          [](const Shot& p, bool b) {
-             const auto reach = [&](int value) {
-                 return p.ink(QRect(50 + 2 * value - 1, 121, 3, 12)).bottom();
-             };
+             const auto reach = [&](int value) { return p.ink(QRect(50 + 2 * value - 1, 121, 3, 12)).bottom(); };
              return b ? reach(25) > 121 && p.ink(QRect(68, 121, 5, 12)).isNull()
                       : !p.ink(QRect(69, 121, 3, 12)).isNull() && p.ink(QRect(74, 121, 2, 12)).isNull();
          }},
         {"CBaseMeter_setLabelStyle", straightMeter,
          [](Scene& s, bool b) {
-             CBaseMeter_setLabelStyle(s.meter, b ? "bold" : "normal", b ? 14 : 8, b ? kRed : kBlue,
-                                      b ? 90 : 0);
+             CBaseMeter_setLabelStyle(s.meter, b ? "bold" : "normal", b ? 14 : 8, b ? kRed : kBlue, b ? 90 : 0);
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.ink(QRect(230, 130, 60, 60));
@@ -185,8 +169,7 @@ std::vector<Row> roundRows() {
          }},
         {"CBaseMeter_addPointer", roundMeter,
          [](Scene& s, bool b) {
-             MeterPointer* pointer =
-                 CBaseMeter_addPointer(s.meter, b ? 25 : 75, b ? kRed : kBlue, b ? kBlue : kGreen);
+             MeterPointer* pointer = CBaseMeter_addPointer(s.meter, b ? 25 : 75, b ? kRed : kBlue, b ? kBlue : kGreen);
              CMeterPointer_setShape(pointer, CHART_TRIANGULAR_POINTER, 1, 4);
          },
          [](const Shot& p, bool b) {
@@ -213,10 +196,8 @@ std::vector<Row> roundRows() {
              CAngularMeter_addZone2(s.round, 0, 100, kRed, kRed);
          },
          [](const Shot& p, bool b) {
-             return b ? p.is(100, 60, kRed) && p.is(135, 150, kRed) && p.is(160, 120, kRed) &&
-                            !p.is(50, 120, kRed)
-                      : p.is(230, 65, kRed) && !p.is(190, 65, kRed) && !p.is(230, 115, kRed) &&
-                            !p.is(255, 90, kRed);
+             return b ? p.is(100, 60, kRed) && p.is(135, 150, kRed) && p.is(160, 120, kRed) && !p.is(50, 120, kRed)
+                      : p.is(230, 65, kRed) && !p.is(190, 65, kRed) && !p.is(230, 115, kRed) && !p.is(255, 90, kRed);
          }},
         {"CAngularMeter_addRing", roundMeter,
          [](Scene& s, bool b) {
@@ -264,11 +245,9 @@ std::vector<Row> roundRows() {
                : CPolarChart_setPlotArea(s.polar, 180, 110, 70, kBlue, kPink, 3);
          },
          [](const Shot& p, bool b) {
-             return b ? p.is(100, 70, kRed) &&
-                            std::abs(p.box(kBlue, QRect(150, 90, 30, 1)).width() - 9) <= 1 &&
+             return b ? p.is(100, 70, kRed) && std::abs(p.box(kBlue, QRect(150, 90, 30, 1)).width() - 9) <= 1 &&
                             p.box(kRed).left() < 47
-                      : p.is(180, 60, kBlue) &&
-                            std::abs(p.box(kPink, QRect(230, 110, 40, 1)).width() - 3) <= 1 &&
+                      : p.is(180, 60, kBlue) && std::abs(p.box(kPink, QRect(230, 110, 40, 1)).width() - 3) <= 1 &&
                             p.box(kBlue).top() < 45;
          }},
         {"CPolarChart_setPlotAreaBg", polar,
@@ -303,26 +282,20 @@ std::vector<Row> roundRows() {
          },
          [](const Shot& p, bool b) { return pieIs(p, b ? 45 : 135, 60, kRed); }},
         {"CPolarChart_radialAxis", polar,
-         [](Scene& s, bool b) {
-             CAxis_setLinearScale(CPolarChart_radialAxis(s.polar), 0, b ? 50 : 200, 50, 0);
-         },
+         [](Scene& s, bool b) { CAxis_setLinearScale(CPolarChart_radialAxis(s.polar), 0, b ? 50 : 200, 50, 0); },
          [](const Shot& p, bool b) { return std::abs(p.box(kGreen).right() - (b ? 230 : 170)) <= 2; }},
-        {"CPolarChart_addLineLayer", polar,
-         [](Scene& s, bool b) { addPolar(s, b, CPolarChart_addLineLayer); },
+        {"CPolarChart_addLineLayer", polar, [](Scene& s, bool b) { addPolar(s, b, CPolarChart_addLineLayer); },
          [](const Shot& p, bool b) {
              return polarHas(p, 0, b ? 80 : 40, b ? kRed : kBlue) &&
-                    polarHas(p, b ? 90 : 120, b ? 40 : 60, b ? kRed : kBlue) &&
-                    polarHas(p, 270, 20, kRed) == b;
+                    polarHas(p, b ? 90 : 120, b ? 40 : 60, b ? kRed : kBlue) && polarHas(p, 270, 20, kRed) == b;
          }},
         {"CPolarChart_addSplineLineLayer", polar,
          [](Scene& s, bool b) { addPolar(s, b, CPolarChart_addSplineLineLayer); },
          [](const Shot& p, bool b) {
              return polarHas(p, 0, b ? 80 : 40, b ? kRed : kBlue) &&
-                    polarHas(p, b ? 90 : 120, b ? 40 : 60, b ? kRed : kBlue) &&
-                    polarHas(p, 270, 20, kRed) == b;
+                    polarHas(p, b ? 90 : 120, b ? 40 : 60, b ? kRed : kBlue) && polarHas(p, 270, 20, kRed) == b;
          }},
-        {"CPolarChart_addAreaLayer", polar,
-         [](Scene& s, bool b) { addPolar(s, b, CPolarChart_addAreaLayer); },
+        {"CPolarChart_addAreaLayer", polar, [](Scene& s, bool b) { addPolar(s, b, CPolarChart_addAreaLayer); },
          [](const Shot& p, bool b) {
              return pieIs(p, 0, b ? 50 : 25, b ? kRed : kBlue) &&
                     pieIs(p, b ? 90 : 120, b ? 20 : 40, b ? kRed : kBlue) && pieIs(p, 270, 10, kRed) == b;
@@ -339,13 +312,11 @@ std::vector<Row> roundRows() {
              CPolarLayer_setLineWidth(s.polarLayer, 3);
              CPolarLayer_setAngles(s.polarLayer, angles, b ? 4 : 2);
          },
-         [](const Shot& p, bool b) {
-             return polarHas(p, 45, 50, kGreen) && polarHas(p, 315, 50, kGreen) == b;
-         }},
+         [](const Shot& p, bool b) { return polarHas(p, 45, 50, kGreen) && polarHas(p, 315, 50, kGreen) == b; }},
         {"CPolarLayer_setDataLabelStyle", polar,
          [](Scene& s, bool b) {
-             CPolarLayer_setDataLabelStyle(s.polarLayer, b ? "bold" : "boldItalic", b ? 14 : 10,
-                                           b ? kRed : kBlue, b ? 90 : 0);
+             CPolarLayer_setDataLabelStyle(s.polarLayer, b ? "bold" : "boldItalic", b ? 14 : 10, b ? kRed : kBlue,
+                                           b ? 90 : 0);
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.box(b ? kRed : kBlue, QRect(192, 80, 40, 40));
@@ -368,8 +339,7 @@ std::vector<Row> roundRows() {
              return p.is(190, 100, b ? kRed : kBlue) && p.is(190, 109, kBlue) && p.is(195, 105, kRed) == b &&
                     p.inked(203, 100) != b;
          }},
-        {"CPolarLayer_setLineWidth", polar,
-         [](Scene& s, bool b) { CPolarLayer_setLineWidth(s.polarLayer, b ? 9 : 3); },
+        {"CPolarLayer_setLineWidth", polar, [](Scene& s, bool b) { CPolarLayer_setLineWidth(s.polarLayer, b ? 9 : 3); },
          [](const Shot& p, bool b) {
              return (p.box(kGreen, QRect(150, 0, 150, 99)).height() > 30) && p.is(172, 78, kGreen) == b;
          }},
@@ -380,8 +350,7 @@ std::vector<Row> roundRows() {
              CPolarLayer_setSymbolScale(s.polarLayer, sizes, b ? 4 : 1, CHART_SCALE_PIXELS);
          },
          [](const Shot& p, bool b) { return (p.box(kRed, QRect(170, 80, 60, 40)).width() == 31) == b; }},
-        {"CPolarLineLayer_setCloseLoop", polar,
-         [](Scene& s, bool b) { CPolarLineLayer_setCloseLoop(s.polarLine, b); },
+        {"CPolarLineLayer_setCloseLoop", polar, [](Scene& s, bool b) { CPolarLineLayer_setCloseLoop(s.polarLine, b); },
          [](const Shot& p, bool b) { return p.has(kGreen, QRect(125, 75, 10, 10)) == b; }},
         {"CAngularAxis_setLinearScale", polar,
          [](Scene& s, bool b) {
@@ -407,8 +376,8 @@ std::vector<Row> roundRows() {
          }},
         {"CAngularAxis_setLabelStyle", polar,
          [](Scene& s, bool b) {
-             CAngularAxis_setLabelStyle(CPolarChart_angularAxis(s.polar), b ? "bold" : "boldItalic",
-                                        b ? 13 : 10, b ? kRed : kBlue, b ? 90 : 0);
+             CAngularAxis_setLabelStyle(CPolarChart_angularAxis(s.polar), b ? "bold" : "boldItalic", b ? 13 : 10,
+                                        b ? kRed : kBlue, b ? 90 : 0);
          },
          [](const Shot& p, bool b) {
              const QRect ink = p.box(b ? kRed : kBlue, QRect(232, 60, 68, 80));
@@ -416,12 +385,12 @@ std::vector<Row> roundRows() {
          }},
         {"CAngularAxis_addZone2", polar,
          [](Scene& s, bool b) {
-             CAngularAxis_addZone2(CPolarChart_angularAxis(s.polar), b ? 10 : 100, b ? 80 : 300,
-                                   b ? kRed : kBlue, b ? kBlue : kPink);
+             CAngularAxis_addZone2(CPolarChart_angularAxis(s.polar), b ? 10 : 100, b ? 80 : 300, b ? kRed : kBlue,
+                                   b ? kBlue : kPink);
          },
          [](const Shot& p, bool b) {
-             return pieIs(p, b ? 45 : 200, 60, b ? kRed : kBlue) &&
-                    !pieIs(p, b ? 90 : 45, 60, b ? kRed : kBlue) && p.has(b ? kBlue : kPink);
+             return pieIs(p, b ? 45 : 200, 60, b ? kRed : kBlue) && !pieIs(p, b ? 90 : 45, 60, b ? kRed : kBlue) &&
+                    p.has(b ? kBlue : kPink);
          }},
     };
 }

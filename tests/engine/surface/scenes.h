@@ -66,14 +66,10 @@ public:
     /// Whether `colour` covers about this rectangle, to `slack` pixels on each side.
     bool fills(int colour, const QRect& wanted, int slack = 2) const {
         const QRect found = box(colour);
-        return std::abs(found.left() - wanted.left()) <= slack &&
-               std::abs(found.right() - wanted.right()) <= slack &&
-               std::abs(found.top() - wanted.top()) <= slack &&
-               std::abs(found.bottom() - wanted.bottom()) <= slack;
+        return std::abs(found.left() - wanted.left()) <= slack && std::abs(found.right() - wanted.right()) <= slack &&
+               std::abs(found.top() - wanted.top()) <= slack && std::abs(found.bottom() - wanted.bottom()) <= slack;
     }
-    bool has(int colour, const QRect& part = QRect(0, 0, 10000, 10000)) const {
-        return !box(colour, part).isNull();
-    }
+    bool has(int colour, const QRect& part = QRect(0, 0, 10000, 10000)) const { return !box(colour, part).isNull(); }
 
 private:
     QImage m_image;
@@ -113,12 +109,8 @@ struct Scene {
 };
 
 /// Where a value stands on the y axis of 0 to 100, and one of 0 to 4 on the x axis.
-constexpr int yOf(double value) {
-    return 170 - static_cast<int>(value * 1.5);
-}
-constexpr int xOf(double value) {
-    return 50 + static_cast<int>(value * 50);
-}
+constexpr int yOf(double value) { return 170 - static_cast<int>(value * 1.5); }
+constexpr int xOf(double value) { return 50 + static_cast<int>(value * 50); }
 
 inline void blank(Scene& s) {
     s.xy = CXYChart_create(300, 200, kWhite, kNone, 0);

@@ -71,8 +71,7 @@ TEST(Fonts, StyleWords) {
     EXPECT_EQ(set.resolve("italic"), "italic");
     EXPECT_EQ(set.resolve("boldItalic"), "bi.ttf");
     // A set whose entries are style words means the library's own.
-    EXPECT_EQ(widthOf(lookOf("normal"), "iiiii", {{"bold", "normal", "", ""}}),
-              widthOf(lookOf("bold"), "iiiii"));
+    EXPECT_EQ(widthOf(lookOf("normal"), "iiiii", {{"bold", "normal", "", ""}}), widthOf(lookOf("bold"), "iiiii"));
 }
 
 // Widths of letters in thousandths of the size, as published for the metrics that these faces share with the
@@ -250,8 +249,7 @@ TEST(Fonts, Sizes) {
     TextLook wide = lookOf("", 12);
     wide.widthSize = 24;
     EXPECT_NEAR(widthOf(wide, "Wide text"), widthOf(lookOf("", 24), "Wide text"), 2);
-    EXPECT_EQ(TextBlock(wide, "x", {}).boxSize().height(),
-              TextBlock(lookOf("", 12), "x", {}).boxSize().height());
+    EXPECT_EQ(TextBlock(wide, "x", {}).boxSize().height(), TextBlock(lookOf("", 12), "x", {}).boxSize().height());
     wide.widthSize = 1e300;
     EXPECT_GT(widthOf(wide, "W"), 0);
 }

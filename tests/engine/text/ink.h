@@ -24,8 +24,7 @@ inline QImage drawn(TextLook look, std::string_view text, int anchorAlignment = 
         Canvas canvas(image, colours);
         const TextBlock block(look, text, fonts);
         const QPointF anchor(image.width() / 2, image.height() / 2);
-        pivot ? block.drawPivotAt(canvas, anchor, anchorAlignment)
-              : block.drawAt(canvas, anchor, anchorAlignment);
+        pivot ? block.drawPivotAt(canvas, anchor, anchorAlignment) : block.drawAt(canvas, anchor, anchorAlignment);
     }
     return image;
 }

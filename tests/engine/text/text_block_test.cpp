@@ -15,9 +15,7 @@ namespace {
 
 const FontSet kFonts;
 
-QSize boxOf(const TextLook& look, std::string_view text) {
-    return TextBlock(look, text, kFonts).boxSize();
-}
+QSize boxOf(const TextLook& look, std::string_view text) { return TextBlock(look, text, kFonts).boxSize(); }
 
 TextLook sized(double points) {
     TextLook look;
@@ -25,8 +23,7 @@ TextLook sized(double points) {
     return look;
 }
 
-const int kAllAlignments[] = {TopLeft, TopCenter,  TopRight,     Left,       Center,
-                              Right,   BottomLeft, BottomCenter, BottomRight};
+const int kAllAlignments[] = {TopLeft, TopCenter, TopRight, Left, Center, Right, BottomLeft, BottomCenter, BottomRight};
 
 } // namespace
 
@@ -239,8 +236,7 @@ TEST(TextBlock, QuarterTurnsAreAsSharpAsUprightText) {
         const QImage turned = drawn(look, "Sharp 8pt text", TopLeft);
         const QSize turnedSize = quarters % 2 ? size.transposed() : size;
         // Turned back clockwise it is the upright picture to the pixel.
-        const QImage back =
-            turned.copy(QRect({150, 100}, turnedSize)).transformed(QTransform().rotate(90 * quarters));
+        const QImage back = turned.copy(QRect({150, 100}, turnedSize)).transformed(QTransform().rotate(90 * quarters));
         EXPECT_EQ(back, upright.copy(QRect({150, 100}, size))) << quarters;
     }
 }

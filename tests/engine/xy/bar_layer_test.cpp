@@ -13,9 +13,7 @@ using pictures::boundsOf;
 
 constexpr double kRest = 0; // fills up to six rows without a bar
 
-std::vector<double> six(double first) {
-    return {first, kGap, NAN, kRest, INFINITY, kGap};
-}
+std::vector<double> six(double first) { return {first, kGap, NAN, kRest, INFINITY, kGap}; }
 
 TEST(BarLayer, StandsOnTheBaseLineAndEndsAtItsValue) {
     const struct {
@@ -26,12 +24,7 @@ TEST(BarLayer, StandsOnTheBaseLineAndEndsAtItsValue) {
         std::vector<QRect> places;  // of red, green, blue
     } rows[] = {
         {"one", CHART_COMBINE_SIDE, 0, 100, {25}, {QRect(55, 180, 40, 50)}},
-        {"side by side",
-         CHART_COMBINE_SIDE,
-         0,
-         100,
-         {25, 50},
-         {QRect(55, 180, 20, 50), QRect(75, 130, 20, 100)}},
+        {"side by side", CHART_COMBINE_SIDE, 0, 100, {25, 50}, {QRect(55, 180, 20, 50), QRect(75, 130, 20, 100)}},
         {"stack", CHART_COMBINE_STACK, 0, 100, {25, 12}, {QRect(55, 180, 40, 50), QRect(55, 156, 40, 24)}},
         {"a gap in a stack",
          CHART_COMBINE_STACK,
@@ -39,18 +32,8 @@ TEST(BarLayer, StandsOnTheBaseLineAndEndsAtItsValue) {
          100,
          {25, kGap, 12},
          {QRect(55, 180, 40, 50), QRect(), QRect(55, 156, 40, 24)}},
-        {"overlay",
-         CHART_COMBINE_OVERLAY,
-         0,
-         100,
-         {50, 25},
-         {QRect(55, 130, 40, 50), QRect(55, 180, 40, 50)}},
-        {"percentage",
-         CHART_COMBINE_PERCENTAGE,
-         0,
-         200,
-         {1, 3},
-         {QRect(55, 205, 40, 25), QRect(55, 130, 40, 75)}},
+        {"overlay", CHART_COMBINE_OVERLAY, 0, 100, {50, 25}, {QRect(55, 130, 40, 50), QRect(55, 180, 40, 50)}},
+        {"percentage", CHART_COMBINE_PERCENTAGE, 0, 200, {1, 3}, {QRect(55, 205, 40, 25), QRect(55, 130, 40, 75)}},
         {"negative", CHART_COMBINE_SIDE, -50, 50, {-20}, {QRect(55, 131, 40, 40)}},
         {"stacks down and up",
          CHART_COMBINE_STACK,
@@ -87,9 +70,9 @@ TEST(BarLayer, BarsOfOneColumnAreOneBarThatReachesAsFar) {
     unsigned noise = 1;
     for (std::size_t i = 0; i < values.size(); ++i) {
         noise = noise * 1664525u + 1013904223u;
-        values[i] = i % 700 < 20 ? kGap
-                                 : static_cast<double>(noise >> 16) / 500 -
-                                       60 * std::sin(static_cast<double>(i) * 1e-3) - 40;
+        values[i] = i % 700 < 20
+                        ? kGap
+                        : static_cast<double>(noise >> 16) / 500 - 60 * std::sin(static_cast<double>(i) * 1e-3) - 40;
         x[i] = static_cast<double>(i % 1000) + 1e-3 * static_cast<double>(noise >> 24);
     }
     for (const bool givenX : {false, true}) {
@@ -141,8 +124,7 @@ TEST(BarLayer, ShapesKeepWithinTheBarAndPointToTheTip) {
     for (const Expected& row : rows) {
         for (const bool negative : {false, true}) {
             Chart chart(-100, 100);
-            BarLayer* bar =
-                CXYChart_addBarLayer(chart.xy, six(negative ? -80 : 80).data(), 6, kRed, nullptr, 0);
+            BarLayer* bar = CXYChart_addBarLayer(chart.xy, six(negative ? -80 : 80).data(), 6, kRed, nullptr, 0);
             CBarLayer_setBarShape(bar, row.shape, -1, -1);
             const QImage image = chart.picture();
             // Rows 50 to 129 up, 131 to 210 down; columns 55 to 94.
@@ -198,8 +180,7 @@ TEST(BarLayer, BodiesReachBackByTheirDepthAndAreDarkerAtTheSides) {
     const QRect front = boundsOf(image, kRed);
     EXPECT_EQ(front.top(), 130);
     const auto red = [&](QPoint p) { return qRed(image.pixel(p)); };
-    const QPoint top(front.center().x() + 5, front.top() - 5),
-        side(front.right() + 5, front.center().y() - 5);
+    const QPoint top(front.center().x() + 5, front.top() - 5), side(front.right() + 5, front.center().y() - 5);
     EXPECT_LT(red(top), 255);
     EXPECT_LT(red(side), red(top)); // light falls from above
     EXPECT_EQ(qGreen(image.pixel(side)), 0);

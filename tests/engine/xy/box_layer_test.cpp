@@ -16,17 +16,15 @@ struct Prices {
 };
 
 CandleStickLayer* candles(Chart& chart, const Prices& p) {
-    return CXYChart_addCandleStickLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low),
-                                        p.open.data(), size(p.open), p.close.data(), size(p.close), kGreen,
-                                        kRed, kBlack);
+    return CXYChart_addCandleStickLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low), p.open.data(),
+                                        size(p.open), p.close.data(), size(p.close), kGreen, kRed, kBlack);
 }
 
 TEST(CandleStickLayer, BodyWickAndColoursTellThePrices) {
     Chart chart;
-    CandleStickLayer* layer = candles(chart, {{50, 60, 50, kGap, 50, 40},
-                                              {10, 20, 10, 10, 10, 40},
-                                              {20, 45, kGap, 20, 30, 40},
-                                              {40, 30, 40, 30, 30, 40}});
+    CandleStickLayer* layer = candles(
+        chart,
+        {{50, 60, 50, kGap, 50, 40}, {10, 20, 10, 10, 10, 40}, {20, 45, kGap, 20, 30, 40}, {40, 30, 40, 30, 30, 40}});
     CBaseBoxLayer_setDataGap(CandleStickLayer2BaseBoxLayer(layer), 0.5);
     const QImage image = chart.picture();
     EXPECT_EQ(boundsOf(image, kGreen), QRect(64, 151, 23, 39)); // the first row's body within its edge
@@ -61,8 +59,8 @@ TEST(HLOCLayer, TicksStandAtOpenAndCloseAndColoursComeFromTheCloseBefore) {
         Chart chart;
         const std::vector<double> high(6, 60), low(6, 10), open(6, 50);
         const std::vector<double> close = {20, 30, 25, 25, kGap, 24};
-        HLOCLayer* layer = CXYChart_addHLOCLayer(chart.xy, high.data(), 6, low.data(), 6, open.data(), 6,
-                                                 close.data(), 6, kBlue);
+        HLOCLayer* layer =
+            CXYChart_addHLOCLayer(chart.xy, high.data(), 6, low.data(), 6, open.data(), 6, close.data(), 6, kBlue);
         CHLOCLayer_setColorMethod(layer, CHART_UP_DOWN, kGreen, kRed, row.lead);
         const QImage image = chart.picture();
         const unsigned colours[] = {row.first, kGreen, kRed, kGreen, kGreen, kRed};
@@ -70,8 +68,7 @@ TEST(HLOCLayer, TicksStandAtOpenAndCloseAndColoursComeFromTheCloseBefore) {
             EXPECT_EQ(at(image, 75 + 50 * i, 120), colours[i]) << row.lead << ", row " << i;
         EXPECT_EQ(boundsOf(image.copy(75, 0, 1, 300), row.first), QRect(0, 110, 1, 101));
         EXPECT_EQ(boundsOf(image.copy(50, 130, 50, 1), row.first), QRect(13, 0, 13, 1)); // open, to the left
-        EXPECT_EQ(boundsOf(image.copy(50, 190, 50, 1), row.first),
-                  QRect(25, 0, 13, 1)); // close, to the right
+        EXPECT_EQ(boundsOf(image.copy(50, 190, 50, 1), row.first), QRect(25, 0, 13, 1)); // close, to the right
     }
 }
 
@@ -103,13 +100,13 @@ QImage crowdedPicture(bool areCandles, int transparency) {
     }
     const auto colour = [&](int plain) { return transparency << 24 | plain; };
     if (areCandles) {
-        CXYChart_addCandleStickLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low),
-                                     p.open.data(), size(p.open), p.close.data(), size(p.close),
-                                     colour(kGreen), colour(kRed), colour(kBlack));
+        CXYChart_addCandleStickLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low), p.open.data(),
+                                     size(p.open), p.close.data(), size(p.close), colour(kGreen), colour(kRed),
+                                     colour(kBlack));
     } else {
         HLOCLayer* layer =
-            CXYChart_addHLOCLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low),
-                                  p.open.data(), size(p.open), p.close.data(), size(p.close), colour(kBlue));
+            CXYChart_addHLOCLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low), p.open.data(),
+                                  size(p.open), p.close.data(), size(p.close), colour(kBlue));
         CHLOCLayer_setColorMethod(layer, CHART_UP_DOWN, colour(kGreen), colour(kRed), -1.7E+308);
     }
     return chart.picture();
@@ -123,9 +120,8 @@ TEST(PriceLayers, ManyRowsInAColumnLookAsIfDrawnOneByOne) {
         for (int y = 0; y < together.height(); ++y)
             for (int x = 0; x < together.width(); ++x) {
                 const QColor a(together.pixel(x, y)), b(each.pixel(x, y));
-                differences += std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) +
-                                   std::abs(a.blue() - b.blue()) >
-                               12;
+                differences +=
+                    std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue()) > 12;
             }
         EXPECT_EQ(differences, 0) << areCandles;
         EXPECT_GT(pictures::inked(together, kWhite), 5000);
@@ -134,8 +130,8 @@ TEST(PriceLayers, ManyRowsInAColumnLookAsIfDrawnOneByOne) {
 
 TEST(BoxWhiskerLayer, DrawsWhatIsThere) {
     Chart chart;
-    const std::vector<double> top = {40, 20, kGap}, bottom = {20, 40, kGap, 30, kGap, kGap},
-                              most = {60, kGap, 60}, least = {10, 5, 20}, middle = {30};
+    const std::vector<double> top = {40, 20, kGap}, bottom = {20, 40, kGap, 30, kGap, kGap}, most = {60, kGap, 60},
+                              least = {10, 5, 20}, middle = {30};
     CXYChart_addBoxWhiskerLayer(chart.xy, top.data(), 3, bottom.data(), 6, most.data(), 3, least.data(), 3,
                                 middle.data(), 1, kGreen, kBlue, kBlack);
     const QImage image = chart.picture();

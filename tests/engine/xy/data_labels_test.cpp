@@ -7,9 +7,7 @@ namespace {
 constexpr int kGreen = 0x00ff00, kRed = 0xff0000, kBlue = 0x0000ff;
 
 /// Pixels of a value on the y axis of 0 to 100.
-constexpr int yOf(int value) {
-    return 170 - value * 3 / 2;
-}
+constexpr int yOf(int value) { return 170 - value * 3 / 2; }
 
 struct Labels {
     XYChart* xy = CXYChart_create(300, 200, 0xffffff, CHART_TRANSPARENT, 0);
@@ -26,15 +24,12 @@ struct Labels {
     Labels& operator=(const Labels&) = delete;
 
     /// Gives the labels of a layer a blue ground, which shows where they stand.
-    static void ground(TextBox* style) {
-        CBox_setBackground(TextBox2Box(style), kBlue, CHART_TRANSPARENT, 0);
-    }
+    static void ground(TextBox* style) { CBox_setBackground(TextBox2Box(style), kBlue, CHART_TRANSPARENT, 0); }
 
     /// The ground of the labels within columns of the picture.
     QRect box(int left = 0, int right = 300) {
         const QImage image = pictures::of(chart, false);
-        return pictures::boundsOf(image.copy(left, 0, right - left, image.height()), kBlue)
-            .translated(left, 0);
+        return pictures::boundsOf(image.copy(left, 0, right - left, image.height()), kBlue).translated(left, 0);
     }
 };
 
@@ -46,8 +41,7 @@ Layer* addBars(Labels& labels, std::vector<double> values) {
 Layer* addLine(Labels& labels, std::vector<double> values, int symbol) {
     LineLayer* line =
         CXYChart_addLineLayer(labels.xy, values.data(), static_cast<int>(values.size()), kGreen, nullptr, 0);
-    CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(line), 0), CHART_SQUARE_SYMBOL, symbol, kRed,
-                           kRed, 1);
+    CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(line), 0), CHART_SQUARE_SYMBOL, symbol, kRed, kRed, 1);
     return LineLayer2Layer(line);
 }
 

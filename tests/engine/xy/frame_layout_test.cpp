@@ -104,9 +104,8 @@ TEST_F(FrameLayoutTest, PercentagesFillTheirAxis) {
         for (const bool bars : {true, false}) {
             XYChart tried(400, 300, 0xffffff, kTransparent, 0);
             tried.setPlotArea(50, 30, 300, 200);
-            Layer* layer =
-                bars ? static_cast<Layer*>(tried.addLayer<BarLayer>(BarLayer::Combine::Percentage, 0))
-                     : tried.addLayer<AreaLayer>(true, 0);
+            Layer* layer = bars ? static_cast<Layer*>(tried.addLayer<BarLayer>(BarLayer::Combine::Percentage, 0))
+                                : tried.addLayer<AreaLayer>(true, 0);
             layer->addDataSet(row.first, kDefaultColour, {});
             layer->addDataSet(row.second, kDefaultColour, {});
             if (!row.beside.empty())
@@ -287,8 +286,8 @@ TEST_F(FrameLayoutTest, PanesThatCopyAnAxisAgreeToThePixel) {
     add(values, Form::Blocks);
     chart.setTrimData(30, 0x7fffffff);
     chart.xAxis()->setLabels(days, "");
-    chart.xAxis()->setRules({{encodeFilter(5, 1, 0.05), "{value|yyyy}", 1, true},
-                             {encodeFilter(4, 1, 0.05), "{value|mmm}", 1, false}});
+    chart.xAxis()->setRules(
+        {{encodeFilter(5, 1, 0.05), "{value|yyyy}", 1, true}, {encodeFilter(4, 1, 0.05), "{value|mmm}", 1, false}});
     chart.xAxis()->setIndent(true);
     chart.xAxis()->setColours(kLineColour, kTransparent, kDefaultColour, kDefaultColour);
     XYChart lower(400, 300, 0, 0, 0);

@@ -17,8 +17,8 @@ constexpr unsigned kWhite = 0xffffff, kGrid = 0xcccccc, kEdge = 0x111111, kPaper
 struct Frame {
     XYChart* xy = CXYChart_create(400, 300, static_cast<int>(kWhite), kNone, 0);
     BaseChart* base = XYChart2BaseChart(xy);
-    PlotArea* area = CXYChart_setPlotArea(xy, 50, 30, 300, 200, static_cast<int>(kPaper), -1,
-                                          static_cast<int>(kEdge), static_cast<int>(kGrid), kNone);
+    PlotArea* area = CXYChart_setPlotArea(xy, 50, 30, 300, 200, static_cast<int>(kPaper), -1, static_cast<int>(kEdge),
+                                          static_cast<int>(kGrid), kNone);
     Axis* x = CXYChart_xAxis(xy);
     Axis* y = CXYChart_yAxis(xy);
 
@@ -91,8 +91,7 @@ TEST(FramePicture, LayersAreDrawnOverTheAxesInTheirOrder) {
     Frame frame;
     auto* chart = chartdraw::object<chartdraw::XYChart>(frame.xy);
     for (const unsigned colour : {0xff0000u, 0x00ff00u}) {
-        auto* layer =
-            chart->addLayer<chartdraw::Probe>(chartdraw::Probe::Form::Polyline, std::vector<double>{0, 0, 0});
+        auto* layer = chart->addLayer<chartdraw::Probe>(chartdraw::Probe::Form::Polyline, std::vector<double>{0, 0, 0});
         layer->dataSet(0)->setColours(colour, colour, colour, colour);
     }
     const QImage image = frame.picture();

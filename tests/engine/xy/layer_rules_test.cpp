@@ -14,8 +14,7 @@ using pictures::boundsOf;
 
 TEST(InterLineLayer, CutsExactlyWhereTheLinesCross) {
     const std::vector<QPointF> rising = {{0, 0}, {10, 10}}, falling = {{0, 10}, {5, 5}, {10, 0}},
-                               level = {{-5, 4}, {20, 4}},
-                               broken = {{0, 2}, {4, 2}, {NAN, NAN}, {6, 2}, {8, 2}},
+                               level = {{-5, 4}, {20, 4}}, broken = {{0, 2}, {4, 2}, {NAN, NAN}, {6, 2}, {8, 2}},
                                step = {{0, 0}, {5, 0}, {5, 8}, {10, 8}};
     const struct {
         const char* what;
@@ -30,10 +29,7 @@ TEST(InterLineLayer, CutsExactlyWhereTheLinesCross) {
          rising,
          falling,
          {{true, {{0, 0}, {5, 5}, {5, 5}, {0, 10}}}, {false, {{5, 5}, {10, 10}, {10, 0}, {5, 5}}}}},
-        {"gaps",
-         broken,
-         level,
-         {{true, {{0, 2}, {4, 2}, {4, 4}, {0, 4}}}, {true, {{6, 2}, {8, 2}, {8, 4}, {6, 4}}}}},
+        {"gaps", broken, level, {{true, {{0, 2}, {4, 2}, {4, 4}, {0, 4}}}, {true, {{6, 2}, {8, 2}, {8, 4}, {6, 4}}}}},
         {"a step",
          step,
          level,
@@ -155,9 +151,8 @@ TEST(DataLabels, KeepInsideThePlotAndOffOneAnother) {
     const struct {
         QRectF box;
         bool free;
-    } boxes[] = {{QRectF(10, 10, 20, 10), false}, {QRectF(29, 19, 5, 5), false},
-                 {QRectF(30, 10, 5, 5), true},    {QRectF(10, 20, 20, 5), true},
-                 {QRectF(0, 0, 10, 50), true},    {QRectF(0, 0, 100, 50), false},
+    } boxes[] = {{QRectF(10, 10, 20, 10), false}, {QRectF(29, 19, 5, 5), false}, {QRectF(30, 10, 5, 5), true},
+                 {QRectF(10, 20, 20, 5), true},   {QRectF(0, 0, 10, 50), true},  {QRectF(0, 0, 100, 50), false},
                  {QRectF(90, 40, 500, 500), true}};
     for (const auto& row : boxes)
         EXPECT_EQ(room.isFree(row.box), row.free) << row.box.x() << ", " << row.box.y();

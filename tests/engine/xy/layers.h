@@ -28,9 +28,7 @@ struct Chart {
     QImage picture() const { return pictures::of(base); }
 };
 
-inline int size(const std::vector<double>& data) {
-    return static_cast<int>(data.size());
-}
+inline int size(const std::vector<double>& data) { return static_cast<int>(data.size()); }
 
 inline Layer* bars(Chart& chart, int combine, const std::vector<std::vector<double>>& sets, int depth = 0) {
     const int colours[] = {kRed, kGreen, kBlue};

@@ -68,8 +68,7 @@ TEST(Limits, APolygonGridCutsNothingOffInsideTheScale) {
     CAngularAxis_setLinearScale(CPolarChart_angularAxis(polar), 0, 360, 90, 0);
     CAxis_setLinearScale(CPolarChart_radialAxis(polar), 0, 100, 50, 0);
     const double radii[] = {10, 95, CHART_NO_VALUE, 150}, angles[] = {45, 45, 45, 200};
-    PolarLayer* layer =
-        PolarLineLayer2PolarLayer(CPolarChart_addLineLayer(polar, radii, 4, 0xff0000, nullptr));
+    PolarLayer* layer = PolarLineLayer2PolarLayer(CPolarChart_addLineLayer(polar, radii, 4, 0xff0000, nullptr));
     CPolarLayer_setAngles(layer, angles, 4);
     CPolarLayer_setLineWidth(layer, 3);
     const QImage image = pictures::of(PolarChart2BaseChart(polar));

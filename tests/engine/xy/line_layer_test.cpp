@@ -50,8 +50,7 @@ TEST(LineLayer, RunsOnWholePixelsThroughItsValuesAndBreaksAtGaps) {
 TEST(LineLayer, IsNotCutInHalfAtTheFrameButEndsThere) {
     Chart chart;
     LineLayer* layer = line(chart, {100, 100, 300, 300}, kRed, 5);
-    CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(layer), 0), CHART_SQUARE_SYMBOL, 9, kBlue, kBlue,
-                           1);
+    CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(layer), 0), CHART_SQUARE_SYMBOL, 9, kBlue, kBlue, 1);
     const QImage image = chart.picture();
     EXPECT_EQ(boundsOf(image, kBlue).top(), 26); // both symbols whole, none at 300
     EXPECT_EQ(boundsOf(image, kBlue), QRect(46, 26, 109, 9));
@@ -62,9 +61,7 @@ TEST(LineLayer, IsNotCutInHalfAtTheFrameButEndsThere) {
 TEST(LineLayer, DenseCloudsLookAsIfAllSymbolsWereDrawn) {
     std::vector<double> x(60000), y(60000);
     unsigned noise = 1;
-    const auto next = [&noise] {
-        return static_cast<double>((noise = noise * 1664525u + 1013904223u) >> 16) / 65536;
-    };
+    const auto next = [&noise] { return static_cast<double>((noise = noise * 1664525u + 1013904223u) >> 16) / 65536; };
     for (std::size_t i = 0; i < x.size(); ++i) {
         x[i] = std::sqrt(next()) * 100; // dense on one side
         y[i] = next() * 100;
@@ -76,8 +73,8 @@ TEST(LineLayer, DenseCloudsLookAsIfAllSymbolsWereDrawn) {
                 CAxis_setLinearScale(CXYChart_xAxis(chart.xy), -5, 105, 0, 0);
                 const int count = size(x) / layers;
                 for (int i = 0; i < layers; ++i)
-                    CXYChart_addScatterLayer(chart.xy, x.data() + i * count, count, y.data() + i * count,
-                                             count, nullptr, symbol, 9, static_cast<int>(colour), kNone);
+                    CXYChart_addScatterLayer(chart.xy, x.data() + i * count, count, y.data() + i * count, count,
+                                             nullptr, symbol, 9, static_cast<int>(colour), kNone);
                 return chart.picture();
             };
             const QImage all = drawn(1), inParts = drawn(20);
@@ -169,10 +166,8 @@ public:
         painter.setClipRect(QRectF(frame.plot).adjusted(-1.5, -1.5, 0.5, 0.5));
         painter.setPen(QPen(Qt::black, lineWidth(), Qt::SolidLine, Qt::RoundCap));
         const auto data = dataSets()[0]->data();
-        for (std::size_t row = rows().begin + 1; row < rows().end; ++row) {
-            painter.drawLine(frame.point(xValue(row - 1), data[row - 1]),
-                             frame.point(xValue(row), data[row]));
-        }
+        for (std::size_t row = rows().begin + 1; row < rows().end; ++row)
+            painter.drawLine(frame.point(xValue(row - 1), data[row - 1]), frame.point(xValue(row), data[row]));
         painter.end();
         canvas.painter().drawImage(QRect(0, 0, 400, 300),
                                    large.scaled(400, 300, Qt::IgnoreAspectRatio, Qt::SmoothTransformation));
@@ -237,8 +232,8 @@ TEST(LineLayer, LongLinesLookAsIfAllPointsWereDrawn) {
     };
     for (const auto& row : rows) {
         for (const int width : {1, 3}) {
-            const double difference = unlike(longLine<chartdraw::LineLayer>(row.x, row.y, width),
-                                             longLine<WholeLine>(row.x, row.y, width));
+            const double difference =
+                unlike(longLine<chartdraw::LineLayer>(row.x, row.y, width), longLine<WholeLine>(row.x, row.y, width));
             EXPECT_LE(difference, row.most) << row.what << ", width " << width;
         }
     }

@@ -31,8 +31,7 @@ public:
                 const double x = frame.x.pixel(xValue(row));
                 const QPointF from = frame.at(x - 6, frame.baseLine());
                 const QPointF to = frame.at(x + 6, frame.y.pixel(data[row]));
-                canvas.fillRect(QRectF(from, to).normalized() & QRectF(frame.inner()),
-                                dataSets()[0]->colour());
+                canvas.fillRect(QRectF(from, to).normalized() & QRectF(frame.inner()), dataSets()[0]->colour());
             }
         }
         if (m_form == Form::Polyline)

@@ -80,8 +80,7 @@ void useLayout() {
     layout.m_toolTipFormat += " and a text that is too long for any short buffer inside a string";
     layout.m_toolTipFormat += layout.m_toolTipFormat;
     layout.m_toolTipFormat = layout.m_toolTipFormat.data() + 3;
-    expect(layout.m_toolTipFormat.size() == std::strlen(layout.m_toolTipFormat.data()),
-           "a text ends in zero");
+    expect(layout.m_toolTipFormat.size() == std::strlen(layout.m_toolTipFormat.data()), "a text ends in zero");
     expect(layout.m_backColor.GetChartColor(nullptr) == 0xFFFFFF, "a colour gives its number");
     expect(layout.m_effect.GetRaisedEffect() == 0, "an effect gives its number");
     fill(layout.m_titles, CChartTitle());

@@ -134,8 +134,8 @@ CXYChart_yAxis2(XYChart#1)
 CAxis_setLabelFormat(Axis#3, "{value}M")
 CDataSet_setDataName(DataSet#2, "Vol: 55.0941M")
 )-"},
-    {"VolBarsHigherThanThePane", &CFinanceChart::m_showVolBars,
-     [](CFinanceChart& look) { look.m_volBarsHeight = 220; }, "\nCAxis_setMargin(Axis#3, 0, 0)\n"},
+    {"VolBarsHigherThanThePane", &CFinanceChart::m_showVolBars, [](CFinanceChart& look) { look.m_volBarsHeight = 220; },
+     "\nCAxis_setMargin(Axis#3, 0, 0)\n"},
     {"Rsi", &CFinanceChart::m_showRsi, asItIs, R"-(
 CXYChart_create(500, 84, 0xff000000, 0xff000000, 0)
 CXYChart_setTrimData(XYChart#2, 30, 0x7fffffff)

@@ -43,8 +43,7 @@ Added addedBy(const Prices& prices, const std::function<void(FinanceChart&)>& ad
         for (double value; list >> value; list.ignore(1))
             rows.push_back(value);
         const std::size_t quote = line.find('"');
-        added.names.push_back(
-            quote == std::string::npos ? "" : line.substr(quote + 1, line.rfind('"') - quote - 1));
+        added.names.push_back(quote == std::string::npos ? "" : line.substr(quote + 1, line.rfind('"') - quote - 1));
     }
     return added;
 }
@@ -64,8 +63,7 @@ TEST_P(Indicators, AreExact) {
     EXPECT_EQ(added.names, GetParam().names);
     ASSERT_EQ(added.series.size(), GetParam().series.size());
     for (std::size_t i = 0; i < added.series.size(); ++i)
-        EXPECT_THAT(added.series[i], testing::Pointwise(testing::DoubleNear(1e-12), GetParam().series[i]))
-            << i;
+        EXPECT_THAT(added.series[i], testing::Pointwise(testing::DoubleNear(1e-12), GetParam().series[i])) << i;
 }
 
 // The calls, by their periods.
@@ -90,9 +88,7 @@ auto stochastic(int period1, int period2) {
 auto macd(int slow, int fast, int signal) {
     return [=](FinanceChart& chart) { chart.addMACD(70, slow, fast, signal, 0, 0, 0); };
 }
-void volume(FinanceChart& chart) {
-    chart.addVolBars(70, 0, 0, 0);
-}
+void volume(FinanceChart& chart) { chart.addVolBars(70, 0, 0, 0); }
 
 const Prices rising = {{1, 2, 4, 7, 5}, {}, {}, {}};
 const Prices constant = {{5, 5, 5, 5, 5}, {}, {}, {}};
@@ -108,11 +104,7 @@ const Case cases[] = {
 
     // Of two rows the deviation is half their difference: 0.5, 1, 1.5, 1. Upper line first, lower named
     // first.
-    {"Bollinger",
-     rising,
-     bollinger(2, 2),
-     {{_, 2.5, 5, 8.5, 8}, {_, 0.5, 1, 2.5, 4}},
-     {"Bollinger (2, 2): 4 - 8", ""}},
+    {"Bollinger", rising, bollinger(2, 2), {{_, 2.5, 5, 8.5, 8}, {_, 0.5, 1, 2.5, 4}}, {"Bollinger (2, 2): 4 - 8", ""}},
     {"BollingerNotBelow0",
      rising,
      bollinger(2, 4),
@@ -124,22 +116,14 @@ const Case cases[] = {
      bollinger(3, 1.5),
      {{_, _, 3.2247448713915890491}, {_, _, 0.77525512860841095}},
      {"Bollinger (3, 1.5): 0.775255 - 3.22474", ""}},
-    {"BollingerPeriod0",
-     rising,
-     bollinger(0, 2),
-     {{1, 2, 4, 7, 5}, {1, 2, 4, 7, 5}},
-     {"Bollinger (0, 2): 5 - 5", ""}},
+    {"BollingerPeriod0", rising, bollinger(0, 2), {{1, 2, 4, 7, 5}, {1, 2, 4, 7, 5}}, {"Bollinger (0, 2): 5 - 5", ""}},
 
     {"Donchian",
      {{2, 4, 1}, {3, 5, 4}, {1, 2, 0}, {}},
      donchian(2),
      {{_, 5, 5}, {_, 1, 0}},
      {"Donchian (2): 0 - 5", ""}},
-    {"DonchianMissingDay",
-     missing,
-     donchian(3),
-     {{_, _, _, _, _, 7}, {_, _, _, _, _, 4}},
-     {"Donchian (3): 4 - 7", ""}},
+    {"DonchianMissingDay", missing, donchian(3), {{_, _, _, _, _, 7}, {_, _, _, _, _, 4}}, {"Donchian (3): 4 - 7", ""}},
 
     // Changes 1, 2, -1, 0, 0: rises of 1.5, 1, 0, 0 on the average of two, in all 1.5, 1.5, 0.5, 0.
     {"Rsi", {{1, 2, 4, 3, 3, 3}, {}, {}, {}}, rsi(2), {{_, _, 100, 200.0 / 3, 0, 50}}, {"RSI (2): 50"}},
