@@ -4,7 +4,6 @@
 #include "editors/framework/form.h"
 #include "platform/widgets/simple_combo.h"
 
-#include <QPixmap>
 #include <algorithm>
 
 CListBase::CListBase(CForm& form, CSimpleCombo& combo, const char* noneSelected)
@@ -98,7 +97,7 @@ void CListBase::ShowSwatch(int row) {
     QImage swatch = row < 0 ? QImage() : SwatchOf(row, (QSizeF(m_combo.SwatchSize()) * scale).toSize());
     swatch.setDevicePixelRatio(scale);
     if (!swatch.isNull())
-        m_combo.SetSwatch(row, QPixmap::fromImage(swatch));
+        m_combo.SetSwatch(row, swatch);
 }
 
 QString RowCaption(const char* caption, int index, const QString& text) {

@@ -2,12 +2,10 @@
 
 #include "editors/framework/change_list.h"
 #include "editors/framework/page_marks.h"
-#include "editors/framework/search.h"
 #include "editors/framework/strip_button.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/complaint.h"
 #include "platform/widgets/field_changed.h"
-#include "platform/widgets/scout.h"
 #include "platform/widgets/simple_combo.h"
 
 #include <QAbstractSpinBox>
@@ -21,7 +19,6 @@
 #include <QMenu>
 #include <QMimeData>
 #include <QPlainTextEdit>
-#include <QRadioButton>
 #include <QTimer>
 #include <algorithm>
 #include <map>
@@ -30,8 +27,7 @@
 
 namespace {
 
-constexpr int kWide = 10;           // pixels between the groups of buttons
-constexpr int kMostLookedInto = 12; ///< of a list of objects, by the search
+constexpr int kWide = 10; // pixels between the groups of buttons
 
 bool IsUndo(int key, Qt::KeyboardModifiers held) {
     return key == Qt::Key_Z && held == Qt::ControlModifier;
@@ -55,12 +51,6 @@ QMenu* StandardMenu(QWidget& control) {
 
 constexpr const char* kLookFormat = "application/x-chart-style+json";
 
-/// The row to show in the dialog that opens next.
-std::optional<CSpotName>& NextRow() {
-    static std::optional<CSpotName> next;
-    return next;
-}
-
 /// Whether the text in an edit has not been committed; it may be one of the rows that a field is made of.
 bool IsUncommitted(const QWidget& focus) {
     for (const QWidget* above = &focus; above != nullptr; above = above->parentWidget())
@@ -70,56 +60,6 @@ bool IsUncommitted(const QWidget& focus) {
                 return row != nullptr && row->Uncommitted();
             }
     return false;
-}
-
-bool Same(const CSpotName& one, const CSpotName& other) {
-    return one.page == other.page && one.group == other.group && one.label == other.label;
-}
-
-CStrip* StripOf(const CDialog& dialog) {
-    for (QObject* child : dialog.children())
-        if (auto* strip = dynamic_cast<CStrip*>(child))
-            return strip;
-    return nullptr;
-}
-
-/// Calls `visit` for all rows of a form, also those that a field is made of.
-void EachRow(const CForm& form, const std::function<void(const CSpot&)>& visit) {
-    form.EachControl([&](const QWidget& control) {
-        const auto* field = dynamic_cast<const CDialog*>(&control);
-        if (const auto* inner = field == nullptr ? nullptr : dynamic_cast<const CForm*>(field->Controls()))
-            EachRow(*inner, visit);
-        CSpot spot;
-        spot.control = const_cast<QWidget*>(&control);
-        spot.row = form.RowOf(control);
-        visit(spot);
-        for (QRadioButton* choice : control.findChildren<QRadioButton*>()) // each has a label of its own
-            visit({.control = choice});
-    });
-}
-
-/// All rows of a dialog, whether or not there is an item that they show now, its lists and its buttons to
-/// other dialogs.
-void EachPlace(CDialog& dialog, const std::function<void(const CSpot&)>& visit) {
-    for (const CForm* form : FormsOf(dialog)) {
-        EachRow(*form, visit);
-        form->EachSpot([&visit](const CSpot& spot) {
-            if (spot.row == nullptr)
-                visit(spot);
-        });
-    }
-}
-
-/// Opens the dialog that a place leads to, as a person does; false if it leads to none.
-bool OpenDialogOf(const CSpot& spot) {
-    if (auto* button = qobject_cast<QAbstractButton*>(spot.control)) {
-        button->click();
-        return true;
-    }
-    if (spot.row != nullptr || spot.list == nullptr || spot.list->Selected() < 0)
-        return false;
-    emit spot.list->Combo().DoubleClicked(spot.list->Selected());
-    return true;
 }
 
 } // namespace
@@ -174,11 +114,7 @@ void CStrip::Open(CStripParts parts) {
     m_before->setVisible(m_parts.preview != nullptr);
     m_showsBefore = false;
     ShowStates();
-    if (NextRow() && CScout::Present() == nullptr) {
-        const CSpotName name = *std::exchange(NextRow(), std::nullopt);
-        QMetaObject::invokeMethod(
-            this, [this, name] { GoTo(name); }, Qt::QueuedConnection); // when it shows
-    }
+    GoToAwaited();
 }
 
 // ---- Events
@@ -204,6 +140,10 @@ bool CStrip::eventFilter(QObject* watched, QEvent* event) {
         break;
     case QEvent::WindowDeactivate:
         if (watched == &m_dialog)
+            ShowBefore(false);
+        return false;
+    case QEvent::Resize: // the picture of then was of another size
+        if (watched == m_parts.preview)
             ShowBefore(false);
         return false;
     default:
@@ -504,93 +444,6 @@ void CStrip::ShowBefore(bool on) {
     m_parts.edited->Restore(m_history->Opening());
     view->DrawNow();
     m_parts.edited->Restore(now);
-}
-
-// ---- Search
-
-void CStrip::Search() {
-    CSearch::Open(*this, *m_search);
-}
-
-void CStrip::AddSearchRows(const QString& opener, const std::function<void(const CSpotName&)>& goTo,
-                           std::vector<CSearchRow>& rows) {
-    const std::ptrdiff_t first = std::ssize(rows);
-    const auto add = [&](const CSpot& spot, const QString& value) {
-        CSpotName name = NameOf(spot);
-        if (!CanShow(*spot.control) || name.label.isEmpty())
-            return;
-        name.before = static_cast<int>(std::count_if(
-            rows.begin() + first, rows.end(), [&](const CSearchRow& row) { return Same(row.name, name); }));
-        rows.push_back({name, value, opener, [goTo, name] { goTo(name); }});
-    };
-    EachPlace(m_dialog, [&](const CSpot& spot) {
-        const CMember member = spot.row == nullptr ? CMember() : spot.row->Member(-1);
-        add(spot, member.address == nullptr ? QString() : spot.row->TextAt(member.address).left(40));
-    });
-}
-
-std::vector<CSearchRow> CStrip::SearchRows() {
-    std::vector<CSearchRow> rows;
-    AddSearchRows(
-        {}, [this](const CSpotName& name) { GoTo(name); }, rows);
-    // The dialogs that open from here are looked into one after the other.
-    const QPointer<QWidget> focus = m_dialog.focusWidget();
-    for (const CForm* form : FormsOf(m_dialog)) {
-        std::vector<CSpot> openers;
-        form->EachSpot([&openers](const CSpot& spot) {
-            if (spot.row == nullptr && CanShow(*spot.control) && spot.control->isEnabled())
-                openers.push_back(spot);
-        });
-        for (const CSpot& opener : openers) {
-            const int selected = opener.list == nullptr ? -1 : opener.list->Selected();
-            const int items = opener.list == nullptr ? 1 : std::min(opener.list->Count(), kMostLookedInto);
-            for (int item = 0; item < items; ++item) {
-                if (opener.list != nullptr)
-                    opener.list->Select(item);
-                const CScout scout([&](CDialog& dialog) {
-                    CStrip* strip = StripOf(dialog);
-                    if (strip == nullptr)
-                        return;
-                    const CSpotName by = NameOf(opener);
-                    const QString told = opener.list == nullptr ? by.label
-                                                                : by.Place() + QStringLiteral(" \u203a ") +
-                                                                      opener.list->CaptionOf(item);
-                    strip->AddSearchRows(
-                        opener.list == nullptr ? by.Place() + QStringLiteral(" \u203a ") + told : told,
-                        [this, opener, item](const CSpotName& name) {
-                            CSpot there = opener;
-                            there.item = item;
-                            RevealSpot(there, true);
-                            NextRow() = name;
-                            if (opener.list != nullptr)
-                                opener.list->Select(item);
-                            OpenDialogOf(opener);
-                            NextRow().reset(); // whatever came of it
-                        },
-                        rows);
-                });
-                if (!OpenDialogOf(opener))
-                    break;
-            }
-            if (opener.list != nullptr && opener.list->Selected() != selected)
-                opener.list->Select(selected);
-        }
-    }
-    if (focus != nullptr)
-        focus->setFocus();
-    return rows;
-}
-
-void CStrip::GoTo(const CSpotName& name) {
-    std::optional<CSpot> found;
-    int before = 0;
-    const auto look = [&](const CSpot& spot) {
-        if (!found && CanShow(*spot.control) && Same(NameOf(spot), name) && before++ == name.before)
-            found = spot;
-    };
-    EachPlace(m_dialog, look);
-    if (found)
-        RevealSpot(*found, true);
 }
 
 // ---- The look as a text

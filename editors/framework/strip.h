@@ -75,6 +75,8 @@ private:
     void AddSearchRows(const QString& opener, const std::function<void(const CSpotName&)>& goTo,
                        std::vector<CSearchRow>& rows);
     void GoTo(const CSpotName& name);
+    /// Goes to the row that the search of another dialog has opened this one for, if it has.
+    void GoToAwaited();
     /// Opens the menu of a row; false if there is nothing to offer.
     bool PopUpMenu(QWidget& control, const QPoint& place);
     void Copy();

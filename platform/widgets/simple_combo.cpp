@@ -1,9 +1,10 @@
 #include "platform/widgets/simple_combo.h"
 
+#include <QCryptographicHash>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QListWidget>
-#include <QPixmap>
+#include <QPixmapCache>
 #include <QSignalBlocker>
 #include <QVBoxLayout>
 
@@ -102,11 +103,29 @@ void CSimpleCombo::Select(int row) {
     ShowTextOf(row);
 }
 
-void CSimpleCombo::SetSwatch(int row, const QPixmap& swatch) {
+/// One for all images of the same pixels: the toolkit keeps what it has painted of each pixmap.
+static QPixmap PixmapOf(const QImage& image) {
+    const QByteArray bits = QByteArray::fromRawData(reinterpret_cast<const char*>(image.constBits()),
+                                                    static_cast<int>(image.sizeInBytes()));
+    const QString key =
+        QStringLiteral("swatch %1 %2 %3")
+            .arg(image.width())
+            .arg(image.devicePixelRatio())
+            .arg(QString::fromLatin1(QCryptographicHash::hash(bits, QCryptographicHash::Sha1).toHex()));
+    QPixmap pixmap;
+    if (!QPixmapCache::find(key, &pixmap)) {
+        pixmap = QPixmap::fromImage(image);
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
+}
+
+void CSimpleCombo::SetSwatch(int row, const QImage& image) {
     m_list->setIconSize(SwatchSize());
     QListWidgetItem* item = m_list->item(row);
     if (item == nullptr)
         return;
+    const QPixmap swatch = PixmapOf(image);
     // A colour is the same in a row that is selected or greyed.
     QIcon icon(swatch);
     icon.addPixmap(swatch, QIcon::Selected);

@@ -6,7 +6,7 @@
 
 class QLineEdit;
 class QListWidget;
-class QPixmap;
+class QImage;
 
 class CSimpleCombo : public QWidget {
     Q_OBJECT
@@ -25,7 +25,7 @@ public:
     void Select(int row);
 
     /// A small picture at the left of a row, of that size.
-    void SetSwatch(int row, const QPixmap& swatch);
+    void SetSwatch(int row, const QImage& image);
     QSize SwatchSize() const;
 
     QListWidget* List() const { return m_list; }

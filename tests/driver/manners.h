@@ -9,7 +9,6 @@
 #include <malloc.h>
 #endif
 
-#include <QPixmapCache>
 #include <map>
 #include <regex>
 
@@ -55,7 +54,6 @@ void TestMemoryIsFlat(const Object& start, const CChartLayout& layout) {
                 person.Ok();
             }));
         }
-        QPixmapCache::clear(); // which is bounded, and holds the icons of lists for a while
     };
     const int times = std::max(20, qEnvironmentVariableIntValue("CHART_OPENINGS"));
     open(10); // fonts, styles and caches come once

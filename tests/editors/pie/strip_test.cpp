@@ -6,6 +6,8 @@
 
 #include <QMenu>
 #include <QPainter>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <array>
 #include <gtest/gtest.h>
 
@@ -182,6 +184,8 @@ TEST(PieStrip, ChangesAndRowsAreListed) {
         EXPECT_EQ(told.join(u'|').toStdString(),
                   "Label|Layout|CircleLayout  \u2192  SideLayout|3D|Depth|1  \u2192  12|Donut|Use DonutType|"
                   "off  \u2192  on|Sector \u203a Sector 2 ( Flour and butter )|Distance|0  \u2192  31");
+        QTest::qWait(1); // what it shows at first
+        EXPECT_FALSE(list->findChild<QScrollArea*>()->verticalScrollBar()->isVisible());
         Keep(person, "editing-changes");
         list->findChildren<QPushButton*>(QStringLiteral("Show")).last()->click();
         QCoreApplication::processEvents();
