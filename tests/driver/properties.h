@@ -221,12 +221,15 @@ void TestProperties(const Object& start, const CChartLayout& layout, const Prope
     }
 }
 
-/// Every control that shows a property has a row, and every row a control of its own.
+/// Every control that shows a property has a row, and every row a control of its own; prints how many.
 template <class Object>
 void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Properties& rows) {
-    std::set<std::string> places;
-    for (const Property& row : rows)
+    const auto name = [](const Property& row) { return row.place + '>' + row.group + '>' + row.label; };
+    std::set<std::string> places, told, found;
+    for (const Property& row : rows) {
         places.insert(row.place);
+        told.insert(name(row));
+    }
     Object object(start);
     EXPECT_FALSE(Edit(object, layout, [&](Person& person) {
         std::map<QString, std::set<QString>> tabs; // that have rows, by the place of their dialog
@@ -239,10 +242,12 @@ void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Pro
                 if (place.empty() && !there.Tabs().isEmpty())
                     return; // what stands beside the tabs is looked at with each of them
                 const bool inDialog = place.find('>') == std::string::npos;
-                std::set<QWidget*> named;
+                std::map<QWidget*, const Property*> named;
                 for (const Property& row : rows)
                     if (row.place == place || (row.place.empty() && inDialog))
-                        named.insert(&there.At(QString::fromStdString(row.group), QString::fromStdString(row.label)));
+                        named[&there.At(QString::fromStdString(row.group), QString::fromStdString(row.label))] = &row;
+                for (const auto& [control, row] : named)
+                    found.insert(name(*row));
                 for (QWidget* control : there.Inputs())
                     EXPECT_TRUE(named.contains(control)) << "no row for " << qPrintable(there.GroupOf(*control)) << '/'
                                                          << qPrintable(there.LabelOf(*control));
@@ -255,6 +260,8 @@ void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Pro
             });
         person.Cancel();
     }));
+    EXPECT_EQ(found, told) << "two rows for one control";
+    std::cout << told.size() << " rows in the table, " << found.size() << " controls in the dialogs\n";
 }
 
 } // namespace driver
