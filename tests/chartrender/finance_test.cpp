@@ -94,8 +94,7 @@ TEST(RenderFinance, LeavesRoomForTheTitlesAtTheTop) {
         title.m_font.m_size = 20;
         title.m_usePosition = usePosition;
         title.m_alignment = alignment;
-        for (int i = 0; i < titles; ++i)
-            layout.m_titles.push_back(title);
+        for (int i = 0; i < titles; ++i) layout.m_titles.push_back(title);
         const double row[] = {1};
         CFinanceChartData data;
         data.dates = data.high = data.open = data.close = data.low = row;
@@ -116,8 +115,7 @@ TEST(RenderFinance, AnswersBadDataWithoutAPicture) {
     CFinanceChart volBars;
     volBars.m_showVolBars = true;
     CFinanceChart nothing;
-    for (std::int32_t& pane : nothing.m_order)
-        pane = -1;
+    for (std::int32_t& pane : nothing.m_order) pane = -1;
     CChartLayout layout;
     const auto result = [&](const CFinanceChart& look, auto edit) {
         CFinanceChartData data;
@@ -142,8 +140,7 @@ TEST(RenderFinance, AnswersBadDataWithoutAPicture) {
         {volBars, [](CFinanceChartData& data) { data.close = nullptr; }, ChartRenderResult::BadData},
         {volBars, [](CFinanceChartData& data) { --data.size; }, ChartRenderResult::BadData},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(result(row.look, row.edit), row.answer) << (&row - rows);
+    for (const auto& row : rows) EXPECT_EQ(result(row.look, row.edit), row.answer) << (&row - rows);
     for (const int width : {0, -2147483647 - 1, 2147483647, 80}) {
         layout.m_financeWidth = width; // 80 is all margins
         EXPECT_EQ(result(volBars, [](CFinanceChartData&) {}),

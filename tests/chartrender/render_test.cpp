@@ -41,9 +41,8 @@ TEST(Render, ShowsTheHostsDataInTheModelsLooks) {
     RenderPieChart(twoSectors(), CChartLayout(), {values, nullptr, 3}, ChartPictureFormat::Bmp, picture);
     EXPECT_THAT(recording.Lines(),
                 Contains(R"(CPieChart_setData(PieChart#2, [25, 18.5, 15], ["first", "second", ""]))"));
-    EXPECT_EQ(recording.Count("CSector_setColor"), 4);
-    EXPECT_EQ(recording.Count("CRanTable_create"), 0);
-    EXPECT_EQ(recording.Lines().back(), "CBaseChart_destroy(BaseChart#2)");
+    EXPECT_EQS((recording.Count("CSector_setColor"), 4), (recording.Count("CRanTable_create"), 0),
+               (recording.Lines().back(), "CBaseChart_destroy(BaseChart#2)"));
 }
 
 TEST(Render, OfTheSampleDataIsThePreview) {
@@ -70,8 +69,7 @@ TEST(Render, MakesTheSamePictureInBothFormats) {
     ASSERT_EQ(RenderPieChart(twoSectors(), CChartLayout(), data, ChartPictureFormat::Bmp, bitmap),
               ChartRenderResult::Ok);
     ASSERT_EQ(RenderPieChart(twoSectors(), CChartLayout(), data, ChartPictureFormat::Png, png), ChartRenderResult::Ok);
-    EXPECT_TRUE(bytesOf(bitmap).startsWith("BM"));
-    EXPECT_TRUE(bytesOf(png).startsWith("\x89PNG"));
+    EXPECT_EQS((bytesOf(bitmap).startsWith("BM"), true), (bytesOf(png).startsWith("\x89PNG"), true));
     const QImage image = QImage::fromData(bytesOf(png)).convertToFormat(QImage::Format_RGB32);
     EXPECT_EQ(image.size(), QSize(500, 550));
     EXPECT_TRUE(image == QImage::fromData(bytesOf(bitmap)).convertToFormat(QImage::Format_RGB32));
@@ -106,9 +104,9 @@ TEST(Render, AnswersBadInputWithoutAPicture) {
         for (const auto format : {ChartPictureFormat::Bmp, ChartPictureFormat::Png}) {
             CChartPicture picture; // holds one already, which must go
             RenderPieChart(CPieChart(), layout, {values, nullptr, 1}, format, picture);
-            EXPECT_EQ(RenderPieChart(CPieChart(), bad.layout, bad.data, format, picture), bad.result);
-            EXPECT_EQ(picture.Empty(), bad.result != ChartRenderResult::Ok);
-            EXPECT_EQ(picture.Data() == nullptr, picture.Empty());
+            EXPECT_EQS((RenderPieChart(CPieChart(), bad.layout, bad.data, format, picture), bad.result),
+                       (picture.Empty(), bad.result != ChartRenderResult::Ok),
+                       (picture.Data() == nullptr, picture.Empty()));
         }
 }
 
@@ -117,8 +115,7 @@ TEST(Picture, SavesItsBytesOrNothing) {
     const QString path = folder.filePath("pie.png");
     const QByteArray narrow = path.toLocal8Bit();
     CChartPicture picture;
-    EXPECT_FALSE(picture.Save(narrow.constData()));
-    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_EQS((picture.Save(narrow.constData()), false), (QFile::exists(path), false));
     const double values[] = {1, 2};
     RenderPieChart(CPieChart(), CChartLayout(), {values, nullptr, 2}, ChartPictureFormat::Png, picture);
     EXPECT_FALSE(picture.Save(nullptr));

@@ -1,6 +1,7 @@
 // Meters and polar charts with the host's data: what reaches the drawing, and clear answers to what is no
 // data.
 
+#include "tests/expect.h"
 #include "tests/recorder/recorder.h"
 #include <chartrender/chartrender.h>
 #include <cmath>
@@ -17,13 +18,11 @@ using Lines = std::vector<std::string>;
 Lines linesOf(const Recording& recording, const char* part) {
     Lines found;
     for (const std::string& line : recording.Lines())
-        if (line.find(part) != std::string::npos)
-            found.push_back(line);
+        if (line.find(part) != std::string::npos) found.push_back(line);
     return found;
 }
 
-template <class Meter>
-Meter threePointers() {
+template <class Meter> Meter threePointers() {
     Meter meter;
     for (const double value : {10, 20, 30}) {
         CMeterPointer pointer;
@@ -37,8 +36,7 @@ template <class Meter>
 using RenderMeter = ChartRenderResult (*)(const Meter&, const CChartLayout&, const CMeterData&, ChartPictureFormat,
                                           CChartPicture&);
 
-template <class Meter>
-void expectValuesOfTheFirstPointers(RenderMeter<Meter> render) {
+template <class Meter> void expectValuesOfTheFirstPointers(RenderMeter<Meter> render) {
     const double values[] = {55, NAN, 1, 2};
     CMeterData data;
     data.values = values;
@@ -52,9 +50,8 @@ void expectValuesOfTheFirstPointers(RenderMeter<Meter> render) {
     EXPECT_THAT(linesOf(recording, "addPointer"), ElementsAre("CBaseMeter_addPointer(BaseMeter#1, 55, 0, 0)",
                                                               "CBaseMeter_addPointer(BaseMeter#1, nan, 0, 0)",
                                                               "CBaseMeter_addPointer(BaseMeter#1, 30, 0, 0)"));
-    EXPECT_EQ(recording.Count("CLegendBox_addKey"), 0);
-    EXPECT_EQ(recording.Lines().back(), "CBaseChart_destroy(BaseChart#1)");
-    EXPECT_FALSE(picture.Empty());
+    EXPECT_EQS((recording.Count("CLegendBox_addKey"), 0), (recording.Lines().back(), "CBaseChart_destroy(BaseChart#1)"),
+               (picture.Empty(), false));
     for (const int count : {-1, 4}) {
         data.count = count;
         EXPECT_EQ(result(), ChartRenderResult::BadData) << count;
@@ -113,8 +110,7 @@ TEST(RenderPolar, ShowsTheLayersThatHaveData) {
                             "CPolarLayer_setAngles(PolarLayer#1, [0, 120, 240])",
                             "CPolarLayer_setSymbolScale(PolarLayer#1, [7, 8, 9], 0)",
                             R"(CPolarChart_addLineLayer(PolarChart#1, [4.5, 2], 0x0033ff33, "L"))"));
-    EXPECT_EQ(recording.Count("CRanTable_create"), 0);
-    EXPECT_FALSE(picture.Empty());
+    EXPECT_EQS((recording.Count("CRanTable_create"), 0), (picture.Empty(), false));
 }
 
 TEST(RenderPolar, WithoutDataIsAGrid) {

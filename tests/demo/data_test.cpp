@@ -1,25 +1,23 @@
 // Files of numbers, good and bad, and the kind of chart that their columns tell.
 
 #include "demo/prices.h"
+#include "tests/expect.h"
 
 #include <QTemporaryDir>
 #include <algorithm>
-#include <gtest/gtest.h>
 
 namespace {
 
 std::string Join(const std::vector<double>& values) {
     QStringList texts;
-    for (const double value : values)
-        texts += QString::number(value, 'g', 12);
+    for (const double value : values) texts += QString::number(value, 'g', 12);
     return texts.join(u' ').toStdString();
 }
 
 /// What was understood, or what was not.
 std::string Read(const QByteArray& bytes) {
     const Understood read = Understand(ReadCsv(bytes));
-    if (!read.error.isEmpty())
-        return read.error.toStdString();
+    if (!read.error.isEmpty()) return read.error.toStdString();
     std::string shown;
     if (const auto* shares = std::get_if<LabelledValues>(&read.data)) {
         for (std::size_t i = 0; i < shares->values.size(); ++i)
@@ -60,8 +58,7 @@ TEST(Data, ReadsWhatPeopleHave) {
         {"1970-01-01,1,2,3,4,500\n", "prices: 1, 2, 3, 4, 500"},
         {"Angle,Harbour\n0,4\n30,5\n", "polar: 0 30, 4 5"},
     };
-    for (const auto& [bytes, expected] : cases)
-        EXPECT_EQ(Read(bytes), expected) << bytes.toStdString();
+    for (const auto& [bytes, expected] : cases) EXPECT_EQ(Read(bytes), expected) << bytes.toStdString();
 }
 
 TEST(Data, SaysWhatIsWrongAndWhere) {
@@ -83,8 +80,7 @@ TEST(Data, SaysWhatIsWrongAndWhere) {
         {"date,open,high,low,close\nsoon,1,2,3,4\n", "Line 2: \"soon\" is not a date such as 2024-01-31."},
         {"angle,x\nnorth,1\n", "Line 2: \"north\" is not a number."},
     };
-    for (const auto& [bytes, expected] : cases)
-        EXPECT_EQ(Read(bytes), expected) << bytes.left(40).toStdString();
+    for (const auto& [bytes, expected] : cases) EXPECT_EQ(Read(bytes), expected) << bytes.left(40).toStdString();
     EXPECT_NE(Read("1\n2\n").find("one column"), std::string::npos);
     EXPECT_TRUE(ReadCsvFile(QTemporaryDir().path()).error.startsWith("The file cannot be read"));
 }
@@ -92,9 +88,7 @@ TEST(Data, SaysWhatIsWrongAndWhere) {
 TEST(Data, PricesAreAWalkThatTheReaderKnows) {
     const Prices walked = WalkPrices(500);
     const auto read = std::get<Prices>(Understand(ReadCsv(PricesAsCsv(walked))).data);
-    EXPECT_EQ(read.dates, walked.dates);
-    EXPECT_EQ(read.close, walked.close);
-    EXPECT_EQ(read.volume, walked.volume);
+    EXPECT_EQS((read.dates, walked.dates), (read.close, walked.close), (read.volume, walked.volume));
     ASSERT_EQ(read.dates.size(), 500U);
     for (std::size_t i = 0; i < 500; ++i) {
         EXPECT_LE(read.low[i], std::min(read.open[i], read.close[i]));

@@ -2,34 +2,25 @@
 
 #include "demo/host_window.h"
 #include "demo/prices.h"
+#include "tests/driver/windows.h"
+#include "tests/expect.h"
 
-#include <QApplication>
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QMimeData>
-#include <QPushButton>
 #include <QTemporaryDir>
-#include <QTest>
-#include <QTimer>
-#include <gtest/gtest.h>
 
 namespace {
 
 class Host : public testing::Test {
 protected:
     Host() {
-        static int count = 1;
-        static char name[] = "demo";
-        static char* arguments[] = {name, nullptr};
-        if (QCoreApplication::instance() == nullptr)
-            new QApplication(count, arguments); // to the end of the process
+        NeedApplication();
         m_window = std::make_unique<HostWindow>();
         m_window->show();
         for (QLabel* label : m_window->findChildren<QLabel*>())
-            if (label->accessibleName() == "Chart")
-                m_picture = label;
+            if (label->accessibleName() == "Chart") m_picture = label;
     }
 
     QImage Chart() { return m_picture->pixmap().toImage(); }
@@ -45,17 +36,12 @@ protected:
     /// Presses a key in the next modal window; returns what it says, or its title.
     QString Answer(Qt::Key key, const std::function<void(QWidget&)>& act, const std::function<void()>& cause) {
         QString said;
-        QTimer timer;
-        QObject::connect(&timer, &QTimer::timeout, [&] {
-            if (QWidget* window = QApplication::activeModalWidget()) {
-                timer.stop();
-                auto* box = qobject_cast<QMessageBox*>(window);
-                said = box != nullptr ? box->text() : window->windowTitle();
-                act(*window);
-                QTest::keyClick(window, key);
-            }
+        const WhenModal answer([&](QWidget& window) {
+            auto* box = qobject_cast<QMessageBox*>(&window);
+            said = box != nullptr ? box->text() : window.windowTitle();
+            act(window);
+            QTest::keyClick(&window, key);
         });
-        timer.start(1);
         cause();
         return said;
     }
@@ -88,9 +74,8 @@ TEST_F(Host, AnEditShowsInTheFinishedChartAndACancelDoesNot) {
     const auto leaveTheDonut = [](QWidget& editor) {
         QTest::keyClick(editor.findChild<QWidget*>("Use DonutType"), Qt::Key_Space);
     };
-    EXPECT_EQ(Answer(Qt::Key_Escape, leaveTheDonut, [&] { Press("&Edit chart..."); }), "PieChart");
-    EXPECT_EQ(Chart(), before);
-    EXPECT_EQ(Answer(Qt::Key_Return, leaveTheDonut, [&] { Press("&Edit chart..."); }), "PieChart");
+    EXPECT_EQS((Answer(Qt::Key_Escape, leaveTheDonut, [&] { Press("&Edit chart..."); }), "PieChart"), (Chart(), before),
+               (Answer(Qt::Key_Return, leaveTheDonut, [&] { Press("&Edit chart..."); }), "PieChart"));
     EXPECT_NE(Chart(), before);
     EXPECT_EQ(QColor(before.pixel(290, 250)), QColor(Qt::white)) << "the hole of the donut";
     EXPECT_NE(QColor(Chart().pixel(290, 256)), QColor(Qt::white));
@@ -115,8 +100,7 @@ TEST_F(Host, DroppedNumbersAreShownByTheirKindAndBadOnesRefused) {
     const QImage after = Chart();
     const QString said = Answer(
         Qt::Key_Return, [](QWidget&) {}, [&] { Drop(Write("bad.csv", "a,1\nb,x\n")); });
-    EXPECT_EQ(said, "bad.csv\n\nLine 2: \"x\" is not a number.");
-    EXPECT_EQ(Chart(), after);
+    EXPECT_EQS((said, "bad.csv\n\nLine 2: \"x\" is not a number."), (Chart(), after));
 }
 
 TEST_F(Host, AStyleThatWasSavedComesBackToItsKind) {
@@ -130,8 +114,7 @@ TEST_F(Host, AStyleThatWasSavedComesBackToItsKind) {
     EXPECT_NE(Chart(), before);
     m_window->ShowKind(3); // another one
     Drop(path);
-    EXPECT_EQ(m_window->findChild<QListWidget*>()->currentItem()->text(), "Pie chart");
-    EXPECT_EQ(Chart(), before);
+    EXPECT_EQS((m_window->findChild<QListWidget*>()->currentItem()->text(), "Pie chart"), (Chart(), before));
     const QString said = Answer(
         Qt::Key_Return, [](QWidget&) {},
         [&] { Drop(Write("bad.json", "{\"chartStyle\":1,\"kind\":\"pie\",\n\"chart\":{\"depth3D\":true}}")); });

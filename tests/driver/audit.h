@@ -60,8 +60,7 @@ inline void NothingIsCutOff(QWidget& window) {
     const bool fixed = window.minimumSize() == window.maximumSize();
     EXPECT_TRUE(!fixed || window.size() == window.sizeHint()) << Describe(window);
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        if (!widget->isVisibleTo(&window))
-            continue;
+        if (!widget->isVisibleTo(&window)) continue;
         const bool hasText = qobject_cast<const QLabel*>(widget) != nullptr ||
                              qobject_cast<const QAbstractButton*>(widget) != nullptr ||
                              qobject_cast<const QComboBox*>(widget) != nullptr ||
@@ -127,8 +126,7 @@ inline void TabFollowsReading(QWidget& window) {
     QWidget* last = nullptr;
     const auto order = Focusable(window);
     for (QWidget* next = window.nextInFocusChain(); next != &window; next = next->nextInFocusChain()) {
-        if (std::find(order.begin(), order.end(), next) == order.end())
-            continue;
+        if (std::find(order.begin(), order.end(), next) == order.end()) continue;
         if (last != nullptr) {
             const QRect from(last->mapTo(&window, QPoint()), last->size());
             const QRect to(next->mapTo(&window, QPoint()), next->size());
@@ -148,12 +146,10 @@ inline void TabReachesEveryControl(QWidget& window) {
     const auto controls = Focusable(window);
     std::set<const QWidget*> missed(controls.begin(), controls.end());
     for (std::size_t i = 0; i < 2 * controls.size(); ++i) {
-        if (window.focusWidget() != nullptr)
-            missed.erase(window.focusWidget());
+        if (window.focusWidget() != nullptr) missed.erase(window.focusWidget());
         QTest::keyClick(window.focusWidget() != nullptr ? window.focusWidget() : &window, Qt::Key_Tab);
     }
-    for (const QWidget* widget : missed)
-        ADD_FAILURE() << "Tab does not reach " << Describe(*widget);
+    for (const QWidget* widget : missed) ADD_FAILURE() << "Tab does not reach " << Describe(*widget);
 }
 
 /// No two letters of what shows at once are the same, and what has none finds all of its own in use.
@@ -170,15 +166,13 @@ inline void LettersAreUnique(QWidget& window) {
         }
     };
     for (const QWidget* widget : window.findChildren<QWidget*>()) {
-        if (!widget->isVisibleTo(&window))
-            continue;
+        if (!widget->isVisibleTo(&window)) continue;
         if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && label->buddy() != nullptr)
             take(label->text(), *label);
         else if (const auto* button = qobject_cast<const QAbstractButton*>(widget))
             take(button->text(), *button);
         else if (const auto* tabs = qobject_cast<const QTabBar*>(widget))
-            for (int i = 0; i < tabs->count(); ++i)
-                take(tabs->tabText(i), *tabs);
+            for (int i = 0; i < tabs->count(); ++i) take(tabs->tabText(i), *tabs);
     }
     for (const QString& text : without)
         for (const QChar letter : text)
@@ -222,8 +216,7 @@ inline void BoxesAreSeen(QWidget& window) {
 /// A number tells its unit and its range while the mouse rests on it.
 inline void NumbersHaveTips(QWidget& window) {
     for (const QAbstractSpinBox* number : window.findChildren<QAbstractSpinBox*>())
-        if (number->isVisible())
-            EXPECT_FALSE(number->toolTip().isEmpty()) << Describe(*number);
+        if (number->isVisible()) EXPECT_FALSE(number->toolTip().isEmpty()) << Describe(*number);
 }
 
 inline void Everything(QWidget& window) {

@@ -13,8 +13,7 @@ struct Dialog {
 };
 
 /// The dialog at `place` in the editor of `start`; the editor itself if there is no place.
-template <class Object>
-Dialog DialogOf(const std::string& name, const Object& start, const char* place = "") {
+template <class Object> Dialog DialogOf(const std::string& name, const Object& start, const char* place = "") {
     return {name,
             [start, place](const std::function<void(Person&)>& act) {
                 Object object(start);
@@ -71,8 +70,7 @@ inline CPolarChart SomePolarChart() {
     return chart;
 }
 
-template <class Meter>
-Meter SomeMeter() {
+template <class Meter> Meter SomeMeter() {
     Meter meter;
     meter.m_pointers.push_back(CMeterPointer());
     CChartTextBox text;
@@ -105,8 +103,7 @@ inline std::vector<Dialog> AllDialogs() {
         "Layer>Layer[0]>Modify...", "Layer>Layer[1]>Modify...", "Layer>Layer[2]>Modify...",
         "Layer>Layer[3]>Modify...", "Layer>Layer[4]>Modify...", "Layer>Layer[5]>Modify...",
         "Layer>Layer[6]>Modify...", "Layer>Layer[7]>Modify...", "Layer>Layer[8]>Modify..."};
-    for (const char* place : kLayers)
-        dialogs.push_back(DialogOf(std::string("layer ") + place[12], xy, place));
+    for (const char* place : kLayers) dialogs.push_back(DialogOf(std::string("layer ") + place[12], xy, place));
     dialogs.push_back(DialogOf("image", SomeLayout(0), "General>WallPaper|..."));
     dialogs.back().own = false;
     return dialogs;
@@ -116,8 +113,7 @@ inline std::vector<Dialog> AllDialogs() {
 inline void OnEachPage(const Person& person, const std::function<void(const QString& tab)>& look) {
     const QStringList tabs = person.Tabs();
     for (const QString& tab : tabs.isEmpty() ? QStringList({QString()}) : tabs) {
-        if (!tab.isEmpty())
-            person.Tab(tab);
+        if (!tab.isEmpty()) person.Tab(tab);
         look(tab);
     }
 }

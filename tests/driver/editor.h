@@ -17,8 +17,7 @@ inline bool Show(CAngularMeter& meter, const CChartLayout& layout) { return Show
 inline bool Show(CLinearMeter& meter, const CChartLayout& layout) { return ShowLinearMeterWnd(meter, layout); }
 
 /// What differs between two objects, a line each; empty if they are equal in every field.
-template <class Object>
-std::string Difference(const Object& before, const Object& after) {
+template <class Object> std::string Difference(const Object& before, const Object& after) {
     std::string all;
     for (const auto& [path, from, to] : model::Differences(before, after))
         all += path + ": " + from + " -> " + to + '\n';
@@ -26,13 +25,11 @@ std::string Difference(const Object& before, const Object& after) {
 }
 
 /// Opens the editor of `object` and lets `act` be the person. Returns what the host is told.
-template <class Object>
-bool Edit(Object& object, const CChartLayout& layout, const std::function<void(Person&)>& act) {
+template <class Object> bool Edit(Object& object, const CChartLayout& layout, const std::function<void(Person&)>& act) {
     const WhenModal person([&](QWidget& window) { Person(window).Meet(act); });
     return Show(object, layout);
 }
-template <class Object>
-bool Edit(Object& object, const std::function<void(Person&)>& act) {
+template <class Object> bool Edit(Object& object, const std::function<void(Person&)>& act) {
     return Edit(object, CChartLayout(), act);
 }
 

@@ -1,28 +1,23 @@
 #pragma once
 // What every editor owes to its host and its users, whatever it edits.
 
-#include "tests/driver/properties.h"
-#include "tests/driver/random_person.h"
 #include "tests/driver/steps.h"
 
 #if __has_include(<malloc.h>)
 #include <malloc.h>
 #endif
 
-#include <map>
 #include <regex>
 
 namespace driver {
 
 /// OK without an edit gives the object back in every field; Cancel and Esc after edits of every row do too.
-template <class Object>
-void TestWaysOut(const Object& start, const CChartLayout& layout, const Properties& rows) {
+template <class Object> void TestWaysOut(const Object& start, const CChartLayout& layout, const Properties& rows) {
     Object object(start);
     EXPECT_TRUE(Edit(object, layout, [](Person& person) {
         for (const QString& tab : person.Tabs()) {
             person.Tab(tab);
-            for (int i = 0; i < 40; ++i)
-                person.Leave();
+            for (int i = 0; i < 40; ++i) person.Leave();
         }
         person.Ok();
     }));
@@ -42,14 +37,12 @@ void TestWaysOut(const Object& start, const CChartLayout& layout, const Properti
 }
 
 /// Opening and closing leaves no memory behind. CHART_OPENINGS asks for more than a few.
-template <class Object>
-void TestMemoryIsFlat(const Object& start, const CChartLayout& layout) {
+template <class Object> void TestMemoryIsFlat(const Object& start, const CChartLayout& layout) {
     const auto open = [&](int times) {
         for (int i = 0; i < times; ++i) {
             Object object(start);
             EXPECT_TRUE(Edit(object, layout, [](Person& person) {
-                for (const QString& tab : person.Tabs())
-                    person.Tab(tab);
+                for (const QString& tab : person.Tabs()) person.Tab(tab);
                 person.Preview();
                 person.Ok();
             }));
@@ -69,16 +62,14 @@ void TestMemoryIsFlat(const Object& start, const CChartLayout& layout) {
 }
 
 /// Whatever is done to the editor, numbers stay in the limits of their rows.
-template <class Object>
-void TestAnybody(const Object& start, const CChartLayout& layout, const Properties& rows) {
+template <class Object> void TestAnybody(const Object& start, const CChartLayout& layout, const Properties& rows) {
     Object object(start);
     NeedApplication();
     RandomPerson anybody(1);
     MindSteps(anybody);
     anybody.Use(RandomEventCount(), [&] { Show(object, layout); });
     std::map<std::string, std::string> before;
-    for (const auto& [path, text] : model::Values(start))
-        before[path] = text;
+    for (const auto& [path, text] : model::Values(start)) before[path] = text;
     for (const auto& [path, text] : model::Values(object)) {
         for (const Property& row : rows) {
             const std::string pattern = std::regex_replace(

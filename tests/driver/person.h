@@ -39,19 +39,16 @@ public:
     QWidget& Window() const { return m_window; }
 
     /// The control of that name that shows: pages have controls of the same name.
-    template <class Control = QWidget>
-    Control& Find(const QString& name) const {
+    template <class Control = QWidget> Control& Find(const QString& name) const {
         for (Control* found : m_window.findChildren<Control*>())
-            if (found->isVisible() && found->accessibleName() == name)
-                return *found;
+            if (found->isVisible() && found->accessibleName() == name) return *found;
         throw std::runtime_error("no control " + name.toStdString());
     }
     /// The control at a label, in the group of that caption; both may be empty. Check boxes, radio buttons
     /// and buttons are their own labels; what has none is known by its group.
     QWidget& At(const QString& group, const QString& label) const {
         for (QWidget* control : Inputs())
-            if (GroupOf(*control) == Read(group) && LabelOf(*control) == Read(label))
-                return *control;
+            if (GroupOf(*control) == Read(group) && LabelOf(*control) == Read(label)) return *control;
         for (QWidget* control : Inputs()) // a picker beside another control has its name alone
             if (GroupOf(*control) == Read(group) &&
                 (control->objectName() == label || control->objectName() == label + "..."))
@@ -62,8 +59,7 @@ public:
     QList<QWidget*> Inputs() const {
         QList<QWidget*> found;
         for (QWidget* widget : m_window.findChildren<QWidget*>())
-            if (widget->isVisible() && IsInput(*widget))
-                found += widget;
+            if (widget->isVisible() && IsInput(*widget)) found += widget;
         return found;
     }
     QPushButton& Button(const QString& group, const QString& text) const {
@@ -75,14 +71,12 @@ public:
     }
     static QString GroupOf(const QWidget& control) {
         for (const QWidget* above = &control; above != nullptr; above = above->parentWidget())
-            if (const auto* box = qobject_cast<const QGroupBox*>(above))
-                return Read(box->title());
+            if (const auto* box = qobject_cast<const QGroupBox*>(above)) return Read(box->title());
         return {};
     }
     QString LabelOf(const QWidget& control) const {
         for (const QLabel* label : m_window.findChildren<QLabel*>())
-            if (label->isVisible() && label->buddy() == &control)
-                return Read(label->text());
+            if (label->isVisible() && label->buddy() == &control) return Read(label->text());
         const auto* button = qobject_cast<const QAbstractButton*>(&control);
         return button == nullptr || IsPicker(*button) ? QString() : Read(button->text());
     }
@@ -119,8 +113,7 @@ public:
         box.setFocus();
         box.showPopup();
         QTest::keyClick(box.view(), Qt::Key_Home);
-        for (int i = 0; i < row; ++i)
-            QTest::keyClick(box.view(), Qt::Key_Down);
+        for (int i = 0; i < row; ++i) QTest::keyClick(box.view(), Qt::Key_Down);
         QTest::keyClick(box.view(), Qt::Key_Return);
     }
     void Choose(const QString& combo, int row) const { Choose(Find<QComboBox>(combo), row); }
@@ -128,8 +121,7 @@ public:
     QListWidget& List(const QString& name) const { return *Find(name).findChild<QListWidget*>(); }
     QStringList Rows(const QString& name) const {
         QStringList rows;
-        for (int i = 0; i < List(name).count(); ++i)
-            rows.append(List(name).item(i)->text());
+        for (int i = 0; i < List(name).count(); ++i) rows.append(List(name).item(i)->text());
         return rows;
     }
     void Select(const QString& list, int row) const {
@@ -140,15 +132,13 @@ public:
     bool HasTab(const QString& caption) const { return TabOf(caption).second >= 0; }
     void Tab(const QString& caption) const {
         const auto [bar, index] = TabOf(caption);
-        if (index < 0)
-            throw std::runtime_error("no tab " + caption.toStdString());
+        if (index < 0) throw std::runtime_error("no tab " + caption.toStdString());
         QTest::mouseClick(bar, Qt::LeftButton, {}, bar->tabRect(index).center());
     }
     QStringList Tabs() const {
         QStringList captions;
         for (const QTabBar* bar : m_window.findChildren<QTabBar*>())
-            for (int i = 0; i < bar->count(); ++i)
-                captions += Read(bar->tabText(i));
+            for (int i = 0; i < bar->count(); ++i) captions += Read(bar->tabText(i));
         return captions;
     }
     /// Clicks what opens another dialog, and acts in it. The dialog must be closed by the end.
@@ -189,8 +179,7 @@ private:
         if (qobject_cast<const QLineEdit*>(&widget) != nullptr)
             return qobject_cast<const QAbstractSpinBox*>(above) == nullptr &&
                    qobject_cast<const QComboBox*>(above) == nullptr && !above->inherits("CSimpleCombo");
-        if (const auto* button = qobject_cast<const QPushButton*>(&widget))
-            return IsPicker(*button);
+        if (const auto* button = qobject_cast<const QPushButton*>(&widget)) return IsPicker(*button);
         return qobject_cast<const QAbstractSpinBox*>(&widget) != nullptr ||
                qobject_cast<const QComboBox*>(&widget) != nullptr ||
                qobject_cast<const QCheckBox*>(&widget) != nullptr ||
@@ -200,8 +189,7 @@ private:
     std::pair<QTabBar*, int> TabOf(const QString& caption) const {
         for (QTabBar* bar : m_window.findChildren<QTabBar*>())
             for (int i = 0; i < bar->count(); ++i)
-                if (bar->isVisible() && Read(bar->tabText(i)) == Read(caption))
-                    return {bar, i};
+                if (bar->isVisible() && Read(bar->tabText(i)) == Read(caption)) return {bar, i};
         return {nullptr, -1};
     }
 
@@ -211,16 +199,13 @@ private:
 /// Keeps a picture to look at, where CHART_PICTURES names a folder for it.
 inline void KeepPicture(const Person& person, const QString& name) {
     const QString folder = qEnvironmentVariable("CHART_PICTURES");
-    if (!folder.isEmpty())
-        EXPECT_TRUE(person.Window().grab().save(folder + u'/' + name + QStringLiteral(".png")));
+    if (!folder.isEmpty()) EXPECT_TRUE(person.Window().grab().save(folder + u'/' + name + QStringLiteral(".png")));
 }
 
 /// The control of that object name that shows.
-template <class Control = QWidget>
-Control* Find(QWidget& dialog, const char* name) {
+template <class Control = QWidget> Control* Find(QWidget& dialog, const char* name) {
     for (QWidget* found : dialog.findChildren<QWidget*>(QString::fromUtf8(name)))
-        if (auto* control = dynamic_cast<Control*>(found); control != nullptr && found->isVisible())
-            return control;
+        if (auto* control = dynamic_cast<Control*>(found); control != nullptr && found->isVisible()) return control;
     ADD_FAILURE() << "no control " << name;
     return nullptr;
 }

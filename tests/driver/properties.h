@@ -3,7 +3,6 @@
 // which field that changes. Every row is tried in a dialog of its own, through the host's entry function: the
 // named field of the returned object has changed and no other, and the preview shows it.
 
-#include "model/fields/values.h"
 #include "tests/driver/editor.h"
 
 #include <QDateEdit>
@@ -105,8 +104,7 @@ inline void GiveNumber(const Person& person, QWidget& spin, const Property& row)
             Type(&spin, QString::number(limit + (limit == n.floor ? -1 : 1)));
             person.Enter();
             EXPECT_TRUE(limited(shown()) == shown()) << "typed past " << limit;
-            for (int i = 0; i < 2; ++i)
-                person.Press(spin, limit != n.floor);
+            for (int i = 0; i < 2; ++i) person.Press(spin, limit != n.floor);
             EXPECT_TRUE(limited(shown()) == shown()) << "pressed past " << limit;
         }
     }
@@ -117,10 +115,8 @@ inline void GiveNumber(const Person& person, QWidget& spin, const Property& row)
 inline void GiveChoice(const Person& person, QComboBox& box, const Property& row) {
     const QStringList wanted = QString::fromStdString(row.give).split(u'|');
     QStringList rows;
-    for (int i = 0; i < box.count(); ++i)
-        rows += box.itemText(i);
-    if (wanted.size() > 1)
-        EXPECT_EQ(rows.join(u'|').toStdString(), row.give);
+    for (int i = 0; i < box.count(); ++i) rows += box.itemText(i);
+    if (wanted.size() > 1) EXPECT_EQ(rows.join(u'|').toStdString(), row.give);
     const auto index = static_cast<int>(rows.indexOf(wanted.last()));
     EXPECT_GE(index, 0) << "no row " << row.give;
     person.Choose(box, index);
@@ -139,8 +135,7 @@ inline void GiveInPicker(const Person& picker, const QString& give) {
     } else {
         auto* name = picker.Window().findChild<QLineEdit*>(QStringLiteral("fileNameEdit"));
         Type(name, give);
-        if (QWidget* suggestions = QApplication::activePopupWidget())
-            suggestions->close();
+        if (QWidget* suggestions = QApplication::activePopupWidget()) suggestions->close();
         return picker.Click(picker.Button({}, "Open"));
     }
     picker.Ok();
@@ -172,8 +167,7 @@ inline void Go(Person& person, const QString& place, const std::function<void(Pe
                const std::function<void(Person&)>& leave = LeaveByOk) {
     const QString step = place.section(u'>', 0, 0).trimmed();
     const QString rest = place.section(u'>', 1);
-    if (step.isEmpty())
-        return act(person);
+    if (step.isEmpty()) return act(person);
     if (person.HasTab(step)) {
         person.Tab(step);
         return Go(person, rest, act, leave);
@@ -192,8 +186,7 @@ inline void Go(Person& person, const QString& place, const std::function<void(Pe
 // ---- The tests of a table
 
 /// Tries every row, each beginning with `start`.
-template <class Object>
-void TestProperties(const Object& start, const CChartLayout& layout, const Properties& rows) {
+template <class Object> void TestProperties(const Object& start, const CChartLayout& layout, const Properties& rows) {
     const auto before = model::Values(start);
     for (const Property& row : rows) {
         SCOPED_TRACE(row.place + '/' + row.group + '/' + row.label + ' ' + row.give);
@@ -201,8 +194,7 @@ void TestProperties(const Object& start, const CChartLayout& layout, const Prope
         EXPECT_TRUE(Edit(object, layout, [&](Person& person) {
             const QImage preview = person.Preview();
             Go(person, QString::fromStdString(row.place), [&](Person& there) { Give(there, row); });
-            if (row.seen)
-                EXPECT_FALSE(person.Preview() == preview) << "the preview does not show it";
+            if (row.seen) EXPECT_FALSE(person.Preview() == preview) << "the preview does not show it";
             person.Ok();
         }));
         bool changed = false;
@@ -212,18 +204,15 @@ void TestProperties(const Object& start, const CChartLayout& layout, const Prope
                 path == row.Path() || path.starts_with(row.Path() + '.') || path.starts_with(row.Path() + '[');
             EXPECT_TRUE(here) << path << ": " << from << " -> " << to;
             changed = changed || here;
-            if (path == row.Path())
-                now = to;
+            if (path == row.Path()) now = to;
         }
         EXPECT_TRUE(changed) << row.Path() << " has not changed";
-        if (row.change.size() > row.Path().size())
-            EXPECT_EQ(now, row.change.substr(row.Path().size() + 1)) << "stored";
+        if (row.change.size() > row.Path().size()) EXPECT_EQ(now, row.change.substr(row.Path().size() + 1)) << "stored";
     }
 }
 
 /// Every control that shows a property has a row, and every row a control of its own; prints how many.
-template <class Object>
-void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Properties& rows) {
+template <class Object> void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Properties& rows) {
     const auto name = [](const Property& row) { return row.place + '>' + row.group + '>' + row.label; };
     std::set<std::string> places, told, found;
     for (const Property& row : rows) {
@@ -246,8 +235,7 @@ void TestTableIsWhole(const Object& start, const CChartLayout& layout, const Pro
                 for (const Property& row : rows)
                     if (row.place == place || (row.place.empty() && inDialog))
                         named[&there.At(QString::fromStdString(row.group), QString::fromStdString(row.label))] = &row;
-                for (const auto& [control, row] : named)
-                    found.insert(name(*row));
+                for (const auto& [control, row] : named) found.insert(name(*row));
                 for (QWidget* control : there.Inputs())
                     EXPECT_TRUE(named.contains(control)) << "no row for " << qPrintable(there.GroupOf(*control)) << '/'
                                                          << qPrintable(there.LabelOf(*control));

@@ -26,12 +26,10 @@ public:
         QTimer dismiss;
         QObject::connect(&dismiss, &QTimer::timeout, &dismiss, [this] {
             auto* over = qobject_cast<QDialog*>(QApplication::activeModalWidget());
-            if (over != nullptr && m_tried != nullptr && over != m_tried)
-                over->reject();
+            if (over != nullptr && m_tried != nullptr && over != m_tried) over->reject();
         });
         dismiss.start(0);
-        while (m_left > 0)
-            run();
+        while (m_left > 0) run();
     }
 
     /// Called with a dialog that has just opened, and with one that is about to be closed.
@@ -40,19 +38,15 @@ public:
 
 private:
     void Leave(QWidget& dialog) {
-        if (QWidget* popup = QApplication::activePopupWidget())
-            popup->close();
-        if (m_leaving)
-            m_leaving(dialog);
+        if (QWidget* popup = QApplication::activePopupWidget()) popup->close();
+        if (m_leaving) m_leaving(dialog);
     }
     int Below(int bound) { return std::uniform_int_distribution(0, bound - 1)(m_random); }
 
     void Act() {
         QWidget* modal = QApplication::activeModalWidget();
-        if (modal == nullptr)
-            return;
-        if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr && Below(3) == 0)
-            popup->close();
+        if (modal == nullptr) return;
+        if (QWidget* popup = QApplication::activePopupWidget(); popup != nullptr && Below(3) == 0) popup->close();
         if (m_left <= 0) {
             Leave(*modal);
             static_cast<QDialog*>(modal)->reject();
@@ -88,26 +82,19 @@ private:
         const QPoint at(Below(widget->width() + 8) - 4, Below(widget->height() + 8) - 4);
         const Qt::MouseButton button = Below(8) == 0 ? Qt::RightButton : Qt::LeftButton;
         switch (Below(7)) {
-        case 0:
-            SendMouse(widget, QEvent::MouseButtonPress, at, button, button);
-            break;
+        case 0: SendMouse(widget, QEvent::MouseButtonPress, at, button, button); break;
         case 1:
             SendMouse(widget, QEvent::MouseMove, at, Qt::NoButton, Below(2) == 0 ? Qt::LeftButton : Qt::NoButton);
             break;
-        case 2:
-            SendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton);
-            break;
+        case 2: SendMouse(widget, QEvent::MouseButtonRelease, at, button, Qt::NoButton); break;
         case 3: {
             QWheelEvent wheel(at, widget->mapToGlobal(at), {}, {0, (Below(5) - 2) * 120}, {}, {}, Qt::NoScrollPhase,
                               false);
             QApplication::sendEvent(widget, &wheel);
             break;
         }
-        case 4:
-            SendMouse(widget, QEvent::MouseButtonDblClick, at, button, button);
-            break;
-        default:
-            SendKey(widget);
+        case 4: SendMouse(widget, QEvent::MouseButtonDblClick, at, button, button); break;
+        default: SendKey(widget);
         }
     }
 
@@ -124,8 +111,7 @@ private:
         static constexpr char kTexts[] = "0123456789-.eA";
         static constexpr Qt::KeyboardModifier kHeld[] = {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
                                                          Qt::ControlModifier};
-        if (Below(4) == 0)
-            widget->setFocus();
+        if (Below(4) == 0) widget->setFocus();
         const bool text = Below(2) == 0;
         const char typed = kTexts[Below(static_cast<int>(sizeof kTexts) - 1)];
         const int key = text ? typed : static_cast<int>(kKeys[Below(static_cast<int>(std::size(kKeys)))]);
@@ -140,8 +126,7 @@ private:
 
 /// Many where every byte is watched, fewer else; CHART_EVENTS asks for another number.
 inline int RandomEventCount() {
-    if (const int asked = qEnvironmentVariableIntValue("CHART_EVENTS"); asked > 0)
-        return asked;
+    if (const int asked = qEnvironmentVariableIntValue("CHART_EVENTS"); asked > 0) return asked;
 #if defined(__SANITIZE_ADDRESS__)
     return 100000;
 #else

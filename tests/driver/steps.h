@@ -25,8 +25,7 @@ inline int AllTheWay(const QWidget& window, const char* button) {
     for (; StripButton(window, button).isEnabled(); ++steps) {
         const QString before = tips();
         StripButton(window, button).click();
-        if (tips() == before)
-            return -1;
+        if (tips() == before) return -1;
     }
     return steps;
 }
@@ -34,8 +33,7 @@ inline int AllTheWay(const QWidget& window, const char* button) {
 /// Everything of the object under edit, as a text: what Ctrl+C on the preview copies.
 inline QString CopiedLook(const QWidget& window) {
     auto* preview = window.findChild<QWidget*>(QStringLiteral("Preview"));
-    if (preview == nullptr)
-        return {};
+    if (preview == nullptr) return {};
     QGuiApplication::clipboard()->clear();
     preview->setFocus();
     QTest::keyClick(preview, Qt::Key_C, Qt::ControlModifier);
@@ -68,8 +66,7 @@ inline void GiveAll(Person& person, const Properties& rows) {
 }
 
 /// All edits of a table undone give the object that the host gave; done again, the one that they made.
-template <class Object>
-void TestSteps(const Object& start, const CChartLayout& layout, const Properties& rows) {
+template <class Object> void TestSteps(const Object& start, const CChartLayout& layout, const Properties& rows) {
     Object edited(start), undone(start);
     EXPECT_TRUE(Edit(edited, layout, [&](Person& person) {
         GiveAll(person, rows);
@@ -95,17 +92,14 @@ void TestSteps(const Object& start, const CChartLayout& layout, const Properties
     EXPECT_EQ(Difference(start, undone), "") << "undone";
 }
 
-template <class Object>
-bool HasValue(const Object& object, const std::string& path, const std::string& text) {
+template <class Object> bool HasValue(const Object& object, const std::string& path, const std::string& text) {
     for (const auto& [each, value] : model::Values(object))
-        if (each == path)
-            return value == text;
+        if (each == path) return value == text;
     return false;
 }
 
 /// Each row edited is one line in the list of changes, whose "Revert" gives the object back.
-template <class Object>
-void TestChanges(const Object& start, const CChartLayout& layout, const Properties& rows) {
+template <class Object> void TestChanges(const Object& start, const CChartLayout& layout, const Properties& rows) {
     Object object(start);
     EXPECT_TRUE(Edit(object, layout, [&](Person& person) {
         QAbstractButton& changes = StripButton(person.Window(), "Changes");
@@ -142,8 +136,7 @@ inline std::vector<int> LinesOf(const Property& row, const QListWidget& list) {
     const QString group = Read(QString::fromStdString(row.group));
     QStringList parts{group};
     for (const QString& part : QString::fromStdString(row.place).split(u'>'))
-        if (!part.contains(u'|') && !part.contains(u'.') && !part.contains(u'['))
-            parts += part.trimmed();
+        if (!part.contains(u'|') && !part.contains(u'.') && !part.contains(u'[')) parts += part.trimmed();
     const QString label =
         row.label.empty() ? group : Read(QString::fromStdString(row.label).remove(QStringLiteral("...")));
     std::vector<int> lines;
@@ -151,15 +144,13 @@ inline std::vector<int> LinesOf(const Property& row, const QListWidget& list) {
         const QString line = list.item(i)->text();
         const bool all =
             std::all_of(parts.begin(), parts.end(), [&line](const QString& part) { return line.contains(part); });
-        if (line.startsWith(label) && all)
-            lines.push_back(i);
+        if (line.startsWith(label) && all) lines.push_back(i);
     }
     return lines;
 }
 
 /// Each row is found by its label, and gets the focus; one that has no label by that of its group.
-template <class Object>
-void TestSearch(const Object& start, const CChartLayout& layout, const Properties& rows) {
+template <class Object> void TestSearch(const Object& start, const CChartLayout& layout, const Properties& rows) {
     const auto isThere = [](const Person& person, const Property& row) {
         const QWidget& control = person.At(QString::fromStdString(row.group), QString::fromStdString(row.label));
         const QWidget* focus = person.Window().focusWidget();

@@ -1,6 +1,8 @@
 #pragma once
 // Windows that open while a test drives them: how they are waited for, answered and closed.
 
+#include "tests/expect.h"
+
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>
@@ -9,7 +11,6 @@
 #include <QTimer>
 #include <QWidget>
 #include <functional>
-#include <gtest/gtest.h>
 #include <memory>
 
 /// The host's own application object. Not made before it is needed: some hosts have none.
@@ -17,8 +18,7 @@ inline void NeedApplication() {
     static int count = 1;
     static char name[] = "host";
     static char* arguments[] = {name, nullptr};
-    if (QCoreApplication::instance() == nullptr)
-        new QApplication(count, arguments); // to the end of the process
+    if (QCoreApplication::instance() == nullptr) new QApplication(count, arguments); // to the end of the process
 }
 
 /// Makes the application object before the first widget.
@@ -84,26 +84,22 @@ inline void ExpectBox(const char* title, const char* text, const std::function<v
 }
 
 /// Runs a dialog modally with `drive` inside; closes it if that has not. Returns the result.
-template <class Dialog, class Drive>
-int RunModal(Dialog& dialog, Drive drive) {
+template <class Dialog, class Drive> int RunModal(Dialog& dialog, Drive drive) {
     QTimer::singleShot(0, &dialog, [&] {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
         drive();
-        if (dialog.isVisible())
-            dialog.reject();
+        if (dialog.isVisible()) dialog.reject();
     });
     return dialog.DoModal();
 }
 
 /// While it lives, dismisses every dialog of that kind that opens, and keeps the text of the last one.
-template <class Box>
-class Dismiss {
+template <class Box> class Dismiss {
 public:
     Dismiss() {
         QObject::connect(&m_timer, &QTimer::timeout, &m_timer, [this] {
             if (auto* box = qobject_cast<Box*>(QApplication::activeModalWidget())) {
-                if constexpr (requires { box->text(); })
-                    m_text = box->text();
+                if constexpr (requires { box->text(); }) m_text = box->text();
                 ++m_count;
                 box->reject();
             }

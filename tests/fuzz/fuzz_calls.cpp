@@ -21,12 +21,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     std::size_t at = 0;
     surface::Caller caller([&] { return at < size ? data[at++] * 7919u : 0u; });
     at = 0; // the arrays are made of zeros and of the beginning of the input
-    for (const Call create : creators)
-        create(caller);
+    for (const Call create : creators) create(caller);
     for (int calls = 0; at < size && calls < 200; ++calls) {
         others[caller.below(others.size())](caller);
-        if (calls % 40 == 39)
-            caller.drawAll();
+        if (calls % 40 == 39) caller.drawAll();
     }
     caller.drawAll();
     return 0;

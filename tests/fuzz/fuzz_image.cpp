@@ -16,7 +16,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const QByteArray bytes(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
     const QImage image = chartdraw::decodePicture(bytes);
     // What was read can be written.
-    if (!image.isNull() && chartdraw::bitmapFile(image).isEmpty())
-        std::abort();
+    if (!image.isNull() && chartdraw::bitmapFile(image).isEmpty()) std::abort();
     return 0;
 }

@@ -11,11 +11,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     for (const auto& line : lines) {
         for (const auto& run : line) {
             bytes += run.text.size();
-            if (run.text.empty() || run.text.find_first_of("\r\n") != run.text.npos)
-                __builtin_trap();
+            if (run.text.empty() || run.text.find_first_of("\r\n") != run.text.npos) __builtin_trap();
         }
     }
-    if (lines.empty() || bytes > size)
-        __builtin_trap();
+    if (lines.empty() || bytes > size) __builtin_trap();
     return 0;
 }

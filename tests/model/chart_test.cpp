@@ -2,7 +2,6 @@
 
 #include "tests/model/memory_probe.h"
 #include <charteditors/charteditors.h>
-#include <gtest/gtest.h>
 #include <memory>
 #include <string>
 
@@ -128,24 +127,15 @@ TEST(XYChart, FailingCopyLeavesNoPointerIntoTheSource) {
 
 TEST(AxisMgr, LooksAtWhatItIsAskedFor) {
     CXYChartAxisMgr axes;
-    EXPECT_EQ(axes.GetAxisCount(), 0);
-    EXPECT_TRUE(axes.empty());
-    EXPECT_EQ(axes.GetSafeAxis(0), nullptr);
+    EXPECT_EQS((axes.GetAxisCount(), 0), (axes.empty(), true), (axes.GetSafeAxis(0), nullptr));
     axes.DeleteContents();
     CXYChartAxis stranger;
     CXYChartAxis* first = CXYChartAxisMgr::CreateAxis();
     CXYChartAxis* second = CXYChartAxisMgr::CreateAxis();
-    EXPECT_EQ(axes.AddAxis(first), 0);
-    EXPECT_EQ(axes.AddAxis(second), 1);
-    EXPECT_EQ(axes.GetSafeAxis(-1), nullptr);
-    EXPECT_EQ(axes.GetSafeAxis(2), nullptr);
-    EXPECT_EQ(axes.GetSafeAxis(1), second);
-    EXPECT_EQ(axes.GetAxisIndex(second), 1);
-    EXPECT_EQ(axes.GetAxisIndex(&stranger), -1);
-    EXPECT_EQ(axes.GetAxisIndex(nullptr), -1);
-    EXPECT_EQ(axes.SafeAxis(&stranger), nullptr);
-    EXPECT_EQ(axes.SafeAxis(nullptr), nullptr);
-    EXPECT_EQ(axes.SafeAxis(first), first);
+    EXPECT_EQS((axes.AddAxis(first), 0), (axes.AddAxis(second), 1), (axes.GetSafeAxis(-1), nullptr),
+               (axes.GetSafeAxis(2), nullptr), (axes.GetSafeAxis(1), second), (axes.GetAxisIndex(second), 1),
+               (axes.GetAxisIndex(&stranger), -1), (axes.GetAxisIndex(nullptr), -1),
+               (axes.SafeAxis(&stranger), nullptr), (axes.SafeAxis(nullptr), nullptr), (axes.SafeAxis(first), first));
     axes.SetAxis(second, 0);
     axes.SetAxis(first, 1);
     EXPECT_EQ(axes.GetAxis(0), second);
@@ -154,28 +144,24 @@ TEST(AxisMgr, LooksAtWhatItIsAskedFor) {
     axes.DeleteContents();
     EXPECT_TRUE(axes.empty());
     EXPECT_EQ(axes.AddAxis(nullptr), 0) << "an empty entry is kept";
-    EXPECT_EQ(axes.GetAxisIndex(nullptr), -1);
-    EXPECT_EQ(CXYChartAxisMgr(axes).GetAxisCount(), 1);
+    EXPECT_EQS((axes.GetAxisIndex(nullptr), -1), (CXYChartAxisMgr(axes).GetAxisCount(), 1));
 }
 
 namespace {
 
 /// What the two layer managers have in common, over either.
-template <class Manager>
-class LayerMgrTest : public testing::Test {};
+template <class Manager> class LayerMgrTest : public testing::Test {};
 using LayerManagers = testing::Types<CXYChartLayerMgr, CPolarLayerMgr>;
 TYPED_TEST_SUITE(LayerMgrTest, LayerManagers);
 
-template <class Manager>
-std::string namesOf(const Manager& layers) {
+template <class Manager> std::string namesOf(const Manager& layers) {
     std::string names;
     for (int i = 0; i < layers.GetLayerCount(); i++)
         names += layers.GetLayer(i) ? layers.GetLayer(i)->m_name.data() : "-";
     return names;
 }
 
-template <class Manager>
-auto* named(int type, const char* name) {
+template <class Manager> auto* named(int type, const char* name) {
     auto* layer = Manager::CreateLayer(type);
     layer->m_name = name;
     return layer;
@@ -186,9 +172,8 @@ auto* named(int type, const char* name) {
 TYPED_TEST(LayerMgrTest, KeepsLayersInOrderAndCopiesThem) {
     TypeParam layers;
     layers.DeleteContents();
-    EXPECT_EQ(layers.GetLayerCount(), 0);
-    EXPECT_EQ(layers.AddLayer(named<TypeParam>(0, "b")), 0);
-    EXPECT_EQ(layers.AddLayer(named<TypeParam>(2, "d")), 1);
+    EXPECT_EQS((layers.GetLayerCount(), 0), (layers.AddLayer(named<TypeParam>(0, "b")), 0),
+               (layers.AddLayer(named<TypeParam>(2, "d")), 1));
     layers.InsertLayer(named<TypeParam>(1, "c"), 1);
     layers.InsertLayer(named<TypeParam>(3, "a"), 0);
     layers.InsertLayer(named<TypeParam>(3, "e"), 4);
@@ -206,10 +191,8 @@ TYPED_TEST(LayerMgrTest, KeepsLayersInOrderAndCopiesThem) {
     EXPECT_EQ(namesOf(layers), "");
     layers.AddLayer(named<TypeParam>(0, "f"));
     EXPECT_EQ(namesOf(layers), "f");
-    for (const TypeParam* list : {&copy, static_cast<const TypeParam*>(&assigned)}) {
-        EXPECT_EQ(namesOf(*list), "abcde-");
-        EXPECT_EQ(list->GetLayer(0)->GetType(), 3);
-    }
+    for (const TypeParam* list : {&copy, static_cast<const TypeParam*>(&assigned)})
+        EXPECT_EQS((namesOf(*list), "abcde-"), (list->GetLayer(0)->GetType(), 3));
     EXPECT_EQ(copy.GetLayer(2)->GetSeed(), assigned.GetLayer(2)->GetSeed());
 }
 
@@ -217,8 +200,7 @@ TYPED_TEST(LayerMgrTest, StaysAsItWasWhenMemoryRunsOut) {
     TypeParam layers;
     layers.AddLayer(named<TypeParam>(0, "kept"));
     TypeParam source;
-    for (int type = 0; type < 4; type++)
-        source.AddLayer(named<TypeParam>(type, "copied"));
+    for (int type = 0; type < 4; type++) source.AddLayer(named<TypeParam>(type, "copied"));
     const int failures =
         model_test::failEachAllocation([&] { layers = source; }, [&] { EXPECT_EQ(namesOf(layers), "kept"); });
     EXPECT_GE(failures, 8);
@@ -227,8 +209,7 @@ TYPED_TEST(LayerMgrTest, StaysAsItWasWhenMemoryRunsOut) {
     const model_test::MemoryLimit limit(0);
     const auto* made = TypeParam::CreateLayer(0);
     const auto* clone = TypeParam::CloneLayer(source.GetLayer(0));
-    EXPECT_EQ(made, nullptr);
-    EXPECT_EQ(clone, nullptr);
+    EXPECT_EQS((made, nullptr), (clone, nullptr));
 }
 
 TYPED_TEST(LayerMgrTest, MakesAndCopiesByKind) {
@@ -237,8 +218,7 @@ TYPED_TEST(LayerMgrTest, MakesAndCopiesByKind) {
     for (int type = -2; type < kinds + 2; type++) {
         const Owned made(TypeParam::CreateLayer(type));
         ASSERT_EQ(made != nullptr, type >= 0 && type < kinds) << type;
-        if (!made)
-            continue;
+        if (!made) continue;
         EXPECT_EQ(made->GetType(), type);
         for (int other = 0; other < kinds; other++) {
             const Owned target(TypeParam::CreateLayer(other));
@@ -250,8 +230,7 @@ TYPED_TEST(LayerMgrTest, MakesAndCopiesByKind) {
         const Owned clone(TypeParam::CloneLayer(made.get()));
         EXPECT_EQ(clone->GetSeed(), made->GetSeed());
     }
-    EXPECT_EQ(TypeParam::CloneLayer(nullptr), nullptr);
-    EXPECT_EQ(TypeParam::CopyLayer(nullptr, nullptr), 0);
+    EXPECT_EQS((TypeParam::CloneLayer(nullptr), nullptr), (TypeParam::CopyLayer(nullptr, nullptr), 0));
 }
 
 TEST(LayerMgr, CopiesTheFieldsOfTheKind) {
@@ -264,9 +243,8 @@ TEST(LayerMgr, CopiesTheFieldsOfTheKind) {
 
     CXYChartLayer bare;
     CXYChartLayer otherBare;
-    EXPECT_EQ(bare.GetType(), -1);
-    EXPECT_EQ(CXYChartLayerMgr::CopyLayer(&bare, &otherBare), 0);
-    EXPECT_EQ(CXYChartLayerMgr::CloneLayer(&bare), nullptr);
+    EXPECT_EQS((bare.GetType(), -1), (CXYChartLayerMgr::CopyLayer(&bare, &otherBare), 0),
+               (CXYChartLayerMgr::CloneLayer(&bare), nullptr));
     bare.m_type = 0; // a number that belies its object is no reason to write past its end
     EXPECT_EQ(CXYChartLayerMgr::CopyLayer(&bar, &bare), 0);
 
@@ -275,6 +253,5 @@ TEST(LayerMgr, CopiesTheFieldsOfTheKind) {
     const std::unique_ptr<CPolarLayer> clone(CPolarLayerMgr::CloneLayer(&line));
     EXPECT_TRUE(dynamic_cast<CPolarLineLayer&>(*clone).m_closeLoop);
     CPolarSplineLineLayer spline;
-    EXPECT_EQ(CPolarLayerMgr::CopyLayer(&line, &spline), 0);
-    EXPECT_FALSE(spline.m_closeLoop);
+    EXPECT_EQS((CPolarLayerMgr::CopyLayer(&line, &spline), 0), (spline.m_closeLoop, false));
 }

@@ -2,7 +2,6 @@
 
 #include "tests/model/memory_probe.h"
 #include <charteditors/charteditors.h>
-#include <gtest/gtest.h>
 #include <string>
 
 namespace {
@@ -14,13 +13,11 @@ CChartString& textOf(CPieChartSector& element) { return element.m_text; }
 
 void mark(auto& element, int number) { textOf(element) = std::to_string(number).c_str(); }
 
-template <class Element>
-std::string markOf(const Element& element) {
+template <class Element> std::string markOf(const Element& element) {
     return textOf(const_cast<Element&>(element)).data();
 }
 
-template <class Container>
-class ContainerTest : public testing::Test {
+template <class Container> class ContainerTest : public testing::Test {
 protected:
     using Element = std::remove_reference_t<decltype(std::declval<Container&>()[0])>;
 
@@ -36,8 +33,7 @@ protected:
 
     static std::string marks(const Container& list) {
         std::string result;
-        for (int i = list.begin(); i < list.size(); i++)
-            result += markOf(list[i]);
+        for (int i = list.begin(); i < list.size(); i++) result += markOf(list[i]);
         EXPECT_EQ(list.empty(), result.empty());
         return result;
     }
@@ -52,10 +48,7 @@ TYPED_TEST(ContainerTest, StartsEmptyAndTakesNoMemory) {
     const long before = model_test::allocations();
     const TypeParam list;
     const TypeParam copy = list;
-    EXPECT_EQ(model_test::allocations(), before);
-    EXPECT_EQ(list.size(), 0);
-    EXPECT_TRUE(copy.empty());
-    EXPECT_EQ(list.begin(), 0);
+    EXPECT_EQS((model_test::allocations(), before), (list.size(), 0), (copy.empty(), true), (list.begin(), 0));
 }
 
 TYPED_TEST(ContainerTest, KeepsOrderThroughGrowthAndErasing) {
@@ -65,8 +58,7 @@ TYPED_TEST(ContainerTest, KeepsOrderThroughGrowthAndErasing) {
     list.erase(list.begin());
     list.erase(list.begin() + 3);
     EXPECT_EQ(this->marks(list), "123567");
-    while (!list.empty())
-        list.erase(0);
+    while (!list.empty()) list.erase(0);
     EXPECT_EQ(list.size(), 0);
     list.push_back(this->filled(1)[0]);
     EXPECT_EQ(this->marks(list), "0");

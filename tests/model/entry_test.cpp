@@ -1,10 +1,10 @@
 // The protocol of the entry functions, with a dialog that answers by itself.
 
 #include "editors/entry/run_editor.h"
+#include "tests/expect.h"
 #include <QApplication>
 #include <charteditors/charteditors.h>
 #include <clocale>
-#include <gtest/gtest.h>
 #include <stdexcept>
 
 namespace {
@@ -23,8 +23,7 @@ public:
         EXPECT_FALSE(QGuiApplication::quitOnLastWindowClosed());
         m_copy.m_width = 777;
         m_copy.m_titles.push_back({});
-        if (throws)
-            throw std::runtime_error("in the dialog");
+        if (throws) throw std::runtime_error("in the dialog");
         return answer;
     }
     const CChartLayout& GetObject() const { return m_copy; }
@@ -41,8 +40,7 @@ TEST(Entry, WritesBackOnOkOnly) {
         AnsweringDialog::answer = answer;
         CChartLayout layout;
         EXPECT_EQ(entry::RunEditor<AnsweringDialog>(layout), answer == 1) << answer;
-        EXPECT_EQ(layout.m_width, answer == 1 ? 777 : 500);
-        EXPECT_EQ(layout.m_titles.size(), answer == 1 ? 1 : 0);
+        EXPECT_EQS((layout.m_width, answer == 1 ? 777 : 500), (layout.m_titles.size(), answer == 1 ? 1 : 0));
     }
     EXPECT_EQ(AnsweringDialog::alive, 0);
     EXPECT_NE(qobject_cast<QApplication*>(QCoreApplication::instance()), nullptr) << "made at first need";
@@ -57,7 +55,5 @@ TEST(Entry, PutsEverythingBackWhenAnExceptionPasses) {
     layout = CChartLayout();
     EXPECT_THROW(entry::RunEditor<AnsweringDialog>(layout), std::runtime_error);
     AnsweringDialog::throws = false;
-    EXPECT_EQ(layout.m_width, 500);
-    EXPECT_EQ(AnsweringDialog::alive, 0);
-    EXPECT_TRUE(QGuiApplication::quitOnLastWindowClosed());
+    EXPECT_EQS((layout.m_width, 500), (AnsweringDialog::alive, 0), (QGuiApplication::quitOnLastWindowClosed(), true));
 }

@@ -28,10 +28,8 @@ std::set<std::string> Declared(const std::string& folder, const char* classes, c
         for (std::sregex_iterator c(text.begin(), text.end(), classPattern), end; c != end; ++c) {
             const std::string body = c->str(2);
             std::string row = c->str(1) + ':';
-            for (std::sregex_iterator f(body.begin(), body.end(), fieldPattern); f != end; ++f)
-                row += ' ' + f->str(1);
-            if (row.back() != ':' && row.find("Mgr:") == std::string::npos)
-                found.insert(row);
+            for (std::sregex_iterator f(body.begin(), body.end(), fieldPattern); f != end; ++f) row += ' ' + f->str(1);
+            if (row.back() != ':' && row.find("Mgr:") == std::string::npos) found.insert(row);
         }
     }
     return found;

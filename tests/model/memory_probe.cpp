@@ -19,13 +19,10 @@ MemoryLimit::~MemoryLimit() { s_left = -1; }
 } // namespace model_test
 
 void* operator new(std::size_t size) {
-    if (s_left == 0)
-        throw std::bad_alloc();
-    if (s_left > 0)
-        s_left--;
+    if (s_left == 0) throw std::bad_alloc();
+    if (s_left > 0) s_left--;
     s_allocations++;
-    if (void* memory = std::malloc(size))
-        return memory;
+    if (void* memory = std::malloc(size)) return memory;
     throw std::bad_alloc();
 }
 

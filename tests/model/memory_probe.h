@@ -2,6 +2,8 @@
 
 // The program's own operator new: it counts, and can run out of memory at a chosen allocation.
 
+#include "tests/expect.h"
+
 #include <exception>
 #include <new>
 
@@ -21,8 +23,7 @@ public:
 
 /// Runs `action` again and again, with one more allocation granted each time, until it gets by. After each
 /// failure `check` is called. Returns the number of failures.
-template <class Action, class Check>
-int failEachAllocation(Action action, Check check) {
+template <class Action, class Check> int failEachAllocation(Action action, Check check) {
     for (int granted = 0;; granted++) {
         try {
             const MemoryLimit limit(granted);

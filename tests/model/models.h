@@ -14,8 +14,7 @@ using model::Words;
 
 /// Calls `visit(value, words)` for each value below `value` that it takes; `visit.Grow(list)` comes before
 /// the items of each list. Layers keep their kinds.
-template <class Value, class Visit>
-void Each(Value& value, Visit& visit, Words words = {}) {
+template <class Value, class Visit> void Each(Value& value, Visit& visit, Words words = {}) {
     if constexpr (requires { visit(value, words); }) {
         visit(value, words);
     } else if constexpr (requires { Value::CreateLayer(0); }) {
@@ -25,19 +24,16 @@ void Each(Value& value, Visit& visit, Words words = {}) {
                 *value.GetLayer(i), [&](auto& layer) { Each(layer, visit); });
     } else if constexpr (requires { Value::CreateAxis(); }) {
         visit.Grow(value);
-        for (int i = 0; i < value.GetAxisCount(); ++i)
-            Each(*value.GetAxis(i), visit);
+        for (int i = 0; i < value.GetAxisCount(); ++i) Each(*value.GetAxis(i), visit);
     } else if constexpr (model::HasFields<Value>) {
         model::EachField(
             value,
             [&](const auto& field, auto& member) {
-                if (field.name != "type" || !std::is_polymorphic_v<Value>)
-                    Each(member, visit, field.words);
+                if (field.name != "type" || !std::is_polymorphic_v<Value>) Each(member, visit, field.words);
             });
     } else {
         visit.Grow(value);
-        for (int i = 0; i < value.size(); ++i)
-            Each(value[i], visit);
+        for (int i = 0; i < value.size(); ++i) Each(value[i], visit);
     }
 }
 
@@ -62,8 +58,7 @@ public:
     void operator()(std::int32_t (&)[5], Words) {}
     void Grow(auto& list) {
         if constexpr (requires { list.push_back({}); })
-            for (int i = 0; i < 2; ++i)
-                list.push_back({});
+            for (int i = 0; i < 2; ++i) list.push_back({});
     }
 
 private:
@@ -75,12 +70,10 @@ class Random {
 public:
     explicit Random(unsigned seed) : m_random(seed) {}
 
-    template <model::HasFields Object>
-    Object Make() {
+    template <model::HasFields Object> Object Make() {
         Object object;
         Each(object, *this);
-        if constexpr (std::is_same_v<Object, CXYChart>)
-            Relate(object);
+        if constexpr (std::is_same_v<Object, CXYChart>) Relate(object);
         return object;
     }
     int Below(int count) { return static_cast<int>(m_random() % static_cast<unsigned>(count)); }
@@ -118,8 +111,7 @@ public:
         text = kTexts[Below(std::ssize(kTexts))];
     }
     void operator()(std::int32_t (&order)[5], Words) {
-        for (std::int32_t& pane : order)
-            pane = Below(7) - 1;
+        for (std::int32_t& pane : order) pane = Below(7) - 1;
     }
     void operator()(CXYChartAxis*&, Words) {} // see Relate
 
@@ -129,8 +121,7 @@ public:
             if constexpr (requires { List::CreateAxis(); }) {
                 list.AddAxis(List::CreateAxis());
             } else if constexpr (requires { List::CreateLayer(0); }) {
-                if (auto* layer = List::CreateLayer(Below(9)))
-                    list.AddLayer(layer);
+                if (auto* layer = List::CreateLayer(Below(9))) list.AddLayer(layer);
             } else {
                 list.push_back({});
             }
@@ -140,12 +131,9 @@ public:
 private:
     void Relate(CXYChart& chart) {
         const auto any = [&] { return chart.m_axes.GetSafeAxis(Below(chart.m_axes.GetAxisCount() + 1) - 1); };
-        for (CXYChartAxis* axis : {&chart.m_x2Axis, &chart.m_y2Axis})
-            axis->m_syncAxis = any();
-        for (int i = 0; i < chart.m_axes.GetAxisCount(); ++i)
-            chart.m_axes.GetAxis(i)->m_syncAxis = any();
-        for (int i = 0; i < chart.m_layers.GetLayerCount(); ++i)
-            chart.m_layers.GetLayer(i)->m_yAxis = any();
+        for (CXYChartAxis* axis : {&chart.m_x2Axis, &chart.m_y2Axis}) axis->m_syncAxis = any();
+        for (int i = 0; i < chart.m_axes.GetAxisCount(); ++i) chart.m_axes.GetAxis(i)->m_syncAxis = any();
+        for (int i = 0; i < chart.m_layers.GetLayerCount(); ++i) chart.m_layers.GetLayer(i)->m_yAxis = any();
     }
 
     std::mt19937 m_random;

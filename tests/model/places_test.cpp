@@ -1,7 +1,6 @@
 // What differs between two objects as a person would tell it, and each difference set back by itself.
 
 #include "model/fields/places.h"
-#include "model/fields/values.h"
 #include "tests/model/models.h"
 #include <gtest/gtest.h>
 
@@ -9,8 +8,7 @@ namespace {
 
 using model::Change;
 
-template <class Object>
-class PlacesTest : public testing::Test {};
+template <class Object> class PlacesTest : public testing::Test {};
 using Kinds =
     testing::Types<CChartLayout, CXYChart, CPieChart, CPolarChart, CFinanceChart, CAngularMeter, CLinearMeter>;
 TYPED_TEST_SUITE(PlacesTest, Kinds);
@@ -31,8 +29,7 @@ TYPED_TEST(PlacesTest, SettingEachChangeBackGivesTheObject) {
 TEST(Changes, AreToldAsAPersonWouldTellThem) {
     CXYChart before;
     before.m_axes.AddAxis(CXYChartAxisMgr::CreateAxis());
-    for (const int kind : {0, 1, 2})
-        before.m_layers.AddLayer(CXYChartLayerMgr::CreateLayer(kind));
+    for (const int kind : {0, 1, 2}) before.m_layers.AddLayer(CXYChartLayerMgr::CreateLayer(kind));
     CXYChart now(before);
     now.m_depth = 7;
     now.m_edgeColor.m_type = 2;

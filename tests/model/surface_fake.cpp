@@ -8,8 +8,7 @@ std::vector<std::string> surfaceCalls;
 
 namespace {
 
-template <class... Arguments>
-void record(const char* name, const Arguments&... arguments) {
+template <class... Arguments> void record(const char* name, const Arguments&... arguments) {
     std::ostringstream call;
     call << name << '(';
     const char* separator = "";

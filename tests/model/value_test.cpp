@@ -5,7 +5,6 @@
 #include "tests/model/surface_fake.h"
 #include <charteditors/charteditors.h>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -16,20 +15,14 @@ CChartString text(const char* bytes) {
 }
 
 std::string bytesOf(const CChartString& string) {
-    EXPECT_EQ(string.data()[string.size()], '\0');
-    EXPECT_EQ(string.empty(), string.size() == 0);
+    EXPECT_EQS((string.data()[string.size()], '\0'), (string.empty(), string.size() == 0));
     return {string.data(), string.size()};
 }
 
 } // namespace
 
 TEST(ChartString, HoldsWhatItIsGiven) {
-    struct Case {
-        const char* name;
-        void (*act)(CChartString&);
-        const char* expected;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, void (*)(CChartString&), const char*> cases[] = {
         {"assigns", [](CChartString& s) { s = "new"; }, "new"},
         {"assigns nothing", [](CChartString& s) { s = ""; }, ""},
         {"null is empty", [](CChartString& s) { s = static_cast<const char*>(nullptr); }, ""},
@@ -43,10 +36,10 @@ TEST(ChartString, HoldsWhatItIsGiven) {
         {"appends its own tail", [](CChartString& s) { s += s.data() + 18; }, "abcdefghijklmnopqrstst"},
         {"assigns its own end", [](CChartString& s) { s = s.data() + s.size(); }, ""},
     };
-    for (const Case& c : cases) {
+    for (const auto& [name, act, expected] : cases) {
         CChartString string = text("abcdefghijklmnopqrst");
-        c.act(string);
-        EXPECT_EQ(bytesOf(string), c.expected) << c.name;
+        act(string);
+        EXPECT_EQ(bytesOf(string), expected) << name;
     }
 }
 
@@ -62,8 +55,7 @@ TEST(ChartString, SharesNothingWithItsCopyAndIsFreeWhenEmpty) {
     CChartString first = text("first");
     const CChartString second = first;
     first += " changed";
-    EXPECT_EQ(bytesOf(second), "first");
-    EXPECT_EQ(bytesOf(first), "first changed");
+    EXPECT_EQS((bytesOf(second), "first"), (bytesOf(first), "first changed"));
 }
 
 TEST(ChartString, KeepsItsTextWhenMemoryRunsOut) {
@@ -76,13 +68,7 @@ TEST(ChartString, KeepsItsTextWhenMemoryRunsOut) {
 }
 
 TEST(ChartColor, GivesTheNumberOfItsKind) {
-    struct Case {
-        std::int32_t type;
-        bool chart;
-        int expected;
-        std::vector<std::string> calls;
-    };
-    const Case cases[] = {
+    const std::tuple<std::int32_t, bool, int, std::vector<std::string>> cases[] = {
         {0, false, static_cast<int>(0x80123456), {}},
         {0, true, static_cast<int>(0x80123456), {}},
         {1, false, 0, {}},
@@ -93,15 +79,15 @@ TEST(ChartColor, GivesTheNumberOfItsKind) {
     };
     int place = 0;
     auto* const chart = reinterpret_cast<BaseChart*>(&place);
-    for (const Case& c : cases) {
+    for (const auto& [type, ofChart, expected, calls] : cases) {
         CChartColor color;
-        color.m_type = c.type;
+        color.m_type = type;
         color.m_color = 0x80123456;
         color.m_direction = 45;
         color.m_patternFile = "tile.png";
         model_test::surfaceCalls.clear();
-        EXPECT_EQ(color.GetChartColor(c.chart ? chart : nullptr), c.expected) << "kind " << c.type;
-        EXPECT_EQ(model_test::surfaceCalls, c.calls) << "kind " << c.type;
+        EXPECT_EQ(color.GetChartColor(ofChart ? chart : nullptr), expected) << "kind " << type;
+        EXPECT_EQ(model_test::surfaceCalls, calls) << "kind " << type;
     }
 
     // The program runs in a UTF-8 locale: a Korean name goes through as it is, a broken byte is replaced.
@@ -117,23 +103,19 @@ TEST(ChartColor, GivesTheNumberOfItsKind) {
 }
 
 TEST(ChartRaisedEffect, GivesTheNumberOfItsKind) {
-    const struct {
-        std::int32_t type;
-        int expected;
-        const char* call;
-    } cases[] = {
+    const std::tuple<std::int32_t, int, const char*> cases[] = {
         {0, 6, nullptr},  {1, 73, "softLighting(4, 6)"},   {2, 74, "glassEffect(2, 4, 6)"}, {4, 6, nullptr},
         {-1, 6, nullptr}, {3, 74, "glassEffect(3, 4, 6)"},
     };
-    for (const auto& c : cases) {
+    for (const auto& [type, expected, call] : cases) {
         CChartRaisedEffect effect;
         EXPECT_EQ(effect.GetRaisedEffect(), 0);
-        effect.m_effectType = c.type;
+        effect.m_effectType = type;
         effect.m_value = 6;
         effect.m_direction = 4;
         model_test::surfaceCalls.clear();
-        EXPECT_EQ(effect.GetRaisedEffect(), c.expected) << "kind " << c.type;
-        EXPECT_EQ(model_test::surfaceCalls.empty() ? "" : model_test::surfaceCalls[0], c.call ? c.call : "");
+        EXPECT_EQ(effect.GetRaisedEffect(), expected) << "kind " << type;
+        EXPECT_EQ(model_test::surfaceCalls.empty() ? "" : model_test::surfaceCalls[0], call ? call : "");
     }
 }
 
@@ -165,17 +147,14 @@ TEST(ChartLayout, LaysOutEveryPlotAreaToFit) {
         const auto& angular = layout.m_angularPlotArea;
         const auto& linear = layout.m_linearPlotArea;
         using Numbers = std::vector<int>;
-        EXPECT_EQ((Numbers{layout.m_width, layout.m_height, layout.m_financeWidth}), (Numbers{c.w, c.h, c.w}));
-        EXPECT_EQ((Numbers{xy.m_left, xy.m_top, xy.m_width, xy.m_height}), c.xy);
-        EXPECT_EQ((Numbers{pie.m_centerX, pie.m_centerY, pie.m_radius}), c.pie);
-        EXPECT_EQ((Numbers{polar.m_centerX, polar.m_centerY, polar.m_radius}), c.polar);
-        EXPECT_EQ((Numbers{angular.m_centerX, angular.m_centerY, angular.m_radius}), c.polar);
-        EXPECT_EQ((Numbers{linear.m_left, linear.m_top, linear.m_width, linear.m_height}), c.linear);
-        EXPECT_EQ((Numbers{layout.m_legendX, layout.m_legendY}), c.legend);
-        EXPECT_EQ(angular.m_startAngle, -90.0);
-        EXPECT_EQ(angular.m_endAngle, 90.0);
-        EXPECT_EQ(linear.m_axisPos, 4);
-        EXPECT_FALSE(linear.m_reverse);
+        EXPECT_EQS(((Numbers{layout.m_width, layout.m_height, layout.m_financeWidth}), (Numbers{c.w, c.h, c.w})),
+                   ((Numbers{xy.m_left, xy.m_top, xy.m_width, xy.m_height}), c.xy),
+                   ((Numbers{pie.m_centerX, pie.m_centerY, pie.m_radius}), c.pie),
+                   ((Numbers{polar.m_centerX, polar.m_centerY, polar.m_radius}), c.polar),
+                   ((Numbers{angular.m_centerX, angular.m_centerY, angular.m_radius}), c.polar),
+                   ((Numbers{linear.m_left, linear.m_top, linear.m_width, linear.m_height}), c.linear),
+                   ((Numbers{layout.m_legendX, layout.m_legendY}), c.legend), (angular.m_startAngle, -90.0),
+                   (angular.m_endAngle, 90.0), (linear.m_axisPos, 4), (linear.m_reverse, false));
         EXPECT_EQ(layout.m_titles.size(), 1) << "what is no size stays";
     }
     CChartLayout layout;
@@ -186,6 +165,5 @@ TEST(ChartLayout, LaysOutEveryPlotAreaToFit) {
 TEST(StringTable, HasItsTextsByNumber) {
     const std::pair<int, const char*> texts[] = {
         {1, "(ARGB)"}, {79, "{value|yyyy/mm/dd}"}, {80, ""}, {84, "MainChart"}, {127, "Zone %d"}, {128, ""}, {-1, ""}};
-    for (const auto& [number, expected] : texts)
-        EXPECT_STREQ(LoadChartString(number), expected) << number;
+    for (const auto& [number, expected] : texts) EXPECT_STREQ(LoadChartString(number), expected) << number;
 }

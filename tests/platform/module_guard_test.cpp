@@ -3,29 +3,14 @@
 
 #include "platform/application.h"
 #include "platform/module_guard.h"
+#include "tests/own_process.h"
 #include <QApplication>
 #include <QMetaType>
 #include <QTimer>
 #include <QWidget>
-#include <cstdlib>
-#include <gtest/gtest.h>
 #include <thread>
 
 using platform::ModuleGuard;
-
-namespace {
-
-/// Runs `act` in a process of its own and expects it to return true.
-template <class Act>
-void expectInOwnProcess(Act act) {
-    EXPECT_EXIT(std::_Exit(act() ? 0 : 1), testing::ExitedWithCode(0), "");
-}
-
-int s_count = 1;
-char s_name[] = "host";
-char* s_arguments[] = {s_name, nullptr};
-
-} // namespace
 
 TEST(ModuleGuard, MakesTheApplicationObjectOnce) {
     expectInOwnProcess([] {
@@ -33,8 +18,7 @@ TEST(ModuleGuard, MakesTheApplicationObjectOnce) {
         {
             const ModuleGuard guard;
             made = QCoreApplication::instance();
-            if (!guard.CanShowDialogs() || !qobject_cast<const QApplication*>(made))
-                return false;
+            if (!guard.CanShowDialogs() || !qobject_cast<const QApplication*>(made)) return false;
         }
         const ModuleGuard again;
         return QCoreApplication::instance() == made && again.CanShowDialogs();
@@ -43,8 +27,7 @@ TEST(ModuleGuard, MakesTheApplicationObjectOnce) {
 
 TEST(ModuleGuard, ManagesWithoutADisplay) {
     expectInOwnProcess([] {
-        for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"})
-            qunsetenv(name);
+        for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) qunsetenv(name);
         const ModuleGuard guard;
         return QGuiApplication::platformName() == "offscreen";
     });

@@ -1,5 +1,5 @@
 #include "platform/narrow_text.h"
-#include <gtest/gtest.h>
+#include "tests/expect.h"
 
 using platform::NarrowToUtf8;
 using platform::Utf8ToNarrow;
@@ -11,12 +11,7 @@ const char* const replacement = "\xEF\xBF\xBD";
 } // namespace
 
 TEST(NarrowText, BecomesUtf8) {
-    const struct {
-        const char* name;
-        const char* codeset;
-        std::string narrow;
-        std::string utf8;
-    } cases[] = {
+    const std::tuple<const char*, const char*, std::string, std::string> cases[] = {
         // Byte values from the published code charts of each encoding.
         {"ASCII as it stands", "EUC-KR", "plot.png", "plot.png"},
         {"nothing", "UTF-8", "", ""},
@@ -33,25 +28,18 @@ TEST(NarrowText, BecomesUtf8) {
         {"cut off in Korean", "EUC-KR", "\xB1\xD7\xB1", std::string("\xEA\xB7\xB8") + replacement},
         {"unknown encoding", "no-such-set", "\xC3\xA9\xE9", std::string("\xC3\xA9") + replacement},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(NarrowToUtf8(c.narrow, c.codeset), c.utf8) << c.name;
+    for (const auto& [name, codeset, narrow, utf8] : cases) EXPECT_EQ(NarrowToUtf8(narrow, codeset), utf8) << name;
 }
 
 TEST(NarrowText, ComesBack) {
-    const struct {
-        const char* name;
-        const char* codeset;
-        std::string utf8;
-        std::string narrow;
-    } cases[] = {
+    const std::tuple<const char*, const char*, std::string, std::string> cases[] = {
         {"Korean", "EUC-KR", "\xEA\xB7\xB8\xEB\xA6\xBC.png", "\xB1\xD7\xB8\xB2.png"},
         {"Western", "ISO-8859-1", "caf\xC3\xA9", "caf\xE9"},
         {"no such character", "ISO-8859-1", "\xEA\xB7\xB8!\xC3\xA9", "?!\xE9"},
         {"not UTF-8", "ISO-8859-1", "\xFFq", "?q"},
         {"shift states end where they began", "ISO-2022-JP", "\xE8\xA1\xA8", "\x1B$BI=\x1B(B"},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(Utf8ToNarrow(c.utf8, c.codeset), c.narrow) << c.name;
+    for (const auto& [name, codeset, utf8, narrow] : cases) EXPECT_EQ(Utf8ToNarrow(utf8, codeset), narrow) << name;
 }
 
 TEST(NarrowText, SurvivesLongTextsAndManyFaults) {
@@ -67,7 +55,6 @@ TEST(NarrowText, SurvivesLongTextsAndManyFaults) {
 
 TEST(NarrowText, TakesTheEncodingFromTheEnvironment) {
     // CTest runs this program with LC_ALL=C.UTF-8, while the process itself stands at "C".
-    EXPECT_EQ(platform::NarrowCodeset(), "UTF-8");
-    EXPECT_EQ(NarrowToUtf8("\xC3\xA9"), "\xC3\xA9");
-    EXPECT_EQ(Utf8ToNarrow("\xC3\xA9"), "\xC3\xA9");
+    EXPECT_EQS((platform::NarrowCodeset(), "UTF-8"), (NarrowToUtf8("\xC3\xA9"), "\xC3\xA9"),
+               (Utf8ToNarrow("\xC3\xA9"), "\xC3\xA9"));
 }

@@ -55,11 +55,9 @@ int Recording::Count(const std::string& operation) const {
 void Recording::Clear() { log().lines.clear(); }
 
 Call::Call(const char* name, std::initializer_list<std::string> arguments) {
-    if (log().depth++ > 0 || !log().on)
-        return;
+    if (log().depth++ > 0 || !log().on) return;
     std::string line = name + std::string("(");
-    for (const std::string& argument : arguments)
-        line += (&argument == arguments.begin() ? "" : ", ") + argument;
+    for (const std::string& argument : arguments) line += (&argument == arguments.begin() ? "" : ", ") + argument;
     log().lines.push_back(line + ")");
 }
 
@@ -80,27 +78,23 @@ std::string text(double value) {
 }
 
 std::string text(const char* value) {
-    if (!value)
-        return "null";
+    if (!value) return "null";
     std::string shown = "\"";
     for (; *value; ++value) {
-        if (*value == '"' || *value == '\\')
-            shown += '\\';
+        if (*value == '"' || *value == '\\') shown += '\\';
         shown += *value == '\n' ? std::string("\\n") : std::string(1, *value);
     }
     return shown + '"';
 }
 
 std::string handle(const char* kind, const void* handle) {
-    if (!handle)
-        return "null";
+    if (!handle) return "null";
     number(kind, handle, nullptr);
     return log().names.at({kind, handle}).shown;
 }
 
 void number(const char* kind, const void* handle, const void* from) {
-    if (!handle || log().names.contains({kind, handle}))
-        return;
+    if (!handle || log().names.contains({kind, handle})) return;
     const std::string shown = kind + ("#" + std::to_string(++log().counts[kind]));
     log().names[{kind, handle}] = {shown, rootOf(from ? from : handle)};
 }

@@ -23,11 +23,9 @@ std::string text(int value);
 std::string text(double value);
 std::string text(const char* value);
 
-template <typename Element>
-std::string array(const Element* elements, int count) {
+template <typename Element> std::string array(const Element* elements, int count) {
     std::string shown = "[";
-    for (int i = 0; elements && i < count; ++i)
-        shown += (i > 0 ? ", " : "") + text(elements[i]);
+    for (int i = 0; elements && i < count; ++i) shown += (i > 0 ? ", " : "") + text(elements[i]);
     return shown + "]";
 }
 
@@ -36,8 +34,7 @@ std::string handle(const char* kind, const void* handle);
 /// Numbers a handle that an operation gave out. It ends with `from`, the handle that it was got from.
 void number(const char* kind, const void* handle, const void* from);
 
-template <typename Handle>
-Handle* given(const char* kind, Handle* handle, const void* from) {
+template <typename Handle> Handle* given(const char* kind, Handle* handle, const void* from) {
     number(kind, handle, from);
     return handle;
 }
@@ -46,8 +43,7 @@ Handle* given(const char* kind, Handle* handle, const void* from) {
 void forget(const void* handle);
 
 /// The library's own operation of that name, null if it has none.
-template <typename Function>
-Function real(const char* name) {
+template <typename Function> Function real(const char* name) {
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
 }
 

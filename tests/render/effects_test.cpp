@@ -8,10 +8,8 @@
 #include "render/xy_frame.h"
 #include "tests/model/models.h"
 #include "tests/render/calls.h"
-#include <QImage>
 #include <QTemporaryDir>
 #include <gmock/gmock.h>
-#include <regex>
 #include <set>
 
 namespace {
@@ -34,8 +32,7 @@ class Change {
             return;
         }
         std::size_t next = 0;
-        while (next < words.size() && words[next].code != value)
-            ++next;
+        while (next < words.size() && words[next].code != value) ++next;
         value = static_cast<std::int32_t>(words[(next + 1) % words.size()].code);
     }
     static void To(double& value, model::Words) { value = value * 1.5 + 1; }
@@ -57,8 +54,7 @@ public:
     template <class Value>
     requires requires(Value& value) { To(value, model::Words()); }
     void operator()(Value& value, model::Words words) {
-        if (m_left-- == 0)
-            To(value, words);
+        if (m_left-- == 0) To(value, words);
     }
     void Grow(auto&) {}
 
@@ -88,11 +84,9 @@ Effects effects(PreviewFake& view, Model& model, Part& part, void (*routine)(CCh
     for (int place = 0;; ++place) {
         Change change(place);
         models::Each(part, change);
-        if (change.Over())
-            return found;
+        if (change.Over()) return found;
         const auto differences = model::Differences(values, model::Values(model));
-        if (differences.size() == 1)
-            (draw() == before ? found.without : found.with).insert(differences[0].path);
+        if (differences.size() == 1) (draw() == before ? found.without : found.with).insert(differences[0].path);
         model = saved;
     }
 }
@@ -229,14 +223,10 @@ void dressLayer(auto& layer, bool on) {
     if constexpr (requires { layer.m_useBorderColor; })
         layer.m_useBorderColor = layer.m_useOverlap = on, layer.m_shape = 7,
         layer.m_dataSetColors.push_back(General(0xff)), layer.m_dataSetColors.push_back(General(0xff00));
-    if constexpr (requires { layer.m_useAreaColor; })
-        layer.m_useAreaColor = on;
-    if constexpr (requires { layer.m_useSymbolColor; })
-        layer.m_useSymbolColor = on;
-    if constexpr (requires { layer.m_symbolType; })
-        layer.m_symbolType = 1;
-    if constexpr (requires { layer.m_groups; })
-        layer.m_groups.push_back({});
+    if constexpr (requires { layer.m_useAreaColor; }) layer.m_useAreaColor = on;
+    if constexpr (requires { layer.m_useSymbolColor; }) layer.m_useSymbolColor = on;
+    if constexpr (requires { layer.m_symbolType; }) layer.m_symbolType = 1;
+    if constexpr (requires { layer.m_groups; }) layer.m_groups.push_back({});
 }
 
 TEST(Effects, OfEachValueOfAnXYChart) {
@@ -266,8 +256,7 @@ TEST(Effects, OfEachValueOfAnXYChart) {
             *layer, [&](auto& kind) { dressLayer(kind, scene % 2 == 0); });
         chart.m_layers.AddLayer(layer);
         own->m_syncKind = 2;
-        if (scene == 13)
-            layer->m_yAxisKind = 8;
+        if (scene == 13) layer->m_yAxisKind = 8;
         if ((scene >= 4 && scene < 8) || scene == 21) {
             layer->m_yAxisKind = 16;
             layer->m_yAxis = own;
@@ -285,8 +274,7 @@ TEST(Effects, OfEachValueOfAnXYChart) {
         without.merge(found.without);
     };
     const auto whole = [](CXYChart& chart) -> CXYChart& { return chart; };
-    for (int scene = 0; scene < 8; ++scene)
-        see(1, scene, whole);
+    for (int scene = 0; scene < 8; ++scene) see(1, scene, whole);
     for (const int scene : {8, 9}) // numbers on the x axis
         see(2, scene, whole);
     for (const int scene : {13, 17, 21}) // values far from 0
@@ -300,8 +288,7 @@ TEST(Effects, OfEachValueOfAnXYChart) {
         R"(.*faceName|layers\[0\]\.group\.name|.\d?Axis\.(location|offset)|[xy]Axis\.sync.*|.*\[1\].*)"
         R"(|(y\d?Axis|axes\[0\])\.(major|minor)(Step|Offset))"
         R"(|xAxis\.(bottomExtension|zeroAffinity)|x2Axis\.(.*Extension|zeroAffinity))");
-    for (const std::string& path : without)
-        EXPECT_TRUE(with.contains(path) != std::regex_match(path, never)) << path;
+    for (const std::string& path : without) EXPECT_TRUE(with.contains(path) != std::regex_match(path, never)) << path;
 }
 
 TEST(Effects, OfEachValueOfALayoutOnItsSample) {

@@ -10,7 +10,6 @@
 #include "render/xy_frame.h"
 #include "tests/model/models.h"
 #include "tests/render/calls.h"
-#include <gtest/gtest.h>
 #include <numeric>
 
 namespace {
@@ -32,8 +31,7 @@ void draw(void (*routine)(CChartPreview&), Model CChartPreview::*own, bool ofThe
         }
         if (round % 5 == 0) {
             view.m_singleLayerMode = true;
-            if (!view.m_ownXYChart.m_layers.empty())
-                view.m_previewLayer = view.m_ownXYChart.m_layers.GetLayer(0);
+            if (!view.m_ownXYChart.m_layers.empty()) view.m_previewLayer = view.m_ownXYChart.m_layers.GetLayer(0);
             if (view.m_ownPolarChart.m_layers.GetLayerCount() > 0)
                 view.m_polarLayer = view.m_ownPolarChart.m_layers.GetLayer(0);
         }
@@ -63,16 +61,14 @@ TEST(Random, PricesAreDrawn) {
         for (std::vector<double>& values : series) {
             values.resize(static_cast<std::size_t>(random.Below(12) ? rows : random.Below(rows + 1)));
             for (double& value : values)
-                if (value = random.Below(2000) / 10.0; random.Below(12) == 0)
-                    random(value, {});
+                if (value = random.Below(2000) / 10.0; random.Below(12) == 0) random(value, {});
         }
         if (random.Below(12)) { // times that a chart can be of
             std::fill(series[0].begin(), series[0].end(), random.Below(3) * 43200.0);
             std::partial_sum(series[0].begin(), series[0].end(), series[0].begin());
         }
         int width = 40 + random.Below(560), extra = random.Below(41);
-        if (random.Below(12) == 0)
-            random(random.Below(2) ? width : extra, {});
+        if (random.Below(12) == 0) random(random.Below(2) ? width : extra, {});
         FinanceChart chart(width);
         DressFinanceChart(chart, CChartLayout(), true);
         chart.setData({series[0], series[1], series[2], series[3], series[4], series[5]}, extra);

@@ -38,8 +38,7 @@ TEST(FontSample, ShowsTheFaceNameCentredFromTopToBottom) {
     QRect ink;
     for (int y = 0; y < 61; ++y)
         for (int x = 0; x < 120; ++x)
-            if (qGray(view.m_painted.pixel(x, y)) < 0x80)
-                ink |= QRect(x, y, 1, 1);
+            if (qGray(view.m_painted.pixel(x, y)) < 0x80) ink |= QRect(x, y, 1, 1);
     EXPECT_NEAR(ink.center().y(), 30, 3);
     EXPECT_LE(ink.left(), 3);
     EXPECT_GT(ink.width(), 60);
@@ -55,13 +54,10 @@ TEST(ImageSample, TakesTheImagesSizeAndGoesIntoFitMode) {
     view.m_fitMode = false;
     view.m_sampleImage = path.toUtf8().constData();
     DrawImageSample(view);
-    EXPECT_TRUE(view.m_fitMode);
-    EXPECT_EQ(pictureOf(view), image);
-    EXPECT_EQ(view.m_scrollSizesSet, 0);
+    EXPECT_EQS((view.m_fitMode, true), (pictureOf(view), image), (view.m_scrollSizesSet, 0));
     view.m_sampleImage = "no such.png";
     DrawImageSample(view);
-    EXPECT_FALSE(view.m_fitMode);
-    EXPECT_EQ(QSize(view.m_pictureWidth, view.m_pictureHeight), QSize(120, 61));
+    EXPECT_EQS((view.m_fitMode, false), (QSize(view.m_pictureWidth, view.m_pictureHeight), QSize(120, 61)));
 }
 
 TEST(StorePicture, SetsScrollSizesOnlyInScrollModeAndForANewSize) {
@@ -72,14 +68,11 @@ TEST(StorePicture, SetsScrollSizesOnlyInScrollModeAndForANewSize) {
         StorePicture(&view, chart.Get());
         return view.m_scrollSizesSet;
     };
-    EXPECT_EQ(store(true), 0);
-    EXPECT_EQ(view.m_pictureWidth, 40);
-    EXPECT_EQ(view.m_pictureHeight, 30);
-    EXPECT_EQ(view.m_picture.Bytes().size(), 54U + 40 * 30 * 3);
+    EXPECT_EQS((store(true), 0), (view.m_pictureWidth, 40), (view.m_pictureHeight, 30),
+               (view.m_picture.Bytes().size(), 54U + 40 * 30 * 3));
     EXPECT_EQ(store(false), 0); // the size has not changed
     CBaseChart_setSize(chart.Get(), 40, 31);
-    EXPECT_EQ(store(false), 1);
-    EXPECT_EQ(store(false), 1);
+    EXPECT_EQS((store(false), 1), (store(false), 1));
 }
 
 TEST(StorePicture, OfNothingIsNone) {
@@ -89,8 +82,7 @@ TEST(StorePicture, OfNothingIsNone) {
     PreviewFake view;
     const CChartHolder chart(XYChart2BaseChart(CXYChart_create(0, 30, 0, 0, 0)));
     StorePicture(&view, chart.Get());
-    EXPECT_TRUE(view.m_picture.Empty());
-    EXPECT_EQ(view.m_pictureHeight, 0);
+    EXPECT_EQS((view.m_picture.Empty(), true), (view.m_pictureHeight, 0));
 }
 
 TEST(PictureBlock, IsLeftBehindAndTakenOver) {
@@ -99,18 +91,15 @@ TEST(PictureBlock, IsLeftBehindAndTakenOver) {
         CPictureBlock first;
         CPictureBlock second;
         const CPictureBlock empty;
-        EXPECT_TRUE(first.Assign("abc", 3));
-        EXPECT_TRUE(second.Assign("de", 2));
-        EXPECT_FALSE(second.Assign(nullptr, 0));
-        EXPECT_TRUE(second.Empty());
+        EXPECT_EQS((first.Assign("abc", 3), true), (second.Assign("de", 2), true), (second.Assign(nullptr, 0), false),
+                   (second.Empty(), true));
     }
     const int left = CPictureBlock::LeftBehind();
     EXPECT_LE(left, std::max(before, 2));
     EXPECT_GE(left, 2);
     CPictureBlock next;
-    EXPECT_TRUE(next.Assign("xyz", 3));
-    EXPECT_EQ(CPictureBlock::LeftBehind(), left - 1);
-    EXPECT_EQ(next.Bytes(), (std::vector<char>{'x', 'y', 'z'}));
+    EXPECT_EQS((next.Assign("xyz", 3), true), (CPictureBlock::LeftBehind(), left - 1),
+               (next.Bytes(), (std::vector<char>{'x', 'y', 'z'})));
 }
 
 TEST(Utf8Text, KeepsNullEmptyAndAsciiAndMakesGoodUtf8) {

@@ -1,13 +1,12 @@
 // Looks as texts: there and back, patches, what newer versions say, and texts that are none.
 
+#include "tests/expect.h"
 #include "tests/model/models.h"
 #include <chartstyle/chartstyle.h>
 #include <cstdlib>
 #include <cstring>
 #include <fstream>
-#include <gtest/gtest.h>
 #include <sstream>
-#include <string>
 
 namespace {
 
@@ -18,20 +17,17 @@ ChartStyleResult Read(const std::string& text, Chart& chart, CChartLayout* layou
                       std::string* report = nullptr) {
     CChartStyleText remarks;
     const ChartStyleResult result = ReadChartStyle(text.data(), text.size(), chart, layout, remarks);
-    if (report)
-        *report = Text(remarks);
+    if (report) *report = Text(remarks);
     return result;
 }
 
-template <class Chart>
-std::string Write(const Chart& chart, const CChartLayout* layout = nullptr) {
+template <class Chart> std::string Write(const Chart& chart, const CChartLayout* layout = nullptr) {
     CChartStyleText text;
     EXPECT_TRUE(WriteChartStyle(chart, layout, text));
     return Text(text);
 }
 
-template <class Chart>
-class RoundTrip : public testing::Test {};
+template <class Chart> class RoundTrip : public testing::Test {};
 using Charts = testing::Types<CXYChart, CPieChart, CFinanceChart, CPolarChart, CAngularMeter, CLinearMeter>;
 TYPED_TEST_SUITE(RoundTrip, Charts);
 
@@ -63,8 +59,7 @@ TEST(Style, IsAPatchWhereItIsShort) {
     pie.m_show3D = true;
     pie.m_sectors.push_back({});
     ASSERT_EQ(Read(kPie, pie), ChartStyleResult::Ok);
-    EXPECT_TRUE(pie.m_show3D);
-    EXPECT_EQ(pie.m_depth3D, 7);
+    EXPECT_EQS((pie.m_show3D, true), (pie.m_depth3D, 7));
     ASSERT_EQ(pie.m_sectors.size(), 2);
     EXPECT_STREQ(pie.m_sectors[1].m_text.data(), "b");
     EXPECT_EQ(pie.m_sectors[1].m_color.m_color, 0x80112233U);
@@ -77,9 +72,9 @@ TEST(Style, IsAPatchWhereItIsShort) {
                    chart),
               ChartStyleResult::Ok);
     EXPECT_EQ(chart.m_y2Axis.m_syncAxis, nullptr) << "its axis was replaced";
-    EXPECT_EQ(chart.m_axes.GetAxis(1)->m_syncAxis, chart.m_axes.GetAxis(0));
-    EXPECT_EQ(chart.m_layers.GetLayer(0)->m_yAxis, chart.m_axes.GetAxis(1));
-    EXPECT_EQ(chart.m_layers.GetLayer(1)->GetType(), 8);
+    EXPECT_EQS((chart.m_axes.GetAxis(1)->m_syncAxis, chart.m_axes.GetAxis(0)),
+               (chart.m_layers.GetLayer(0)->m_yAxis, chart.m_axes.GetAxis(1)),
+               (chart.m_layers.GetLayer(1)->GetType(), 8));
 }
 
 TEST(Style, ReportsWhatItDoesNotKnowAndKeepsItInAMerge) {
@@ -107,8 +102,7 @@ TEST(Style, ReportsWhatItDoesNotKnowAndKeepsItInAMerge) {
 TEST(Style, ChangesNothingWhereAnythingIsWrong) {
     const std::string deep = R"({"chartStyle":1,"kind":"pie","x":)" + std::string(40, '[') + std::string(40, ']') + '}';
     std::string items;
-    for (int i = 0; i <= 10000; ++i)
-        items += i ? ",{}" : "{}";
+    for (int i = 0; i <= 10000; ++i) items += i ? ",{}" : "{}";
     const struct {
         std::string text, report;
     } cases[] = {
@@ -134,16 +128,14 @@ TEST(Style, ChangesNothingWhereAnythingIsWrong) {
         CChartLayout layout;
         std::string report;
         EXPECT_EQ(Read(c.text, pie, &layout, &report), ChartStyleResult::BadText) << c.report;
-        EXPECT_EQ(report, c.report);
-        EXPECT_EQ(pie.m_depth3D, 1);
-        EXPECT_EQ(pie.m_sectors.size(), 0);
+        EXPECT_EQS((report, c.report), (pie.m_depth3D, 1), (pie.m_sectors.size(), 0));
     }
     CXYChart chart;
-    EXPECT_EQ(Read(kPie, chart), ChartStyleResult::OtherKind);
-    EXPECT_EQ(Read(R"({"chartStyle":1,"kind":"xy","chart":{"layers":[{"name":"?"}]}})", chart),
-              ChartStyleResult::BadText);
-    EXPECT_EQ(ChartStyleKindOf(kPie, std::strlen(kPie)), ChartStyleKind::Pie);
-    EXPECT_EQ(ChartStyleKindOf(nullptr, 0), ChartStyleKind::None);
+    EXPECT_EQS(
+        (Read(kPie, chart), ChartStyleResult::OtherKind),
+        (Read(R"({"chartStyle":1,"kind":"xy","chart":{"layers":[{"name":"?"}]}})", chart), ChartStyleResult::BadText),
+        (ChartStyleKindOf(kPie, std::strlen(kPie)), ChartStyleKind::Pie),
+        (ChartStyleKindOf(nullptr, 0), ChartStyleKind::None));
 }
 
 // Texts with bytes changed, cut and doubled: any answer, but no fault, and a bad one leaves the chart alone.
@@ -158,8 +150,7 @@ TEST(Style, SurvivesBrokenTexts) {
             for (unsigned n = 1 + random() % 4; n > 0; --n)
                 text[random() % text.size()] =
                     static_cast<char>(random() % 4 == 0 ? random() : "{}[]\",:0a\\ "[random() % 11]);
-            if (random() % 4 == 0)
-                text.resize(random() % text.size());
+            if (random() % 4 == 0) text.resize(random() % text.size());
             CXYChart read;
             const auto before = model::Values(read);
             if (Read(text, read) != ChartStyleResult::Ok)
@@ -176,11 +167,9 @@ TEST(Style, ReadsTheFirstVersion) {
     CChartLayout layout;
     std::string report;
     ASSERT_EQ(Read(text.str(), chart, &layout, &report), ChartStyleResult::Ok) << report;
-    EXPECT_EQ(report, "");
-    EXPECT_EQ(layout.m_titles.size(), 1);
-    EXPECT_EQ(chart.m_layers.GetLayerCount(), 2);
-    EXPECT_EQ(chart.m_layers.GetLayer(1)->m_yAxis, chart.m_axes.GetAxis(0));
-    EXPECT_EQ(chart.m_axes.GetAxis(0)->m_scaleType, 2);
-    EXPECT_EQ(static_cast<CXYBarLayer*>(chart.m_layers.GetLayer(0))->m_combineMethod, 1);
-    EXPECT_EQ(Write(chart, &layout), text.str());
+    EXPECT_EQS((report, ""), (layout.m_titles.size(), 1), (chart.m_layers.GetLayerCount(), 2),
+               (chart.m_layers.GetLayer(1)->m_yAxis, chart.m_axes.GetAxis(0)),
+               (chart.m_axes.GetAxis(0)->m_scaleType, 2),
+               (static_cast<CXYBarLayer*>(chart.m_layers.GetLayer(0))->m_combineMethod, 1),
+               (Write(chart, &layout), text.str()));
 }

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "editors/colour/color_dlg.h"
 #include "editors/colour/color_text.h"
 #include "editors/colour/spectrum_ctrl.h"
@@ -9,10 +7,6 @@
 
 #include <QAbstractButton>
 #include <QClipboard>
-#include <QComboBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMessageBox>
 
 namespace {
 
@@ -40,13 +34,15 @@ protected:
         auto* box = Find<QComboBox>(m_dialog, combo);
         box->setFocus();
         QTest::keyClick(box, Qt::Key_Home);
-        for (int i = 0; i < row; ++i)
-            QTest::keyClick(box, Qt::Key_Down);
+        for (int i = 0; i < row; ++i) QTest::keyClick(box, Qt::Key_Down);
+    }
+    void TypeAll(const char* red, const char* green, const char* blue, const char* alpha) {
+        for (const auto& [name, text] : {std::pair("A", alpha), {"R", red}, {"G", green}, {"B", blue}})
+            TypeInto(name, text);
     }
     std::string Numbers() {
         std::string all;
-        for (const char* name : {"R", "G", "B", "A"})
-            all += Number(name)->Text().toStdString() + ' ';
+        for (const char* name : {"R", "G", "B", "A"}) all += Number(name)->Text().toStdString() + ' ';
         return all;
     }
     std::uint32_t Spectrum() { return Find<XColorSpectrumCtrl>(m_dialog, "ARGB")->GetRGB(); }
@@ -67,46 +63,34 @@ TEST_F(ColorDlg, ShowsEachTypeAndChangesNothingByItself) {
         const int result = RunModal(dialog, [&] {
             const bool numbers = type == 0 || type == 2;
             int shown = 0;
-            for (const QWidget* edit : dialog.findChildren<CNumericEdit*>())
-                shown += edit->isVisible() ? 1 : 0;
+            for (const QWidget* edit : dialog.findChildren<CNumericEdit*>()) shown += edit->isVisible() ? 1 : 0;
             EXPECT_EQ(shown, numbers ? (type == 2 ? 5 : 4) : 0) << type;
-            if (numbers) {
-                EXPECT_EQ(Find<CNumericEdit>(dialog, "R")->Text(), "51");
-                EXPECT_EQ(Find<CNumericEdit>(dialog, "G")->Text(), "102");
-                EXPECT_EQ(Find<CNumericEdit>(dialog, "B")->Text(), "153");
-                EXPECT_EQ(Find<CNumericEdit>(dialog, "A")->Text(), "10");
-                EXPECT_EQ(Find<XColorSpectrumCtrl>(dialog, "ARGB")->GetRGB(), 0x996633U);
-            }
-            if (type == 1)
-                EXPECT_EQ(Find<QLineEdit>(dialog, "Image")->text(), "a.png");
+            if (numbers)
+                EXPECT_EQS(
+                    (Find<CNumericEdit>(dialog, "R")->Text(), "51"), (Find<CNumericEdit>(dialog, "G")->Text(), "102"),
+                    (Find<CNumericEdit>(dialog, "B")->Text(), "153"), (Find<CNumericEdit>(dialog, "A")->Text(), "10"),
+                    (Find<XColorSpectrumCtrl>(dialog, "ARGB")->GetRGB(), 0x996633U));
+            if (type == 1) EXPECT_EQ(Find<QLineEdit>(dialog, "Image")->text(), "a.png");
             QTest::mouseClick(Find(dialog, "OK"), Qt::LeftButton);
         });
-        EXPECT_EQ(result, CDialog::kOK);
-        EXPECT_EQ(dialog.m_color.m_type, type);
-        EXPECT_EQ(dialog.m_color.m_color, 0x0A336699U);
-        EXPECT_EQ(dialog.m_color.m_direction, 33);
+        EXPECT_EQS((result, CDialog::kOK), (dialog.m_color.m_type, type), (dialog.m_color.m_color, 0x0A336699U),
+                   (dialog.m_color.m_direction, 33));
         EXPECT_STREQ(dialog.m_color.m_patternFile.data(), "a.png");
     }
 }
 
 TEST_F(ColorDlg, ComposesTypedNumbers) {
-    struct Case {
-        const char *red, *green, *blue, *alpha;
-        std::uint32_t color;
-    };
+    using Case = std::tuple<const char*, const char*, const char*, const char*, std::uint32_t>;
     const Case cases[] = {
         {"10", "20", "30", "254", 0xFE0A141E}, {"10", "20", "30", "255", 0xFF000000}, // fully transparent has one form
         {"10", "20", "30", "999", 0xFF000000}, {"300", "256", "255", "0", 0x00FFFFFF},
         {"0", "0", "-1", "0", 0xFFFFFFFF}, // numbers are not limited from below
     };
     RunModal(m_dialog, [&] {
-        for (const Case& c : cases) {
-            TypeInto("A", c.alpha);
-            TypeInto("R", c.red);
-            TypeInto("G", c.green);
-            TypeInto("B", c.blue);
-            EXPECT_EQ(m_dialog.m_color.m_color, c.color) << c.alpha;
-            EXPECT_EQ(Sample(), c.color);
+        for (const auto& [red, green, blue, alpha, color] : cases) {
+            TypeAll(red, green, blue, alpha);
+            EXPECT_EQ(m_dialog.m_color.m_color, color) << alpha;
+            EXPECT_EQ(Sample(), color);
         }
         TypeInto("R", "1000");
         EXPECT_EQ(Number("R")->Text(), "255");
@@ -124,38 +108,31 @@ TEST_F(ColorDlg, CancelForgetsTheColourButNotTheCustomOnes) {
         EXPECT_FALSE(m_dialog.isVisible());
         EXPECT_EQ(box.m_count, 0); // nobody complains about a number that is thrown away
     });
-    EXPECT_EQ(result, CDialog::kCancel);
-    EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_color, 0x012030U);
+    EXPECT_EQS((result, CDialog::kCancel), (CCustomColorCtrl::Colors()[0].m_color, 0x012030U));
 }
 
 TEST_F(ColorDlg, AngleSnapsWhenStepped) {
-    struct Case {
-        int from;
-        Qt::Key key;
-        int to;
-    };
     // 145 and 55 lie nearer to 135 and 45.
-    const Case cases[] = {{100, Qt::Key_Up, 135}, {100, Qt::Key_Down, 45}, {0, Qt::Key_Down, 0},
-                          {360, Qt::Key_Up, 360}, {350, Qt::Key_Up, 360},  {-90, Qt::Key_Up, 0},
-                          {23, Qt::Key_Up, 90},   {22, Qt::Key_Up, 45},    {2147483647, Qt::Key_Up, 360}};
-    for (const Case& c : cases) {
+    const std::tuple<int, Qt::Key, int> cases[] = {
+        {100, Qt::Key_Up, 135}, {100, Qt::Key_Down, 45}, {0, Qt::Key_Down, 0},
+        {360, Qt::Key_Up, 360}, {350, Qt::Key_Up, 360},  {-90, Qt::Key_Up, 0},
+        {23, Qt::Key_Up, 90},   {22, Qt::Key_Up, 45},    {2147483647, Qt::Key_Up, 360}};
+    for (const auto& [from, key, to] : cases) {
         CColorDlg dialog;
         dialog.m_color.m_type = 2;
-        dialog.m_color.m_direction = c.from;
-        RunModal(dialog, [&] {
+        dialog.m_color.m_direction = from;
+        RunModal(dialog, [&dialog, pressed = key] {
             Find(dialog, "Angle")->setFocus();
-            QTest::keyClick(Find(dialog, "Angle"), c.key);
+            QTest::keyClick(Find(dialog, "Angle"), pressed);
         });
-        EXPECT_EQ(dialog.m_color.m_direction, c.to) << c.from;
+        EXPECT_EQ(dialog.m_color.m_direction, to) << from;
     }
     m_dialog.m_color.m_type = 2;
     RunModal(m_dialog, [&] {
-        TypeInto("Angle", "361");
-        EXPECT_EQ(m_dialog.m_color.m_direction, 360);
-        TypeInto("Angle", "-30");
-        EXPECT_EQ(m_dialog.m_color.m_direction, -30);
-        TypeInto("Angle", "100"); // typed angles do not snap
-        EXPECT_EQ(m_dialog.m_color.m_direction, 100);
+        for (const auto& [typed, angle] : {std::pair("361", 360), {"-30", -30}, {"100", 100}}) { // these do not snap
+            TypeInto("Angle", typed);
+            EXPECT_EQ(m_dialog.m_color.m_direction, angle);
+        }
     });
 }
 
@@ -165,10 +142,8 @@ TEST_F(ColorDlg, TypesShareTheNumbersTheyStartedWith) {
     RunModal(m_dialog, [&] {
         TypeInto("R", "9");
         Choose("Type", 2);
-        EXPECT_EQ(Numbers(), "1 2 3 5 ");
-        EXPECT_EQ(m_dialog.m_color.m_type, 2);
-        EXPECT_EQ(m_dialog.m_color.m_color, 0x05010203U);
-        EXPECT_EQ(m_dialog.m_color.m_direction, 30);
+        EXPECT_EQS((Numbers(), "1 2 3 5 "), (m_dialog.m_color.m_type, 2), (m_dialog.m_color.m_color, 0x05010203U),
+                   (m_dialog.m_color.m_direction, 30));
         Choose("Type", 1); // no path: taken as it is
         EXPECT_EQ(m_dialog.m_color.m_type, 1);
         Choose("Type", 0);
@@ -176,20 +151,16 @@ TEST_F(ColorDlg, TypesShareTheNumbersTheyStartedWith) {
         Choose("Type", 1);
         Click("OK");
     });
-    EXPECT_EQ(m_dialog.m_color.m_type, 1);
-    EXPECT_TRUE(m_dialog.m_color.m_patternFile.empty());
+    EXPECT_EQS((m_dialog.m_color.m_type, 1), (m_dialog.m_color.m_patternFile.empty(), true));
 }
 
 TEST_F(ColorDlg, PaletteNeedsACell) {
     m_dialog.m_color.m_color = 0x05010203;
     RunModal(m_dialog, [&] {
         Choose("Palette", 2); // no cell is selected yet
-        EXPECT_EQ(m_dialog.m_color.m_color, 0x05010203U);
-        EXPECT_EQ(Numbers(), "1 2 3 5 ");
+        EXPECT_EQS((m_dialog.m_color.m_color, 0x05010203U), (Numbers(), "1 2 3 5 "));
         ClickPalette(8);
-        EXPECT_EQ(m_dialog.m_color.m_color, 0x80FF0000U);
-        EXPECT_EQ(Numbers(), "255 0 0 128 ");
-        EXPECT_EQ(Spectrum(), 0x0000FFU);
+        EXPECT_EQS((m_dialog.m_color.m_color, 0x80FF0000U), (Numbers(), "255 0 0 128 "), (Spectrum(), 0x0000FFU));
         Choose("Palette", 1); // the same cell of another palette
         EXPECT_EQ(m_dialog.m_color.m_color, 0x00FF0000U);
         TypeInto("R", "3");
@@ -204,8 +175,7 @@ TEST_F(ColorDlg, SpectrumLeavesTransparencyAlone) {
         QWidget* spectrum = Find(m_dialog, "ARGB");
         spectrum->setFocus();
         QTest::keyClick(spectrum, Qt::Key_Home); // hue 0
-        EXPECT_EQ(m_dialog.m_color.m_color, 0x40FF0000U);
-        EXPECT_EQ(Numbers(), "255 0 0 64 ");
+        EXPECT_EQS((m_dialog.m_color.m_color, 0x40FF0000U), (Numbers(), "255 0 0 64 "));
         QTest::keyClick(spectrum, Qt::Key_Tab);
         QTest::keyClick(spectrum, Qt::Key_End); // black
         QTest::keyClick(spectrum, Qt::Key_Up);
@@ -220,28 +190,21 @@ TEST_F(ColorDlg, CustomColoursGoRoundAndComeBack) {
             TypeInto("R", QByteArray::number(i).constData());
             Click("Add to Custom");
         }
-        EXPECT_EQ(CCustomColorCtrl::Colors()[0].m_color, 0x13FFFFU);
-        EXPECT_EQ(CCustomColorCtrl::Colors()[1].m_color, 0x02FFFFU);
-        EXPECT_EQ(CCustomColorCtrl::Colors()[17].m_color, 0x12FFFFU);
+        EXPECT_EQS((CCustomColorCtrl::Colors()[0].m_color, 0x13FFFFU),
+                   (CCustomColorCtrl::Colors()[1].m_color, 0x02FFFFU),
+                   (CCustomColorCtrl::Colors()[17].m_color, 0x12FFFFU));
         CCustomColorCtrl::Colors()[5].m_type = 2;
         CCustomColorCtrl::Colors()[5].m_direction = 45;
         ClickCustom(5);
-        EXPECT_EQ(m_dialog.m_color.m_type, 2);
-        EXPECT_EQ(Find<QComboBox>(m_dialog, "Type")->currentIndex(), 0);
-        EXPECT_EQ(Numbers(), "19 255 255 0 ");
+        EXPECT_EQS((m_dialog.m_color.m_type, 2), (Find<QComboBox>(m_dialog, "Type")->currentIndex(), 0),
+                   (Numbers(), "19 255 255 0 "));
         Click("OK");
     });
-    EXPECT_EQ(m_dialog.m_color.m_type, 2);
-    EXPECT_EQ(m_dialog.m_color.m_color, 0x06FFFFU);
-    EXPECT_EQ(m_dialog.m_color.m_direction, 45);
+    EXPECT_EQS((m_dialog.m_color.m_type, 2), (m_dialog.m_color.m_color, 0x06FFFFU), (m_dialog.m_color.m_direction, 45));
 }
 
 TEST_F(ColorDlg, TakesHexTexts) {
-    struct Case {
-        const char* typed;
-        std::uint32_t color;
-        const char* shown;
-    };
+    using Case = std::tuple<const char*, std::uint32_t, const char*>;
     const Case cases[] = {
         {"#2f5d8a", 0x002F5D8A, "#2F5D8A"},
         {"2F5D8A", 0x002F5D8A, "#2F5D8A"},
@@ -256,17 +219,13 @@ TEST_F(ColorDlg, TakesHexTexts) {
     };
     RunModal(m_dialog, [&] {
         auto* hex = Find<QLineEdit>(m_dialog, "Hex");
-        for (const Case& c : cases) {
-            TypeInto("R", "51"); // #336699, unless the text is a colour
-            TypeInto("G", "102");
-            TypeInto("B", "153");
-            TypeInto("A", "0");
-            Type(hex, c.typed);
+        for (const auto& [typed, color, shown] : cases) {
+            TypeAll("51", "102", "153", "0"); // #336699, unless the text is a colour
+            Type(hex, typed);
             QTest::keyClick(hex, Qt::Key_Return);
-            EXPECT_EQ(m_dialog.m_color.m_color, c.color) << c.typed;
-            EXPECT_EQ(hex->text(), c.shown) << c.typed;
-            if (c.color != 0xFF000000)
-                EXPECT_EQ(Spectrum() & 0xFF, c.color >> 16 & 0xFF) << c.typed;
+            EXPECT_EQ(m_dialog.m_color.m_color, color) << typed;
+            EXPECT_EQ(hex->text(), shown) << typed;
+            if (color != 0xFF000000) EXPECT_EQ(Spectrum() & 0xFF, color >> 16 & 0xFF) << typed;
         }
         hex->selectAll();
         QGuiApplication::clipboard()->setText("#0a141e");
@@ -288,36 +247,29 @@ TEST_F(ColorDlg, ShowsTheOldColourAndThoseUsedLately) {
     m_dialog.m_color.m_color = 0x123456;
     RunModal(m_dialog, [&] {
         std::string order;
-        for (const CChartColor& color : CRecentColorCtrl::Colors())
-            order += std::to_string(color.m_color) + ' ';
+        for (const CChartColor& color : CRecentColorCtrl::Colors()) order += std::to_string(color.m_color) + ' ';
         EXPECT_EQ(order, "3 9 8 7 6 5 4 3 "); // General and Metal are two colours
         ClickCell("RecentColors", {4, 2}, 2);
-        EXPECT_EQ(m_dialog.m_color.m_type, 2);
-        EXPECT_EQ(Find<QComboBox>(m_dialog, "Type")->currentIndex(), 2);
-        EXPECT_EQ(Numbers(), "0 0 8 0 ");
-        EXPECT_EQ(Sample(), 8U);
+        EXPECT_EQS((m_dialog.m_color.m_type, 2), (Find<QComboBox>(m_dialog, "Type")->currentIndex(), 2),
+                   (Numbers(), "0 0 8 0 "), (Sample(), 8U));
         auto* before = m_dialog.findChild<CChartPreviewView*>("Before");
         EXPECT_EQ(before->m_sampleColor.m_color, 0x123456U);
         QTest::mouseClick(before->viewport(), Qt::LeftButton);
-        EXPECT_EQ(m_dialog.m_color.m_type, 0);
-        EXPECT_EQ(Numbers(), "18 52 86 0 ");
+        EXPECT_EQS((m_dialog.m_color.m_type, 0), (Numbers(), "18 52 86 0 "));
     });
 }
 
 TEST_F(ColorDlg, TellsColoursInWords) {
-    struct Case {
-        int type;
-        std::uint32_t color;
-        const char* text;
-    };
-    for (const Case& c : {Case{0, 0x002F5D8A, "#2F5D8A, opaque"}, Case{0, 0x802F5D8A, "#2F5D8A, 50 % transparent"},
-                          Case{0, 0xFF000000, "transparent"}, Case{2, 0x000102, "Metal #000102, opaque, 90 degrees"},
-                          Case{1, 0, "Pattern: brick.png"}}) {
+    using Case = std::tuple<int, std::uint32_t, const char*>;
+    for (const auto& [type, value, text] :
+         {Case{0, 0x002F5D8A, "#2F5D8A, opaque"}, Case{0, 0x802F5D8A, "#2F5D8A, 50 % transparent"},
+          Case{0, 0xFF000000, "transparent"}, Case{2, 0x000102, "Metal #000102, opaque, 90 degrees"},
+          Case{1, 0, "Pattern: brick.png"}}) {
         CChartColor color;
-        color.m_type = c.type;
-        color.m_color = c.color;
+        color.m_type = type;
+        color.m_color = value;
         color.m_direction = 90;
         color.m_patternFile = "brick.png";
-        EXPECT_EQ(ColorText(color).toStdString(), c.text);
+        EXPECT_EQ(ColorText(color).toStdString(), text);
     }
 }

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "editors/colour/palettes.h"
 #include "editors/colour/swatch_grids.h"
 #include "platform/widgets/field_changed.h"
@@ -52,21 +50,18 @@ protected:
 } // namespace
 
 TEST_F(Grids, PaletteTellsOfNewChoicesOnly) {
-    EXPECT_EQ(m_palette.Selected(), -1);
-    EXPECT_EQ(m_palette.GetSelectedColor(), 0U);
+    EXPECT_EQS((m_palette.Selected(), -1), (m_palette.GetSelectedColor(), 0U));
     ClickPalette(9);
     EXPECT_EQ(m_palette.GetSelectedColor(), 0x0033FF33U);
     ClickPalette(9);
     ClickPalette(39);
-    EXPECT_EQ(m_palette.GetSelectedColor(), 0x00999999U);
-    EXPECT_EQ(m_log.m_keys, (Keys{0, 0}));
+    EXPECT_EQS((m_palette.GetSelectedColor(), 0x00999999U), (m_log.m_keys, (Keys{0, 0})));
 
     m_palette.SetPalette(2); // the selected cell of another palette
     EXPECT_EQ(m_palette.GetSelectedColor(), 0x80999999U);
     m_palette.SetPalette(3);
     m_palette.SetPalette(-1);
-    EXPECT_EQ(m_palette.GetSelectedColor(), 0x80999999U);
-    EXPECT_EQ(m_log.m_keys, (Keys{0, 0}));
+    EXPECT_EQS((m_palette.GetSelectedColor(), 0x80999999U), (m_log.m_keys, (Keys{0, 0})));
 
     // A gap, the margin, another button, and a release outside choose nothing.
     const QRect cell = GridShape{8, 5}.CellRect(0, m_palette.size());
@@ -80,19 +75,16 @@ TEST_F(Grids, PaletteTellsOfNewChoicesOnly) {
 
 TEST_F(Grids, KeysReachEveryCell) {
     m_palette.setFocus();
-    struct Step {
-        int key;
-        int selected;
-    };
+    using Step = std::tuple<int, int>;
     const Step steps[] = {
         {Qt::Key_Right, 1}, {Qt::Key_Down, 9}, {Qt::Key_Left, 8}, {Qt::Key_Left, 8}, // kept at the edge
         {Qt::Key_Up, 0},    {Qt::Key_Up, 0},   {Qt::Key_End, 39}, {Qt::Key_Right, 39},
         {Qt::Key_Down, 39}, {Qt::Key_Home, 0},
     };
-    for (const Step& step : steps) {
-        QTest::keyClick(&m_palette, static_cast<Qt::Key>(step.key));
+    for (const auto& [key, selected] : steps) {
+        QTest::keyClick(&m_palette, static_cast<Qt::Key>(key));
         QTest::keyClick(&m_palette, Qt::Key_Space);
-        EXPECT_EQ(m_palette.Selected(), step.selected) << step.key;
+        EXPECT_EQ(m_palette.Selected(), selected) << key;
     }
     EXPECT_EQ(m_palette.accessibleDescription(), "#FFFFFF, opaque, row 1 of 5, column 1 of 8");
 
@@ -112,12 +104,11 @@ TEST_F(Grids, ShowSwatchesAndFrames) {
     QTest::mouseMove(&m_palette, Place({8, 5}, 20, m_palette));
     const QImage image = m_palette.grab().toImage();
     const auto cell = [&](int i) { return GridShape{8, 5}.CellRect(i, m_palette.size()); };
-    for (const int i : {0, 1, 8, 20, 39})
-        EXPECT_EQ(image.pixel(cell(i).center()) & 0xFFFFFF, kPalettes[0][i]) << i;
-    EXPECT_EQ(image.pixel(cell(8).topLeft() - QPoint(2, 2)), 0xFF3F3F3F);
-    EXPECT_EQ(image.pixel(cell(8).bottomRight() + QPoint(2, 2)), 0xFF3F3F3F);
-    EXPECT_EQ(image.pixel(cell(20).topLeft() - QPoint(2, 2)), 0xFFA0A0A0);
-    EXPECT_EQ(image.pixel(cell(0).topLeft() - QPoint(2, 2)), m_palette.palette().color(QPalette::Button).rgb());
+    for (const int i : {0, 1, 8, 20, 39}) EXPECT_EQ(image.pixel(cell(i).center()) & 0xFFFFFF, kPalettes[0][i]) << i;
+    EXPECT_EQS((image.pixel(cell(8).topLeft() - QPoint(2, 2)), 0xFF3F3F3F),
+               (image.pixel(cell(8).bottomRight() + QPoint(2, 2)), 0xFF3F3F3F),
+               (image.pixel(cell(20).topLeft() - QPoint(2, 2)), 0xFFA0A0A0),
+               (image.pixel(cell(0).topLeft() - QPoint(2, 2)), m_palette.palette().color(QPalette::Button).rgb()));
 
     // Half transparent red over the white and the black squares of the board.
     m_palette.SetPalette(2);

@@ -1,13 +1,10 @@
 #include "editors/colour/hsl.h"
+#include "tests/expect.h"
 
 #include <cstdlib>
-#include <gtest/gtest.h>
 
 TEST(Hsl, IsOnTheScaleTo240) {
-    struct Case {
-        int red, green, blue;
-        Hsl hsl;
-    };
+    using Case = std::tuple<int, int, int, Hsl>;
     // Worked by hand. 51, 102, 153: greatest 0.6, least 0.2, so l = 0.4 -> 96; s = 0.4 / 0.8 = 0.5 -> 120;
     // h = ((0.2 - 0.4) / 0.4 + 4) / 6 = 7 / 12 -> 140.
     const Case cases[] = {
@@ -26,8 +23,8 @@ TEST(Hsl, IsOnTheScaleTo240) {
         // h = 1 - 1 / (6 * 255) -> 239.84, which rounds to 240 and is kept below it.
         {255, 0, 1, {239, 240, 120}},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(HslOf(Rgb(c.red, c.green, c.blue)), c.hsl) << c.red << ' ' << c.green << ' ' << c.blue;
+    for (const auto& [red, green, blue, hsl] : cases)
+        EXPECT_EQ(HslOf(Rgb(red, green, blue)), hsl) << red << ' ' << green << ' ' << blue;
 }
 
 TEST(Hsl, BecomesBytesThatAreCutNotRounded) {
@@ -36,14 +33,12 @@ TEST(Hsl, BecomesBytesThatAreCutNotRounded) {
     // arithmetic, blue q -> 153.
     EXPECT_EQ(RgbOf(0, 0, 96), Rgb(102, 102, 102));
     EXPECT_EQ(RgbOf(200, 0, 100), Rgb(106, 106, 106)); // 106.25
-    EXPECT_EQ(RgbOf(0, 0, 0), Rgb(0, 0, 0));
-    EXPECT_EQ(RgbOf(0, 0, 240), Rgb(255, 255, 255));
-    EXPECT_EQ(RgbOf(0, 240, 120), Rgb(255, 0, 0));
+    EXPECT_EQS((RgbOf(0, 0, 0), Rgb(0, 0, 0)), (RgbOf(0, 0, 240), Rgb(255, 255, 255)),
+               (RgbOf(0, 240, 120), Rgb(255, 0, 0)));
     EXPECT_EQ(RgbOf(240, 240, 120), Rgb(255, 0, 0)); // once round the circle
     EXPECT_EQ(RgbOf(160, 240, 120), Rgb(0, 0, 255));
     EXPECT_EQ(RgbOf(20, 240, 120), Rgb(255, 127, 0)); // 127.5
-    EXPECT_EQ(RgbOf(0, 240, 240), Rgb(255, 255, 255));
-    EXPECT_EQ(RgbOf(0, 240, 0), Rgb(0, 0, 0));
+    EXPECT_EQS((RgbOf(0, 240, 240), Rgb(255, 255, 255)), (RgbOf(0, 240, 0), Rgb(0, 0, 0)));
 }
 
 TEST(Hsl, ComesBackOverTheWholeCube) {

@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "editors/colour/image_file_dlg.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/dialog.h"
@@ -39,11 +37,7 @@ protected:
 
 TEST_F(ImageFileDlg, OffersTheKindsOfImages) {
     EXPECT_EQ(m_dialog.windowTitle(), "Select Image File");
-    struct Kind {
-        const char* shown;
-        const char* patterns;
-    };
-    const Kind kinds[] = {
+    const std::pair<const char*, const char*> kinds[] = {
         {"All Image Files (*.png;*.jpeg;*.jpg;*.gif;*.wbmp;*.wmp)", " (*.png *.jpeg *.jpg *.gif *.wbmp *.wmp)"},
         {"PNG (*.png)", " (*.png)"},
         {"JPEG (*.jpeg;*.jpg)", " (*.jpeg *jpg)"},
@@ -53,7 +47,7 @@ TEST_F(ImageFileDlg, OffersTheKindsOfImages) {
     const QStringList filters = m_dialog.nameFilters();
     ASSERT_EQ(filters.size(), std::ssize(kinds));
     for (int i = 0; i < filters.size(); ++i)
-        EXPECT_EQ(filters[i].toStdString(), std::string(kinds[i].shown) + kinds[i].patterns);
+        EXPECT_EQ(filters[i].toStdString(), std::string(kinds[i].first) + kinds[i].second);
 }
 
 TEST_F(ImageFileDlg, ReturnsTheFullPathOfTheFile) {
@@ -64,8 +58,7 @@ TEST_F(ImageFileDlg, ReturnsTheFullPathOfTheFile) {
         EXPECT_EQ(Preview()->m_sampleImage.data(), PathOf("red.png").toStdString());
         QTest::keyClick(edit, Qt::Key_Return);
     });
-    EXPECT_EQ(result, CDialog::kOK);
-    EXPECT_EQ(m_dialog.GetPathName().data(), PathOf("red.png").toStdString());
+    EXPECT_EQS((result, CDialog::kOK), (m_dialog.GetPathName().data(), PathOf("red.png").toStdString()));
 }
 
 TEST_F(ImageFileDlg, ShowsTheFileThatIsSelected) {

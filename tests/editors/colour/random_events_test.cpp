@@ -1,5 +1,3 @@
-#include <gtest/gtest.h>
-
 #include "editors/colour/color_dlg.h"
 #include "tests/driver/person.h"
 #include "tests/driver/random_person.h"

@@ -1,11 +1,6 @@
-#include <gtest/gtest.h>
-
 #include "editors/colour/spectrum_ctrl.h"
 #include "editors/colour/spectrum_event.h"
 #include "tests/driver/person.h"
-
-#include <QLineEdit>
-#include <memory>
 
 namespace {
 
@@ -67,15 +62,12 @@ TEST_F(Spectrum, FollowsTheMouse) {
     m_control->SetRGB(Rgb(255, 0, 0)); // hue 0, saturation 240, lightness 120
     Press({80, 7});
     EXPECT_EQ(Color(), Rgb(0, 255, 0)); // hue 80
-    EXPECT_EQ(m_log.m_color, Color());
-    EXPECT_EQ(m_log.m_id, 77);
-    EXPECT_TRUE(m_control->hasFocus());
+    EXPECT_EQS((m_log.m_color, Color()), (m_log.m_id, 77), (m_control->hasFocus(), true));
     Move({160, 7}, Qt::LeftButton);
     EXPECT_EQ(Color(), Rgb(0, 0, 255));
     Move({300, 7}, Qt::LeftButton);  // outside: no more following until it comes back
     Move({250, 50}, Qt::LeftButton); // the slider is not what was pressed
-    EXPECT_EQ(Color(), Rgb(0, 0, 255));
-    EXPECT_EQ(m_log.m_messages, "cc");
+    EXPECT_EQS((Color(), Rgb(0, 0, 255)), (m_log.m_messages, "cc"));
     Move({20, 7}, Qt::LeftButton);
     EXPECT_EQ(Color(), Rgb(255, 127, 0));
     Release({20, 7});
@@ -104,13 +96,8 @@ TEST_F(Spectrum, SliderKeepsHueOfWhiteAndBlack) {
 }
 
 TEST_F(Spectrum, FollowsTheKeys) {
-    struct Case {
-        Qt::Key key;
-        Qt::KeyboardModifiers held;
-        Hsl crosshair; ///< from 140, 120, 96
-        Hsl slider;
-    };
-    const Case cases[] = {
+    // what becomes of 140, 120, 96 by the keys of the crosshair, and of the slider
+    const std::tuple<Qt::Key, Qt::KeyboardModifiers, Hsl, Hsl> cases[] = {
         {Qt::Key_Left, {}, {135, 120, 96}, {140, 120, 96}},
         {Qt::Key_Right, {}, {145, 120, 96}, {140, 120, 96}},
         {Qt::Key_Up, {}, {140, 125, 96}, {140, 120, 101}},
@@ -126,22 +113,22 @@ TEST_F(Spectrum, FollowsTheKeys) {
     const std::uint32_t start = Rgb(51, 102, 153);
     const Hsl unmoved{140, 120, 96};
     ASSERT_EQ(HslOf(start), unmoved);
-    for (const Case& c : cases) {
+    for (const auto& [key, held, crosshair, slider] : cases) {
         QTest::keyRelease(&m_before, Qt::Key_Shift);
         m_control->setFocus();
         m_control->SetRGB(start);
         m_log.m_messages.clear();
-        Key(c.key, c.held);
-        EXPECT_EQ(Color(), RgbOf(c.crosshair.hue, c.crosshair.sat, c.crosshair.lum)) << c.key;
-        EXPECT_EQ(m_log.m_messages, "c") << c.key;
+        Key(key, held);
+        EXPECT_EQ(Color(), RgbOf(crosshair.hue, crosshair.sat, crosshair.lum)) << key;
+        EXPECT_EQ(m_log.m_messages, "c") << key;
 
         m_control->SetRGB(start);
         m_log.m_messages.clear();
         Key(Qt::Key_Tab);
-        Key(c.key, c.held);
-        const bool still = c.slider == unmoved;
-        EXPECT_EQ(Color(), still ? start : RgbOf(c.slider.hue, c.slider.sat, c.slider.lum)) << c.key;
-        EXPECT_EQ(m_log.m_messages, still ? "" : "c") << c.key;
+        Key(key, held);
+        const bool still = slider == unmoved;
+        EXPECT_EQ(Color(), still ? start : RgbOf(slider.hue, slider.sat, slider.lum)) << key;
+        EXPECT_EQ(m_log.m_messages, still ? "" : "c") << key;
         m_before.setFocus();
     }
     // Kept at both ends.
@@ -183,12 +170,9 @@ TEST_F(Spectrum, ShowsColoursWhereTheyAreChosen) {
         return std::abs(qRed(pixel) - RedOf(color)) < 8 && std::abs(qGreen(pixel) - GreenOf(color)) < 8 &&
                std::abs(qBlue(pixel) - BlueOf(color)) < 8;
     };
-    EXPECT_TRUE(near({0, 7}, Rgb(255, 0, 0)));
-    EXPECT_TRUE(near({80, 7}, Rgb(0, 255, 0)));
-    EXPECT_TRUE(near({239, 246}, Rgb(127, 127, 127)));
-    EXPECT_TRUE(near({250, 7}, Rgb(255, 255, 255)));
-    EXPECT_TRUE(near({250, 246}, Rgb(0, 0, 0)));
-    EXPECT_TRUE(near({250, 127}, Rgb(0, 0, 255)));
+    EXPECT_EQS((near({0, 7}, Rgb(255, 0, 0)), true), (near({80, 7}, Rgb(0, 255, 0)), true),
+               (near({239, 246}, Rgb(127, 127, 127)), true), (near({250, 7}, Rgb(255, 255, 255)), true),
+               (near({250, 246}, Rgb(0, 0, 0)), true), (near({250, 127}, Rgb(0, 0, 255)), true));
     // The crosshair stands at hue 160, cut off by the upper edge: an arm below, the hole in the middle.
     EXPECT_EQ(image.pixel(160, 10), m_control->palette().color(QPalette::Base).rgb());
     EXPECT_TRUE(near({160, 8}, Rgb(0, 0, 255)));

@@ -15,8 +15,7 @@ struct Order {
 
     QStringList Rows() const {
         QStringList rows;
-        for (int i = 0; i < list.count(); ++i)
-            rows += list.item(i)->text();
+        for (int i = 0; i < list.count(); ++i) rows += list.item(i)->text();
         return rows;
     }
     void Select(int row) const {
@@ -71,8 +70,7 @@ TEST(FinanceOrder, JumpsToThePageOfThePane) {
         const QPoint third = order.list.visualItemRect(order.list.item(2)).center();
         QTest::mouseClick(order.list.viewport(), Qt::LeftButton, {}, third);
         QTest::mouseDClick(order.list.viewport(), Qt::LeftButton, {}, third);
-        EXPECT_EQ(order.Page(), "Momentum");
-        EXPECT_EQ(order.Rows().first(), "MACD");
+        EXPECT_EQS((order.Page(), "Momentum"), (order.Rows().first(), "MACD"));
         person.Cancel();
     }));
 }
@@ -83,8 +81,7 @@ TEST(FinanceOrder, WithoutASelectionItWarnsAndSelectsTheFirst) {
         EXPECT_TRUE(Edit(chart, [&](Person& person) {
             const Order order{person};
             ExpectBox("Warning", "Select anyone.", [&] { order.Press(button); });
-            EXPECT_EQ(order.Selected(), 0);
-            EXPECT_EQ(order.Page(), "MainChart");
+            EXPECT_EQS((order.Selected(), 0), (order.Page(), "MainChart"));
             person.Ok();
         }));
         EXPECT_EQ(OrderOf(chart), std::vector({3, 1, 2, 0, 4}));

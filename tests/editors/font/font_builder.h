@@ -26,8 +26,7 @@ inline QByteArray NameTable(const std::vector<NameRecord>& records) {
     QByteArray storage;
     for (const NameRecord& record : records) {
         QByteArray text;
-        for (const QChar unit : record.text)
-            text += Number16(unit.unicode());
+        for (const QChar unit : record.text) text += Number16(unit.unicode());
         for (const int field : {record.platform, record.encoding, record.language, record.nameId})
             table += Number16(static_cast<unsigned>(field));
         table += Number16(static_cast<unsigned>(text.size())) + Number16(static_cast<unsigned>(storage.size()));

@@ -5,11 +5,7 @@
 #include "tests/driver/random_person.h"
 
 #include <QAbstractButton>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMessageBox>
 #include <cmath>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -42,8 +38,7 @@ protected:
     }
     static std::string Rows(const QListWidget* list) {
         std::string rows;
-        for (int i = 0; i < list->count(); ++i)
-            rows += list->item(i)->text().toStdString() + ',';
+        for (int i = 0; i < list->count(); ++i) rows += list->item(i)->text().toStdString() + ',';
         return rows;
     }
     static void ClickRow(QListWidget* list, int row) {
@@ -69,11 +64,8 @@ protected:
 TEST_F(FontDlg, ShowsTheFontItIsGiven) {
     const int result = RunModal(m_dialog, [&] {
         EXPECT_EQ(Rows(Faces()), "(Default),alpha,Beta,Beta,Beta Sans,"); // a row for each file
-        EXPECT_EQ(Rows(Sizes()), "8,9,10,11,12,14,16,18,20,22,24,26,28,36,48,72,");
-        EXPECT_EQ(Face()->text(), "Beta");
-        EXPECT_EQ(Faces()->currentRow(), 2);
-        EXPECT_EQ(Size()->text(), "14");
-        EXPECT_EQ(Selected(Sizes()), "14");
+        EXPECT_EQS((Rows(Sizes()), "8,9,10,11,12,14,16,18,20,22,24,26,28,36,48,72,"), (Face()->text(), "Beta"),
+                   (Faces()->currentRow(), 2), (Size()->text(), "14"), (Selected(Sizes()), "14"));
         EXPECT_EQ(Font(), "Beta, b.ttf, 14"); // the file is looked up anew
         QTest::mouseClick(Find(m_dialog, "OK"), Qt::LeftButton);
     });
@@ -84,10 +76,8 @@ TEST_F(FontDlg, KnowsTheDefaultFace) {
     m_dialog.m_font.m_faceName = "(Default)";
     m_dialog.m_font.m_size = 12.5;
     RunModal(m_dialog, [&] {
-        EXPECT_EQ(Selected(Faces()), "(Default)");
-        EXPECT_EQ(Size()->text(), "12.5");
-        EXPECT_EQ(Selected(Sizes()), "none");
-        EXPECT_EQ(Font(), "(Default), gulim.ttc, 12.5");
+        EXPECT_EQS((Selected(Faces()), "(Default)"), (Size()->text(), "12.5"), (Selected(Sizes()), "none"),
+                   (Font(), "(Default), gulim.ttc, 12.5"));
         Sizes()->setFocus(); // chooses nothing by itself
         EXPECT_EQ(Font(), "(Default), gulim.ttc, 12.5");
         QTest::keyClick(Sizes(), Qt::Key_Down);
@@ -98,9 +88,7 @@ TEST_F(FontDlg, KnowsTheDefaultFace) {
 TEST_F(FontDlg, StandsAnEmptyCatalogueAndAForeignFace) {
     Fill({});
     RunModal(m_dialog, [&] {
-        EXPECT_EQ(Rows(Faces()), "(Default),");
-        EXPECT_EQ(Selected(Faces()), "none");
-        EXPECT_EQ(Font(), "Beta, , 14");
+        EXPECT_EQS((Rows(Faces()), "(Default),"), (Selected(Faces()), "none"), (Font(), "Beta, , 14"));
         // Going through the edit keeps a face that is not installed; Enter takes the first row.
         Face()->setFocus();
         QTest::keyClick(Face(), Qt::Key_Tab);
@@ -114,11 +102,9 @@ TEST_F(FontDlg, StandsAnEmptyCatalogueAndAForeignFace) {
 TEST_F(FontDlg, TakesRowsThatAreChosen) {
     RunModal(m_dialog, [&] {
         ClickRow(Faces(), 1);
-        EXPECT_EQ(Font(), "alpha, alpha.ttc|1, 14");
-        EXPECT_EQ(Face()->text(), "alpha");
+        EXPECT_EQS((Font(), "alpha, alpha.ttc|1, 14"), (Face()->text(), "alpha"));
         ClickRow(Sizes(), 15);
-        EXPECT_EQ(Font(), "alpha, alpha.ttc|1, 72");
-        EXPECT_EQ(Size()->text(), "72");
+        EXPECT_EQS((Font(), "alpha, alpha.ttc|1, 72"), (Size()->text(), "72"));
         Faces()->setFocus();
         QTest::keyClick(Faces(), Qt::Key_End);
         EXPECT_EQ(Font(), "Beta Sans, beta.ttf, 72");
@@ -129,11 +115,8 @@ TEST_F(FontDlg, TakesRowsThatAreChosen) {
 }
 
 TEST_F(FontDlg, SnapsTypedFacesToTheList) {
-    struct Case {
-        const char* typed;
-        const char* selected; ///< while typing
-        const char* taken;
-    };
+    // while typing
+    using Case = std::tuple<const char*, const char*, const char*>;
     const Case cases[] = {{"beta s", "Beta Sans", "Beta Sans"},
                           {"be", "Beta", "Beta"},
                           {"ALPHA", "alpha", "alpha"},
@@ -143,13 +126,12 @@ TEST_F(FontDlg, SnapsTypedFacesToTheList) {
         CFontDlg dialog;
         RunModal(dialog, [&] {
             auto* face = Find<QLineEdit>(dialog, "Font");
-            for (const Case& c : cases) {
-                Type(face, c.typed);
-                EXPECT_EQ(face->text(), c.typed);
-                EXPECT_EQ(Selected(Find<QListWidget>(dialog, "Fonts")), c.selected);
+            for (const auto& [typed, selected, taken] : cases) {
+                Type(face, typed);
+                EXPECT_EQS((face->text(), typed), (Selected(Find<QListWidget>(dialog, "Fonts")), selected));
                 QTest::keyClick(face, byEnter ? Qt::Key_Return : Qt::Key_Tab);
-                EXPECT_EQ(face->text(), c.taken);
-                EXPECT_STREQ(dialog.m_font.m_faceName.data(), c.taken);
+                EXPECT_EQ(face->text(), taken);
+                EXPECT_STREQ(dialog.m_font.m_faceName.data(), taken);
                 EXPECT_TRUE(dialog.isVisible());
             }
         });
@@ -157,12 +139,7 @@ TEST_F(FontDlg, SnapsTypedFacesToTheList) {
 }
 
 TEST_F(FontDlg, RoundsTypedSizes) {
-    struct Case {
-        const char* typed;
-        const char* shown;
-        const char* selected;
-        double size;
-    };
+    using Case = std::tuple<const char*, const char*, const char*, double>;
     const Case cases[] = {{"12.345", "12.35", "none", 12.35},
                           {"18", "18", "18", 18},
                           {" 7 ", "7", "72", 7},
@@ -170,13 +147,12 @@ TEST_F(FontDlg, RoundsTypedSizes) {
                           {"-3", "1", "10", 1},
                           {"1e6", "1000", "none", 1000}};
     RunModal(m_dialog, [&] {
-        for (const Case& c : cases) {
-            Type(Size(), c.typed);
+        for (const auto& [typed, shown, selected, size] : cases) {
+            Type(Size(), typed);
             Enter(Size());
-            EXPECT_EQ(m_dialog.m_font.m_size, c.size) << c.typed;
-            EXPECT_EQ(Size()->text(), c.shown);
-            EXPECT_EQ(Size()->selectedText(), c.shown);
-            EXPECT_EQ(Selected(Sizes()), c.selected); // the first row that begins like it
+            EXPECT_EQ(m_dialog.m_font.m_size, size) << typed;
+            EXPECT_EQS((Size()->text(), shown), (Size()->selectedText(), shown));
+            EXPECT_EQ(Selected(Sizes()), selected); // the first row that begins like it
         }
         // The selected row counts when it is clicked, although the selection stays.
         Type(Size(), "7");
@@ -206,17 +182,15 @@ TEST_F(FontDlg, PutsTheLastSizeBackWhereTheTextIsNone) {
                 EXPECT_TRUE(box.Came());
                 EXPECT_EQ(box.m_text, "\"Size\" must be a number.") << text;
                 EXPECT_EQ(box.m_count, 1) << text;
-                EXPECT_EQ(Size()->selectedText(), "14");
-                EXPECT_EQ(m_dialog.focusWidget(), Size());
-                EXPECT_EQ(Font(), "Beta, b.ttf, 14");
+                EXPECT_EQS((Size()->selectedText(), "14"), (m_dialog.focusWidget(), Size()),
+                           (Font(), "Beta, b.ttf, 14"));
             }
             m_dialog.activateWindow();
             ASSERT_TRUE(QTest::qWaitForWindowActive(&m_dialog));
             const Dismiss<QMessageBox> box;
             Type(Size(), "x");
             QTest::mouseClick(Find(m_dialog, "OK"), Qt::LeftButton);
-            EXPECT_TRUE(box.Came());
-            EXPECT_TRUE(m_dialog.isVisible());
+            EXPECT_EQS((box.Came(), true), (m_dialog.isVisible(), true));
             Type(Size(), "x");
             QTest::mouseClick(Find(m_dialog, "Cancel"), Qt::LeftButton);
             EXPECT_FALSE(m_dialog.isVisible());

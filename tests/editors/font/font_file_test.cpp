@@ -1,8 +1,8 @@
 #include "editors/font/font_file.h"
 #include "tests/editors/font/font_builder.h"
+#include "tests/expect.h"
 
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -28,11 +28,7 @@ protected:
 } // namespace
 
 TEST_F(FontFile, LanguageFollowsTheLocale) {
-    struct Case {
-        const char *all, *ctype, *lang;
-        int preference;
-    };
-    const Case cases[] = {
+    const std::tuple<const char*, const char*, const char*, int> cases[] = {
         {"ja_JP.UTF-8", "", "", 932},  {"ko_KR.eucKR", "", "", 949},
         {"ja", "", "", 932},           {"ko@dict", "", "", 949},
         {"", "ko_KR", "ja_JP", 949},   {"", "", "ja_JP.SJIS", 932},
@@ -40,11 +36,9 @@ TEST_F(FontFile, LanguageFollowsTheLocale) {
         {"kok_IN", "", "", 1252},      {"jam_JM", "", "", 1252},
         {"de_DE.UTF-8", "", "", 1252}, {"k", "", "", 1252},
     };
-    for (const Case& c : cases) {
-        const Environment all("LC_ALL", c.all);
-        const Environment ctype("LC_CTYPE", c.ctype);
-        const Environment lang("LANG", c.lang);
-        EXPECT_EQ(NameLanguagePreference(), c.preference) << c.all << ' ' << c.ctype << ' ' << c.lang;
+    for (const auto& [forAll, forTypes, language, preference] : cases) {
+        const Environment all("LC_ALL", forAll), ctype("LC_CTYPE", forTypes), lang("LANG", language);
+        EXPECT_EQ(NameLanguagePreference(), preference) << forAll << ' ' << forTypes << ' ' << language;
     }
 }
 
@@ -59,11 +53,8 @@ TEST_F(FontFile, TakesTheNameInTheRightLanguage) {
     const NameRecord mac1033{.platform = 1, .text = "Mac"};
     const NameRecord unicode{.platform = 0, .encoding = 3, .language = 0, .text = "Unicode"};
     const NameRecord unicode1033{.platform = 0, .encoding = 77, .text = "Unicode"};
-    struct Case {
-        std::vector<NameRecord> records;
-        QString korean, japanese, other; ///< the name in these locales, null for none
-    };
-    const Case cases[] = {
+    // the name in a Korean, a Japanese and another locale, null for none
+    const std::tuple<std::vector<NameRecord>, QString, QString, QString> cases[] = {
         {{english, korean}, kHangul, "English", "English"},
         {{korean, english}, kHangul, "English", "English"},
         {{japanese, english, korean}, kHangul, kKana, "English"},
@@ -78,30 +69,22 @@ TEST_F(FontFile, TakesTheNameInTheRightLanguage) {
         {{unicode1033, english}, "Unicode", "Unicode", "Unicode"}, // the encoding is of no interest
         {{}, {}, {}, {}},
     };
-    for (std::size_t i = 0; i < std::size(cases); ++i) {
-        const auto expect = [](const QString& name) { return name.isNull() ? "0" : "1 " + name.toStdString(); };
-        const QByteArray font = Font(cases[i].records);
-        {
-            const Environment locale("LC_ALL", "ko_KR.UTF-8");
-            EXPECT_EQ(Read(font), expect(cases[i].korean)) << i;
+    for (const auto& [records, inKorean, inJapanese, elsewhere] : cases) {
+        const QByteArray font = Font(records);
+        for (const auto& [locale, name] :
+             {std::pair("ko_KR.UTF-8", inKorean), {"ja_JP.UTF-8", inJapanese}, {"C.UTF-8", elsewhere}}) {
+            const Environment all("LC_ALL", locale);
+            EXPECT_EQ(Read(font), name.isNull() ? "0" : "1 " + name.toStdString())
+                << locale << " of " << records.size();
         }
-        {
-            const Environment locale("LC_ALL", "ja_JP.UTF-8");
-            EXPECT_EQ(Read(font), expect(cases[i].japanese)) << i;
-        }
-        const Environment locale("LC_ALL", "C.UTF-8");
-        EXPECT_EQ(Read(font), expect(cases[i].other)) << i;
     }
 }
 
 TEST_F(FontFile, CutsNamesToTheRoom) {
     const QByteArray font = Font({{.text = "Sans"}});
-    EXPECT_EQ(Read(font, 0, 5), "1 Sans");
-    EXPECT_EQ(Read(font, 0, 4), "1 San");
-    EXPECT_EQ(Read(font, 0, 1), "1 ");
+    EXPECT_EQS((Read(font, 0, 5), "1 Sans"), (Read(font, 0, 4), "1 San"), (Read(font, 0, 1), "1 "));
     char untouched = '#';
-    EXPECT_EQ(ReadFaceName(m_path.toUtf8().constData(), &untouched, 0, 0), 0);
-    EXPECT_EQ(untouched, '#');
+    EXPECT_EQS((ReadFaceName(m_path.toUtf8().constData(), &untouched, 0, 0), 0), (untouched, '#'));
     // By whole characters: three bytes each in UTF-8, and four for one of two units.
     EXPECT_EQ(Read(Font({{.text = kHangul}}), 0, 6), "1 " + kHangul.left(1).toStdString());
     EXPECT_EQ(Read(Font({{.text = QStringLiteral("a\U0001F600")}}), 0, 4), "1 a");
@@ -112,10 +95,8 @@ TEST_F(FontFile, RefusesWhatIsNoTrueType) {
     const std::vector<NameRecord> records{{.text = "Sans"}};
     EXPECT_EQ(Read(Font(records, 0x4F54544F)), "0"); // OTTO
     EXPECT_EQ(Read(Font(records, 0x74727565)), "0"); // true
-    EXPECT_EQ(Read(Font(records, 0x00020000)), "0");
-    EXPECT_EQ(Read(QByteArray()), "0");
-    EXPECT_EQ(Read(QByteArray("\0\1", 2)), "0");
-    EXPECT_EQ(Read(Font(records).replace("name", "gnam")), "0");
+    EXPECT_EQS((Read(Font(records, 0x00020000)), "0"), (Read(QByteArray()), "0"), (Read(QByteArray("\0\1", 2)), "0"),
+               (Read(Font(records).replace("name", "gnam")), "0"));
     EXPECT_EQ(Read(Font(records).replace(4, 2, Number16(0))), "0"); // no tables
     EXPECT_EQ(Read(Font(records).replace(4, 2, Number16(1))), "0"); // a directory without the names
     char name[8];
@@ -124,19 +105,14 @@ TEST_F(FontFile, RefusesWhatIsNoTrueType) {
         EXPECT_STREQ(name, "");
     }
     // In a single font the face number is of no interest.
-    EXPECT_EQ(Read(Font(records), 5), "1 Sans");
-    EXPECT_EQ(Read(Font(records), -5), "1 Sans");
+    EXPECT_EQS((Read(Font(records), 5), "1 Sans"), (Read(Font(records), -5), "1 Sans"));
 }
 
 TEST_F(FontFile, ReadsEachFaceOfACollection) {
     const QByteArray collection = Collection({Font({{.text = "One"}}), Font({{.text = "Two"}}),
                                               Font({{.text = "Three"}}, 0x4F54544F), Font({{.text = "Four"}})});
-    EXPECT_EQ(Read(collection, 0), "4 One");
-    EXPECT_EQ(Read(collection, 1), "4 Two");
-    EXPECT_EQ(Read(collection, 2), "0");
-    EXPECT_EQ(Read(collection, 3), "4 Four");
-    EXPECT_EQ(Read(collection, 4), "0");
-    EXPECT_EQ(Read(collection, -1), "0");
+    EXPECT_EQS((Read(collection, 0), "4 One"), (Read(collection, 1), "4 Two"), (Read(collection, 3), "4 Four"));
+    for (const int none : {2, 4, -1}) EXPECT_EQ(Read(collection, none), "0");
 }
 
 // Every cut, and every number of the header set to what leads far out of the file.

@@ -1,8 +1,5 @@
 #include "tests/editors/framework/test_editor.h"
 
-#include <QCheckBox>
-#include <QRadioButton>
-
 namespace {
 
 using Choices = EditorTest;
@@ -11,19 +8,15 @@ using Texts = EditorTest;
 TEST_F(Choices, ClicksAreStoredAndTold) {
     Open();
     person.Click("On");
-    EXPECT_FALSE(values.m_on);
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((values.m_on, false), (editor.Told(), 1));
     person.Click("Sector");
-    EXPECT_FALSE(values.m_flag);
-    EXPECT_FALSE(person.Find<QRadioButton>("Ring").isChecked());
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((values.m_flag, false), (person.Find<QRadioButton>("Ring").isChecked(), false), (editor.Told(), 1));
     person.Choose("Code", 1);
     EXPECT_EQ(values.m_code, 1);
     person.Choose("Alignment", 12);
     EXPECT_EQ(values.m_alignment, 13);
     person.Choose("Side", 3);
-    EXPECT_EQ(values.m_side, 2);
-    EXPECT_EQ(editor.Told(), 3);
+    EXPECT_EQS((values.m_side, 2), (editor.Told(), 3));
 }
 
 TEST_F(Choices, CodesThatAreNotInTheListShowARowAndStay) {
@@ -31,23 +24,20 @@ TEST_F(Choices, CodesThatAreNotInTheListShowARowAndStay) {
     values.m_alignment = 99;
     values.m_side = 5;
     Open();
-    EXPECT_EQ(person.Find<QComboBox>("Code").currentText(), "Side");
-    EXPECT_EQ(person.Find<QComboBox>("Alignment").currentText(), "TopLeft");
-    EXPECT_EQ(person.Find<QComboBox>("Side").currentText(), "Left");
+    EXPECT_EQS((person.Find<QComboBox>("Code").currentText(), "Side"),
+               (person.Find<QComboBox>("Alignment").currentText(), "TopLeft"),
+               (person.Find<QComboBox>("Side").currentText(), "Left"));
     person.Click("On");
-    EXPECT_EQ(values.m_code, 2);
-    EXPECT_EQ(values.m_alignment, 99);
+    EXPECT_EQS((values.m_code, 2), (values.m_alignment, 99));
 }
 
 TEST_F(Choices, AFlagThatIsNotLoadedIsWrittenByItsClicks) {
     Open();
-    EXPECT_FALSE(person.Find<QCheckBox>("Not Loaded").isChecked());
-    EXPECT_TRUE(values.m_notLoaded);
+    EXPECT_EQS((person.Find<QCheckBox>("Not Loaded").isChecked(), false), (values.m_notLoaded, true));
     person.Click("Not Loaded");
     EXPECT_TRUE(values.m_notLoaded);
     person.Click("Not Loaded");
-    EXPECT_FALSE(values.m_notLoaded);
-    EXPECT_EQ(editor.Told(), 2);
+    EXPECT_EQS((values.m_notLoaded, false), (editor.Told(), 2));
 }
 
 TEST_F(Texts, AreStoredWhenTheyAreLeft) {
@@ -83,14 +73,12 @@ TEST_F(Texts, FormatsFollowTheTextAndFillIt) {
     values.m_lines = "{value}";
     Open();
     auto& formats = person.Find<QComboBox>("Format");
-    EXPECT_EQ(formats.count(), 4);
-    EXPECT_EQ(formats.itemText(0), "---------------------------------");
-    EXPECT_EQ(formats.currentIndex(), 2);
+    EXPECT_EQS((formats.count(), 4), (formats.itemText(0), "---------------------------------"),
+               (formats.currentIndex(), 2));
     person.Choose("Format", 3);
     EXPECT_STREQ(values.m_lines.data(), "{percent}%");
-    EXPECT_EQ(person.Find<QPlainTextEdit>("Label").toPlainText(), "{percent}%");
-    EXPECT_EQ(formats.currentIndex(), 3);
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((person.Find<QPlainTextEdit>("Label").toPlainText(), "{percent}%"), (formats.currentIndex(), 3),
+               (editor.Told(), 1));
     person.Choose("Format", 0);
     EXPECT_STREQ(values.m_lines.data(), "{percent}%");
     EXPECT_EQ(editor.Told(), 0);
@@ -102,20 +90,16 @@ TEST_F(Texts, FormatsFollowTheTextAndFillIt) {
     editor.Told();
     editor.m_valuesPage.Formats().Put(QStringLiteral("{value}"));
     EXPECT_STREQ(values.m_lines.data(), "{value}");
-    EXPECT_EQ(formats.currentIndex(), 2);
-    EXPECT_EQ(editor.Told(), 0);
+    EXPECT_EQS((formats.currentIndex(), 2), (editor.Told(), 0));
 }
 
 TEST_F(Texts, TheFormatThatBeginsWithTheTextIsSelectedAtFirst) {
-    struct Case {
-        const char* text;
-        int row;
-    };
-    for (const Case& one : {Case{"", 0}, {"{da", 1}, {"{VAL", 2}, {"{", 1}, {"value", 0}}) {
+    using Case = std::tuple<const char*, int>;
+    for (const auto& [text, row] : {Case{"", 0}, {"{da", 1}, {"{VAL", 2}, {"{", 1}, {"value", 0}}) {
         CTestEditor other;
-        other.m_values.m_lines = one.text;
+        other.m_values.m_lines = text;
         other.Open();
-        EXPECT_EQ(Person(other).Find<QComboBox>("Format").currentIndex(), one.row) << one.text;
+        EXPECT_EQ(Person(other).Find<QComboBox>("Format").currentIndex(), row) << text;
     }
 }
 

@@ -4,8 +4,6 @@
 #include "tests/editors/framework/test_editor.h"
 
 #include <QAccessible>
-#include <QCheckBox>
-#include <QTabBar>
 
 namespace {
 
@@ -47,14 +45,9 @@ TEST_F(Commits, APressThatMakesAnEditComplainDoesNothingElse) {
             EXPECT_FALSE(add.isDown() || show.isDown());
             QTest::mouseRelease(pressed, Qt::LeftButton, {}, at);
         });
-        EXPECT_EQ(person.Focus(), "X");
-        EXPECT_EQ(person.Find("X").findChild<QLineEdit*>()->selectedText(), "100");
-        EXPECT_EQ(person.TextOf("Angle"), "0");
-        EXPECT_EQ(editor.Titles().size(), 1);
-        EXPECT_EQ(show.isChecked(), shown);
-        EXPECT_EQ(editor.m_tabs.currentIndex(), 1);
-        EXPECT_EQ(QApplication::activePopupWidget(), nullptr);
-        EXPECT_EQ(editor.Told(), 0);
+        EXPECT_EQS((person.Focus(), "X"), (person.Find("X").findChild<QLineEdit*>()->selectedText(), "100"),
+                   (person.TextOf("Angle"), "0"), (editor.Titles().size(), 1), (show.isChecked(), shown),
+                   (editor.m_tabs.currentIndex(), 1), (QApplication::activePopupWidget(), nullptr), (editor.Told(), 0));
     }
     // The next press is one like any other.
     person.Press("Angle", true);
@@ -79,11 +72,8 @@ TEST_F(Commits, ALetterOrAScreenReaderDoesNothingElseEither) {
             way();
             QTest::qWait(150); // a letter holds a button down for a moment
         });
-        EXPECT_EQ(editor.Titles().size(), 1);
-        EXPECT_EQ(show.isChecked(), shown);
-        EXPECT_TRUE(editor.m_itemsPage.isVisible());
-        EXPECT_EQ(person.Focus(), "X");
-        EXPECT_EQ(editor.Told(), 0);
+        EXPECT_EQS((editor.Titles().size(), 1), (show.isChecked(), shown), (editor.m_itemsPage.isVisible(), true),
+                   (person.Focus(), "X"), (editor.Told(), 0));
     }
 }
 
@@ -113,8 +103,7 @@ TEST_F(Commits, ATypedValueIsKeptHoweverAButtonIsReached) {
 TEST_F(Commits, AScreenReadersToggleReachesTheModel) {
     Open();
     ScreenReader(person.Find("On"), QAccessibleActionInterface::toggleAction());
-    EXPECT_FALSE(values.m_on);
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((values.m_on, false), (editor.Told(), 1));
 }
 
 } // namespace

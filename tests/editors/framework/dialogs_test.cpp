@@ -1,17 +1,13 @@
 #include "tests/editors/framework/test_editor.h"
 
-#include <QTabBar>
-
 namespace {
 
 using Dialogs = EditorTest;
 
 TEST_F(Dialogs, OpenOnTheFirstPageWithTheFocusOnTheDialog) {
     Open();
-    EXPECT_EQ(editor.m_tabs.count(), 2);
-    EXPECT_TRUE(editor.m_valuesPage.isVisible());
-    EXPECT_FALSE(editor.m_itemsPage.isVisible());
-    EXPECT_TRUE(editor.hasFocus());
+    EXPECT_EQS((editor.m_tabs.count(), 2), (editor.m_valuesPage.isVisible(), true),
+               (editor.m_itemsPage.isVisible(), false), (editor.hasFocus(), true));
 
     // A page fills what the tab control has for it, and nothing shows above or beside it.
     const QRect page(editor.m_valuesPage.mapTo(&editor, QPoint()), editor.m_valuesPage.size());
@@ -25,20 +21,17 @@ TEST_F(Dialogs, ATabShowsItsPageAndKeepsTheOthers) {
     person.Type("Free", "12");
     QTest::mouseClick(editor.m_tabs.tabBar(), Qt::LeftButton, {}, editor.m_tabs.tabBar()->tabRect(1).center());
     EXPECT_EQ(values.m_free, 12); // left, and so committed
-    EXPECT_TRUE(editor.m_itemsPage.isVisible());
-    EXPECT_FALSE(editor.m_valuesPage.isVisible());
-    EXPECT_TRUE(editor.hasFocus());
+    EXPECT_EQS((editor.m_itemsPage.isVisible(), true), (editor.m_valuesPage.isVisible(), false),
+               (editor.hasFocus(), true));
     editor.m_tabs.ShowPage(0);
     EXPECT_EQ(person.TextOf("Free"), "12");
     editor.m_tabs.ShowPage(7);
-    EXPECT_TRUE(editor.m_valuesPage.isVisible());
-    EXPECT_TRUE(editor.hasFocus());
+    EXPECT_EQS((editor.m_valuesPage.isVisible(), true), (editor.hasFocus(), true));
 
     // The arrow keys walk the tabs and stay on them.
     editor.m_tabs.tabBar()->setFocus();
     person.Key(Qt::Key_Right);
-    EXPECT_TRUE(editor.m_itemsPage.isVisible());
-    EXPECT_TRUE(editor.m_tabs.tabBar()->hasFocus());
+    EXPECT_EQS((editor.m_itemsPage.isVisible(), true), (editor.m_tabs.tabBar()->hasFocus(), true));
 }
 
 TEST_F(Dialogs, PagesCanShareATab) {
@@ -48,10 +41,8 @@ TEST_F(Dialogs, PagesCanShareATab) {
     editor.m_tabs.ShowPage(1);
     EXPECT_TRUE(editor.m_itemsPage.isVisible());
     editor.m_tabs.Choose(other);
-    EXPECT_FALSE(editor.m_itemsPage.isVisible());
-    EXPECT_TRUE(other.isVisible());
-    EXPECT_EQ(other.geometry(), editor.m_itemsPage.geometry());
-    EXPECT_EQ(editor.m_tabs.count(), 2);
+    EXPECT_EQS((editor.m_itemsPage.isVisible(), false), (other.isVisible(), true),
+               (other.geometry(), editor.m_itemsPage.geometry()), (editor.m_tabs.count(), 2));
 }
 
 TEST_F(Dialogs, EnterOnAPageCommitsOrDoesNothingAndEscDoesNothing) {
@@ -67,16 +58,14 @@ TEST_F(Dialogs, EnterOnAPageCommitsOrDoesNothingAndEscDoesNothing) {
     person.Key(Qt::Key_Escape);
     EXPECT_EQ(values.m_floored, 5);
     person.Enter();
-    EXPECT_EQ(values.m_floored, 31);
-    EXPECT_TRUE(editor.isVisible());
+    EXPECT_EQS((values.m_floored, 31), (editor.isVisible(), true));
 }
 
 TEST_F(Dialogs, EnterWithAModifierIsNoEnter) {
     Open();
     person.Type("Floored", "31");
     for (const Qt::KeyboardModifier modifier : {Qt::ControlModifier, Qt::AltModifier, Qt::ShiftModifier})
-        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
-            QTest::keyClick(editor.focusWidget(), key, modifier);
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter}) QTest::keyClick(editor.focusWidget(), key, modifier);
     EXPECT_EQ(values.m_floored, 5);
     QTest::keyClick(editor.focusWidget(), Qt::Key_Enter, Qt::KeypadModifier);
     EXPECT_EQ(values.m_floored, 31);
@@ -86,12 +75,7 @@ TEST_F(Dialogs, EnterWithAModifierIsNoEnter) {
 }
 
 TEST_F(Dialogs, OkAndCancelEndTheDialog) {
-    struct Way {
-        const char* name;
-        std::function<void(CTestEditor&)> go;
-        int result;
-    };
-    const Way ways[] = {
+    const std::tuple<const char*, std::function<void(CTestEditor&)>, int> ways[] = {
         {"OK", [](CTestEditor& open) { Person(open).Click("OK"); }, QDialog::Accepted},
         {"Enter", [](CTestEditor& open) { QTest::keyClick(&open, Qt::Key_Return); }, QDialog::Accepted},
         {"Alt", [](CTestEditor& open) { Person(open).Find<QPushButton>("OK").click(); }, QDialog::Accepted},
@@ -99,16 +83,14 @@ TEST_F(Dialogs, OkAndCancelEndTheDialog) {
         {"Esc", [](CTestEditor& open) { QTest::keyClick(&open, Qt::Key_Escape); }, QDialog::Rejected},
         {"close box", [](CTestEditor& open) { open.close(); }, QDialog::Rejected},
     };
-    for (const Way& way : ways) {
-        SCOPED_TRACE(way.name);
+    for (const auto& [name, go, result] : ways) {
+        SCOPED_TRACE(name);
         CTestEditor open;
         open.Open();
         Person(open).Type("Free", "12");
-        way.go(open);
-        EXPECT_FALSE(open.isVisible());
-        EXPECT_EQ(open.result(), way.result);
-        if (way.result == QDialog::Accepted)
-            EXPECT_EQ(open.m_values.m_free, 12);
+        go(open);
+        EXPECT_EQS((open.isVisible(), false), (open.result(), result));
+        if (result == QDialog::Accepted) EXPECT_EQ(open.m_values.m_free, 12);
     }
 }
 
@@ -135,16 +117,13 @@ TEST_F(Dialogs, WithoutPagesEnterInAnEditCommitsAndElsewhereIsOk) {
         ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
         user.Type("Free", "5");
         user.Enter();
-        EXPECT_TRUE(dialog.isVisible());
-        EXPECT_EQ(dialog.m_free, 5);
-        EXPECT_EQ(dialog.m_told, 1);
+        EXPECT_EQS((dialog.isVisible(), true), (dialog.m_free, 5), (dialog.m_told, 1));
         user.Type("Free", "6");
         user.Find("On").setFocus();
         user.Enter();
         EXPECT_FALSE(dialog.isVisible());
     });
-    EXPECT_EQ(dialog.DoModal(), CDialog::kOK);
-    EXPECT_EQ(dialog.m_free, 6);
+    EXPECT_EQS((dialog.DoModal(), CDialog::kOK), (dialog.m_free, 6));
 
     QTimer::singleShot(0, &dialog, [&] { QTest::keyClick(dialog.findChild<QWidget*>("Free"), Qt::Key_Escape); });
     EXPECT_EQ(dialog.DoModal(), CDialog::kCancel);

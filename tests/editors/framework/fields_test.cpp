@@ -1,8 +1,6 @@
 #include "platform/widgets/simple_combo.h"
 #include "tests/editors/framework/test_editor.h"
 
-#include <QCheckBox>
-#include <QLabel>
 #include <climits>
 
 namespace {
@@ -43,8 +41,7 @@ protected:
     QString TextIn(const char* field) {
         QStringList texts;
         for (const QLabel* label : page.findChild<CDialog*>(QString::fromUtf8(field))->findChildren<QLabel*>())
-            if (!label->isHidden())
-                texts << label->text();
+            if (!label->isHidden()) texts << label->text();
         return texts.join(u' ').remove(u'&');
     }
     CFieldsPage page{editor};
@@ -52,11 +49,8 @@ protected:
 };
 
 TEST_F(Fields, AnEffectShowsAsKindDirectionAndSize) {
-    struct Case {
-        std::int32_t type, value, direction;
-        const char *kind, *side, *size;
-        bool sized, directed;
-    };
+    using Case =
+        std::tuple<std::int32_t, std::int32_t, std::int32_t, const char*, const char*, const char*, bool, bool>;
     const Case cases[] = {
         {0, 0, 8, "Flat", "Top", "0", false, false},
         {0, 3, 4, "Raised", "Left", "3", true, false},
@@ -68,18 +62,15 @@ TEST_F(Fields, AnEffectShowsAsKindDirectionAndSize) {
         {0, INT_MIN, 8, "Depressed", "Top", "2147483648", true, false},
     };
     OpenPage();
-    for (const Case& one : cases) {
-        SCOPED_TRACE(testing::Message() << one.type << ' ' << one.value);
-        Show(one.type, one.value, one.direction);
-        EXPECT_EQ(user.Find<QComboBox>("Type").currentText(), one.kind);
-        EXPECT_EQ(user.Find<QComboBox>("Direction").currentText(), one.side);
-        EXPECT_EQ(user.TextOf("Size"), one.size);
-        EXPECT_EQ(user.Find("Size").isEnabled(), one.sized);
-        EXPECT_EQ(user.Find("Direction").isEnabled(), one.directed);
+    for (const auto& [type, value, direction, kind, side, size, sized, directed] : cases) {
+        SCOPED_TRACE(testing::Message() << type << ' ' << value);
+        Show(type, value, direction);
+        EXPECT_EQS((user.Find<QComboBox>("Type").currentText(), kind),
+                   (user.Find<QComboBox>("Direction").currentText(), side), (user.TextOf("Size"), size),
+                   (user.Find("Size").isEnabled(), sized), (user.Find("Direction").isEnabled(), directed));
         // Nothing has been edited.
-        EXPECT_EQ(page.m_effect.m_effectType, one.type);
-        EXPECT_EQ(page.m_effect.m_value, one.value);
-        EXPECT_EQ(page.m_effect.m_direction, one.direction);
+        EXPECT_EQS((page.m_effect.m_effectType, type), (page.m_effect.m_value, value),
+                   (page.m_effect.m_direction, direction));
     }
 }
 
@@ -87,22 +78,17 @@ TEST_F(Fields, AKindIsStoredWithTheSizeThatShows) {
     OpenPage();
     Show(0, -5, 4);
     user.Choose("Type", 1);
-    EXPECT_EQ(page.m_effect.m_value, 5);
-    EXPECT_EQ(page.m_effect.m_effectType, 0);
+    EXPECT_EQS((page.m_effect.m_value, 5), (page.m_effect.m_effectType, 0));
     user.Choose("Type", 0);
-    EXPECT_EQ(page.m_effect.m_value, 0);
-    EXPECT_EQ(user.TextOf("Size"), "5");
-    EXPECT_FALSE(user.Find("Size").isEnabled());
+    EXPECT_EQS((page.m_effect.m_value, 0), (user.TextOf("Size"), "5"), (user.Find("Size").isEnabled(), false));
     const std::int32_t types[] = {1, 3, 2};
     for (int row = 3; row < 6; ++row) {
         user.Choose("Type", row);
-        EXPECT_EQ(page.m_effect.m_effectType, types[row - 3]);
-        EXPECT_EQ(page.m_effect.m_value, 5);
-        EXPECT_TRUE(user.Find("Direction").isEnabled());
+        EXPECT_EQS((page.m_effect.m_effectType, types[row - 3]), (page.m_effect.m_value, 5),
+                   (user.Find("Direction").isEnabled(), true));
     }
     user.Choose("Direction", 3);
-    EXPECT_EQ(page.m_effect.m_direction, 2);
-    EXPECT_EQ(editor.Told(), 6);
+    EXPECT_EQS((page.m_effect.m_direction, 2), (editor.Told(), 6));
 }
 
 TEST_F(Fields, TheSizeOfAnEffectStopsAtZeroForPressesOnly) {
@@ -111,9 +97,7 @@ TEST_F(Fields, TheSizeOfAnEffectStopsAtZeroForPressesOnly) {
     user.Press("Size", false);
     EXPECT_EQ(page.m_effect.m_value, 0);
     user.Press("Size", false);
-    EXPECT_EQ(user.TextOf("Size"), "0");
-    EXPECT_EQ(editor.Told(), 2);
-    EXPECT_EQ(user.Find<QComboBox>("Type").currentText(), "Raised");
+    EXPECT_EQS((user.TextOf("Size"), "0"), (editor.Told(), 2), (user.Find<QComboBox>("Type").currentText(), "Raised"));
 
     user.Type("Size", "-3");
     user.Enter();
@@ -126,8 +110,7 @@ TEST_F(Fields, TheSizeOfAnEffectStopsAtZeroForPressesOnly) {
     Show(0, 7, 8);
     user.Type("Size", "seven");
     ExpectBox("Test", "\"Size\" must be a whole number.", [&] { user.Leave(); });
-    EXPECT_EQ(page.m_effect.m_value, 7);
-    EXPECT_EQ(user.TextOf("Size"), "7");
+    EXPECT_EQS((page.m_effect.m_value, 7), (user.TextOf("Size"), "7"));
     EXPECT_EQ(editor.Told(), 1); // all the same
 }
 
@@ -157,21 +140,13 @@ TEST_F(Fields, AColourNamesItsKindAndKeepsTheLastNameForOthers) {
 }
 
 /// Answers the dialog of a field's button, by `key`, after `act` in it.
-void Answer(QWidget& button, Qt::Key key, const std::function<void(QWidget&)>& act = {}) {
-    QWidget* before = QApplication::activeModalWidget();
-    QTimer timer;
-    QObject::connect(&timer, &QTimer::timeout, [&] {
-        QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog != nullptr && dialog != before) {
-            timer.stop();
-            if (act)
-                act(*dialog);
-            QTest::keyClick(dialog, key);
-        }
+void Answer(
+    QWidget& button, Qt::Key key, const std::function<void(QWidget&)>& act = [](QWidget&) {}) {
+    const WhenModal dialog([&](QWidget& window) {
+        act(window);
+        QTest::keyClick(&window, key);
     });
-    timer.start(1);
     QTest::mouseClick(&button, Qt::LeftButton);
-    EXPECT_FALSE(timer.isActive());
 }
 
 TEST_F(Fields, DialogsGiveAValueByOkOnly) {
@@ -181,12 +156,9 @@ TEST_F(Fields, DialogsGiveAValueByOkOnly) {
         QTest::keyClick(dialog.findChild<QComboBox*>(QStringLiteral("Type")), Qt::Key_M);
     };
     Answer(button, Qt::Key_Escape, metal);
-    EXPECT_EQ(page.m_color.m_type, 0);
-    EXPECT_EQ(editor.Told(), 0);
+    EXPECT_EQS((page.m_color.m_type, 0), (editor.Told(), 0));
     Answer(button, Qt::Key_Return, metal);
-    EXPECT_EQ(page.m_color.m_type, 2);
-    EXPECT_EQ(TextIn("Color"), "(Metal)");
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((page.m_color.m_type, 2), (TextIn("Color"), "(Metal)"), (editor.Told(), 1));
     Answer(*user.Find("Font").findChild<QPushButton*>(), Qt::Key_Escape);
     EXPECT_EQ(editor.Told(), 0);
 }
@@ -198,19 +170,15 @@ TEST_F(Fields, OfAListGoToTheSelectedItem) {
     person.Select("Titles", 1);
     person.Choose("Type", 1);
     person.Press("Size", true);
-    EXPECT_EQ(editor.Titles()[1].m_effect.m_value, 1);
-    EXPECT_EQ(editor.Titles()[0].m_effect.m_value, 0);
-    EXPECT_EQ(editor.Told(), 2);
+    EXPECT_EQS((editor.Titles()[1].m_effect.m_value, 1), (editor.Titles()[0].m_effect.m_value, 0), (editor.Told(), 2));
     // With none selected the change is dropped; most fields tell of it all the same.
     QTest::keyClicks(person.Find<CSimpleCombo>("Titles").Edit(), "zzz");
     person.Choose("Type", 1);
-    EXPECT_EQ(editor.Told(), 1);
-    EXPECT_EQ(person.Find<QComboBox>("Type").currentText(), "Raised");
+    EXPECT_EQS((editor.Told(), 1), (person.Find<QComboBox>("Type").currentText(), "Raised"));
     Answer(*person.Find("BackColor").findChild<QPushButton*>(), Qt::Key_Return);
     EXPECT_EQ(editor.Told(), 0);
     Answer(*person.Find("FontColor").findChild<QPushButton*>(), Qt::Key_Return);
-    EXPECT_EQ(editor.Told(), 1);
-    EXPECT_EQ(editor.Titles()[1].m_effect.m_value, 1);
+    EXPECT_EQS((editor.Told(), 1), (editor.Titles()[1].m_effect.m_value, 1));
 }
 
 } // namespace

@@ -1,15 +1,12 @@
 #include "platform/widgets/simple_combo.h"
 #include "tests/editors/framework/test_editor.h"
 
-#include <QCheckBox>
-
 namespace {
 
 class Lists : public EditorTest {
 protected:
     void OpenWith(std::initializer_list<const char*> texts) {
-        for (const char* text : texts)
-            editor.AddTitle(text);
+        for (const char* text : texts) editor.AddTitle(text);
         OpenItems();
     }
     QStringList Rows() { return person.Rows("Titles"); }
@@ -20,13 +17,10 @@ protected:
 
 TEST_F(Lists, ShowTheFirstItemAtFirst) {
     OpenWith({"a", "first\nsecond", "100 %s"});
-    EXPECT_EQ(Rows(), (QStringList{"Title 1 ( a )", "Title 2 ( first... )", "Title 3 ( 100 %s )"}));
-    EXPECT_EQ(Row(), 0);
-    EXPECT_EQ(Text(), "a");
+    EXPECT_EQS((Rows(), (QStringList{"Title 1 ( a )", "Title 2 ( first... )", "Title 3 ( 100 %s )"})), (Row(), 0),
+               (Text(), "a"));
     person.Select("Titles", 1);
-    EXPECT_EQ(Text(), "first\nsecond");
-    EXPECT_EQ(person.TextOf("X"), "101");
-    EXPECT_EQ(editor.Told(), 0);
+    EXPECT_EQS((Text(), "first\nsecond"), (person.TextOf("X"), "101"), (editor.Told(), 0));
 }
 
 TEST_F(Lists, EditTheSelectedItemOnly) {
@@ -36,19 +30,13 @@ TEST_F(Lists, EditTheSelectedItemOnly) {
     person.Press("Angle", true);
     person.Click("Show Title");
     person.Choose("Alignment", 3);
-    EXPECT_EQ(titles[1].m_x, 7);
-    EXPECT_EQ(titles[1].m_angle, 10);
+    EXPECT_EQS((titles[1].m_x, 7), (titles[1].m_angle, 10));
     EXPECT_NE(titles[1].m_show, titles[0].m_show);
-    EXPECT_EQ(titles[1].m_alignment, 4);
-    EXPECT_EQ(titles[0].m_x, 100);
-    EXPECT_EQ(titles[2].m_x, 102);
-    EXPECT_EQ(editor.Told(), 4);
+    EXPECT_EQS((titles[1].m_alignment, 4), (titles[0].m_x, 100), (titles[2].m_x, 102), (editor.Told(), 4));
     // An edit left by choosing another row goes into the row that was selected.
     person.Type("X", "8");
     person.Select("Titles", 2);
-    EXPECT_EQ(titles[1].m_x, 8);
-    EXPECT_EQ(titles[2].m_x, 102);
-    EXPECT_EQ(person.TextOf("X"), "102");
+    EXPECT_EQS((titles[1].m_x, 8), (titles[2].m_x, 102), (person.TextOf("X"), "102"));
 }
 
 TEST_F(Lists, ATextInACaptionRebuildsItsRow) {
@@ -59,9 +47,7 @@ TEST_F(Lists, ATextInACaptionRebuildsItsRow) {
     person.Leave();
     EXPECT_EQ(Rows(), (QStringList{"Title 1 ( a )", "Title 2 ( x )"}));
     EXPECT_STREQ(titles[1].m_text.data(), "x");
-    EXPECT_EQ(Row(), 1);
-    EXPECT_EQ(person.Find<CSimpleCombo>("Titles").Edit()->text(), "Title 2 ( x )");
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((Row(), 1), (person.Find<CSimpleCombo>("Titles").Edit()->text(), "Title 2 ( x )"), (editor.Told(), 1));
 }
 
 TEST_F(Lists, AddAppendsAndSelectsANewItem) {
@@ -70,29 +56,19 @@ TEST_F(Lists, AddAppendsAndSelectsANewItem) {
     EXPECT_EQ(person.TextOf("X"), "42"); // a new item's
     person.Click("Add");
     person.Click("Add");
-    EXPECT_EQ(Rows(), (QStringList{"Title 1 (  )", "Title 2 (  )"}));
-    EXPECT_EQ(Row(), 1);
-    EXPECT_EQ(titles.size(), 2);
-    EXPECT_EQ(titles[1].m_x, 42);
-    EXPECT_EQ(editor.Told(), 2);
+    EXPECT_EQS((Rows(), (QStringList{"Title 1 (  )", "Title 2 (  )"})), (Row(), 1), (titles.size(), 2),
+               (titles[1].m_x, 42), (editor.Told(), 2));
 }
 
 TEST_F(Lists, DeleteClosesTheNumbersUpAndSelectsWhatFollows) {
     OpenWith({"a", "b", "c"});
     person.Select("Titles", 1);
     person.Click("Delete");
-    EXPECT_EQ(Rows(), (QStringList{"Title 1 ( a )", "Title 2 ( c )"}));
-    EXPECT_EQ(Row(), 1);
-    EXPECT_EQ(Text(), "c");
+    EXPECT_EQS((Rows(), (QStringList{"Title 1 ( a )", "Title 2 ( c )"})), (Row(), 1), (Text(), "c"));
     person.Click("Delete");
-    EXPECT_EQ(Row(), 0);
-    EXPECT_EQ(Text(), "a");
+    EXPECT_EQS((Row(), 0), (Text(), "a"));
     person.Click("Delete");
-    EXPECT_EQ(Row(), -1);
-    EXPECT_EQ(titles.size(), 0);
-    EXPECT_EQ(Text(), "");
-    EXPECT_EQ(person.TextOf("X"), "42");
-    EXPECT_EQ(editor.Told(), 3);
+    EXPECT_EQS((Row(), -1), (titles.size(), 0), (Text(), ""), (person.TextOf("X"), "42"), (editor.Told(), 3));
     ExpectBox("Warning", "Select anyone.", [&] { person.Click("Delete"); });
     EXPECT_EQ(editor.Told(), 0);
     person.Click("Add");
@@ -108,8 +84,7 @@ TEST_F(Lists, WithNoRowSelectedEditsReachNoModel) {
     person.Give("Title", "new");
     const bool shown = person.Find<QCheckBox>("Show Title").isChecked();
     person.Click("Show Title");
-    EXPECT_EQ(person.TextOf("X"), "65");
-    EXPECT_EQ(Text(), "new");
+    EXPECT_EQS((person.TextOf("X"), "65"), (Text(), "new"));
     EXPECT_NE(person.Find<QCheckBox>("Show Title").isChecked(), shown);
     EXPECT_EQ(titles[0].m_x, 100);
     EXPECT_STREQ(titles[0].m_text.data(), "a");
@@ -117,10 +92,7 @@ TEST_F(Lists, WithNoRowSelectedEditsReachNoModel) {
 
     // Delete asks for a row, selects the first, and leaves the controls as they are.
     ExpectBox("Warning", "Select anyone.", [&] { person.Click("Delete"); });
-    EXPECT_EQ(Row(), 0);
-    EXPECT_EQ(titles.size(), 2);
-    EXPECT_EQ(person.TextOf("X"), "65");
-    EXPECT_EQ(editor.Told(), 0);
+    EXPECT_EQS((Row(), 0), (titles.size(), 2), (person.TextOf("X"), "65"), (editor.Told(), 0));
 }
 
 TEST_F(Lists, TextTypedAboveTheListMeansNothing) {
@@ -128,17 +100,14 @@ TEST_F(Lists, TextTypedAboveTheListMeansNothing) {
     QLineEdit& edit = *person.Find<CSimpleCombo>("Titles").Edit();
     edit.clear();
     QTest::keyClicks(&edit, "title 2");
-    EXPECT_EQ(Row(), -1);
-    EXPECT_EQ(editor.Told(), 0);
+    EXPECT_EQS((Row(), -1), (editor.Told(), 0));
 }
 
 TEST_F(Lists, TheDeleteKeyDeletesTheRow) {
     OpenWith({"a", "b"});
     person.Select("Titles", 0);
     QTest::keyClick(&person.List("Titles"), Qt::Key_Delete);
-    EXPECT_EQ(Rows(), QStringList{"Title 1 ( b )"});
-    EXPECT_EQ(titles.size(), 1);
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((Rows(), QStringList{"Title 1 ( b )"}), (titles.size(), 1), (editor.Told(), 1));
 }
 
 } // namespace

@@ -1,8 +1,5 @@
 #include "tests/editors/framework/test_editor.h"
 
-#include <QLabel>
-#include <QTabBar>
-
 namespace {
 
 TEST_F(EditorTest, LettersAndLabelsLeadToTheirControls) {

@@ -54,26 +54,20 @@ TEST_F(Numbers, APressCountsFromTheLastValueAndNotFromTheText) {
     Open();
     person.Type("Floored", "77");
     person.Press("Floored", true);
-    EXPECT_EQ(values.m_floored, 15);
-    EXPECT_EQ(person.TextOf("Floored"), "15");
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((values.m_floored, 15), (person.TextOf("Floored"), "15"), (editor.Told(), 1));
     person.Leave(); // nothing is left to commit
-    EXPECT_EQ(values.m_floored, 15);
-    EXPECT_EQ(editor.Told(), 0);
+    EXPECT_EQS((values.m_floored, 15), (editor.Told(), 0));
 
     person.Press("Floored", false);
     person.Press("Floored", false);
     EXPECT_EQ(values.m_floored, 0);
     person.Press("Floored", false);
-    EXPECT_EQ(person.TextOf("Floored"), "0");
-    EXPECT_EQ(editor.Told(), 3);
+    EXPECT_EQS((person.TextOf("Floored"), "0"), (editor.Told(), 3));
 
-    for (int i = 0; i < 7; ++i)
-        person.Press("Share", true);
+    for (int i = 0; i < 7; ++i) person.Press("Share", true);
     EXPECT_EQ(values.m_share, 1);
     person.Press("Quiet", true); // quiet only when it is left
-    EXPECT_EQ(values.m_quiet, 11);
-    EXPECT_EQ(editor.Told(), 8);
+    EXPECT_EQS((values.m_quiet, 11), (editor.Told(), 8));
 
     values.m_free = std::numeric_limits<std::int32_t>::max();
     editor.m_valuesPage.Form().LoadRows(nullptr);
@@ -100,9 +94,7 @@ TEST_F(Numbers, KeysAndTheWheelPressWhereTheFocusIs) {
     wheel(person.Find("Real"));
     wheel(person.Find("Alignment"));
     wheel(*editor.m_tabs.tabBar());
-    EXPECT_EQ(editor.Told(), 0);
-    EXPECT_EQ(values.m_alignment, 5);
-    EXPECT_EQ(editor.m_tabs.currentIndex(), 0);
+    EXPECT_EQS((editor.Told(), 0), (values.m_alignment, 5), (editor.m_tabs.currentIndex(), 0));
 }
 
 TEST_F(Numbers, HoldingAnArrowRepeats) {
@@ -119,8 +111,7 @@ TEST_F(Numbers, WhatNobodyChangedStaysAsItIs) {
     values.m_percent = 250;
     values.m_floored = -4;
     Open();
-    EXPECT_EQ(person.TextOf("Real"), "1.23");
-    EXPECT_EQ(person.TextOf("Percent"), "100");
+    EXPECT_EQS((person.TextOf("Real"), "1.23"), (person.TextOf("Percent"), "100"));
     for (const char* edit : {"Floored", "Free", "Percent", "Real", "Whole", "Share", "Quiet", "Text", "Label"}) {
         person.Find(edit).setFocus();
         person.Leave();
@@ -129,16 +120,12 @@ TEST_F(Numbers, WhatNobodyChangedStaysAsItIs) {
     person.Type("Real", "1.23"); // the same once more
     person.Leave();
     person.Click("On");
-    EXPECT_EQ(editor.Told(), 1);
-    EXPECT_EQ(values.m_real, 1.23456);
-    EXPECT_EQ(values.m_percent, 250);
-    EXPECT_EQ(values.m_floored, -4);
+    EXPECT_EQS((editor.Told(), 1), (values.m_real, 1.23456), (values.m_percent, 250), (values.m_floored, -4));
 
     // Enter commits in any case.
     person.Find("Real").setFocus();
     person.Enter();
-    EXPECT_EQ(values.m_real, 1.23);
-    EXPECT_EQ(editor.Told(), 1);
+    EXPECT_EQS((values.m_real, 1.23), (editor.Told(), 1));
 
     // So does leaving a text that the program has put there.
     person.Find<QAbstractSpinBox>("Free").findChild<QLineEdit*>()->setText(QStringLiteral("8"));
@@ -150,8 +137,7 @@ TEST_F(Numbers, WhatNobodyChangedStaysAsItIs) {
 TEST_F(Numbers, QuietOnesAreStoredOnLeavingAndToldByEnter) {
     Open();
     person.Give("Quiet", "20");
-    EXPECT_EQ(values.m_quiet, 20);
-    EXPECT_EQ(editor.Told(), 0);
+    EXPECT_EQS((values.m_quiet, 20), (editor.Told(), 0));
     person.Type("Quiet", "30");
     person.Enter();
     EXPECT_EQ(values.m_quiet, 30);
@@ -170,11 +156,8 @@ TEST_F(Numbers, TextThatIsNoNumberIsRefusedOnce) {
         const QString shown = person.TextOf(edit);
         person.Type(edit, text);
         ExpectBox("Test", wants, [&] { person.Leave(); });
-        EXPECT_EQ(person.TextOf(edit), shown);
-        EXPECT_EQ(StoredIn(values, edit), before);
-        EXPECT_EQ(person.Focus(), edit);
-        EXPECT_EQ(person.Find(edit).findChild<QLineEdit*>()->selectedText(), shown);
-        EXPECT_EQ(editor.Told(), 0);
+        EXPECT_EQS((person.TextOf(edit), shown), (StoredIn(values, edit), before), (person.Focus(), edit),
+                   (person.Find(edit).findChild<QLineEdit*>()->selectedText(), shown), (editor.Told(), 0));
     }
     person.Type("Real", "abc");
     ExpectBox("Test", "\"Real\" must be a number.", [&] { person.Enter(); });
@@ -192,19 +175,16 @@ TEST_F(Numbers, ABadTextKeepsOkFromClosingAndCancelNot) {
     EXPECT_TRUE(editor.isVisible());
     person.Type("Real", "abc");
     person.Click("Cancel");
-    EXPECT_FALSE(editor.isVisible());
-    EXPECT_EQ(editor.result(), QDialog::Rejected);
+    EXPECT_EQS((editor.isVisible(), false), (editor.result(), QDialog::Rejected));
 }
 
 TEST_F(Numbers, ValuesThatNoControlCanShowAreShownAsZero) {
     values.m_real = std::numeric_limits<double>::quiet_NaN();
     values.m_whole = std::numeric_limits<double>::infinity();
     Open();
-    EXPECT_EQ(person.TextOf("Real"), "0");
-    EXPECT_EQ(person.TextOf("Whole"), "0");
+    EXPECT_EQS((person.TextOf("Real"), "0"), (person.TextOf("Whole"), "0"));
     person.Click("On"); // the page can be read
-    EXPECT_EQ(editor.Told(), 1);
-    EXPECT_TRUE(std::isnan(values.m_real));
+    EXPECT_EQS((editor.Told(), 1), (std::isnan(values.m_real), true));
 }
 
 } // namespace

@@ -5,7 +5,6 @@
 #include "platform/widgets/simple_combo.h"
 
 #include <QDateEdit>
-#include <QRadioButton>
 
 namespace {
 
@@ -63,10 +62,8 @@ protected:
 
 private:
     bool Take(qsizetype row) {
-        if (m_next.isEmpty())
-            return false;
-        if (row == m_names.size())
-            m_names.append(m_next);
+        if (m_next.isEmpty()) return false;
+        if (row == m_names.size()) m_names.append(m_next);
         m_names[row] = m_next;
         return true;
     }
@@ -83,10 +80,8 @@ protected:
         Activate(dialog);
     }
     void Expect(const QStringList& rows, int selected, int told) {
-        EXPECT_EQ(person.Rows("Object"), rows);
-        EXPECT_EQ(dialog.m_names, rows);
-        EXPECT_EQ(person.List("Object").currentRow(), selected);
-        EXPECT_EQ(std::exchange(dialog.m_told, 0), told);
+        EXPECT_EQS((person.Rows("Object"), rows), (dialog.m_names, rows),
+                   (person.List("Object").currentRow(), selected), (std::exchange(dialog.m_told, 0), told));
     }
 
     CObjectsDialog dialog;
@@ -121,16 +116,14 @@ TEST_F(Objects, AreAddedModifiedCopiedAndMovedRoundTheEnds) {
         ExpectBox("Warning", "Select anyone.", [&] { person.Click(button); });
         Expect({"a", "e", "d", "c"}, 0, 0);
     }
-    for (int i = 0; i < 3; ++i)
-        person.Click("Delete");
+    for (int i = 0; i < 3; ++i) person.Click("Delete");
     person.Click("v"); // one row alone
     Expect({"c"}, 0, 3);
 }
 
 TEST_F(Objects, GiveOtherRowsTheirChoicesAndStates) {
     auto& rows = person.Find<QComboBox>("Row");
-    EXPECT_EQ(rows.currentText(), "b");
-    EXPECT_FALSE(rows.isEnabled());
+    EXPECT_EQS((rows.currentText(), "b"), (rows.isEnabled(), false));
     const auto state = [this](const char* button) {
         auto& radio = person.Find<QRadioButton>(button);
         return std::pair(radio.isEnabled(), radio.isChecked());
@@ -138,8 +131,7 @@ TEST_F(Objects, GiveOtherRowsTheirChoicesAndStates) {
     EXPECT_EQ(state("R"), std::pair(false, false)); // off, whatever is stored
     EXPECT_EQ(state("L"), std::pair(false, false));
     person.Click("Live");
-    EXPECT_TRUE(rows.isEnabled());
-    EXPECT_EQ(state("R"), std::pair(false, false));
+    EXPECT_EQS((rows.isEnabled(), true), (state("R"), std::pair(false, false)));
     person.Click("T");
     EXPECT_EQ(dialog.m_side, 3);
     person.Click("Live");
@@ -156,9 +148,8 @@ TEST_F(Objects, FollowTheCurrentOne) {
     EXPECT_EQ(person.TextOf("Size"), "7");
     person.Give("Size", "8");
     person.Choose("Which", 0);
-    EXPECT_EQ(person.Find<QLineEdit>("Name").text(), "one");
-    EXPECT_EQ(dialog.m_objects[0].m_size, 1);
-    EXPECT_EQ(dialog.m_objects[1].m_size, 7);
+    EXPECT_EQS((person.Find<QLineEdit>("Name").text(), "one"), (dialog.m_objects[0].m_size, 1),
+               (dialog.m_objects[1].m_size, 7));
 }
 
 TEST_F(Objects, ADayThatIsNoneChangesNothing) {
@@ -166,15 +157,13 @@ TEST_F(Objects, ADayThatIsNoneChangesNothing) {
     EXPECT_EQ(day.date(), QDate::currentDate());
     person.Type("Day", "0/");
     person.Leave();
-    EXPECT_FALSE(dialog.m_day.isValid());
-    EXPECT_EQ(dialog.m_told, 0);
+    EXPECT_EQS((dialog.m_day.isValid(), false), (dialog.m_told, 0));
     person.Type("Day", "2024/02/29");
     person.Leave();
     EXPECT_EQ(dialog.m_day, QDate(2024, 2, 29));
     person.Type("Day", "2024/02/30");
     person.Leave();
-    EXPECT_TRUE(dialog.m_day.isValid());
-    EXPECT_EQ(dialog.m_day.month(), 2);
+    EXPECT_EQS((dialog.m_day.isValid(), true), (dialog.m_day.month(), 2));
 }
 
 TEST_F(Objects, AreShownAnewWhenTheDialogIsOpenedAgain) {

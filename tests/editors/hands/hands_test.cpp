@@ -48,17 +48,15 @@ TEST(Hands, APressThatMeetsABadTextDoesNothingAndRunsNowhere) {
             RealHand::Press(*widget, at);
             QTest::qWait(700); // an arrow would repeat by now
             EXPECT_EQ(OpenBox(), nullptr);
-            if (auto* button = qobject_cast<QAbstractButton*>(widget))
-                EXPECT_FALSE(button->isDown());
+            if (auto* button = qobject_cast<QAbstractButton*>(widget)) EXPECT_FALSE(button->isDown());
             RealHand::Release();
             ASSERT_TRUE(QTest::qWaitFor([] { return OpenBox() != nullptr; }));
             EXPECT_EQ(OpenBox()->text(), "\"StartAngle\" must be a number.");
             RealHand::Key(QStringLiteral("Return"));
             EXPECT_TRUE(QTest::qWaitFor([] { return OpenBox() == nullptr; }));
             QTest::qWait(700);
-            EXPECT_EQ(editor.TextOf("Depth"), shown);
-            EXPECT_TRUE(angle.hasFocus());
-            EXPECT_EQ(angle.findChild<QLineEdit*>()->selectedText(), "0");
+            EXPECT_EQS((editor.TextOf("Depth"), shown), (angle.hasFocus(), true),
+                       (angle.findChild<QLineEdit*>()->selectedText(), "0"));
         }
     });
     EXPECT_EQ(Difference(before, pie), "");
@@ -82,8 +80,7 @@ TEST(Hands, ALetterKeepsWhatWasTyped) {
         EXPECT_TRUE(QTest::qWaitFor([&] { return editor.Rows("Sector").size() == 2; }));
     });
     EXPECT_STREQ(pie.m_sectors[0].m_text.data(), "typed");
-    EXPECT_EQ(pie.m_sectors[0].m_distance, 33);
-    EXPECT_EQ(pie.m_depth3D, 21);
+    EXPECT_EQS((pie.m_sectors[0].m_distance, 33), (pie.m_depth3D, 21));
 }
 
 } // namespace

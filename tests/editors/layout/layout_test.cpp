@@ -174,8 +174,7 @@ TEST(LayoutEditor, ReverseShowsUncheckedWhateverTheLayoutHolds) {
         EXPECT_TRUE(Edit(layout, [expected](const Person& person) {
             person.Tab("PlotArea");
             EXPECT_FALSE(person.Find<QCheckBox>("Reverse").isChecked());
-            for (int i = 0; i < 2 && !expected; ++i)
-                person.Click("Reverse");
+            for (int i = 0; i < 2 && !expected; ++i) person.Click("Reverse");
             person.Ok();
         }));
         EXPECT_EQ(layout.m_linearPlotArea.m_reverse, expected);

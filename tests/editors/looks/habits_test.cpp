@@ -10,8 +10,7 @@ using namespace driver;
 
 TEST(Habits, AltAndAnArrowMoveARowWhereThereIsAnOrder) {
     CXYChart chart;
-    for (const int type : {0, 1, 2})
-        chart.m_layers.AddLayer(CXYChartLayerMgr::CreateLayer(type));
+    for (const int type : {0, 1, 2}) chart.m_layers.AddLayer(CXYChartLayerMgr::CreateLayer(type));
     EXPECT_TRUE(Edit(chart, [](Person& person) {
         person.Tab("Layer");
         person.Select("Layer", 2);
@@ -36,13 +35,7 @@ TEST(Habits, AltAndAnArrowMoveARowWhereThereIsAnOrder) {
 }
 
 TEST(Habits, AControlTellsWhatItsValueMeans) {
-    struct Row {
-        const char* place;
-        const char* group;
-        const char* label;
-        const char* tip;
-    };
-    static constexpr Row kRows[] = {
+    static constexpr std::tuple<const char*, const char*, const char*, const char*> kRows[] = {
         {"General", "Major Grid", "Horz", "Pixels, 0 or more; 0 for no line"},
         {"Layer", "3D", "Z Gap", "Pixels from one layer to the next, 0 or more"},
         {"Axis>Primary|X Axis ...>Scale", "Auto Scale", "Zero Affinity",
@@ -51,29 +44,23 @@ TEST(Habits, AControlTellsWhatItsValueMeans) {
         {"Axis>Secondary Y Axis (Y2)|Y2 Axis ...>Scale", "SyncAxis", "X2",
          "The axis that this one follows, while its scale type is \"None\""},
     };
-    for (const Row& row : kRows) {
-        SCOPED_TRACE(row.label);
-        DialogOf("xy", SomeXYChart(), row.place).visit([&](Person& person) {
-            QWidget& control = person.At(QString::fromUtf8(row.group), QString::fromUtf8(row.label));
+    for (const auto& [place, group, label, tip] : kRows) {
+        SCOPED_TRACE(label);
+        DialogOf("xy", SomeXYChart(), place).visit([&, group = group, label = label, tip = tip](Person& person) {
+            QWidget& control = person.At(QString::fromUtf8(group), QString::fromUtf8(label));
             QToolTip::hideText();
             QHelpEvent rest(QEvent::ToolTip, {5, 5}, control.mapToGlobal(QPoint(5, 5)));
             QApplication::sendEvent(&control, &rest);
-            EXPECT_EQ(QToolTip::text().toStdString(), row.tip);
+            EXPECT_EQ(QToolTip::text().toStdString(), tip);
         });
     }
 }
 
 TEST(Habits, ListsShowTheColorsOfTheirItems) {
-    struct Row {
-        Dialog dialog;
-        const char* list;
-        const char* group;
-        const char* field;
-    };
     const CXYChart xy = SomeXYChart();
     CAngularMeter rings;
     rings.m_rings.push_back(CAngularRing());
-    const Row rows[] = {
+    const std::tuple<Dialog, const char*, const char*, const char*> rows[] = {
         {DialogOf("sectors", SomePie()), "Sector", "Sector", "Color"},
         {DialogOf("data sets", xy, "Layer>Layer[0]>Modify..."), "Color", "Color", "DataSet"},
         {DialogOf("Gantt groups", xy, "Layer>Layer[7]>Modify..."), "GanttGroups", "Gantt Layer", "Color"},
@@ -89,8 +76,7 @@ TEST(Habits, ListsShowTheColorsOfTheirItems) {
                 const QListWidget& items = person.List(list);
                 const QImage row = items.viewport()->grab(items.visualItemRect(items.item(0))).toImage();
                 for (int x = 0; x < row.width(); ++x)
-                    if (row.pixel(x, row.height() / 2) == color)
-                        return true;
+                    if (row.pixel(x, row.height() / 2) == color) return true;
                 return false;
             };
             EXPECT_FALSE(shows(0xFFA01EE6));

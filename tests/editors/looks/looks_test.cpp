@@ -17,8 +17,7 @@ protected:
     void SetUp() override {
         NeedApplication();
         m_usual = QApplication::palette();
-        if (GetParam().dark)
-            QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2b, 0x2b, 0x2b)));
+        if (GetParam().dark) QApplication::setPalette(QPalette(QColor(0x35, 0x35, 0x35), QColor(0x2b, 0x2b, 0x2b)));
     }
     void TearDown() override { QApplication::setPalette(m_usual); }
 
@@ -44,8 +43,7 @@ TEST_P(Looks, OfEveryDialogAreWhole) {
                         person,
                         [&](const QString& tab) {
                             SCOPED_TRACE(qPrintable(tab));
-                            if (dialog.own)
-                                audit::Everything(person.Window());
+                            if (dialog.own) audit::Everything(person.Window());
                             audit::NothingIsCutOff(person.Window());
                             audit::NoTextsOverlap(person.Window());
                             KeepPicture(person, QStringLiteral("%1-%2-%3%4")

@@ -6,8 +6,7 @@ using namespace driver;
 
 namespace {
 
-template <class Styled>
-void GiveLook(Styled& styled) {
+template <class Styled> void GiveLook(Styled& styled) {
     styled.m_fontColor.m_color = 0x993300;
     styled.m_backColor.m_color = 0x99CCFF;
     styled.m_edgeColor.m_color = 0x336699;
@@ -16,8 +15,7 @@ void GiveLook(Styled& styled) {
 }
 
 /// What both meters have, so that every property shows.
-template <class Meter>
-Meter StartMeter() {
+template <class Meter> Meter StartMeter() {
     Meter meter;
     CMeterPointer pointer;
     pointer.m_value = 40;

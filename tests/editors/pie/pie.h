@@ -17,8 +17,7 @@ inline CPieChartSector Sector(const char* text, std::uint32_t color = 0) {
 
 inline CPieChart PieOf(std::initializer_list<const char*> texts) {
     CPieChart pie;
-    for (const char* text : texts)
-        pie.m_sectors.push_back(Sector(text));
+    for (const char* text : texts) pie.m_sectors.push_back(Sector(text));
     return pie;
 }
 

@@ -10,8 +10,7 @@ namespace {
 /// A pie that shows every property.
 CPieChart StartPie() {
     CPieChart pie = pie_test::PieOf({"one", "two", "three"});
-    for (int i = 0; i < 3; ++i)
-        pie.m_sectors[i].m_color.m_color = 0x3366CCU << i;
+    for (int i = 0; i < 3; ++i) pie.m_sectors[i].m_color.m_color = 0x3366CCU << i;
     pie.m_labelLayout = 0;
     pie.m_labelPosition = 20;
     pie.m_show3D = true;
@@ -78,15 +77,13 @@ TEST(PieProperties, AWideAngleNeedsAShadow) {
         EXPECT_EQ(person.TextOf("Angle"), "90");
         person.Ok();
     }));
-    EXPECT_FALSE(pie.m_shadow3D);
-    EXPECT_EQ(pie.m_angle3D, 90);
+    EXPECT_EQS((pie.m_shadow3D, false), (pie.m_angle3D, 90));
 }
 
 TEST(PieProperties, AddedSectorsAreOpaqueAndOfTheirOwnColours) {
     CPieChart pie;
     EXPECT_TRUE(Edit(pie, [](Person& person) {
-        for (int i = 0; i < 3; ++i)
-            person.Click("Add");
+        for (int i = 0; i < 3; ++i) person.Click("Add");
         EXPECT_EQ(person.Rows("Sector"), QStringList({"Sector 1 (  )", "Sector 2 (  )", "Sector 3 (  )"}));
         person.Ok();
     }));
@@ -112,8 +109,7 @@ TEST(PieProperties, KeepsTheSizeThatItWasGivenAndThePreviewTheGrowth) {
         const QSize list = person.Find("Sector").size();
         person.Window().resize(natural + growth);
         QTest::qWait(1);
-        EXPECT_EQ(preview.size(), before + growth);
-        EXPECT_EQ(person.Find("Sector").width(), list.width());
+        EXPECT_EQS((preview.size(), before + growth), (person.Find("Sector").width(), list.width()));
     });
     open([&](Person& person, QWidget&) {
         EXPECT_EQ(person.Window().size(), natural + growth);

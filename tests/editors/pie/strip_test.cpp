@@ -9,7 +9,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 #include <array>
-#include <gtest/gtest.h>
 
 namespace {
 
@@ -33,8 +32,7 @@ std::string Tip(const Person& person, const char* button) {
 /// Keeps a picture of the editor and of what pops up over it, where CHART_PICTURES names a folder for it.
 void Keep(const Person& person, const char* name) {
     const QString folder = qEnvironmentVariable("CHART_PICTURES");
-    if (folder.isEmpty())
-        return;
+    if (folder.isEmpty()) return;
     QWidget& window = person.Window();
     const QWidget* popup = QApplication::activePopupWidget();
     const QPoint at = popup == nullptr ? QPoint() : popup->pos() - window.mapToGlobal(QPoint());
@@ -43,8 +41,7 @@ void Keep(const Person& person, const char* name) {
     picture.fill(Qt::white);
     QPainter painter(&picture);
     painter.drawPixmap(-all.topLeft(), window.grab());
-    if (popup != nullptr)
-        painter.drawPixmap(at - all.topLeft(), const_cast<QWidget*>(popup)->grab());
+    if (popup != nullptr) painter.drawPixmap(at - all.topLeft(), const_cast<QWidget*>(popup)->grab());
     EXPECT_TRUE(picture.save(folder + u'/' + QString::fromUtf8(name) + QStringLiteral(".png")));
 }
 
@@ -76,11 +73,9 @@ TEST(PieStrip, AnArrowThatIsHeldIsOneStep) {
         const std::string last = "Depth: " + held.toStdString() + " to " + person.TextOf("Depth").toStdString();
         EXPECT_EQ(Tip(person, "Undo"), "Undo " + last + " (Ctrl+Z)");
         UndoKey(person);
-        EXPECT_EQ(person.TextOf("Depth"), held);
-        EXPECT_EQ(Tip(person, "Redo"), "Redo " + last + " (Ctrl+Shift+Z)");
+        EXPECT_EQS((person.TextOf("Depth"), held), (Tip(person, "Redo"), "Redo " + last + " (Ctrl+Shift+Z)"));
         UndoKey(person);
-        EXPECT_EQ(person.TextOf("Depth"), "1");
-        EXPECT_FALSE(StripButton(person.Window(), "Undo").isEnabled());
+        EXPECT_EQS((person.TextOf("Depth"), "1"), (StripButton(person.Window(), "Undo").isEnabled(), false));
         QTest::keyClick(person.Window().focusWidget(), Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier);
         EXPECT_EQ(person.TextOf("Depth"), held);
     });
@@ -106,9 +101,8 @@ TEST(PieStrip, AStepShowsTheItemAndTheRow) {
         UndoKey(person);
         EXPECT_EQ(person.Rows("Sector").size(), 3);
         UndoKey(person);
-        EXPECT_EQ(person.List("Sector").currentRow(), 1);
-        EXPECT_EQ(person.Focus(), "Distance");
-        EXPECT_EQ(person.TextOf("Distance"), "0");
+        EXPECT_EQS((person.List("Sector").currentRow(), 1), (person.Focus(), "Distance"),
+                   (person.TextOf("Distance"), "0"));
         Keep(person, "editing-undo");
     });
 }
@@ -137,8 +131,7 @@ TEST(PieStrip, ARowTellsWhatItWasAndGoesBackToIt) {
         EXPECT_TRUE(layout.accessibleDescription().contains("changed, was CircleLayout"))
             << qPrintable(layout.accessibleDescription());
         choose(entries(layout), "Back to CircleLayout");
-        EXPECT_EQ(layout.currentIndex(), 1);
-        EXPECT_FALSE(layout.accessibleDescription().contains("changed"));
+        EXPECT_EQS((layout.currentIndex(), 1), (layout.accessibleDescription().contains("changed"), false));
         person.Give("Depth", "9");
         QMenu* menu = entries(person.Find("Depth"));
         Keep(person, "editing-menu");
@@ -179,8 +172,7 @@ TEST(PieStrip, ChangesAndRowsAreListed) {
         QWidget* list = QApplication::activePopupWidget();
         ASSERT_NE(list, nullptr);
         QStringList told;
-        for (const QLabel* label : list->findChildren<QLabel*>())
-            told += label->text();
+        for (const QLabel* label : list->findChildren<QLabel*>()) told += label->text();
         EXPECT_EQ(told.join(u'|').toStdString(),
                   "Label|Layout|CircleLayout  \u2192  SideLayout|3D|Depth|1  \u2192  12|Donut|Use DonutType|"
                   "off  \u2192  on|Sector \u203a Sector 2 ( Flour and butter )|Distance|0  \u2192  31");
@@ -189,8 +181,7 @@ TEST(PieStrip, ChangesAndRowsAreListed) {
         Keep(person, "editing-changes");
         list->findChildren<QPushButton*>(QStringLiteral("Show")).last()->click();
         QCoreApplication::processEvents();
-        EXPECT_EQ(person.Focus(), "Distance");
-        EXPECT_EQ(person.List("Sector").currentRow(), 1);
+        EXPECT_EQS((person.Focus(), "Distance"), (person.List("Sector").currentRow(), 1));
 
         QTest::keyClick(person.Window().focusWidget(), Qt::Key_F, Qt::ControlModifier);
         QWidget* search = QApplication::activePopupWidget();
@@ -218,8 +209,7 @@ TEST(PieStrip, TheLookGoesOverTheClipboardAlsoToAnotherKind) {
         preview.setFocus();
         QTest::keyClick(&preview, Qt::Key_V, Qt::ControlModifier);
         QString said;
-        for (const QLabel* label : person.Find("Undo").parentWidget()->findChildren<QLabel*>())
-            said += label->text();
+        for (const QLabel* label : person.Find("Undo").parentWidget()->findChildren<QLabel*>()) said += label->text();
         return said;
     };
     QString said;
@@ -228,8 +218,7 @@ TEST(PieStrip, TheLookGoesOverTheClipboardAlsoToAnotherKind) {
         said = paste(person);
         person.Ok();
     }));
-    EXPECT_EQ(said, "Took the look of a pie chart.");
-    EXPECT_EQ(driver::Difference(source, pie), "");
+    EXPECT_EQS((said, "Took the look of a pie chart."), (driver::Difference(source, pie), ""));
     CXYChart chart;
     EXPECT_TRUE(Edit(chart, [&](const Person& person) {
         said = paste(person);

@@ -92,8 +92,7 @@ const char* const kAlong = "Label (Radial)";
 
 /// Letters are of one colour: metal looks as its own.
 Properties PlainLetters(Properties rows) {
-    for (Property& row : rows)
-        row.seen = row.seen && row.label != "FontColor:";
+    for (Property& row : rows) row.seen = row.seen && row.label != "FontColor:";
     return rows;
 }
 
@@ -157,8 +156,7 @@ TEST(PolarEditor, WithoutLabelsKeepsTheirLooks) {
     EXPECT_TRUE(Edit(chart, [](Person& person) {
         person.Tab(kAround);
         EXPECT_EQ(person.Rows("Labels").value(0), "Label 1 ( one... )");
-        for (int i = 0; i < 3; ++i)
-            person.Click("Delete");
+        for (int i = 0; i < 3; ++i) person.Click("Delete");
         EXPECT_EQ(person.Find<QPlainTextEdit>("Text").toPlainText(), "");
         person.Ok();
     }));
@@ -183,13 +181,11 @@ TEST(PolarLayer, KeepsALayerOfEachKind) {
     const CPolarLayer& layer = edited(chart, 0, [](Person& person) {
         person.Give("LineWidth", "9");
         person.Choose("Type", 1); // shows a layer of its own
-        EXPECT_EQ(person.Find<QLineEdit>("Name").text(), "");
-        EXPECT_EQ(person.TextOf("LineWidth"), "2");
+        EXPECT_EQS((person.Find<QLineEdit>("Name").text(), ""), (person.TextOf("LineWidth"), "2"));
         person.Give("Name", "other");
         person.Choose("Type", 2); // a kind without these: grey, with their last values
-        EXPECT_FALSE(person.Find("LineWidth").isEnabled());
-        EXPECT_FALSE(person.Find("Close Loop").isEnabled());
-        EXPECT_EQ(person.TextOf("LineWidth"), "2");
+        EXPECT_EQS((person.Find("LineWidth").isEnabled(), false), (person.Find("Close Loop").isEnabled(), false),
+                   (person.TextOf("LineWidth"), "2"));
         person.Choose("Type", 0);
         EXPECT_TRUE(person.Find("Close Loop").isEnabled());
         EXPECT_EQ(person.Find<QLineEdit>("Name").text(), "mine");
@@ -203,13 +199,10 @@ TEST(PolarLayer, PresetsMakeItALineOfSymbols) {
         CPolarChart chart;
         const CPolarLayer& layer = edited(chart, 2, [&](Person& person) {
             person.Click(person.Button("Preset:", bubbles ? "Bubble" : "Scatter"));
-            EXPECT_EQ(person.Find<QComboBox>("Type").currentText(), "Line");
-            EXPECT_EQ(person.TextOf("LineWidth"), "0");
-            EXPECT_TRUE(person.Find("LineWidth").isEnabled());
+            EXPECT_EQS((person.Find<QComboBox>("Type").currentText(), "Line"), (person.TextOf("LineWidth"), "0"),
+                       (person.Find("LineWidth").isEnabled(), true));
         });
-        EXPECT_EQ(layer.GetType(), 0);
-        EXPECT_EQ(layer.m_lineWidth, 0);
-        EXPECT_EQ(layer.m_symbolType, bubbles ? 7 : 2);
-        EXPECT_EQ(layer.m_useSymbolScale, bubbles);
+        EXPECT_EQS((layer.GetType(), 0), (layer.m_lineWidth, 0), (layer.m_symbolType, bubbles ? 7 : 2),
+                   (layer.m_useSymbolScale, bubbles));
     }
 }

@@ -19,8 +19,7 @@ TEST(Refresh, DrawsOnceAtTheNextPaintAndForANewSize) {
         return recording.Count("CPieChart_create");
     };
     EXPECT_EQ(drawings(), 0) << "has its picture";
-    for (int i = 0; i < 5; ++i)
-        view.RefreshPreview();
+    for (int i = 0; i < 5; ++i) view.RefreshPreview();
     EXPECT_EQ(recording.Count("CPieChart_create"), 0) << "not before the paint";
     EXPECT_EQ(drawings(), 1);
     view.ResizePane({220, 160});
@@ -71,16 +70,13 @@ TEST(Samples, AnImageIsFittedAndAnUnreadableOneIsEmpty) {
     view.SetSampleImage(codedLayout({400, 300}).m_wallPaperImage);
     EXPECT_FALSE(view.m_fitMode);
     view.RefreshPreview();
-    EXPECT_EQ(shownRect(view.Pane()), QRect(7, 5, 187, 140));
-    EXPECT_TRUE(view.m_fitMode);
+    EXPECT_EQS((shownRect(view.Pane()), QRect(7, 5, 187, 140)), (view.m_fitMode, true));
     CChartString nowhere;
     nowhere = "no such.png";
     view.SetSampleImage(nowhere);
     view.RefreshPreview();
     view.Pane();
-    EXPECT_FALSE(view.m_fitMode);
-    EXPECT_EQ(view.Pane().pixel(100, 75), 0xffffffff);
-    EXPECT_EQ(view.ScrollRange(), QPoint(0, 0));
+    EXPECT_EQS((view.m_fitMode, false), (view.Pane().pixel(100, 75), 0xffffffff), (view.ScrollRange(), QPoint(0, 0)));
 }
 
 TEST(Views, WithNothingToDrawPaintNothing) {

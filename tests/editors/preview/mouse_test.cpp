@@ -36,23 +36,19 @@ QMenu* rightClick(TestView& view) {
 TEST(Mouse, DoubleClickSwitchesALargerPicture) {
     TestView view({200, 150}, {400, 300});
     doubleClick(view);
-    EXPECT_FALSE(view.m_fitMode);
-    EXPECT_TRUE(showsNaturalSize(view.Pane(), {0, 0}, {400, 300}));
+    EXPECT_EQS((view.m_fitMode, false), (showsNaturalSize(view.Pane(), {0, 0}, {400, 300}), true));
     doubleClick(view, Qt::RightButton);
-    if (QMenu* menu = openMenu())
-        menu->close();
+    if (QMenu* menu = openMenu()) menu->close();
     EXPECT_FALSE(view.m_fitMode);
     doubleClick(view);
-    EXPECT_TRUE(view.m_fitMode);
-    EXPECT_EQ(shownRect(view.Pane()), QRect(7, 5, 187, 140));
+    EXPECT_EQS((view.m_fitMode, true), (shownRect(view.Pane()), QRect(7, 5, 187, 140)));
 }
 
 TEST(Mouse, APictureNoLargerThanThePaneCannotBeSwitched) {
     for (const QSize picture : {QSize(100, 80), QSize(200, 150), QSize(200, 20)}) {
         TestView view({200, 150}, picture);
         doubleClick(view);
-        EXPECT_TRUE(view.m_fitMode);
-        EXPECT_EQ(rightClick(view), nullptr);
+        EXPECT_EQS((view.m_fitMode, true), (rightClick(view), nullptr));
     }
     TestView view({200, 150}, {20, 151}); // larger one way is enough
     doubleClick(view);
@@ -68,10 +64,8 @@ TEST(Mouse, RightButtonOpensTheMenuOfModes) {
         ASSERT_EQ(menu->actions().size(), 2);
         QAction* fitMode = menu->actions()[0];
         QAction* scrollMode = menu->actions()[1];
-        EXPECT_EQ(fitMode->text(), "&Fit Mode");
-        EXPECT_EQ(scrollMode->text(), "&Scroll Mode");
-        EXPECT_EQ(fitMode->isChecked(), fit);
-        EXPECT_EQ(scrollMode->isChecked(), !fit);
+        EXPECT_EQS((fitMode->text(), "&Fit Mode"), (scrollMode->text(), "&Scroll Mode"), (fitMode->isChecked(), fit),
+                   (scrollMode->isChecked(), !fit));
         QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(fit ? scrollMode : fitMode).center());
         EXPECT_EQ(view.m_fitMode, !fit);
         QCoreApplication::processEvents();

@@ -56,10 +56,8 @@ TEST(FitMode, PlacesThePictureInThePane) {
 }
 
 TEST(FitMode, ShowsNoPictureInAPaneTooSmallForTheMargin) {
-    EXPECT_TRUE(FitRect({10, 50}, {100, 100}).isEmpty());
-    EXPECT_TRUE(FitRect({8, 50}, {100, 100}).isEmpty());
-    EXPECT_TRUE(FitRect({0, 0}, {100, 100}).isEmpty());
-    EXPECT_TRUE(FitRect({100, 100}, {0, 0}).isEmpty());
+    EXPECT_EQS((FitRect({10, 50}, {100, 100}).isEmpty(), true), (FitRect({8, 50}, {100, 100}).isEmpty(), true),
+               (FitRect({0, 0}, {100, 100}).isEmpty(), true), (FitRect({100, 100}, {0, 0}).isEmpty(), true));
     TestView view({40, 9}, {100, 100});
     EXPECT_TRUE(shownRect(view.Pane()).isNull());
 }
@@ -71,30 +69,24 @@ TEST(FitMode, FollowsThePane) {
 }
 
 TEST(ScrollMode, ShowsThePictureAtNaturalSize) {
-    struct Case {
-        QSize picture;
-        bool barAcross;
-        bool barDown;
-    };
-    for (const Case& scroll : {Case{{100, 80}, false, false}, Case{{200, 150}, false, false},
-                               Case{{201, 80}, true, false}, Case{{120, 151}, false, true},
-                               Case{{201, 150}, true, true}, Case{{200, 151}, true, true}, // one bar takes room that
-                               Case{{700, 600}, true, true}}) {
-        TestView view({200, 150}, scroll.picture);
+    using Case = std::tuple<QSize, bool, bool>;
+    for (const auto& [picture, barAcross, barDown] :
+         {Case{{100, 80}, false, false}, Case{{200, 150}, false, false}, Case{{201, 80}, true, false},
+          Case{{120, 151}, false, true}, Case{{201, 150}, true, true},
+          Case{{200, 151}, true, true}, // one bar takes room that
+          Case{{700, 600}, true, true}}) {
+        TestView view({200, 150}, picture);
         view.OnCommand(scrollModeCommand);
         QImage pane = view.Pane();
-        EXPECT_EQ(pane.height() < 150, scroll.barAcross);
-        EXPECT_EQ(pane.width() < 200, scroll.barDown);
-        EXPECT_TRUE(showsNaturalSize(pane, {0, 0}, scroll.picture));
-        const QPoint range(std::max(0, scroll.picture.width() - pane.width()),
-                           std::max(0, scroll.picture.height() - pane.height()));
-        EXPECT_EQ(view.ScrollRange(), range);
-        EXPECT_EQ(view.horizontalScrollBar()->pageStep(), pane.width());
-        EXPECT_EQ(view.verticalScrollBar()->pageStep(), pane.height());
+        EXPECT_EQS((pane.height() < 150, barAcross), (pane.width() < 200, barDown),
+                   (showsNaturalSize(pane, {0, 0}, picture), true));
+        const QPoint range(std::max(0, picture.width() - pane.width()), std::max(0, picture.height() - pane.height()));
+        EXPECT_EQS((view.ScrollRange(), range), (view.horizontalScrollBar()->pageStep(), pane.width()),
+                   (view.verticalScrollBar()->pageStep(), pane.height()));
         view.horizontalScrollBar()->setValue(17);
         view.verticalScrollBar()->setValue(1000);
         const QPoint scrolled(std::min(17, range.x()), range.y());
-        EXPECT_TRUE(showsNaturalSize(view.Pane(), scrolled, scroll.picture));
+        EXPECT_TRUE(showsNaturalSize(view.Pane(), scrolled, picture));
     }
 }
 
@@ -105,12 +97,9 @@ TEST(ScrollMode, KeepsItsPromisesWhenResized) {
     view.Pane();
     view.horizontalScrollBar()->setValue(150);
     view.verticalScrollBar()->setValue(120);
-    struct Step {
-        QSize pane;
-        QPoint scroll; // by hand, with bars 0 or `bar` wide
-    };
     const int bar = 150 - view.viewport()->height();
-    const Step steps[] = {
+    const std::pair<QSize, QPoint> steps[] = {
+        // pane and scroll by hand, with bars 0 or `bar` wide
         {{100, 90}, {150, 120}},                                         // smaller: stays
         {{350, 90}, {400 - 350 + bar, 120}},                             // wider: no further than the edge
         {{350, 290}, {400 - 350 + bar, 300 - 290 + bar}},                // higher, too
@@ -120,11 +109,11 @@ TEST(ScrollMode, KeepsItsPromisesWhenResized) {
         {{500, 400}, {0, 0}},                                            // and surround
         {{200, 150}, {0, 0}},
     };
-    for (const Step& step : steps) {
-        view.ResizePane(step.pane);
+    for (const auto& [size, scroll] : steps) {
+        view.ResizePane(size);
         const QImage pane = view.Pane();
-        EXPECT_EQ(view.Scroll(), step.scroll) << step.pane.width() << 'x' << step.pane.height();
-        EXPECT_TRUE(showsNaturalSize(pane, step.scroll, picture));
+        EXPECT_EQ(view.Scroll(), scroll) << size.width() << 'x' << size.height();
+        EXPECT_TRUE(showsNaturalSize(pane, scroll, picture));
         EXPECT_EQ(view.ScrollRange(), QPoint(std::max(0, 400 - pane.width()), std::max(0, 300 - pane.height())));
     }
 }
@@ -153,8 +142,7 @@ TEST(ScrollMode, IsLeftWithTheBarsAtTheirStart) {
     view.Pane();
     view.horizontalScrollBar()->setValue(60);
     view.OnCommand(fitModeCommand);
-    EXPECT_EQ(shownRect(view.Pane()), QRect(7, 5, 187, 140));
-    EXPECT_EQ(view.ScrollRange(), QPoint(0, 0));
+    EXPECT_EQS((shownRect(view.Pane()), QRect(7, 5, 187, 140)), (view.ScrollRange(), QPoint(0, 0)));
     view.OnCommand(scrollModeCommand);
     EXPECT_TRUE(showsNaturalSize(view.Pane(), {0, 0}, {400, 300}));
 }
@@ -170,8 +158,7 @@ TEST(ScreenScale, DrawsInThePixelsOfTheScreen) {
         const QImage pane = view.Pane();
         const int row = pane.height() * 11 / 24; // within the picture in both modes
         int width = 0;
-        for (int x = 0; x < pane.width() / 2; ++x)
-            width += pane.pixel(x, row) == 0xff123456;
+        for (int x = 0; x < pane.width() / 2; ++x) width += pane.pixel(x, row) == 0xff123456;
         return width;
     };
     view.m_ownLayout = layout;

@@ -1,34 +1,17 @@
 #include "tests/editors/preview/test_view.h"
-#include <QApplication>
 #include <QScrollBar>
 #include <QTemporaryDir>
 
 namespace {
 
-/// The application object, made before any widget and ended after the last test.
-class Application : public testing::Environment {
-public:
-    void SetUp() override {
-        static int argc = 1;
-        static char name[] = "test_preview";
-        static char* argv[] = {name, nullptr};
-        m_application = std::make_unique<QApplication>(argc, argv);
-    }
-    void TearDown() override { m_application.reset(); }
-
-private:
-    std::unique_ptr<QApplication> m_application;
-};
-
-[[maybe_unused]] const auto* const environment = testing::AddGlobalTestEnvironment(new Application);
+[[maybe_unused]] const bool s_application = (NeedApplication(), true); // before any widget
 
 QString codedImage(QSize size) {
     static const QTemporaryDir folder;
     const QString path = folder.filePath(QString("%1x%2.png").arg(size.width()).arg(size.height()));
     QImage image(size, QImage::Format_RGB32);
     for (int y = 0; y < size.height(); ++y)
-        for (int x = 0; x < size.width(); ++x)
-            image.setPixel(x, y, codeAt(x, y));
+        for (int x = 0; x < size.width(); ++x) image.setPixel(x, y, codeAt(x, y));
     image.save(path);
     return path;
 }
@@ -71,8 +54,7 @@ QRect shownRect(const QImage& pane) {
     QRect shown;
     for (int y = 0; y < pane.height(); ++y)
         for (int x = 0; x < pane.width(); ++x)
-            if (pane.pixel(x, y) != kSurround)
-                shown |= QRect(x, y, 1, 1);
+            if (pane.pixel(x, y) != kSurround) shown |= QRect(x, y, 1, 1);
     return shown;
 }
 

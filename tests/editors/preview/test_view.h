@@ -2,8 +2,8 @@
 // A preview pane whose picture tells where each of its pixels comes from.
 
 #include "editors/preview/chart_preview_view.h"
+#include "tests/driver/windows.h"
 #include <QImage>
-#include <gtest/gtest.h>
 
 constexpr QRgb kSurround = 0xffeeeeee;
 
@@ -16,8 +16,7 @@ constexpr QRgb codeAt(int x, int y) {
 CChartLayout codedLayout(QSize picture);
 
 /// A view as a window of its own, with that room within its border.
-class TestView : public CChartPreviewView {
-public:
+struct TestView : CChartPreviewView {
     TestView(QSize pane, QSize picture);
 
     /// Gives the pane that room, without regard to scroll bars.

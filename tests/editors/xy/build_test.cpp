@@ -66,8 +66,7 @@ void GiveTitle(const Person& axis, const std::vector<const char*>& lines) {
     axis.Click("Show Title");
     axis.Find("Title").setFocus(Qt::MouseFocusReason);
     for (const char* line : lines) {
-        if (line != lines.front())
-            axis.Enter();
+        if (line != lines.front()) axis.Enter();
         QTest::keyClicks(axis.Window().focusWidget(), line);
     }
     axis.Leave();
@@ -142,8 +141,7 @@ TEST(XYEditor, BuildsACombinedChart) {
     // What the clock and chance have given is not the person's.
     CXYChart expected = Built();
     ASSERT_EQ(chart.m_layers.GetLayerCount(), 3);
-    for (int i = 0; i < 3; ++i)
-        expected.m_layers.GetLayer(i)->m_seed = chart.m_layers.GetLayer(i)->m_seed;
+    for (int i = 0; i < 3; ++i) expected.m_layers.GetLayer(i)->m_seed = chart.m_layers.GetLayer(i)->m_seed;
     const auto takeDates = [](CXYChartAxis& to, const CXYChartAxis& from) {
         to.m_dateLowerLimit = from.m_dateLowerLimit;
         to.m_dateUpperLimit = from.m_dateUpperLimit;

@@ -10,12 +10,9 @@ inline void GiveLook(CXYChartAxis& axis) {
     axis.m_title.m_text = "Revenue";
     axis.m_title.m_usePosition = true;
     axis.m_title.m_useAngle = true;
-    for (CChartColor* color : {&axis.m_labelFontColor, &axis.m_title.m_fontColor})
-        color->m_color = 0x993300;
-    for (CChartColor* color : {&axis.m_labelBackColor, &axis.m_title.m_backColor})
-        color->m_color = 0x99CCFF;
-    for (CChartColor* color : {&axis.m_labelEdgeColor, &axis.m_title.m_edgeColor})
-        color->m_color = 0x336699;
+    for (CChartColor* color : {&axis.m_labelFontColor, &axis.m_title.m_fontColor}) color->m_color = 0x993300;
+    for (CChartColor* color : {&axis.m_labelBackColor, &axis.m_title.m_backColor}) color->m_color = 0x99CCFF;
+    for (CChartColor* color : {&axis.m_labelEdgeColor, &axis.m_title.m_edgeColor}) color->m_color = 0x336699;
     for (CChartRaisedEffect* effect : {&axis.m_labelEffect, &axis.m_title.m_effect}) {
         effect->m_effectType = 1; // soft lighting
         effect->m_value = 5;

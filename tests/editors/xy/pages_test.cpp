@@ -164,8 +164,7 @@ struct KindOfLayer {
 /// The effect of bars, which stands in the group of their border.
 Properties BorderEffectRows() {
     Properties rows = EffectRows("Layer>Modify...", "layers[0].");
-    for (Property& row : rows)
-        row.group = "Border:";
+    for (Property& row : rows) row.group = "Border:";
     return rows;
 }
 
@@ -242,10 +241,8 @@ CXYChart ChartOfKind(int type) {
         bars->m_effect.m_effectType = 1; // soft lighting
         bars->m_effect.m_value = 5;
     }
-    if (auto* line = dynamic_cast<CXYLineLayer*>(layer))
-        line->m_symbolType = 2;
-    if (auto* gantt = dynamic_cast<CXYGanttLayer*>(layer))
-        gantt->m_groups.push_back(CBoxGroup());
+    if (auto* line = dynamic_cast<CXYLineLayer*>(layer)) line->m_symbolType = 2;
+    if (auto* gantt = dynamic_cast<CXYGanttLayer*>(layer)) gantt->m_groups.push_back(CBoxGroup());
     return chart;
 }
 
@@ -290,18 +287,15 @@ TEST(XYEditor, EachControlOfALayerReachesItsField) {
         CXYChart chart = ChartOfKind(type);
         TestProperties(chart, CChartLayout(), rows + RowsBeside(type));
         TestTableIsWhole(chart, CChartLayout(), rows + back + RowsBeside(type));
-        if (auto* bars = dynamic_cast<CXYBarLayer*>(chart.m_layers.GetLayer(0)))
-            bars->m_useOverlap = false;
-        if (auto* points = dynamic_cast<CXYScatterLayer*>(chart.m_layers.GetLayer(0)))
-            points->m_bubble = true;
+        if (auto* bars = dynamic_cast<CXYBarLayer*>(chart.m_layers.GetLayer(0))) bars->m_useOverlap = false;
+        if (auto* points = dynamic_cast<CXYScatterLayer*>(chart.m_layers.GetLayer(0))) points->m_bubble = true;
         TestProperties(chart, CChartLayout(), back);
     }
 }
 
 TEST(XYEditor, KeepsItsManners) {
     CXYChart chart = ChartOf(0);
-    for (int type = 1; type < 9; ++type)
-        AddLayer(chart, type, "of some name");
+    for (int type = 1; type < 9; ++type) AddLayer(chart, type, "of some name");
     chart.m_layers.GetLayer(3)->m_yAxisKind = 16;
     chart.m_layers.GetLayer(3)->m_yAxis = chart.m_axes.GetAxis(0);
     TestEditor("XYChart", {"General", "Background", "Axis", "Layer"}, chart, CChartLayout(), kChartRows);

@@ -3,8 +3,8 @@
 
 #include "engine/axis/axis_layout.h"
 #include "engine/chart/chart.h"
+#include "tests/expect.h"
 
-#include <gtest/gtest.h>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -41,23 +41,20 @@ inline AxisLayout layoutAt(const Axis& axis, int side, const AxisRequest& reques
 
 inline std::vector<std::string> textsOf(const AxisLayout& layout) {
     std::vector<std::string> texts;
-    for (const AxisLayout::Label& label : layout.labels)
-        texts.push_back(label.text);
+    for (const AxisLayout::Label& label : layout.labels) texts.push_back(label.text);
     return texts;
 }
 
 inline std::vector<int> majorPixels(const AxisLayout& layout) {
     std::vector<int> pixels;
     for (const AxisLayout::Tick& tick : layout.ticks)
-        if (tick.major)
-            pixels.push_back(tick.pixel);
+        if (tick.major) pixels.push_back(tick.pixel);
     return pixels;
 }
 
 inline AxisRequest ofData(const std::vector<double>& values) {
     AxisRequest request;
-    for (const double value : values)
-        request.data.add(value);
+    for (const double value : values) request.data.add(value);
     return request;
 }
 

@@ -20,31 +20,26 @@ protected:
 /// Pixels from the axis line to the box, outwards.
 double distance(const AxisLayout& layout, const QRectF& box) {
     switch (layout.place.side) {
-    case Left:
-        return layout.place.across - box.right();
-    case Right:
-        return box.left() - (layout.place.across + 1);
-    case TopCenter:
-        return layout.place.across - box.bottom();
-    default:
-        return box.top() - (layout.place.across + 1);
+    case Left: return layout.place.across - box.right();
+    case Right: return box.left() - (layout.place.across + 1);
+    case TopCenter: return layout.place.across - box.bottom();
+    default: return box.top() - (layout.place.across + 1);
     }
 }
 
 TEST_F(AxisLayoutTest, LabelsStandOutsideTheTicks) {
-    struct Row {
-        int width, major, expected; // pixels
-    };
+    // pixels
+    using Row = std::tuple<int, int, int>;
     const Row rows[] = {{1, 4, 7}, {1, -4, 3}, {1, 0, 3}, {3, 4, 9}, {0, 4, 7}};
     axis.setLimits(Type::Linear, 0, 100, {50, 0, 0});
     for (const int side : {Left, Right, TopCenter, BottomCenter}) {
-        for (const Row& row : rows) {
-            axis.setWidth(row.width);
-            axis.setTickLength(row.major, 0);
+        for (const auto& [width, major, expected] : rows) {
+            axis.setWidth(width);
+            axis.setTickLength(major, 0);
             const AxisLayout layout = layoutAt(axis, side);
             ASSERT_EQ(layout.labels.size(), 3u);
             for (const AxisLayout::Label& label : layout.labels)
-                EXPECT_DOUBLE_EQ(distance(layout, label.box()), row.expected) << side << ' ' << row.major;
+                EXPECT_DOUBLE_EQ(distance(layout, label.box()), expected) << side << ' ' << major;
             const QRectF middle = layout.labels[1].box();
             const double along = layout.place.upright() ? middle.center().y() : middle.center().x();
             EXPECT_NEAR(along, (layout.place.upright() ? 150 : 200) + 0.5, 0.5);
@@ -55,32 +50,27 @@ TEST_F(AxisLayoutTest, LabelsStandOutsideTheTicks) {
 TEST_F(AxisLayoutTest, SlantedLabelsEndAtTheirTicks) {
     axis.setLabelFormat("a label of some length {value}");
     axis.setLimits(Type::Linear, 0, 100, {50, 0, 0});
-    struct Row {
-        int side;
-        double angle;
-        bool ends; // the text ends at the tick, else it begins there
-    };
+    // the text ends at the tick, else it begins there
+    using Row = std::tuple<int, double, bool>;
     const Row rows[] = {{BottomCenter, 45, true}, {BottomCenter, -45, false}, {TopCenter, 45, false},
                         {TopCenter, -45, true},   {Left, 30, true},           {Right, 30, false}};
-    for (const Row& row : rows) {
-        axis.setLabelStyle("", 8, kTextColour, row.angle);
-        const AxisLayout layout = layoutAt(axis, row.side);
+    for (const auto& [side, angle, ends] : rows) {
+        axis.setLabelStyle("", 8, kTextColour, angle);
+        const AxisLayout layout = layoutAt(axis, side);
         ASSERT_GE(layout.labels.size(), 2u);
         const AxisLayout::Label& label = layout.labels[1];
         EXPECT_TRUE(label.pivot);
-        EXPECT_EQ(label.alignment, row.ends ? Right : Left) << row.side << ' ' << row.angle;
-        EXPECT_NEAR(distance(layout, label.box()), 7, 1) << row.side << ' ' << row.angle;
+        EXPECT_EQ(label.alignment, ends ? Right : Left) << side << ' ' << angle;
+        EXPECT_NEAR(distance(layout, label.box()), 7, 1) << side << ' ' << angle;
     }
 }
 
 /// The room that a label takes: its outline, a little smaller, so that touching sides are no overlap.
 QPolygonF outline(const AxisLayout::Label& label) {
-    if (!label.pivot)
-        return QPolygonF(label.box().adjusted(0.5, 0.5, -0.5, -0.5));
+    if (!label.pivot) return QPolygonF(label.box().adjusted(0.5, 0.5, -0.5, -0.5));
     const QPolygonF full = label.block.pivotOutlineAt(label.anchor, label.alignment);
     QPolygonF smaller;
-    for (const QPointF& corner : full)
-        smaller << corner + (full.boundingRect().center() - corner) * 0.05;
+    for (const QPointF& corner : full) smaller << corner + (full.boundingRect().center() - corner) * 0.05;
     return smaller;
 }
 
@@ -104,16 +94,14 @@ const Crowd kCrowds[] = {
     {"labels",
      [](Axis& a) {
          std::vector<double> values;
-         for (int i = 0; i < 500; ++i)
-             values.push_back(std::pow(-1.7, i % 40));
+         for (int i = 0; i < 500; ++i) values.push_back(std::pow(-1.7, i % 40));
          a.setLabels(values, "");
      },
      ofRows(500)},
     {"rules",
      [](Axis& a) {
          std::vector<double> days;
-         for (int i = 0; i < 700; ++i)
-             days.push_back(63e9 + i * 86400.0);
+         for (int i = 0; i < 700; ++i) days.push_back(63e9 + i * 86400.0);
          a.setLabels(days, "");
          a.setRules({{encodeFilter(5, 1, 0), "<*font=bold*>{value|mmmm yyyy}", 1, true},
                      {encodeFilter(4, 1, 0), "{value|mmm}", 1, false}});
@@ -168,31 +156,24 @@ TEST_F(AxisLayoutTest, MarksTakeTheRoomOfTickLabels) {
 TEST_F(AxisLayoutTest, TitlesStandBesideTheLabelsOrBeyondTheEnds) {
     axis.setLimits(Type::Linear, 0, 100, {50, 0, 0});
     axis.setTitle("Title", "", 8, kDefaultColour);
-    struct Row {
-        int side, alignment;
-        double x, y; // of the box's middle; -1 untold
-        bool tall;
-    };
+    // of the box's middle; -1 untold
+    using Row = std::tuple<int, int, double, double, bool>;
     const Row rows[] = {
         {Left, Center, -1, 150.5, true},          {Right, Center, -1, 150.5, true},
         {BottomCenter, Center, 200.5, -1, false}, {TopCenter, BottomCenter, 200.5, -1, false},
         {Left, TopCenter, 100.5, -1, false}, // above the line's end
         {BottomCenter, Right, -1, 200.5, false},
     };
-    for (const Row& row : rows) {
-        axis.setTitlePos(row.alignment, 6);
-        const AxisLayout layout = layoutAt(axis, row.side);
+    for (const auto& [side, alignment, x, y, tall] : rows) {
+        axis.setTitlePos(alignment, 6);
+        const AxisLayout layout = layoutAt(axis, side);
         ASSERT_TRUE(layout.title);
         const QRectF box = layout.title->box();
-        EXPECT_EQ(box.height() > box.width(), row.tall) << row.side << ' ' << row.alignment;
-        if (row.x >= 0)
-            EXPECT_NEAR(box.center().x(), row.x, 0.5) << row.side << ' ' << row.alignment;
-        if (row.y >= 0)
-            EXPECT_NEAR(box.center().y(), row.y, 0.5) << row.side << ' ' << row.alignment;
-        for (const AxisLayout::Label& label : layout.labels)
-            EXPECT_FALSE(box.intersects(label.box()));
-        if (row.alignment == Center)
-            EXPECT_NEAR(distance(layout, box), layout.reach + 6, 0.01);
+        EXPECT_EQ(box.height() > box.width(), tall) << side << ' ' << alignment;
+        if (x >= 0) EXPECT_NEAR(box.center().x(), x, 0.5) << side << ' ' << alignment;
+        if (y >= 0) EXPECT_NEAR(box.center().y(), y, 0.5) << side << ' ' << alignment;
+        for (const AxisLayout::Label& label : layout.labels) EXPECT_FALSE(box.intersects(label.box()));
+        if (alignment == Center) EXPECT_NEAR(distance(layout, box), layout.reach + 6, 0.01);
     }
     axis.setTitlePos(TopLeft, 6);
     EXPECT_NEAR(layoutAt(axis, Left).title->box().top(), 50, 0.5);
@@ -212,16 +193,12 @@ TEST_F(AxisLayoutTest, LinesGrowOutwardsAndTicksCoverTheirPixels) {
     }
     const auto at = [&](int x, int y) { return image.pixel(x, y) & 0xffffff; };
     for (const int y : {50, 150, 250}) {
-        EXPECT_EQ(at(100, y), 0xff0000u);
-        EXPECT_EQ(at(99, y), 0xff0000u);
+        EXPECT_EQS((at(100, y), 0xff0000u), (at(99, y), 0xff0000u));
         EXPECT_EQ(at(98, y), 0x0000ffu); // the tick's 4 pixels
-        EXPECT_EQ(at(95, y), 0x0000ffu);
-        EXPECT_EQ(at(94, y), 0xffffffu);
+        EXPECT_EQS((at(95, y), 0x0000ffu), (at(94, y), 0xffffffu));
     }
-    EXPECT_EQ(at(101, 150), 0xffffffu);
-    EXPECT_EQ(at(100, 49), 0xffffffu);
-    EXPECT_EQ(at(100, 251), 0xffffffu);
-    EXPECT_EQ(at(98, 100), 0xffffffu);
+    EXPECT_EQS((at(101, 150), 0xffffffu), (at(100, 49), 0xffffffu), (at(100, 251), 0xffffffu),
+               (at(98, 100), 0xffffffu));
 }
 
 } // namespace

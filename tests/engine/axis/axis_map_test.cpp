@@ -11,8 +11,7 @@ TEST(AxisMap, PutsValuesOnPixels) {
     EXPECT_EQ(up.wholePixel(0.4), 249); // 249.2
     EXPECT_EQ(up.wholePixel(0.2), 250); // 249.6
     EXPECT_DOUBLE_EQ(up.value(200), 25);
-    EXPECT_TRUE(std::isnan(up.pixel(kNoValue)));
-    EXPECT_TRUE(std::isnan(up.pixel(NAN)));
+    EXPECT_EQS((std::isnan(up.pixel(kNoValue)), true), (std::isnan(up.pixel(NAN)), true));
     EXPECT_LT(std::abs(up.pixel(1e300)), 1e9);
 
     const AxisMap decades(Scale::log(1, 1000), 0, 300); // a decade is 100 pixels
@@ -31,8 +30,7 @@ TEST(AxisMap, TiedAxisMeasuresTheSamePlaceInItsOwnUnits) {
     EXPECT_DOUBLE_EQ(fahrenheit.lower(), 32);
     EXPECT_DOUBLE_EQ(fahrenheit.upper(), 212);
     EXPECT_DOUBLE_EQ(fahrenheit.clamp(0), 32);
-    EXPECT_TRUE(fahrenheit.contains(212));
-    EXPECT_FALSE(fahrenheit.contains(213));
+    EXPECT_EQS((fahrenheit.contains(212), true), (fahrenheit.contains(213), false));
     const AxisMap falling = celsius.tied(-1, 0);
     EXPECT_DOUBLE_EQ(falling.lower(), -100);
     EXPECT_DOUBLE_EQ(falling.pixel(-100), 50);
@@ -40,11 +38,7 @@ TEST(AxisMap, TiedAxisMeasuresTheSamePlaceInItsOwnUnits) {
 }
 
 TEST(AxisPlace, TakesMarginsOffTheEnds) {
-    struct Row {
-        int side, top, bottom;
-        bool reverse;
-        int lower, upper;
-    };
+    using Row = std::tuple<int, int, int, bool, int, int>;
     // The lines run from 50 to 350, upright ones from 50 to 250.
     const Row rows[] = {
         {2, 0, 0, false, 50, 350},        {2, 30, 10, false, 60, 320}, // top is the right end
@@ -54,15 +48,15 @@ TEST(AxisPlace, TakesMarginsOffTheEnds) {
         {4, 199, 0, false, 250, 249},                                  // a pixel is left between the ends
         {4, 3000, 1000, false, 201, 199}, // too much shrinks in proportion: 149 and 49 of 199
     };
-    for (const Row& row : rows) {
+    for (const auto& [side, top, bottom, reverse, lower, upper] : rows) {
         ScaleSettings scale;
-        scale.marginTop = row.top;
-        scale.marginBottom = row.bottom;
-        scale.reverse = row.reverse;
-        AxisPlace place = placeAt(row.side);
+        scale.marginTop = top;
+        scale.marginBottom = bottom;
+        scale.reverse = reverse;
+        AxisPlace place = placeAt(side);
         place.setScaleEnds(scale);
-        EXPECT_EQ(place.lower, row.lower) << row.side << ' ' << row.top;
-        EXPECT_EQ(place.upper, row.upper) << row.side << ' ' << row.top;
+        EXPECT_EQ(place.lower, lower) << side << ' ' << top;
+        EXPECT_EQ(place.upper, upper) << side << ' ' << top;
     }
 }
 

@@ -27,8 +27,7 @@ TEST_F(AxisPlanTest, GivenLimitsAndIncrementsStandAsTheyAre) {
     EXPECT_EQ(majorPixels(layout), (Pixels{250, 200, 150, 100, 50}));
     Pixels minor;
     for (const AxisLayout::Tick& tick : layout.ticks)
-        if (!tick.major)
-            minor.push_back(tick.pixel);
+        if (!tick.major) minor.push_back(tick.pixel);
     EXPECT_EQ(minor, (Pixels{225, 175, 125, 75}));
 
     y.setReverse(true);
@@ -42,12 +41,8 @@ TEST_F(AxisPlanTest, GivenLimitsAndIncrementsStandAsTheyAre) {
 }
 
 TEST_F(AxisPlanTest, LimitsComeFromTheData) {
-    struct Row {
-        std::vector<double> data;
-        double affinity;
-        bool zero, symmetric;
-        double lower, upper; // of an axis of 200 pixels, where steps are 1, 2 or 5 times a power of ten
-    };
+    // of an axis of 200 pixels, where steps are 1, 2 or 5 times a power of ten
+    using Row = std::tuple<std::vector<double>, double, bool, bool, double, double>;
     const Row rows[] = {
         {{12, 44}, 0.8, false, false, 0, 50}, // 44 and a tenth of the axis: 50
         {{92, 98}, 0, false, false, 90, 100}, // in steps of 2, at least a tenth free at both ends
@@ -55,14 +50,14 @@ TEST_F(AxisPlanTest, LimitsComeFromTheData) {
         {{-4, 3}, 0.8, false, true, -6, 6},   // -5 would leave less than a tenth
         {{}, 0.8, false, false, 0, 1},        //
     };
-    for (const Row& row : rows) {
-        y.setAutoScale(0.1, 0.1, row.affinity);
-        AxisRequest request = ofData(row.data);
-        request.includeZero = row.zero;
-        request.symmetric = row.symmetric;
+    for (const auto& [data, affinity, zero, symmetric, lower, upper] : rows) {
+        y.setAutoScale(0.1, 0.1, affinity);
+        AxisRequest request = ofData(data);
+        request.includeZero = zero;
+        request.symmetric = symmetric;
         const AxisLayout layout = layoutAt(y, Left, request);
-        EXPECT_DOUBLE_EQ(layout.map.lower(), row.lower);
-        EXPECT_DOUBLE_EQ(layout.map.upper(), row.upper);
+        EXPECT_DOUBLE_EQ(layout.map.lower(), lower);
+        EXPECT_DOUBLE_EQ(layout.map.upper(), upper);
     }
 }
 
@@ -85,8 +80,7 @@ TEST_F(AxisPlanTest, LabelStepsCountShownRows) {
     x.setLabels({10, 11, 12, 13, 14, 15, 16, 17}, "#{value}");
     x.setLabelStep(3, 1, 1, 0);
     const AxisLayout layout = layoutAt(x, BottomCenter, ofRows(6, 2)); // 12 to 17
-    EXPECT_EQ(textsOf(layout), (Texts{"#13", "#16"}));
-    EXPECT_EQ(majorPixels(layout), (Pixels{110, 290}));
+    EXPECT_EQS((textsOf(layout), (Texts{"#13", "#16"})), (majorPixels(layout), (Pixels{110, 290})));
     EXPECT_EQ(layout.ticks.size(), 6u); // every row has a tick, four of them minor
     x.setLabelStep(0, -1, -4, 0);
     EXPECT_EQ(textsOf(layoutAt(x, BottomCenter, ofRows(6, 2))).size(), 6u);
@@ -97,8 +91,7 @@ TEST_F(AxisPlanTest, LabelStepsCountShownRows) {
 TEST_F(AxisPlanTest, RulesChooseDateLabels) {
     // The first of each month from October 2002 to March 2003 (15 October is the first row shown).
     std::vector<double> days;
-    for (int day = 0; day < 160; ++day)
-        days.push_back(chartTime(2002, 10, 15 + day));
+    for (int day = 0; day < 160; ++day) days.push_back(chartTime(2002, 10, 15 + day));
     x.setLabels(days, "");
     x.setRules(
         {{encodeFilter(5, 1, 0.05), "{value|mmm yy}", 1, true}, {encodeFilter(4, 1, 0.05), "{value|mmm}", 1, false}});
@@ -135,15 +128,11 @@ TEST_F(AxisPlanTest, TicksStandWiderApartBeforeLabelsAreLeftOut) {
 
 TEST_F(AxisPlanTest, RowTextsTellDatesFromNumbers) {
     const std::vector<double> numbers{1.5, 2, kNoValue};
-    EXPECT_EQ(RowTexts(numbers).text(0), "1.5");
-    EXPECT_EQ(RowTexts(numbers).text(2), "");
-    EXPECT_EQ(RowTexts(numbers).text(9), "");
+    EXPECT_EQS((RowTexts(numbers).text(0), "1.5"), (RowTexts(numbers).text(2), ""), (RowTexts(numbers).text(9), ""));
     const std::vector<double> days{chartTime(2004, 2, 28), chartTime(2004, 2, 29)};
     EXPECT_EQ(RowTexts(days).text(1), "2004-02-29");
     const std::vector<double> mixed{chartTime(2004, 2, 28), 7};
-    EXPECT_EQ(RowTexts(mixed).text(1), "7");
-    EXPECT_EQ(RowTexts({}).text(3), "3");
-    EXPECT_EQ(RowTexts({}).value(3), 3);
+    EXPECT_EQS((RowTexts(mixed).text(1), "7"), (RowTexts({}).text(3), "3"), (RowTexts({}).value(3), 3));
 }
 
 TEST_F(AxisPlanTest, AFormatOfLabelsDressesWhatTheRowsAreCalled) {

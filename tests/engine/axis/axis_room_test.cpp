@@ -72,15 +72,13 @@ TEST_F(AxisRoomTest, MarksSpreadAroundTheirValues) {
     expectInside(layout.marks);
     const int at = layout.map.wholePixel(20.5);
     EXPECT_NEAR(layout.marks[1].box().center().y(), at, 2); // the middle of three stays
-    for (int i = 0; i < 60; ++i)
-        y.addMark(10, kLineColour, "many", {});
+    for (int i = 0; i < 60; ++i) y.addMark(10, kLineColour, "many", {});
     expectInside(layoutAt(y, Right).marks);
 }
 
 TEST_F(AxisRoomTest, ALongTitleIsBrokenBesideTheAxis) {
     std::string words;
-    for (int i = 0; i < 40; ++i)
-        words += "word ";
+    for (int i = 0; i < 40; ++i) words += "word ";
     x.setTitle(words, {}, 8, kDefaultColour);
     y.setTitle(words, {}, 8, kDefaultColour);
     const AxisLayout below = layoutAt(x, BottomCenter, ofRows(3)), beside = layoutAt(y, Right);

@@ -12,6 +12,8 @@
 
 namespace {
 
+using namespace pictures;
+
 PieChart* pie(int width, int height) {
     PieChart* made = CPieChart_create(width, height, 0x336699, CHART_TRANSPARENT, 0);
     const double values[] = {1, 2};
@@ -29,8 +31,7 @@ struct Bytes {
     }
     unsigned number(int at, int size) const {
         unsigned value = 0;
-        for (int i = size - 1; i >= 0; --i)
-            value = value << 8 | static_cast<unsigned char>(data[at + i]);
+        for (int i = size - 1; i >= 0; --i) value = value << 8 | static_cast<unsigned char>(data[at + i]);
         return value;
     }
 };
@@ -42,25 +43,18 @@ TEST(Bitmap, IsA24BitFileWithRowsOfWholeWords) {
         ASSERT_TRUE(file.made);
         const unsigned row = width == 9 ? 28 : width == 10 ? 32 : 36;
         ASSERT_EQ(file.length, static_cast<int>(54 + 5 * row));
-        EXPECT_EQ(std::string(file.data, 2), "BM");
-        EXPECT_EQ(file.number(2, 4), static_cast<unsigned>(file.length));
+        EXPECT_EQS((std::string(file.data, 2), "BM"), (file.number(2, 4), static_cast<unsigned>(file.length)));
         EXPECT_EQ(file.number(10, 4), 54u) << "where the pixels begin";
-        EXPECT_EQ(file.number(14, 4), 40u);
-        EXPECT_EQ(file.number(18, 4), static_cast<unsigned>(width));
+        EXPECT_EQS((file.number(14, 4), 40u), (file.number(18, 4), static_cast<unsigned>(width)));
         EXPECT_EQ(file.number(22, 4), 5u) << "bottom up";
-        EXPECT_EQ(file.number(26, 2), 1u);
-        EXPECT_EQ(file.number(28, 2), 24u);
-        EXPECT_EQ(file.number(30, 4), 0u);
-        EXPECT_EQ(file.number(54, 3), 0x336699u) << "the lower left pixel, blue first";
+        EXPECT_EQS((file.number(26, 2), 1u), (file.number(28, 2), 24u), (file.number(30, 4), 0u));
+        EXPECT_EQ(file.number(54, 3), 0x336699) << "the lower left pixel, blue first";
         CBaseChart_destroy(chart);
     }
 }
 
 TEST(Bitmap, IsNotMadeOfWhatHasNoPicture) {
-    const struct {
-        int width, height;
-        bool made;
-    } rows[] = {
+    const std::tuple<int, int, bool> rows[] = {
         {0, 10, false},
         {10, 0, false},
         {-5, -5, false},
@@ -72,25 +66,22 @@ TEST(Bitmap, IsNotMadeOfWhatHasNoPicture) {
         {std::numeric_limits<int>::max(), std::numeric_limits<int>::max(), false},
         {std::numeric_limits<int>::min(), 1, false},
     };
-    for (const auto& row : rows) {
-        BaseChart* chart = PieChart2BaseChart(pie(row.width, row.height));
+    for (const auto& [width, height, made] : rows) {
+        BaseChart* chart = PieChart2BaseChart(pie(width, height));
         const Bytes file(chart);
-        EXPECT_EQ(file.made, row.made) << row.width << " x " << row.height;
-        EXPECT_EQ(file.data != nullptr, row.made);
-        EXPECT_EQ(file.length > 54, row.made);
+        EXPECT_EQ(file.made, made) << width << " x " << height;
+        EXPECT_EQS((file.data != nullptr, made), (file.length > 54, made));
         // A good size heals it.
         CBaseChart_setSize(chart, 20, 20);
         EXPECT_TRUE(Bytes(chart).made);
         const Bytes other(chart, 1);
         EXPECT_FALSE(other.made) << "only one format is known";
-        EXPECT_EQ(other.data, nullptr);
-        EXPECT_EQ(other.length, 0);
+        EXPECT_EQS((other.data, nullptr), (other.length, 0));
         CBaseChart_destroy(chart);
     }
     const Bytes none(nullptr);
-    EXPECT_EQ(none.data, nullptr);
-    EXPECT_EQ(none.length, 0);
-    EXPECT_FALSE(CBaseChart_makeChart2(nullptr, CHART_FORMAT_BMP, nullptr, nullptr));
+    EXPECT_EQS((none.data, nullptr), (none.length, 0),
+               (CBaseChart_makeChart2(nullptr, CHART_FORMAT_BMP, nullptr, nullptr), false));
 }
 
 /// A white chart of 40 by 30 with a box, a line and a text.
@@ -104,7 +95,7 @@ BaseChart* sketch() {
 
 TEST(Bitmap, IsDrawnAtAScaleWithCrispLines) {
     BaseChart* natural = sketch();
-    const QRect box = pictures::boundsOf(pictures::of(natural), 0x0000ffu);
+    const QRect box = boundsOf(of(natural), 0x0000ff);
     for (const double scale : {0.75, 1.0, 1.5, 2.0}) {
         BaseChart* chart = sketch();
         const Bytes file(chart, CHART_FORMAT_BMP + 256 * static_cast<int>(scale * int{CHART_SCALE_UNIT}));
@@ -112,9 +103,9 @@ TEST(Bitmap, IsDrawnAtAScaleWithCrispLines) {
         const QImage image = QImage::fromData(reinterpret_cast<const uchar*>(file.data), file.length, "BMP");
         EXPECT_EQ(image.size(), QSize(qRound(40 * scale), qRound(30 * scale)));
         const auto at = [scale](int place) { return static_cast<int>(std::floor(place * scale + 0.5)); };
-        const QRect line = pictures::boundsOf(image, 0x008000u);
+        const QRect line = boundsOf(image, 0x008000);
         EXPECT_EQ(line, QRect(at(3), at(5), at(37) - at(3), std::max(1, qRound(scale)))) << scale;
-        const QRect drawn = pictures::boundsOf(image, 0x0000ffu);
+        const QRect drawn = boundsOf(image, 0x0000ff);
         EXPECT_EQ(drawn.topLeft(), QPoint(at(box.left()), at(box.top()))) << scale;
         EXPECT_EQ(drawn.bottomRight(), QPoint(at(box.right() + 1) - 1, at(box.bottom() + 1) - 1)) << scale;
         EXPECT_EQ(CDrawArea_getWidth(CBaseChart_getDrawArea(chart)), 40);

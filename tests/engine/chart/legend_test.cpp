@@ -8,9 +8,10 @@
 
 namespace {
 
-constexpr unsigned kWhite = 0xffffff;
+using namespace pictures;
+
 constexpr int kEdge = 0x123456;
-const unsigned kKeys[] = {0xff0000, 0x00ff00, 0x0000ff, 0xff00ff};
+const int kKeys[] = {0xff0000, 0x00ff00, 0x0000ff, 0xff00ff};
 
 /// A chart of 300 x 200 without a pie, and a legend with an edge at (20, 10).
 struct Chart {
@@ -24,10 +25,9 @@ struct Chart {
         CBox_setBackground(TextBox2Box(LegendBox2TextBox(legend)), CHART_TRANSPARENT, kEdge, 0);
     }
     void addKeys(int count, const char* text, int lineWidth = 0) {
-        for (int i = 0; i < count; ++i)
-            CLegendBox_addKey(legend, text, static_cast<int>(kKeys[i]), lineWidth, nullptr);
+        for (int i = 0; i < count; ++i) CLegendBox_addKey(legend, text, static_cast<int>(kKeys[i]), lineWidth, nullptr);
     }
-    QImage picture() { return pictures::of(chart, false); }
+    QImage picture() { return of(chart, false); }
     ~Chart() { CBaseChart_destroy(chart); }
 };
 
@@ -35,11 +35,11 @@ TEST(Legend, FlowsInARow) {
     Chart chart(false);
     chart.addKeys(3, "Key");
     const QImage image = chart.picture();
-    const QRect box = pictures::boundsOf(image, kEdge);
+    const QRect box = boundsOf(image, kEdge);
     EXPECT_EQ(box.topLeft(), QPoint(20, 10));
     QRect before;
     for (int i = 0; i < 3; ++i) {
-        const QRect key = pictures::boundsOf(image, kKeys[i]);
+        const QRect key = boundsOf(image, kKeys[i]);
         EXPECT_TRUE(box.contains(key)) << i;
         EXPECT_EQ(key.width(), key.height()) << "a square";
         EXPECT_GE(key.width(), 6);
@@ -56,10 +56,10 @@ TEST(Legend, StandsInAColumn) {
     chart.addKeys(4, "Key");
     const QImage image = chart.picture();
     for (int i = 1; i < 4; ++i) {
-        EXPECT_EQ(pictures::boundsOf(image, kKeys[i]).left(), pictures::boundsOf(image, kKeys[0]).left());
-        EXPECT_GT(pictures::boundsOf(image, kKeys[i]).top(), pictures::boundsOf(image, kKeys[i - 1]).bottom());
+        EXPECT_EQ(boundsOf(image, kKeys[i]).left(), boundsOf(image, kKeys[0]).left());
+        EXPECT_GT(boundsOf(image, kKeys[i]).top(), boundsOf(image, kKeys[i - 1]).bottom());
     }
-    const QRect box = pictures::boundsOf(image, kEdge);
+    const QRect box = boundsOf(image, kEdge);
     EXPECT_EQ(box.height(), CBox_getHeight(TextBox2Box(LegendBox2TextBox(chart.legend))));
     EXPECT_LT(box.width(), 80);
 }
@@ -68,25 +68,25 @@ TEST(Legend, WrapsInsideTheChartAndTheBox) {
     Chart chart(false);
     chart.addKeys(4, "A longish text in a key"); // each over 100 pixels: two a row in the 280 that there are
     QImage image = chart.picture();
-    EXPECT_LE(pictures::boundsOf(image, kEdge).right(), 299);
-    EXPECT_EQ(pictures::boundsOf(image, kKeys[1]).top(), pictures::boundsOf(image, kKeys[0]).top());
-    EXPECT_GT(pictures::boundsOf(image, kKeys[2]).top(), pictures::boundsOf(image, kKeys[0]).bottom());
-    EXPECT_EQ(pictures::boundsOf(image, kKeys[2]).left(), pictures::boundsOf(image, kKeys[0]).left());
-    const int rows = pictures::boundsOf(image, kEdge).height();
+    EXPECT_LE(boundsOf(image, kEdge).right(), 299);
+    EXPECT_EQ(boundsOf(image, kKeys[1]).top(), boundsOf(image, kKeys[0]).top());
+    EXPECT_GT(boundsOf(image, kKeys[2]).top(), boundsOf(image, kKeys[0]).bottom());
+    EXPECT_EQ(boundsOf(image, kKeys[2]).left(), boundsOf(image, kKeys[0]).left());
+    const int rows = boundsOf(image, kEdge).height();
 
     CBox_setSize(TextBox2Box(LegendBox2TextBox(chart.legend)), 150, 0); // room for one a row
     image = chart.picture();
-    EXPECT_EQ(pictures::boundsOf(image, kEdge).width(), 150);
-    EXPECT_GT(pictures::boundsOf(image, kEdge).height(), rows);
-    EXPECT_GT(pictures::boundsOf(image, kKeys[1]).top(), pictures::boundsOf(image, kKeys[0]).bottom());
+    EXPECT_EQ(boundsOf(image, kEdge).width(), 150);
+    EXPECT_GT(boundsOf(image, kEdge).height(), rows);
+    EXPECT_GT(boundsOf(image, kKeys[1]).top(), boundsOf(image, kKeys[0]).bottom());
 }
 
 TEST(Legend, DrawsLineKeysAsLinesAndNothingWithoutKeys) {
     Chart chart(false);
-    EXPECT_EQ(pictures::inked(chart.picture(), kWhite), 0) << "no box around nothing";
+    EXPECT_EQ(inked(chart.picture(), kWhite), 0) << "no box around nothing";
     EXPECT_EQ(CBox_getHeight(TextBox2Box(LegendBox2TextBox(chart.legend))), 0);
     chart.addKeys(1, "Line", 2);
-    const QRect line = pictures::boundsOf(chart.picture(), kKeys[0]);
+    const QRect line = boundsOf(chart.picture(), kKeys[0]);
     EXPECT_EQ(line.height(), 2);
     EXPECT_GT(line.width(), 12);
 }
@@ -96,13 +96,13 @@ TEST(Legend, GivesKeysWithoutAColourTheNextOfTheSeries) {
     chart.addKeys(1, "first");
     CLegendBox_addKey(chart.legend, "second", -1, 0, nullptr);
     const QImage image = chart.picture();
-    const QRect first = pictures::boundsOf(image, kKeys[0]);
+    const QRect first = boundsOf(image, kKeys[0]);
     // What entry 9 of the palette, the second series colour, looks like in a box of its own.
     TextBox* sample = CBaseChart_addText(chart.chart, 200, 150, "", nullptr, 8, 0, CHART_TOP_LEFT, 0, false);
     CBox_setSize(TextBox2Box(sample), 10, 10);
     CBox_setBackground(TextBox2Box(sample), CHART_DATA_COLOR + 1, CHART_TRANSPARENT, 0);
-    const unsigned expected = pictures::at(chart.picture(), 205, 155);
-    EXPECT_EQ(pictures::boundsOf(image, expected).size(), first.size());
+    const int expected = at(chart.picture(), 205, 155);
+    EXPECT_EQ(boundsOf(image, expected).size(), first.size());
 }
 
 TEST(Legend, TakesThePieceOfAPieAsItsFields) {

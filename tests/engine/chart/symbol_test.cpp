@@ -17,13 +17,11 @@ QImage drawn(const DataSymbol& symbol, bool straight) {
             image.setPixelColor(x, y, QColor::fromRgba(static_cast<QRgb>(random())));
     const ColourTable colours;
     Canvas canvas(image, colours, true, QTransform::fromTranslate(3, -2));
-    if (!straight)
-        canvas.painter().setClipRect(QRect(-10, -10, 100, 100)); // the canvas does not know of it
+    if (!straight) canvas.painter().setClipRect(QRect(-10, -10, 100, 100)); // the canvas does not know of it
     EXPECT_EQ(canvas.pixels().image != nullptr, straight);
     SymbolPainter symbols(canvas, symbol.resolved(0));
     std::uniform_real_distribution<double> along(-10, 90);
-    for (int i = 0; i < 200; ++i)
-        symbols.draw({along(random), along(random)});
+    for (int i = 0; i < 200; ++i) symbols.draw({along(random), along(random)});
     canvas.painter().end();
     return image;
 }

@@ -6,8 +6,7 @@
 
 namespace {
 
-constexpr unsigned kWhite = 0xffffff;
-constexpr int kRed = 0xff0000, kGreen = 0x00ff00;
+using namespace pictures;
 
 BaseChart* chart(int width = 300, int height = 200) {
     return PieChart2BaseChart(CPieChart_create(width, height, kWhite, CHART_TRANSPARENT, 0));
@@ -21,10 +20,8 @@ TextBox* block(BaseChart* chart, int alignment, int colour, int width, int heigh
 }
 
 TEST(Titles, StackInwardsAtTheNinePlaces) {
-    const struct {
-        int alignment;
-        QRect first, second; // of 40 x 20 and 30 x 10 in 300 x 200, worked by hand
-    } rows[] = {
+    // of 40 x 20 and 30 x 10 in 300 x 200, worked by hand
+    const std::tuple<int, QRect, QRect> rows[] = {
         {CHART_TOP_LEFT, {0, 0, 40, 20}, {0, 20, 30, 10}},
         {CHART_TOP, {130, 0, 40, 20}, {135, 20, 30, 10}},
         {CHART_TOP_RIGHT, {260, 0, 40, 20}, {270, 20, 30, 10}},
@@ -36,13 +33,13 @@ TEST(Titles, StackInwardsAtTheNinePlaces) {
         {CHART_BOTTOM_RIGHT, {260, 180, 40, 20}, {270, 170, 30, 10}},
         {99, {130, 0, 40, 20}, {135, 20, 30, 10}}, // no alignment code: at the top
     };
-    for (const auto& row : rows) {
+    for (const auto& [alignment, first, second] : rows) {
         BaseChart* base = chart();
-        block(base, row.alignment, kRed, 40, 20);
-        block(base, row.alignment, kGreen, 30, 10);
-        const QImage image = pictures::of(base);
-        EXPECT_EQ(pictures::boundsOf(image, kRed), row.first) << row.alignment;
-        EXPECT_EQ(pictures::boundsOf(image, kGreen), row.second) << row.alignment;
+        block(base, alignment, kRed, 40, 20);
+        block(base, alignment, kGreen, 30, 10);
+        const QImage image = of(base);
+        EXPECT_EQ(boundsOf(image, kRed), first) << alignment;
+        EXPECT_EQ(boundsOf(image, kGreen), second) << alignment;
     }
 }
 
@@ -51,15 +48,13 @@ TEST(Lines, LieOnWholePixels) {
     CBaseChart_addLine(base, 10, 20, 60, 20, kRed, 1);
     CBaseChart_addLine(base, 100, 30, 100, 90, kGreen, 3);
     CBaseChart_addLine(base, 10, 150, 90, 190, 0x0000ff, 0);
-    const QImage image = pictures::of(base);
-    const QRect level = pictures::boundsOf(image, kRed);
-    EXPECT_EQ(level.height(), 1);
-    EXPECT_EQ(level.top(), 20);
+    const QImage image = of(base);
+    const QRect level = boundsOf(image, kRed);
+    EXPECT_EQS((level.height(), 1), (level.top(), 20));
     EXPECT_NEAR(level.width(), 51, 1);
-    const QRect upright = pictures::boundsOf(image, kGreen);
-    EXPECT_EQ(upright.width(), 3);
-    EXPECT_EQ(upright.center().x(), 100);
-    EXPECT_EQ(pictures::inked(image, kWhite), level.width() + 3 * upright.height()) << "width 0 draws nothing";
+    const QRect upright = boundsOf(image, kGreen);
+    EXPECT_EQS((upright.width(), 3), (upright.center().x(), 100));
+    EXPECT_EQ(inked(image, kWhite), level.width() + 3 * upright.height()) << "width 0 draws nothing";
 }
 
 } // namespace

@@ -39,8 +39,7 @@ void check(const std::vector<Case>& cases) {
         SCOPED_TRACE(c.name);
         const Series result = run(c.values, c.operation);
         ASSERT_EQ(result.size(), c.expected.size());
-        for (std::size_t i = 0; i < result.size(); ++i)
-            EXPECT_DOUBLE_EQ(result[i], c.expected[i]) << "row " << i;
+        for (std::size_t i = 0; i < result.size(); ++i) EXPECT_DOUBLE_EQ(result[i], c.expected[i]) << "row " << i;
     }
 }
 
@@ -98,11 +97,9 @@ TEST(ArrayMath, MovingOperationsMeetTheirDefinition) {
                 continue;
             }
             long double sum = 0, squares = 0;
-            for (const double value : window)
-                sum += value;
+            for (const double value : window) sum += value;
             const long double mean = sum / interval;
-            for (const double value : window)
-                squares += (value - mean) * (value - mean);
+            for (const double value : window) squares += (value - mean) * (value - mean);
             const double slack = level > 0 ? 1e-6 : 1e-12;
             ASSERT_NEAR(avg[at], static_cast<double>(mean), slack);
             ASSERT_NEAR(deviation[at], static_cast<double>(std::sqrt(squares / interval)), slack);

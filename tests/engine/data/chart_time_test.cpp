@@ -1,7 +1,7 @@
 #include "engine/data/chart_time.h"
+#include "tests/expect.h"
 
 #include <climits>
-#include <gtest/gtest.h>
 #include <limits>
 #include <vector>
 
@@ -38,12 +38,10 @@ TEST(ChartTime, KnownDates) {
     for (const KnownDate& date : dates) {
         SCOPED_TRACE(date.year * 10000 + date.month * 100 + date.day);
         const double time = chartTime(date.year, date.month, date.day);
-        if (date.time >= 0)
-            EXPECT_EQ(time, date.time);
-        EXPECT_EQ(toCivil(time), (CivilTime{date.year, date.month, date.day, 0, 0, 0, date.weekday}));
-        EXPECT_EQ(weekdayOf(time), date.weekday);
-        EXPECT_EQ(weekdayOf(time + 86399.0), date.weekday);
-        EXPECT_EQ(getChartYMD(time), date.year * 10000 + date.month * 100 + date.day);
+        if (date.time >= 0) EXPECT_EQ(time, date.time);
+        EXPECT_EQS((toCivil(time), (CivilTime{date.year, date.month, date.day, 0, 0, 0, date.weekday})),
+                   (weekdayOf(time), date.weekday), (weekdayOf(time + 86399.0), date.weekday),
+                   (getChartYMD(time), date.year * 10000 + date.month * 100 + date.day));
     }
 }
 
@@ -101,30 +99,22 @@ TEST(ChartTime, PartsOutOfRangeRollOn) {
 }
 
 TEST(ChartTime, OutsideIsLimited) {
-    EXPECT_EQ(chartTime(0, 12, 31), 0);
-    EXPECT_EQ(chartTime(-5000, 1, 1), 0);
-    EXPECT_EQ(chartTime(10000, 1, 1), 315537897599.0);
+    EXPECT_EQS((chartTime(0, 12, 31), 0), (chartTime(-5000, 1, 1), 0), (chartTime(10000, 1, 1), 315537897599.0));
     for (const int extreme : {INT_MIN, INT_MAX}) {
         const double limit = extreme < 0 ? 0 : 315537897599.0;
-        EXPECT_EQ(chartTime(extreme, extreme, extreme, extreme, extreme, extreme), limit);
-        EXPECT_EQ(chartTime(extreme, 1, 1), limit);
-        EXPECT_EQ(chartTime(2000, extreme, 1), limit);
-        EXPECT_EQ(chartTime(2000, 1, extreme), limit);
+        EXPECT_EQS((chartTime(extreme, extreme, extreme, extreme, extreme, extreme), limit),
+                   (chartTime(extreme, 1, 1), limit), (chartTime(2000, extreme, 1), limit),
+                   (chartTime(2000, 1, extreme), limit));
     }
-    for (const double early : {-1.0, -1e300, -kInfinity, kNaN})
-        EXPECT_EQ(getChartYMD(early), 10101) << early;
+    for (const double early : {-1.0, -1e300, -kInfinity, kNaN}) EXPECT_EQ(getChartYMD(early), 10101) << early;
     for (const double late : {315537897599.9999, 315537897600.0, 1e300, kInfinity})
         EXPECT_EQ(toCivil(late), (CivilTime{9999, 12, 31, 23, 59, 59, 4})) << late;
-    EXPECT_EQ(weekdayOf(-1.0), 6);
-    EXPECT_EQ(weekdayOf(-7 * 86400.0), 0);
-    EXPECT_EQ(weekdayOf(kNaN), 0);
+    EXPECT_EQS((weekdayOf(-1.0), 6), (weekdayOf(-7 * 86400.0), 0), (weekdayOf(kNaN), 0));
 }
 
 TEST(ChartTime, RoundingErrorsDoNotShow) {
     const double noon = chartTime(2024, 5, 6, 12, 0, 0);
-    EXPECT_EQ(toCivil(noon - 1e-5).hour, 12);
-    EXPECT_EQ(toCivil(noon - 0.01).hour, 11);
-    EXPECT_EQ(toCivil(noon + 0.99).second, 0);
+    EXPECT_EQS((toCivil(noon - 1e-5).hour, 12), (toCivil(noon - 0.01).hour, 11), (toCivil(noon + 0.99).second, 0));
 }
 
 } // namespace chartdraw

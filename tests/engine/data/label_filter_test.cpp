@@ -1,6 +1,5 @@
 #include "engine/data/label_filter.h"
-
-#include <gtest/gtest.h>
+#include "tests/expect.h"
 
 namespace chartdraw {
 
@@ -17,10 +16,10 @@ TEST(LabelFilter, KeepsWhatItIsGiven) {
 }
 
 TEST(LabelFilter, BareRowNumbersAreTheTypeOfTheirRow) {
-    EXPECT_EQ(decodeFilter(0), (LabelFilter{FilterType::StartOfHour, 1, 0}));
-    EXPECT_EQ(decodeFilter(3), (LabelFilter{FilterType::StartOfMonth, 1, 0}));
-    EXPECT_EQ(decodeFilter(6), (LabelFilter{FilterType::AllPass, 1, 0}));
-    EXPECT_EQ(decodeFilter(7), (LabelFilter{FilterType::NonePass, 1, 0}));
+    EXPECT_EQS((decodeFilter(0), (LabelFilter{FilterType::StartOfHour, 1, 0})),
+               (decodeFilter(3), (LabelFilter{FilterType::StartOfMonth, 1, 0})),
+               (decodeFilter(6), (LabelFilter{FilterType::AllPass, 1, 0})),
+               (decodeFilter(7), (LabelFilter{FilterType::NonePass, 1, 0})));
 }
 
 } // namespace chartdraw

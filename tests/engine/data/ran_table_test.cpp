@@ -98,8 +98,7 @@ TEST(RanTable, PriceRowsAreConsistentAndBounded) {
                 const double slack = 1e-9 * std::max(1.0, std::fabs(open[i]));
                 ASSERT_TRUE(step <= walk.rise + slack || close[i] == walk.low);
                 ASSERT_TRUE(step >= walk.fall - slack || close[i] == walk.high);
-                if (i > 0)
-                    ASSERT_EQ(open[i], close[i - 1]);
+                if (i > 0) ASSERT_EQ(open[i], close[i - 1]);
             }
         }
     }

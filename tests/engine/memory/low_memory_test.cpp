@@ -4,6 +4,8 @@
 // which the toolkit makes for it; that the toolkit comes through want of memory by itself is not ours to
 // prove.
 
+#include "tests/expect.h"
+
 #include <cstdlib> // tells of the library
 
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
@@ -12,7 +14,6 @@
 
 #include <cstdlib>
 #include <cstring>
-#include <gtest/gtest.h>
 #include <link.h>
 #include <new>
 #include <utility>
@@ -33,8 +34,7 @@ constexpr std::size_t kPictureBytes = 64 * 1024;
 bool fails() { return s_armed && --s_left == 0; }
 
 int findLibrary(dl_phdr_info* info, std::size_t, void*) {
-    if (std::strstr(info->dlpi_name, "libchartdraw") == nullptr)
-        return 0;
+    if (std::strstr(info->dlpi_name, "libchartdraw") == nullptr) return 0;
     for (int i = 0; i < info->dlpi_phnum; ++i) {
         const auto& part = info->dlpi_phdr[i];
         if (part.p_type == PT_LOAD && (part.p_flags & PF_X) != 0)
@@ -47,10 +47,8 @@ int findLibrary(dl_phdr_info* info, std::size_t, void*) {
 
 [[gnu::noinline]] void* operator new(std::size_t bytes) {
     const auto caller = reinterpret_cast<std::uintptr_t>(__builtin_return_address(0));
-    if (s_armed && caller >= s_library.from && caller < s_library.to && fails())
-        throw std::bad_alloc();
-    if (void* made = __libc_malloc(bytes))
-        return made;
+    if (s_armed && caller >= s_library.from && caller < s_library.to && fails()) throw std::bad_alloc();
+    if (void* made = __libc_malloc(bytes)) return made;
     throw std::bad_alloc();
 }
 [[gnu::noinline]] void operator delete(void* memory) noexcept { std::free(memory); }
@@ -91,8 +89,7 @@ bool drawEverything() {
     const char* bytes = nullptr;
     int length = 1;
     const bool made = CBaseChart_makeChart2(MultiChart2BaseChart(multi), CHART_FORMAT_BMP, &bytes, &length);
-    EXPECT_EQ(made, bytes != nullptr && length > 54);
-    EXPECT_TRUE(made || (bytes == nullptr && length == 0));
+    EXPECT_EQS((made, bytes != nullptr && length > 54), (made || (bytes == nullptr && length == 0), true));
     CBaseChart_destroy(XYChart2BaseChart(xy));
     CBaseChart_destroy(MultiChart2BaseChart(multi));
     CBaseChart_destroy(PieChart2BaseChart(pie));

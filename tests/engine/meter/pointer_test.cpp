@@ -15,8 +15,7 @@ constexpr PointerShape kShapes[] = {PointerShape::Diamond, PointerShape::Triangu
 /// How broad the outline is at a height, measured in steps of a tenth.
 double breadthAt(const QPainterPath& path, double y) {
     int inside = 0;
-    for (int i = -300; i <= 300; ++i)
-        inside += path.contains(QPointF(i / 10.0 + 0.01, y)) ? 1 : 0;
+    for (int i = -300; i <= 300; ++i) inside += path.contains(QPointF(i / 10.0 + 0.01, y)) ? 1 : 0;
     return inside / 10.0;
 }
 
@@ -33,11 +32,8 @@ TEST(PointerOutline, ReachesFromTipToTailAndIsSymmetric) {
 }
 
 TEST(PointerOutline, HasTheShapeThatItsNameSays) {
-    const struct {
-        const char* what;
-        PointerShape shape;
-        double y, least, most; // breadth of a pointer of length 100, tail 10, width 20
-    } rows[] = {
+    // breadth of a pointer of length 100, tail 10, width 20
+    const std::tuple<const char*, PointerShape, double, double, double> rows[] = {
         {"diamond widest at the middle", PointerShape::Diamond, 0, 19, 20},
         {"diamond half as wide halfway", PointerShape::Diamond, -50, 9, 11},
         {"triangle widest at its end", PointerShape::Triangular, 9.9, 19, 20},
@@ -50,10 +46,10 @@ TEST(PointerOutline, HasTheShapeThatItsNameSays) {
         {"pencil's body", PointerShape::Pencil, -10, 8, 10},
         {"pencil near its tip", PointerShape::Pencil, -97, 0, 2},
     };
-    for (const auto& row : rows) {
-        const double breadth = breadthAt(pointerOutline(row.shape, 100, 10, 20), row.y);
-        EXPECT_GE(breadth, row.least) << row.what;
-        EXPECT_LE(breadth, row.most) << row.what;
+    for (const auto& [what, shape, y, least, most] : rows) {
+        const double breadth = breadthAt(pointerOutline(shape, 100, 10, 20), y);
+        EXPECT_GE(breadth, least) << what;
+        EXPECT_LE(breadth, most) << what;
     }
     // The barbs of the second arrow reach back behind the notch in which its shaft ends.
     const QPainterPath barbed = pointerOutline(PointerShape::Arrow2, 100, 10, 20);

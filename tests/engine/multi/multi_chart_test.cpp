@@ -8,8 +8,7 @@
 
 namespace {
 
-constexpr unsigned kWhite = 0xffffff;
-constexpr int kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff;
+using namespace pictures;
 
 /// A chart that is nothing but its background.
 BaseChart* plain(int width, int height, int background) {
@@ -26,7 +25,7 @@ struct Multi {
     Multi(const Multi&) = delete;
     Multi& operator=(const Multi&) = delete;
 
-    QImage picture() { return pictures::of(chart, false); }
+    QImage picture() { return of(chart, false); }
 };
 
 TEST(MultiChart, ShowsChartsAtTheirPlacesInTheOrderAdded) {
@@ -37,14 +36,13 @@ TEST(MultiChart, ShowsChartsAtTheirPlacesInTheOrderAdded) {
         CMultiChart_addChart(m.multi, 10, 20, red);
         CMultiChart_addChart(m.multi, 30, 40, blue);
         QImage image = m.picture();
-        EXPECT_EQ(pictures::boundsOf(image, kRed), QRect(10, 20, 40, 30));
-        EXPECT_EQ(pictures::boundsOf(image, kBlue), QRect(30, 40, 40, 30));
-        EXPECT_EQ(pictures::at(image, 40, 45), static_cast<unsigned>(kBlue)) << "the later one covers";
+        EXPECT_EQ(boundsOf(image, kRed), QRect(10, 20, 40, 30));
+        EXPECT_EQ(boundsOf(image, kBlue), QRect(30, 40, 40, 30));
+        EXPECT_EQ(at(image, 40, 45), kBlue) << "the later one covers";
 
         CMultiChart_addChart(m.multi, 50, 60, red); // again: it moves, and is the last one now
         image = m.picture();
-        EXPECT_EQ(pictures::boundsOf(image, kRed), QRect(50, 60, 40, 30));
-        EXPECT_EQ(pictures::at(image, 15, 25), kWhite);
+        EXPECT_EQS((boundsOf(image, kRed), QRect(50, 60, 40, 30)), (at(image, 15, 25), kWhite));
     }
     CBaseChart_destroy(red);
     CBaseChart_destroy(blue);
@@ -53,10 +51,7 @@ TEST(MultiChart, ShowsChartsAtTheirPlacesInTheOrderAdded) {
 TEST(MultiChart, CutsChartsOffAtItsSides) {
     BaseChart* red = plain(80, 80, kRed);
     Multi m;
-    const struct {
-        QPoint at;
-        QRect seen;
-    } rows[] = {
+    const std::tuple<QPoint, QRect> rows[] = {
         {{-30, -50}, {0, 0, 50, 30}},
         {{60, 70}, {60, 70, 40, 30}},
         {{-79, 99}, {0, 99, 1, 1}},
@@ -64,9 +59,9 @@ TEST(MultiChart, CutsChartsOffAtItsSides) {
         {{-80, 0}, {}},
         {{INT_MAX, INT_MIN}, {}},
     };
-    for (const auto& row : rows) {
-        CMultiChart_addChart(m.multi, row.at.x(), row.at.y(), red);
-        EXPECT_EQ(pictures::boundsOf(m.picture(), kRed), row.seen) << row.at.x() << ", " << row.at.y();
+    for (const auto& [at, seen] : rows) {
+        CMultiChart_addChart(m.multi, at.x(), at.y(), red);
+        EXPECT_EQ(boundsOf(m.picture(), kRed), seen) << at.x() << ", " << at.y();
     }
     CBaseChart_destroy(red);
 }
@@ -75,17 +70,17 @@ TEST(MultiChart, FollowsChangesOfItsChartsAndItsSize) {
     BaseChart* chart = plain(40, 30, kRed);
     Multi m(100, 1);
     CMultiChart_addChart(m.multi, 0, 50, chart);
-    EXPECT_EQ(pictures::inked(m.picture(), kWhite), 0);
+    EXPECT_EQ(inked(m.picture(), kWhite), 0);
     CBaseChart_setSize(m.chart, 100, 100);
-    EXPECT_EQ(pictures::boundsOf(m.picture(), kRed), QRect(0, 50, 40, 30));
+    EXPECT_EQ(boundsOf(m.picture(), kRed), QRect(0, 50, 40, 30));
     CBaseChart_setSize(chart, 20, 20);
-    EXPECT_EQ(pictures::boundsOf(m.picture(), kRed), QRect(0, 50, 20, 20));
+    EXPECT_EQ(boundsOf(m.picture(), kRed), QRect(0, 50, 20, 20));
     CBaseChart_setBackground(chart, kGreen, -1, 0);
-    EXPECT_EQ(pictures::boundsOf(m.picture(), kGreen), QRect(0, 50, 20, 20));
+    EXPECT_EQ(boundsOf(m.picture(), kGreen), QRect(0, 50, 20, 20));
     CBaseChart_setSize(chart, 0, -3);
-    EXPECT_EQ(pictures::inked(m.picture(), kWhite), 0);
+    EXPECT_EQ(inked(m.picture(), kWhite), 0);
     CBaseChart_setSize(chart, INT_MAX, 1 << 20);
-    EXPECT_EQ(pictures::inked(m.picture(), kWhite), 0) << "too large for a picture of its own";
+    EXPECT_EQ(inked(m.picture(), kWhite), 0) << "too large for a picture of its own";
     CBaseChart_destroy(chart);
 }
 
@@ -97,14 +92,13 @@ TEST(MultiChart, DropsAChartThatEndsAndOutlivedOnesStay) {
         CMultiChart_addChart(m.multi, 0, 0, red);
         CMultiChart_addChart(m.multi, 50, 50, blue);
         CMultiChart_setMainChart(m.multi, red);
-        EXPECT_EQ(pictures::boundsOf(m.picture(), kRed), QRect(0, 0, 40, 30));
+        EXPECT_EQ(boundsOf(m.picture(), kRed), QRect(0, 0, 40, 30));
         CBaseChart_destroy(red);
         const QImage image = m.picture();
-        EXPECT_TRUE(pictures::boundsOf(image, kRed).isEmpty());
-        EXPECT_EQ(pictures::boundsOf(image, kBlue), QRect(50, 50, 40, 30));
+        EXPECT_EQS((boundsOf(image, kRed).isEmpty(), true), (boundsOf(image, kBlue), QRect(50, 50, 40, 30)));
     }
     CBaseChart_setBackground(blue, kGreen, -1, 0); // its multi-chart is gone
-    EXPECT_EQ(pictures::boundsOf(pictures::of(blue), kGreen), QRect(0, 0, 40, 30));
+    EXPECT_EQ(boundsOf(of(blue), kGreen), QRect(0, 0, 40, 30));
 }
 
 TEST(MultiChart, RefusesCirclesOfCharts) {
@@ -117,7 +111,7 @@ TEST(MultiChart, RefusesCirclesOfCharts) {
     CMultiChart_addChart(inner.multi, 0, 0, outer.chart);
     CMultiChart_addChart(middle.multi, 0, 0, outer.chart);
     CMultiChart_addChart(outer.multi, 0, 0, nullptr);
-    EXPECT_EQ(pictures::boundsOf(outer.picture(), kRed), QRect(60, 0, 10, 10)) << "charts within charts";
+    EXPECT_EQ(boundsOf(outer.picture(), kRed), QRect(60, 0, 10, 10)) << "charts within charts";
     CBaseChart_destroy(red);
 }
 
@@ -135,13 +129,12 @@ TEST(MultiChart, DrawsEachChartWithItsOwnColoursAndSmoothness) {
     Multi m;
     CMultiChart_addChart(m.multi, 40, 40, chart);
     const QImage image = m.picture();
-    EXPECT_EQ(pictures::at(image, 40, 80), static_cast<unsigned>(kRed)) << "patterns begin at the chart's corner";
-    EXPECT_EQ(pictures::at(image, 41, 80), static_cast<unsigned>(kBlue));
+    shows(image, {{40, 80, kRed, "patterns begin at the chart's corner"}, {41, 80, kBlue}});
     const QImage pointer = image.copy(40, 40, 50, 25);
     for (int y = 0; y < pointer.height(); ++y) {
         for (int x = 0; x < pointer.width(); ++x) {
-            const unsigned colour = pictures::at(pointer, x, y);
-            ASSERT_TRUE(colour == kWhite || colour == static_cast<unsigned>(kGreen)) << x << ", " << y;
+            const int colour = at(pointer, x, y);
+            ASSERT_TRUE(colour == kWhite || colour == kGreen) << x << ", " << y;
         }
     }
     CBaseChart_destroy(chart);
@@ -166,8 +159,7 @@ TEST(MultiChart, ListsTheKeysOfTheMainChartInItsLegend) {
     const auto shown = [&] {
         const QImage image = m.picture();
         for (int i = 0; i < 3; ++i)
-            if (!pictures::boundsOf(image, static_cast<unsigned>(colours[i])).isEmpty())
-                return i;
+            if (!boundsOf(image, colours[i]).isEmpty()) return i;
         return -1;
     };
     EXPECT_EQ(shown(), 0) << "the first one if none is named";

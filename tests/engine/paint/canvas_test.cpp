@@ -1,7 +1,6 @@
 #include "tests/engine/paint/pixels.h"
 
 #include <cmath>
-#include <gtest/gtest.h>
 #include <limits>
 #include <vector>
 
@@ -87,19 +86,15 @@ TEST(Path, FarOutlinesAreCutAndKeepWhatShows) {
     wedge.lineTo(1e7, 1e7);
     wedge.closeSubpath();
     const QImage image = drawn(16, 16, [&](Canvas& on) { on.fillPath(wedge, kInkColour); });
-    EXPECT_EQ(image.pixel(12, 3), kInk);
-    EXPECT_EQ(image.pixel(3, 12), kWhite);
+    EXPECT_EQS((image.pixel(12, 3), kInk), (image.pixel(3, 12), kWhite));
     const QImage outline = drawn(16, 16, [&](Canvas& on) { on.strokePath(wedge, kInkColour, 3); });
-    EXPECT_EQ(outline.pixel(8, 8), kInk);
-    EXPECT_EQ(outline.pixel(12, 3), kWhite);
+    EXPECT_EQS((outline.pixel(8, 8), kInk), (outline.pixel(12, 3), kWhite));
 }
 
 TEST(Polyline, StepsAreCrisp) {
     const std::vector<QPointF> steps = {{2, 2}, {10, 2}, {10, 9}, {20, 9}};
     const QImage thin = drawn(32, 16, [&](Canvas& on) { on.polyline(steps, kInkColour, 1); });
-    EXPECT_EQ(inked(thin), QRect(2, 2, 19, 8));
-    EXPECT_EQ(thin.pixel(5, 2), kInk);
-    EXPECT_EQ(thin.pixel(10, 5), kInk);
+    EXPECT_EQS((inked(thin), QRect(2, 2, 19, 8)), (thin.pixel(5, 2), kInk), (thin.pixel(10, 5), kInk));
     const QImage wide = drawn(32, 16, [&](Canvas& on) { on.polyline(steps, kInkColour, 2); });
     for (const QPoint inside : {QPoint(5, 2), QPoint(5, 3), QPoint(10, 6), QPoint(11, 6), QPoint(15, 10)})
         EXPECT_EQ(wide.pixel(inside), kInk);
@@ -111,8 +106,7 @@ TEST(Polyline, GapsBreakAndALonePointIsADot) {
     const std::vector<QPointF> points = {{2, 5}, {8, 5}, {kNan, kNan}, {16, 5}, {20, kNan}, {24, 5}, {30, 5}};
     const QImage image = drawn(32, 10, [&](Canvas& on) { on.polyline(points, kInkColour, 1); });
     std::string row;
-    for (int x = 0; x < 32; ++x)
-        row += image.pixel(x, 5) == kWhite ? '.' : '#';
+    for (int x = 0; x < 32; ++x) row += image.pixel(x, 5) == kWhite ? '.' : '#';
     EXPECT_EQ(row, "..#######.......#.......#######.");
     const QImage dot = drawn(32, 10, [&](Canvas& on) {
         on.polyline(std::vector<QPointF>{{9, 5}, {9, 5}}, kInkColour, 5);
@@ -131,8 +125,7 @@ TEST(Polyline, PointsOnAStraightLineLeaveNoMark) {
     const QPointF ends[] = {{20, 12}, {80, 87}};
     for (const double width : {2.0, 3.0, 5.0, 30.0}) {
         std::vector<QPointF> many;
-        for (int i = 0; i <= 40; ++i)
-            many.push_back(ends[0] + (ends[1] - ends[0]) * i / 40);
+        for (int i = 0; i <= 40; ++i) many.push_back(ends[0] + (ends[1] - ends[0]) * i / 40);
         const QImage dotted = drawn(
             100, 100, [&](Canvas& on) { on.polyline(many, 0, width); });
         const QImage plain = drawn(100, 100, [&](Canvas& on) { on.polyline(ends, 0, width); });
@@ -168,8 +161,7 @@ TEST(Polyline, ShowsNoJointsWhenItShowsThrough) {
         const QImage image = drawn(300, 100, [&](Canvas& on) { on.polyline(wave(400, 300, 100), 0x80000000, width); });
         int darkest = 255;
         for (int y = 0; y < 100; ++y)
-            for (int x = 0; x < 300; ++x)
-                darkest = std::min(darkest, qRed(image.pixel(x, y)));
+            for (int x = 0; x < 300; ++x) darkest = std::min(darkest, qRed(image.pixel(x, y)));
         EXPECT_NEAR(darkest, 128, 1) << width; // half of white, nowhere covered twice
     }
 }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <gtest/gtest.h>
 #include <set>
 #include <thread>
 
@@ -26,22 +25,19 @@ constexpr Matrix kXyz = {{{0.4124, 0.3576, 0.1805}, {0.2126, 0.7152, 0.0722}, {0
 
 Triple times(const Matrix& matrix, const Triple& v) {
     Triple result{};
-    for (std::size_t i = 0; i < 3; ++i)
-        result[i] = matrix[i][0] * v[0] + matrix[i][1] * v[1] + matrix[i][2] * v[2];
+    for (std::size_t i = 0; i < 3; ++i) result[i] = matrix[i][0] * v[0] + matrix[i][1] * v[1] + matrix[i][2] * v[2];
     return result;
 }
 
 Triple linear(const QColor& colour) {
     Triple result = {colour.red() / 255.0, colour.green() / 255.0, colour.blue() / 255.0};
-    for (double& c : result)
-        c = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
+    for (double& c : result) c = c <= 0.04045 ? c / 12.92 : std::pow((c + 0.055) / 1.055, 2.4);
     return result;
 }
 
 Triple lab(const QColor& colour, const Matrix& vision) {
     Triple seen = times(vision, linear(colour));
-    for (double& c : seen)
-        c = std::clamp(c, 0.0, 1.0);
+    for (double& c : seen) c = std::clamp(c, 0.0, 1.0);
     const Triple xyz = times(kXyz, seen);
     const auto f = [](double t) { return t > 0.008856 ? std::cbrt(t) : 7.787 * t + 16.0 / 116; };
     const double x = f(xyz[0] / 0.95047);
@@ -65,13 +61,9 @@ double contrast(const QColor& a, const QColor& b) {
 
 TEST(Palette, FixedEntries) {
     const ColourTable table;
-    EXPECT_EQ(table.solid(kBackgroundColour), QColor(Qt::white));
-    EXPECT_EQ(table.solid(kLineColour), QColor(Qt::black));
-    EXPECT_EQ(table.solid(kTextColour), QColor(Qt::black));
-    EXPECT_EQ(seriesColour(0), kDataColour);
-    EXPECT_EQ(seriesColour(32), kDataColour);
-    EXPECT_EQ(seriesColour(-1), kDataColour);
-    EXPECT_EQ(seriesColour(31), 0xffff0027);
+    EXPECT_EQS((table.solid(kBackgroundColour), QColor(Qt::white)), (table.solid(kLineColour), QColor(Qt::black)),
+               (table.solid(kTextColour), QColor(Qt::black)), (seriesColour(0), kDataColour),
+               (seriesColour(32), kDataColour), (seriesColour(-1), kDataColour), (seriesColour(31), 0xffff0027));
 }
 
 TEST(Palette, SeriesAreToldApartByEveryEye) {
@@ -106,20 +98,18 @@ TEST(Colour, UnknownSymbolsAreInvisible) {
         EXPECT_EQ(table.solid(colour).alpha(), 0);
         EXPECT_EQ(table.brush(colour, QRectF(0, 0, 9, 9)).style(), Qt::NoBrush);
     }
-    EXPECT_FALSE(table.invisible(0xfe000000));
-    EXPECT_EQ(table.solid(0xfe010203), QColor(1, 2, 3, 1));
+    EXPECT_EQS((table.invisible(0xfe000000), false), (table.solid(0xfe010203), QColor(1, 2, 3, 1)));
 }
 
 TEST(Metal, TokensAreInternedAndMeanTheSameEverywhere) {
     const Colour token = metalColour(0xc0c0c0, 90);
-    EXPECT_EQ(metalColour(0xc0c0c0, 450), token);
-    EXPECT_EQ(metalColour(0xc0c0c0, -270), token);
+    EXPECT_EQS((metalColour(0xc0c0c0, 450), token), (metalColour(0xc0c0c0, -270), token));
     EXPECT_NE(metalColour(0xc0c0c0, 0), token);
     EXPECT_NE(metalColour(0xc0c0c1, 90), token);
     EXPECT_EQ(metalColour(token, 90), token); // the metal of a metal is one of its base
-    EXPECT_EQ(ColourTable().solid(token), QColor(0xc0, 0xc0, 0xc0));
-    EXPECT_EQ(ColourTable().solid(metalColour(kDataColour, 0)), ColourTable().solid(kDataColour));
-    EXPECT_TRUE(ColourTable().invisible(metalColour(kTransparent, 0)));
+    EXPECT_EQS((ColourTable().solid(token), QColor(0xc0, 0xc0, 0xc0)),
+               (ColourTable().solid(metalColour(kDataColour, 0)), ColourTable().solid(kDataColour)),
+               (ColourTable().invisible(metalColour(kTransparent, 0)), true));
 }
 
 TEST(Metal, BandsRunAlongTheAngleAndNotAcross) {
@@ -161,12 +151,9 @@ TEST(Metal, InterningIsGuardedAndBounded) {
             }
         });
     }
-    for (std::thread& thread : threads)
-        thread.join();
-    EXPECT_EQ(tokens[0], tokens[3]);
-    EXPECT_EQ(std::set<Colour>(tokens[0].begin(), tokens[0].end()).size(), 20'000U);
-    for (Colour i = 0; i < 100'000; ++i)
-        EXPECT_EQ(ColourTable().solid(metalColour(i, 8)).rgb(), 0xff000000u + i);
+    for (std::thread& thread : threads) thread.join();
+    EXPECT_EQS((tokens[0], tokens[3]), (std::set<Colour>(tokens[0].begin(), tokens[0].end()).size(), 20'000U));
+    for (Colour i = 0; i < 100'000; ++i) EXPECT_EQ(ColourTable().solid(metalColour(i, 8)).rgb(), 0xff000000u + i);
 }
 
 QImage quarters() {
@@ -198,9 +185,8 @@ TEST(Pattern, BelongsToItsChart) {
     ColourTable other;
     const Colour token = mine.addPattern(quarters(), 0, 0);
     other.addPattern(quarters(), 0, 0);
-    EXPECT_FALSE(mine.invisible(token));
-    EXPECT_TRUE(other.invisible(token));
-    EXPECT_EQ(mine.addPattern({}, 0, 0), kTransparent);
+    EXPECT_EQS((mine.invisible(token), false), (other.invisible(token), true),
+               (mine.addPattern({}, 0, 0), kTransparent));
     QImage clear(3, 3, QImage::Format_ARGB32);
     clear.fill(Qt::transparent);
     EXPECT_TRUE(mine.invisible(mine.addPattern(clear, 0, 0)));

@@ -1,7 +1,6 @@
 #include "tests/engine/paint/pixels.h"
 
 #include <climits>
-#include <gtest/gtest.h>
 
 namespace chartdraw {
 namespace {
@@ -11,36 +10,28 @@ using Type = Effect::Type;
 TEST(Effect, PlainSizesAndTokensNeverMix) {
     for (const int size : {-200, -5, 1, 12, 200}) {
         const Effect effect = Effect::decode(size);
-        EXPECT_EQ(effect.type, Type::Border);
-        EXPECT_EQ(effect.size, size);
+        EXPECT_EQS((effect.type, Type::Border), (effect.size, size));
     }
-    EXPECT_EQ(Effect::decode(0).type, Type::Flat);
-    EXPECT_EQ(Effect::decode(INT_MIN).size, -200);
-    EXPECT_EQ(Effect::decode(100'000).size, 200);
+    EXPECT_EQS((Effect::decode(0).type, Type::Flat), (Effect::decode(INT_MIN).size, -200),
+               (Effect::decode(100'000).size, 200));
     for (const int direction : {2, 4, 6, 8}) {
         for (const int size : {0, 1, 200}) {
             const Effect soft = Effect::decode(softLighting(direction, size));
-            EXPECT_EQ(soft.type, Type::SoftLighting);
-            EXPECT_EQ(soft.direction, direction);
-            EXPECT_EQ(soft.size, size);
+            EXPECT_EQS((soft.type, Type::SoftLighting), (soft.direction, direction), (soft.size, size));
             for (const int glare : {2, 3}) {
                 const Effect glass = Effect::decode(glassEffect(glare, direction, size));
-                EXPECT_EQ(glass.type, Type::Glass);
-                EXPECT_EQ(glass.direction, direction);
-                EXPECT_EQ(glass.size, size);
-                EXPECT_EQ(glass.glare, glare);
+                EXPECT_EQS((glass.type, Type::Glass), (glass.direction, direction), (glass.size, size),
+                           (glass.glare, glare));
             }
         }
     }
 }
 
 TEST(Effect, OddArgumentsHaveAMeaning) {
-    for (const int direction : {0, 5, -1, INT_MAX})
-        EXPECT_EQ(Effect::decode(softLighting(direction, 3)).direction, 8);
-    EXPECT_EQ(Effect::decode(softLighting(4, -7)).size, 7);
-    EXPECT_EQ(Effect::decode(glassEffect(3, 8, INT_MAX)).size, 200);
-    EXPECT_EQ(Effect::decode(glassEffect(3, 8, INT_MIN)).size, 200);
-    EXPECT_EQ(Effect::decode(glassEffect(99, 8, 0)).glare, 3);
+    for (const int direction : {0, 5, -1, INT_MAX}) EXPECT_EQ(Effect::decode(softLighting(direction, 3)).direction, 8);
+    EXPECT_EQS((Effect::decode(softLighting(4, -7)).size, 7), (Effect::decode(glassEffect(3, 8, INT_MAX)).size, 200),
+               (Effect::decode(glassEffect(3, 8, INT_MIN)).size, 200),
+               (Effect::decode(glassEffect(99, 8, 0)).glare, 3));
 }
 
 const int kEffects[] = {0,
@@ -125,8 +116,7 @@ TEST(Box, CornersEdgeAndWidths) {
         on.box({5, 5, 30, 20}, 0x00ff00, 0x0000ff, 0, {10, 0, 10, 0}, 2);
     });
     EXPECT_EQ(inked(image), QRect(5, 5, 30, 20));
-    for (const QPoint cut : {QPoint(5, 5), QPoint(6, 6), QPoint(34, 24)})
-        EXPECT_EQ(image.pixel(cut), kWhite);
+    for (const QPoint cut : {QPoint(5, 5), QPoint(6, 6), QPoint(34, 24)}) EXPECT_EQ(image.pixel(cut), kWhite);
     for (const QPoint edge : {QPoint(34, 5), QPoint(5, 24), QPoint(20, 5), QPoint(20, 6), QPoint(33, 12)})
         EXPECT_EQ(image.pixel(edge), 0xff0000ff);
     for (const QPoint inside : {QPoint(20, 7), QPoint(32, 12), QPoint(20, 22)})
@@ -148,8 +138,7 @@ TEST(Shape, ThinBarsAreThere) {
     QPainterPath bar;
     bar.addRect(QRectF(10.1, 4, 0.2, 9.6));
     const QImage image = drawn(20, 20, [&](Canvas& on) { on.shape(bar, 0x123456, kTransparent, 0); });
-    EXPECT_EQ(inked(image), QRect(10, 4, 1, 10));
-    EXPECT_EQ(count(image, 0xff123456), 10);
+    EXPECT_EQS((inked(image), QRect(10, 4, 1, 10)), (count(image, 0xff123456), 10));
 }
 
 } // namespace

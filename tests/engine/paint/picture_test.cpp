@@ -2,6 +2,7 @@
 
 #include "engine/paint/file_bytes.h"
 #include "engine/paint/pack.h"
+#include "tests/expect.h"
 
 #include <QBuffer>
 #include <QColor>
@@ -9,7 +10,6 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 #include <map>
 #include <random>
 #include <sys/stat.h>
@@ -22,8 +22,7 @@ namespace {
 QImage sample() {
     QImage image(6, 4, QImage::Format_RGB32);
     for (int y = 0; y < 4; ++y)
-        for (int x = 0; x < 6; ++x)
-            image.setPixel(x, y, x < 3 ? 0xffff0000 : 0xff0000ff);
+        for (int x = 0; x < 6; ++x) image.setPixel(x, y, x < 3 ? 0xffff0000 : 0xff0000ff);
     return image;
 }
 
@@ -34,8 +33,7 @@ QByteArray encoded(const QImage& image, const char* format) {
     return buffer.data();
 }
 
-template <std::size_t N>
-QByteArray bytes(const unsigned char (&values)[N]) {
+template <std::size_t N> QByteArray bytes(const unsigned char (&values)[N]) {
     return {reinterpret_cast<const char*>(values), N};
 }
 
@@ -63,10 +61,8 @@ TEST(Picture, ReadsFiveFormatsWithoutAnApplicationObject) {
         ASSERT_FALSE(image.isNull()) << format;
         EXPECT_EQ(image.format(), QImage::Format_ARGB32_Premultiplied);
         if (format == "wbmp") {
-            EXPECT_EQ(image.size(), QSize(9, 2));
-            EXPECT_EQ(image.pixel(0, 0), 0xffffffff);
-            EXPECT_EQ(image.pixel(0, 1), 0xff000000);
-            EXPECT_EQ(image.pixel(8, 1), 0xffffffff);
+            EXPECT_EQS((image.size(), QSize(9, 2)), (image.pixel(0, 0), 0xffffffff), (image.pixel(0, 1), 0xff000000),
+                       (image.pixel(8, 1), 0xffffffff));
             continue;
         }
         EXPECT_GT(qRed(image.pixel(0, 0)), 240) << format;
@@ -82,8 +78,7 @@ TEST(Picture, OtherFormatsAndOversizeAreNot) {
     // A bitmap that claims 16385 x 1 pixels, then 2^31 - 1 a side.
     for (const quint32 side : {16385U, 0x7fffffffU}) {
         QByteArray hostile = encoded(sample(), "bmp");
-        for (int i = 0; i < 4; ++i)
-            hostile[18 + i] = static_cast<char>(side >> (8 * i));
+        for (int i = 0; i < 4; ++i) hostile[18 + i] = static_cast<char>(side >> (8 * i));
         EXPECT_TRUE(decodePicture(hostile).isNull());
     }
     // A GIF whose frame is 2 x 1 but whose screen is 20481 high.
@@ -111,10 +106,8 @@ TEST(Picture, OfABitmapMayStandTopDown) {
     QByteArray file = bitmapFile(image);
     const int stride = (image.width() * 3 + 3) / 4 * 4, height = image.height();
     QByteArray rows;
-    for (int y = height; y-- > 0;)
-        rows += file.mid(54 + y * stride, stride);
-    for (int i = 0; i < 4; ++i)
-        file[22 + i] = static_cast<char>(static_cast<unsigned>(-height) >> (8 * i));
+    for (int y = height; y-- > 0;) rows += file.mid(54 + y * stride, stride);
+    for (int i = 0; i < 4; ++i) file[22 + i] = static_cast<char>(static_cast<unsigned>(-height) >> (8 * i));
     EXPECT_EQ(decodePicture(file.left(54) + rows), decodePicture(bitmapFile(image)));
 }
 
@@ -133,8 +126,7 @@ protected:
 TEST_F(PictureFile, NamedInUtf8WithAnySuffix) {
     const std::string korean = "\xea\xb7\xb8\xeb\xa6\xbc.txt"; // a Korean name
     const std::string file = write(QString::fromStdString(korean), encoded(sample(), "png"));
-    EXPECT_EQ(loadPicture(file).size(), QSize(6, 4));
-    EXPECT_TRUE(loadPicture("file:" + file).isNull());
+    EXPECT_EQS((loadPicture(file).size(), QSize(6, 4)), (loadPicture("file:" + file).isNull(), true));
     const QString before = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(m_folder.path()));
     EXPECT_EQ(loadPicture(korean).size(), QSize(6, 4));
@@ -164,8 +156,7 @@ TEST_F(PictureFile, TheCacheFollowsTheFile) {
 #ifdef __linux__
 TEST_F(PictureFile, BytesComeFromRegularFilesOfAKnownSizeOnly) {
     const QFileInfo file(QString::fromStdString(write("bytes", "123456")));
-    EXPECT_EQ(fileBytes(file, 6), "123456");
-    EXPECT_EQ(fileBytes(file, 5), "");
+    EXPECT_EQS((fileBytes(file, 6), "123456"), (fileBytes(file, 5), ""));
     EXPECT_EQ(fileBytes(QFileInfo("/proc/self/maps"), 1000), ""); // its size is 0 until it is read
     EXPECT_EQ(fileBytes(QFileInfo("/dev/zero"), 1000), "");
 }

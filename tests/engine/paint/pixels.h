@@ -2,6 +2,7 @@
 // A small white picture to draw on and to look at pixel by pixel.
 
 #include "engine/paint/canvas.h"
+#include "tests/expect.h"
 
 #include <QImage>
 #include <cstdlib>
@@ -26,8 +27,7 @@ inline QRect inked(const QImage& image, QRgb paper = kWhite) {
     QRect area;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) != paper)
-                area |= QRect(x, y, 1, 1);
+            if (image.pixel(x, y) != paper) area |= QRect(x, y, 1, 1);
     }
     return area;
 }
@@ -36,8 +36,7 @@ inline QRect inked(const QImage& image, QRgb paper = kWhite) {
 inline int count(const QImage& image, QRgb colour) {
     int found = 0;
     for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            found += image.pixel(x, y) == colour ? 1 : 0;
+        for (int x = 0; x < image.width(); ++x) found += image.pixel(x, y) == colour ? 1 : 0;
     return found;
 }
 

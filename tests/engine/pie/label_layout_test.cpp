@@ -2,6 +2,7 @@
 
 #include "engine/pie/label_parts.h"
 #include "engine/pie/sector_geometry.h"
+#include "tests/expect.h"
 
 #include <algorithm>
 #include <cmath>
@@ -49,26 +50,21 @@ std::vector<SectorLabel> randomSpots(int count, unsigned seed) {
 }
 
 TEST(StackApart, MovesAsLittleAsCan) {
-    const struct {
-        const char* what;
-        std::vector<double> wished, lengths;
-        double low, high;
-        std::vector<double> expected; // worked by hand
-    } rows[] = {
-        {"nothing to do", {0, 20, 50}, {10, 10, 10}, 0, 100, {0, 20, 50}},
-        {"both give way by half", {20, 20}, {10, 10}, 0, 100, {15, 25}},
-        {"a block of three about its mean", {30, 31, 32}, {10, 10, 10}, 0, 100, {21, 31, 41}},
-        {"unequal lengths", {40, 40}, {30, 10}, 0, 100, {25, 55}},
-        {"held by the upper end", {-20, 3}, {10, 10}, 0, 100, {0, 10}},
-        {"held by the lower end", {95, 99}, {10, 10}, 0, 100, {80, 90}},
-        {"just room for all", {50, 50, 50}, {20, 20, 20}, 10, 70, {10, 30, 50}},
-        {"blocks that meet become one", {10, 10, 25, 25}, {10, 10, 10, 10}, 0, 100, {2.5, 12.5, 22.5, 32.5}},
-        {"none", {}, {}, 0, 100, {}},
-    };
-    for (const auto& row : rows) {
-        EXPECT_THAT(stackApart(row.wished, row.lengths, row.low, row.high), Pointwise(DoubleNear(1e-9), row.expected))
-            << row.what;
-    }
+    // worked by hand
+    const std::tuple<const char*, std::vector<double>, std::vector<double>, double, double, std::vector<double>>
+        rows[] = {
+            {"nothing to do", {0, 20, 50}, {10, 10, 10}, 0, 100, {0, 20, 50}},
+            {"both give way by half", {20, 20}, {10, 10}, 0, 100, {15, 25}},
+            {"a block of three about its mean", {30, 31, 32}, {10, 10, 10}, 0, 100, {21, 31, 41}},
+            {"unequal lengths", {40, 40}, {30, 10}, 0, 100, {25, 55}},
+            {"held by the upper end", {-20, 3}, {10, 10}, 0, 100, {0, 10}},
+            {"held by the lower end", {95, 99}, {10, 10}, 0, 100, {80, 90}},
+            {"just room for all", {50, 50, 50}, {20, 20, 20}, 10, 70, {10, 30, 50}},
+            {"blocks that meet become one", {10, 10, 25, 25}, {10, 10, 10, 10}, 0, 100, {2.5, 12.5, 22.5, 32.5}},
+            {"none", {}, {}, 0, 100, {}},
+        };
+    for (const auto& [what, wished, lengths, low, high, expected] : rows)
+        EXPECT_THAT(stackApart(wished, lengths, low, high), Pointwise(DoubleNear(1e-9), expected)) << what;
 }
 
 class BothLayouts : public testing::TestWithParam<Layout> {};
@@ -81,8 +77,7 @@ TEST_P(BothLayouts, NeverCoverNorLeaveThePicture) {
             const auto labels = place(GetParam(), spots);
             ASSERT_EQ(labels.size(), spots.size());
             for (std::size_t i = 0; i < labels.size(); ++i) {
-                if (!labels[i].shown)
-                    continue;
+                if (!labels[i].shown) continue;
                 ASSERT_EQ(labels[i].box.size(), spots[i].size);
                 ASSERT_TRUE(kRoom.adjusted(-0.01, -0.01, 0.01, 0.01).contains(labels[i].box))
                     << count << " sectors, seed " << seed;
@@ -110,13 +105,11 @@ TEST_P(BothLayouts, ShowAllLabelsWhereThereIsRoom) {
 
 TEST_P(BothLayouts, GiveUpTheSmallestFirst) {
     std::vector<SectorLabel> spots;
-    for (int i = 0; i < 100; ++i)
-        spots.push_back(spotAt(i * std::numbers::pi / 50, i % 2 == 0 ? 2 : 1, {50, 25}));
+    for (int i = 0; i < 100; ++i) spots.push_back(spotAt(i * std::numbers::pi / 50, i % 2 == 0 ? 2 : 1, {50, 25}));
     const auto labels = place(GetParam(), spots);
     const auto shown = [&](double weight) {
         int count = 0;
-        for (std::size_t i = 0; i < labels.size(); ++i)
-            count += labels[i].shown && spots[i].weight == weight ? 1 : 0;
+        for (std::size_t i = 0; i < labels.size(); ++i) count += labels[i].shown && spots[i].weight == weight ? 1 : 0;
         return count;
     };
     EXPECT_EQ(shown(1), 0);
@@ -130,8 +123,7 @@ TEST_P(BothLayouts, JoinLinesBelongToTheirLabels) {
         const auto labels = place(GetParam(), spots);
         for (std::size_t i = 0; i < labels.size(); ++i) {
             const auto& join = labels[i].join;
-            if (join.empty())
-                continue;
+            if (join.empty()) continue;
             ++joined;
             EXPECT_EQ(join.front(), spots[i].rim);
             for (std::size_t k = 0; k < i; ++k)
@@ -157,8 +149,7 @@ TEST_P(BothLayouts, JoinLinesBelongToTheirLabels) {
 
 TEST(SideLayout, StandsInTwoColumnsThatAlign) {
     std::vector<SectorLabel> spots;
-    for (int i = 0; i < 8; ++i)
-        spots.push_back(spotAt((i + 0.5) * std::numbers::pi / 4, 1, QSizeF(30 + 5 * i, 14)));
+    for (int i = 0; i < 8; ++i) spots.push_back(spotAt((i + 0.5) * std::numbers::pi / 4, 1, QSizeF(30 + 5 * i, 14)));
     const auto labels = place(Layout::Side, spots, 25);
     for (std::size_t i = 0; i < 8; ++i) {
         const bool right = i < 4;
@@ -180,12 +171,10 @@ TEST(CircleLayout, TouchesTheWidenedCircleInEveryDirection) {
 
 TEST(CircleLayout, PutsLabelsInsideForANegativeDistance) {
     const auto labels = place(Layout::Circle, {spotAt(std::numbers::pi / 2, 1, {30, 14})}, -40);
-    EXPECT_EQ(labels[0].box.center(), kCentre + QPointF(100, 0));
-    EXPECT_TRUE(labels[0].join.empty());
+    EXPECT_EQS((labels[0].box.center(), kCentre + QPointF(100, 0)), (labels[0].join.empty(), true));
     // Two that would cover each other: the larger sector's stays.
     const auto two = place(Layout::Circle, {spotAt(1.5, 1, {30, 14}), spotAt(1.52, 3, {30, 14})}, -40);
-    EXPECT_FALSE(two[0].shown);
-    EXPECT_TRUE(two[1].shown);
+    EXPECT_EQS((two[0].shown, false), (two[1].shown, true));
 }
 
 } // namespace

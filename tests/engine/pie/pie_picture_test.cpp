@@ -1,17 +1,14 @@
 // What the picture of a pie shows, by pixels whose place is worked out by hand.
 
-#include "tests/engine/chart/picture.h"
+#include "tests/engine/chart/round.h"
 
 #include <QColor>
-#include <cmath>
 #include <functional>
-#include <numbers>
-#include <vector>
 
 namespace {
 
-constexpr unsigned kWhite = 0xffffff;
-constexpr int kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff;
+using namespace pictures;
+
 constexpr int kColours[] = {kRed, kGreen, kBlue};
 
 /// A pie of 200 x 200 about (100, 100) with radius 80, without edges and labels: red, green, blue.
@@ -25,17 +22,13 @@ struct Pie {
         CPieChart_setData(pie, values.data(), static_cast<int>(values.size()), names, 3);
         CPieChart_setLabelFormat(pie, " ");
         CPieChart_setLineColor(pie, CHART_TRANSPARENT, CHART_TRANSPARENT);
-        for (int i = 0; i < 3; ++i)
-            CSector_setColor(CPieChart_sector(pie, i), kColours[i], -1, -1);
+        for (int i = 0; i < 3; ++i) CSector_setColor(CPieChart_sector(pie, i), kColours[i], -1, -1);
     }
-    QImage picture() { return pictures::of(chart); }
+    QImage picture() { return of(chart); }
 };
 
-/// The pixel at an angle (degrees clockwise from the top) and a distance from (100, 100).
-unsigned polar(const QImage& image, double degrees, double distance) {
-    const double angle = degrees * std::numbers::pi / 180;
-    return pictures::at(image, static_cast<int>(std::floor(100 + distance * std::sin(angle))),
-                        static_cast<int>(std::floor(100 - distance * std::cos(angle))));
+void around(const QImage& image, std::initializer_list<RoundPixel> pixels) {
+    showsAround(image, QPoint(100, 100), pixels);
 }
 
 TEST(PiePicture, ShowsEachSectorAtItsAngles) {
@@ -57,13 +50,10 @@ TEST(PiePicture, ShowsEachSectorAtItsAngles) {
         const QImage image = pie.picture();
         for (int i = 0; i < 3; ++i) {
             const double half = i < 2 ? 45 : 90;
-            for (const double off : {-half + 3, 0.0, half - 3}) {
-                for (const double distance : {40.0, 77.0}) {
-                    EXPECT_EQ(polar(image, row.middles[i] + off, distance), static_cast<unsigned>(kColours[i]))
-                        << row.what << ", sector " << i << ", " << off << " off its middle";
-                }
-            }
-            EXPECT_EQ(polar(image, row.middles[i], 83), kWhite) << row.what;
+            for (const double off : {-half + 3, 0.0, half - 3})
+                for (const double distance : {40.0, 77.0})
+                    around(image, {{row.middles[i] + off, distance, kColours[i], row.what}});
+            around(image, {{row.middles[i], 83, kWhite, row.what}});
         }
     }
 }
@@ -71,16 +61,14 @@ TEST(PiePicture, ShowsEachSectorAtItsAngles) {
 TEST(PiePicture, LetsNoBackgroundThroughBetweenNeighbours) {
     for (const bool solid : {false, true}) {
         Pie pie({3, 4, 5});
-        for (int i = 0; i < 3; ++i)
-            CSector_setColor(CPieChart_sector(pie.pie, i), kRed, -1, -1);
-        if (solid)
-            CPieChart_set3D(pie.pie, 20, 45, false);
+        for (int i = 0; i < 3; ++i) CSector_setColor(CPieChart_sector(pie.pie, i), kRed, -1, -1);
+        if (solid) CPieChart_set3D(pie.pie, 20, 45, false);
         const QImage image = pie.picture();
         for (int y = 0; y < 200; ++y) {
             for (int x = 0; x < 200; ++x) {
                 const double away = std::hypot(x + 0.5 - 100, (y + 0.5 - 100) * (solid ? std::numbers::sqrt2 : 1));
                 if (away < 77) {
-                    ASSERT_EQ(pictures::at(image, x, y), static_cast<unsigned>(kRed)) << x << ", " << y;
+                    ASSERT_EQ(at(image, x, y), kRed) << x << ", " << y;
                 } else if (solid && away < 82 && y > 120) {
                     // Where the face meets its wall: red, more or less dark.
                     ASSERT_LT(qGreen(image.pixel(x, y)), 16) << x << ", " << y;
@@ -92,11 +80,8 @@ TEST(PiePicture, LetsNoBackgroundThroughBetweenNeighbours) {
 
 TEST(PiePicture, TakesHardValues) {
     const double none = CHART_NO_VALUE;
-    const struct {
-        const char* what;
-        std::vector<double> values;
-        unsigned left, right; // colour to the left and right of the centre
-    } rows[] = {
+    // colour to the left and right of the centre
+    const std::tuple<const char*, std::vector<double>, int, int> rows[] = {
         {"one value alone", {5}, kRed, kRed},
         {"zeros take no room", {0, 7, 0}, kGreen, kGreen},
         {"negative and missing ones neither", {-3, 7, none}, kGreen, kGreen},
@@ -105,15 +90,14 @@ TEST(PiePicture, TakesHardValues) {
         {"sum zero is an outline", {0, 0}, kWhite, kWhite},
         {"only negative is an outline", {-1, -2}, kWhite, kWhite},
     };
-    for (const auto& row : rows) {
-        Pie pie(row.values);
+    for (const auto& [what, values, left, right] : rows) {
+        Pie pie(values);
         const QImage image = pie.picture();
-        EXPECT_EQ(polar(image, 270, 40), row.left) << row.what;
-        EXPECT_EQ(polar(image, 90, 40), row.right) << row.what;
+        around(image, {{270, 40, left, what}, {90, 40, right, what}});
         // Something stands at the rim, be it an outline.
-        const QRect ink = pictures::boundsOf(image, kWhite);
+        const QRect ink = boundsOf(image, kWhite);
         EXPECT_EQ(ink, image.rect());
-        EXPECT_NE(pictures::at(image, 180, 100) & pictures::at(image, 179, 100), kWhite) << row.what;
+        EXPECT_NE(at(image, 180, 100) & at(image, 179, 100), kWhite) << what;
     }
 }
 
@@ -121,30 +105,26 @@ TEST(PiePicture, StandsOnItsWallsInThreeDimensions) {
     Pie tilted({1});
     CPieChart_set3D(tilted.pie, 20, 60, false); // the face is half as high as wide
     QImage image = tilted.picture();
-    EXPECT_EQ(pictures::at(image, 100, 63), static_cast<unsigned>(kRed)) << "face";
-    EXPECT_EQ(pictures::at(image, 100, 137), static_cast<unsigned>(kRed)) << "face";
+    shows(image, {{100, 63, kRed, "face"}, {100, 137, kRed, "face"}});
     const QColor wall(image.pixel(100, 150));
     EXPECT_EQ(wall.green(), 0) << "the wall has the sector's hue";
     EXPECT_LT(wall.red(), 240) << "and is darker";
-    EXPECT_NE(pictures::at(image, 100, 158), kWhite);
-    EXPECT_EQ(pictures::at(image, 100, 162), kWhite) << "20 pixels below the face it ends";
-    EXPECT_EQ(pictures::at(image, 100, 57), kWhite) << "no wall above";
+    EXPECT_NE(at(image, 100, 158), kWhite);
+    shows(image, {{100, 162, kWhite, "20 pixels below the face it ends"}, {100, 57, kWhite, "no wall above"}});
 
     Pie oblique({1});
     CPieChart_set3D(oblique.pie, 20, 45, true); // the face stays round, the body lies 14, 14 aside
     image = oblique.picture();
-    EXPECT_EQ(polar(image, 0, 77), static_cast<unsigned>(kRed));
-    EXPECT_EQ(polar(image, 315, 77), static_cast<unsigned>(kRed));
-    EXPECT_NE(polar(image, 135, 97), kWhite);
-    EXPECT_NE(polar(image, 135, 97), static_cast<unsigned>(kRed));
-    EXPECT_EQ(polar(image, 135, 104), kWhite);
-    EXPECT_EQ(polar(image, 315, 83), kWhite);
+    around(image, {{0, 77, kRed}, {315, 77, kRed}});
+    EXPECT_NE(roundAt(image, QPoint(100, 100), 135, 97), kWhite);
+    EXPECT_NE(roundAt(image, QPoint(100, 100), 135, 97), kRed);
+    around(image, {{135, 104, kWhite}, {315, 83, kWhite}});
 
     Pie plain({1});
     CPieChart_set3D(plain.pie, -1, -1, false); // both automatic: tilted and deep enough to be seen
     image = plain.picture();
-    EXPECT_EQ(pictures::at(image, 100, 25), kWhite);
-    EXPECT_NE(pictures::at(image, 100, 100 + 57 + 6), kWhite);
+    EXPECT_EQ(at(image, 100, 25), kWhite);
+    EXPECT_NE(at(image, 100, 100 + 57 + 6), kWhite);
     EXPECT_LT(QColor(image.pixel(100, 100 + 57 + 6)).red(), 240);
 }
 
@@ -156,8 +136,7 @@ TEST(PiePicture, ShowsInnerAndCutWalls) {
     // The hole reaches from row 75 to 125; the inner wall hangs 15 pixels from its far edge.
     EXPECT_LT(QColor(image.pixel(100, 82)).red(), 240);
     EXPECT_EQ(qGreen(image.pixel(100, 82)), 0);
-    EXPECT_EQ(pictures::at(image, 100, 95), kWhite);
-    EXPECT_EQ(pictures::at(image, 100, 122), kWhite) << "the near edge hides its wall";
+    shows(image, {{100, 95, kWhite}, {100, 122, kWhite, "the near edge hides its wall"}});
 
     // Halves pulled apart, one in front: the rear one shows its cut, the front one not.
     Pie halves({1, 1});
@@ -167,8 +146,7 @@ TEST(PiePicture, ShowsInnerAndCutWalls) {
     image = halves.picture();
     EXPECT_EQ(qRed(image.pixel(100, 106)), 0);
     EXPECT_LT(QColor(image.pixel(100, 106)).green(), 240);
-    EXPECT_EQ(pictures::at(image, 100, 118), kWhite);
-    EXPECT_EQ(pictures::at(image, 100, 131), static_cast<unsigned>(kRed)) << "the near one begins with its face";
+    shows(image, {{100, 118, kWhite}, {100, 131, kRed, "the near one begins with its face"}});
 }
 
 } // namespace

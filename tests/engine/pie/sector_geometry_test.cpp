@@ -18,10 +18,8 @@ constexpr double kDegree = kPi / 180;
 
 TEST(Shares, CountOnlyRealPositiveValues) {
     const double inf = std::numeric_limits<double>::infinity();
-    const struct {
-        std::vector<double> values;
-        std::vector<double> expected; // worked by hand
-    } rows[] = {
+    // worked by hand
+    const std::tuple<std::vector<double>, std::vector<double>> rows[] = {
         {{1, 3}, {0.25, 0.75}},
         {{5}, {1}},
         {{2, 0, -7, 1.7E+308, std::nan(""), inf, -inf, 6}, {0.25, 0, 0, 0, 0, 0, 0, 0.75}},
@@ -30,8 +28,7 @@ TEST(Shares, CountOnlyRealPositiveValues) {
         {{0, -1}, {0, 0}},
         {{}, {}},
     };
-    for (const auto& row : rows)
-        EXPECT_THAT(shares(row.values), Pointwise(DoubleNear(1e-12), row.expected));
+    for (const auto& [values, expected] : rows) EXPECT_THAT(shares(values), Pointwise(DoubleNear(1e-12), expected));
 }
 
 TEST(SectorSpans, RunEitherWayFromTheStart) {
@@ -80,10 +77,8 @@ TEST(PieBody, ShowsTheOuterWallInFrontAndTheInnerOneBehind) {
 
 TEST(PieBody, ShowsTheCutsThatFaceTheViewer) {
     const PieBody body = tilted();
-    const struct {
-        double start, end; // degrees
-        bool startShows, endShows;
-    } rows[] = {
+    // degrees
+    const std::tuple<double, double, bool, bool> rows[] = {
         {10, 80, false, true},    // right, behind: the cut on its front side
         {100, 170, false, true},  // right, in front
         {190, 260, true, false},  // left, in front: its first cut looks forward
@@ -91,10 +86,10 @@ TEST(PieBody, ShowsTheCutsThatFaceTheViewer) {
         {-60, 60, true, true},    // across the back
         {120, 240, false, false}, // across the front: both cuts look backwards
     };
-    for (const auto& row : rows) {
-        const SectorSpan span{row.start * kDegree, (row.end - row.start) * kDegree};
-        EXPECT_EQ(!body.cutWall(body.centre, span, false).isEmpty(), row.startShows) << row.start;
-        EXPECT_EQ(!body.cutWall(body.centre, span, true).isEmpty(), row.endShows) << row.end;
+    for (const auto& [start, end, startShows, endShows] : rows) {
+        const SectorSpan span{start * kDegree, (end - start) * kDegree};
+        EXPECT_EQ(!body.cutWall(body.centre, span, false).isEmpty(), startShows) << start;
+        EXPECT_EQ(!body.cutWall(body.centre, span, true).isEmpty(), endShows) << end;
     }
     EXPECT_TRUE(body.cutWall(body.centre, {0, 2 * kPi}, true).isEmpty()) << "a whole pie is not cut";
 }

@@ -2,6 +2,7 @@
 
 #include "engine/polar/angular_axis.h"
 #include "engine/polar/polar_chart.h"
+#include "tests/expect.h"
 
 #include <gmock/gmock.h>
 #include <limits>
@@ -22,32 +23,27 @@ struct AngularAxisTest : testing::Test {
 
     std::vector<std::string> labels(double circumference = 600) const {
         std::vector<std::string> result;
-        for (const AngularTick& spoke : axis.ticks(circumference).spokes)
-            result.push_back(spoke.label);
+        for (const AngularTick& spoke : axis.ticks(circumference).spokes) result.push_back(spoke.label);
         return result;
     }
     std::vector<double> turns(double circumference = 600) const {
         std::vector<double> result;
-        for (const AngularTick& spoke : axis.ticks(circumference).spokes)
-            result.push_back(spoke.turn);
+        for (const AngularTick& spoke : axis.ticks(circumference).spokes) result.push_back(spoke.turn);
         return result;
     }
 };
 
 TEST_F(AngularAxisTest, PutsValuesOnTheTurnAndGoesOnRound) {
-    const struct {
-        double lower, upper, value, turn;
-    } rows[] = {
+    const std::tuple<double, double, double, double> rows[] = {
         {0, 360, 90, 0.25},   {0, 360, 360, 0},       {0, 360, 450, 0.25},  {0, 360, -90, 0.75},
         {0, 24, 6, 0.25},     {-180, 180, 0, 0.5},    {360, 0, 90, 0.75},   {10, 10, 180, 0.5},
         {kNan, 24, 180, 0.5}, {0, 1.7e308, 180, 0.5}, {0, kInf, 270, 0.75},
     };
-    for (const auto& row : rows) {
-        axis.setLinearScale(row.lower, row.upper, {});
-        EXPECT_NEAR(axis.turn(row.value), row.turn, 1e-9) << row.lower << ".." << row.upper << ": " << row.value;
+    for (const auto& [lower, upper, value, turn] : rows) {
+        axis.setLinearScale(lower, upper, {});
+        EXPECT_NEAR(axis.turn(value), turn, 1e-9) << lower << ".." << upper << ": " << value;
     }
-    EXPECT_TRUE(std::isnan(axis.turn(kNan)));
-    EXPECT_TRUE(std::isnan(axis.turn(kNoValue)));
+    EXPECT_EQS((std::isnan(axis.turn(kNan)), true), (std::isnan(axis.turn(kNoValue)), true));
     EXPECT_GE(axis.turn(1e300), 0);
     EXPECT_LT(axis.turn(1e300), 1);
 }

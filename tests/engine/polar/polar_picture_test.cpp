@@ -3,14 +3,12 @@
 #include "tests/engine/chart/round.h"
 
 #include <QColor>
-#include <cmath>
 #include <limits>
-#include <string>
 
 namespace {
 
-constexpr unsigned kWhite = 0xffffff;
-constexpr int kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff;
+using namespace pictures;
+
 const QPoint kCentre(150, 150);
 
 /// A chart of 300 x 300, radius 100 for 0 to 100 about (150, 150), without grid, axis and labels.
@@ -35,41 +33,35 @@ struct Polar {
         CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(layer), width);
         return layer;
     }
-    void everyQuarterLabelled() {
-        const char* const labels[] = {"N", "E", "S", "W"};
-        CAngularAxis_setLabels(angular, labels, 4);
-    }
-    QImage picture() { return pictures::of(chart); }
+    QImage picture() { return of(chart); }
 };
 
-unsigned at(const QImage& image, double degrees, double distance) {
-    return pictures::roundAt(image, kCentre, degrees, distance);
-}
+void around(const QImage& image, std::initializer_list<RoundPixel> pixels) { showsAround(image, kCentre, pixels); }
 
 bool dark(const QImage& image, double degrees, double distance) {
-    return QColor(image.pixel(pictures::roundPoint(kCentre, degrees, distance))).lightness() < 200;
+    return QColor(image.pixel(roundPoint(kCentre, degrees, distance))).lightness() < 200;
 }
 
 TEST(PolarChart, DrawsRingsAndSpokesAboveOrBelowTheLayers) {
     Polar p;
     CPolarChart_setGridColor(p.polar, kRed, 1, kBlue, 3);
     CAngularAxis_setLinearScale(p.angular, 0, 360, 45, 15);
-    const QImage image = pictures::of(p.chart, false);
+    const QImage image = of(p.chart, false);
     for (const double distance : {25.0, 50.0, 75.0, 100.0}) {
         EXPECT_TRUE(dark(image, 20, distance)) << distance;
         EXPECT_FALSE(dark(image, 20, distance - 4)) << distance;
     }
     for (int i = 0; i < 8; ++i) {
-        EXPECT_EQ(at(image, i * 45, 60), static_cast<unsigned>(kBlue)) << i;
-        EXPECT_EQ(at(image, i * 45 + 20, 60), kWhite) << i;
-        EXPECT_EQ(at(image, i * 45 + 15, 97), static_cast<unsigned>(kBlue)) << "minor mark, " << i;
-        EXPECT_EQ(at(image, i * 45 + 15, 90), kWhite) << "minor mark, " << i;
+        around(image, {{i * 45.0, 60, kBlue},
+                       {i * 45.0 + 20, 60, kWhite},
+                       {i * 45.0 + 15, 97, kBlue, "minor mark"},
+                       {i * 45.0 + 15, 90, kWhite, "minor mark"}});
     }
     const double ones[] = {100, 100, 100, 100, 100, 100, 100, 100};
     CPolarChart_addAreaLayer(p.polar, ones, 8, kGreen, nullptr);
-    EXPECT_EQ(at(pictures::of(p.chart, false), 45, 60), static_cast<unsigned>(kBlue)) << "on top by default";
+    around(of(p.chart, false), {{45, 60, kBlue, "on top by default"}});
     CPolarChart_setGridStyle(p.polar, false, false);
-    EXPECT_EQ(at(p.picture(), 45, 60), static_cast<unsigned>(kGreen));
+    around(p.picture(), {{45, 60, kGreen}});
 }
 
 TEST(PolarChart, LaysATranslucentGridOnOnce) {
@@ -80,11 +72,11 @@ TEST(PolarChart, LaysATranslucentGridOnOnce) {
     EXPECT_NEAR(qRed(image.pixel(150, 150)), 127, 2) << "where all spokes meet";
     for (const double degrees : {0.0, 90.0, 180.0, 270.0}) {
         for (const double distance : {40.0, 50.0}) { // on a spoke, and where it meets a ring
-            const QPoint point = pictures::roundPoint(kCentre, degrees, distance);
+            const QPoint point = roundPoint(kCentre, degrees, distance);
             EXPECT_NEAR(qRed(image.pixel(point)), 127, 2) << degrees << ", " << distance;
         }
     }
-    EXPECT_NEAR(qRed(image.pixel(pictures::roundPoint(kCentre, 45, 50))), 127, 2) << "on a ring";
+    EXPECT_NEAR(qRed(image.pixel(roundPoint(kCentre, 45, 50))), 127, 2) << "on a ring";
 }
 
 TEST(PolarChart, CutsDataOffAtTheCircleAndNotAtThePolygon) {
@@ -93,61 +85,52 @@ TEST(PolarChart, CutsDataOffAtTheCircleAndNotAtThePolygon) {
     CAngularAxis_setLinearScale(p.angular, 0, 360, 90, 0);
     p.line({10, 95, CHART_NO_VALUE, 150}, {45, 45, 45, 200}, kRed);
     const QImage image = p.picture();
-    EXPECT_EQ(at(image, 45, 85), static_cast<unsigned>(kRed)); // the polygon ends at 71
-    EXPECT_EQ(at(image, 200, 110), kWhite);
+    around(image, {{45, 85, kRed, "the polygon ends at 71"}, {200, 110, kWhite}});
 }
 
 TEST(PolarChart, DrawsLinesThroughTheirPoints) {
     Polar p;
     PolarLineLayer* layer = p.line({80, 80, 80}, {0, 90, 180}, kRed);
-    QImage image = pictures::of(p.chart, false);
+    QImage image = of(p.chart, false);
     // Straight from point to point: half way between two at a right angle the line is 56.6 from the centre.
-    EXPECT_EQ(at(image, 45, 56.6), static_cast<unsigned>(kRed));
-    EXPECT_EQ(at(image, 135, 56.6), static_cast<unsigned>(kRed));
-    EXPECT_EQ(at(image, 0, 40), static_cast<unsigned>(kRed)) << "closed by default";
+    around(image, {{45, 56.6, kRed}, {135, 56.6, kRed}, {0, 40, kRed, "closed by default"}});
     CPolarLineLayer_setCloseLoop(layer, false);
-    image = pictures::of(p.chart, false);
-    EXPECT_EQ(at(image, 0, 40), kWhite);
-    EXPECT_EQ(at(image, 45, 56.6), static_cast<unsigned>(kRed));
+    image = of(p.chart, false);
+    around(image, {{0, 40, kWhite}, {45, 56.6, kRed}});
     CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(layer), 0);
-    EXPECT_EQ(pictures::inked(p.picture(), kWhite), 0);
+    EXPECT_EQ(inked(p.picture(), kWhite), 0);
 }
 
 TEST(PolarChart, SpreadsRowsEvenlyWithoutAngles) {
     Polar p;
     p.line({80, 40, 80, 40}, {}, kRed);
-    const QImage image = pictures::of(p.chart, false);
-    for (const auto& [degrees, distance] : {std::pair{0, 80}, {90, 40}, {180, 80}, {270, 40}})
-        EXPECT_EQ(at(image, degrees, distance), static_cast<unsigned>(kRed)) << degrees;
+    const QImage image = of(p.chart, false);
+    around(image, {{0, 80, kRed}, {90, 40, kRed}, {180, 80, kRed}, {270, 40, kRed}});
     // With labels, a row a label: four rows of eight fill half a turn.
     const char* const labels[] = {"1", "2", "3", "4", "5", "6", "7", "8"};
     CAngularAxis_setLabels(p.angular, labels, 8);
     const QImage half = p.picture();
-    EXPECT_EQ(at(half, 90, 80), static_cast<unsigned>(kRed));
-    EXPECT_EQ(at(half, 135, 40), static_cast<unsigned>(kRed));
-    EXPECT_EQ(at(half, 200, 40), kWhite);
+    around(half, {{90, 80, kRed}, {135, 40, kRed}, {200, 40, kWhite}});
 }
 
 TEST(PolarChart, TakesGapsRepeatedAnglesAndValuesBeyondTheScale) {
     Polar p;
     const double gap = CHART_NO_VALUE;
     PolarLineLayer* layer = p.line({80, 80, gap, 80, 80}, {0, 45, 90, 135, 180}, kRed);
-    QImage image = pictures::of(p.chart, false);
-    EXPECT_EQ(at(image, 22.5, 73.9), static_cast<unsigned>(kRed));
-    EXPECT_EQ(at(image, 157.5, 73.9), static_cast<unsigned>(kRed));
-    EXPECT_EQ(at(image, 90, 56.6), kWhite) << "broken at the gap";
-    EXPECT_EQ(at(image, 0, 40), static_cast<unsigned>(kRed)) << "closed nevertheless";
+    QImage image = of(p.chart, false);
+    around(image, {{22.5, 73.9, kRed},
+                   {157.5, 73.9, kRed},
+                   {90, 56.6, kWhite, "broken at the gap"},
+                   {0, 40, kRed, "closed nevertheless"}});
     CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(layer), 0);
 
     // A negative radius is at the centre, one beyond the scale is cut off, an angle goes on round, and one
     // angle twice is a line along it. Rows without an angle are left out.
     p.line({-500, 50, 1000, 30, 60, 99}, {30, 60 + 720, 60 - 360, 240, 240}, kBlue);
     image = p.picture();
-    EXPECT_EQ(at(image, 60, 25), static_cast<unsigned>(kBlue)) << "from the centre";
-    EXPECT_EQ(at(image, 60, 97), static_cast<unsigned>(kBlue));
-    EXPECT_EQ(at(image, 60, 105), kWhite);
-    EXPECT_EQ(at(image, 240, 45), static_cast<unsigned>(kBlue));
-    EXPECT_EQ(at(image, 240, 70), kWhite);
+    around(
+        image,
+        {{60, 25, kBlue, "from the centre"}, {60, 97, kBlue}, {60, 105, kWhite}, {240, 45, kBlue}, {240, 70, kWhite}});
 }
 
 TEST(PolarChart, PutsNegativeRadiiOnAScaleOfTheirOwn) {
@@ -155,9 +138,9 @@ TEST(PolarChart, PutsNegativeRadiiOnAScaleOfTheirOwn) {
     CAxis_setAutoScale(p.radial, 0, 0, 0);
     p.line({-100, 0, 100, 0}, {0, 90, 180, 270}, kRed);
     const QImage image = p.picture();
-    EXPECT_EQ(at(image, 180, 99), static_cast<unsigned>(kRed)) << "the largest is at the rim";
-    EXPECT_EQ(at(image, 90, 50), static_cast<unsigned>(kRed)) << "zero halfway";
-    EXPECT_EQ(at(image, 0, 1), static_cast<unsigned>(kRed)) << "the smallest at the centre";
+    around(image, {{180, 99, kRed, "the largest is at the rim"},
+                   {90, 50, kRed, "zero halfway"},
+                   {0, 1, kRed, "the smallest at the centre"}});
 }
 
 TEST(PolarChart, KeepsMarginsFreeAtTheRimAndTheCentre) {
@@ -165,9 +148,7 @@ TEST(PolarChart, KeepsMarginsFreeAtTheRimAndTheCentre) {
     CAxis_setMargin(p.radial, 20, 10);
     p.line({100, 0}, {45, 135}, kRed);
     const QImage image = p.picture();
-    EXPECT_EQ(at(image, 45, 80), static_cast<unsigned>(kRed));
-    EXPECT_EQ(at(image, 45, 84), kWhite);
-    EXPECT_EQ(at(image, 135, 10), static_cast<unsigned>(kRed));
+    around(image, {{45, 80, kRed}, {45, 84, kWhite}, {135, 10, kRed}});
 }
 
 TEST(PolarChart, FillsAreasAndSmoothsCurves) {
@@ -176,52 +157,40 @@ TEST(PolarChart, FillsAreasAndSmoothsCurves) {
     PolarAreaLayer* area = CPolarChart_addAreaLayer(p.polar, data, 5, kGreen, nullptr);
     const double angles[] = {0, 90, 100, 180, 270};
     CPolarLayer_setAngles(PolarAreaLayer2PolarLayer(area), angles, 5);
-    QImage image = pictures::of(p.chart, false);
-    EXPECT_EQ(at(image, 45, 54), static_cast<unsigned>(kGreen));
-    EXPECT_EQ(at(image, 45, 60), kWhite) << "straight from point to point";
-    EXPECT_EQ(at(image, 135, 54), static_cast<unsigned>(kGreen)) << "a gap is passed over";
+    QImage image = of(p.chart, false);
+    around(image, {{45, 54, kGreen},
+                   {45, 60, kWhite, "straight from point to point"},
+                   {135, 54, kGreen, "a gap is passed over"}});
 
     PolarSplineAreaLayer* smooth = CPolarChart_addSplineAreaLayer(p.polar, data, 5, kRed, nullptr);
     CPolarLayer_setAngles(PolarAreaLayer2PolarLayer(PolarSplineAreaLayer2PolarAreaLayer(smooth)), angles, 5);
-    image = pictures::of(p.chart, false);
-    for (const double degrees : {45.0, 135.0, 225.0, 315.0}) {
-        EXPECT_EQ(at(image, degrees, 70), static_cast<unsigned>(kRed)) << "nearly a circle";
-        EXPECT_EQ(at(image, degrees, 85), kWhite);
-    }
+    image = of(p.chart, false);
+    for (const double degrees : {45.0, 135.0, 225.0, 315.0})
+        around(image, {{degrees, 70, kRed, "nearly a circle"}, {degrees, 85, kWhite}});
     const double even[] = {80, 80, 80, 80};
     PolarLineLayer* line =
         PolarSplineLineLayer2PolarLineLayer(CPolarChart_addSplineLineLayer(p.polar, even, 4, kBlue, nullptr));
     CPolarLayer_setLineWidth(PolarLineLayer2PolarLayer(line), 9);
-    EXPECT_EQ(at(pictures::of(p.chart, false), 315, 71), static_cast<unsigned>(kBlue));
+    around(of(p.chart, false), {{315, 71, kBlue}});
     CPolarLineLayer_setCloseLoop(line, false);
     image = p.picture();
-    EXPECT_NE(at(image, 315, 71), static_cast<unsigned>(kBlue));
-    EXPECT_EQ(at(image, 135, 71), static_cast<unsigned>(kBlue));
+    EXPECT_NE(roundAt(image, kCentre, 315, 71), kBlue);
+    around(image, {{135, 71, kBlue}});
 }
 
-/// Labels of the angles as boxes of one colour: patches that are full rectangles do not overlap.
 TEST(PolarChart, KeepsAngularLabelsOutsideThePlotInsideThePictureAndApart) {
     for (const int count : {3, 8, 12, 24, 60, 500}) {
         for (const double size : {8.0, 12.0}) {
             Polar p;
             std::vector<std::string> texts;
             std::vector<const char*> labels;
-            for (int i = 0; i < count; ++i)
-                texts.push_back("No. " + std::to_string(i));
-            for (const std::string& text : texts)
-                labels.push_back(text.c_str());
+            for (int i = 0; i < count; ++i) texts.push_back("No. " + std::to_string(i));
+            for (const std::string& text : texts) labels.push_back(text.c_str());
             CAngularAxis_setLabels(p.angular, labels.data(), count);
-            TextBox* style = CAngularAxis_setLabelStyle(p.angular, nullptr, size, kRed, 0);
-            CBox_setBackground(TextBox2Box(style), kRed, CHART_TRANSPARENT, 0);
-            const QImage image = p.picture();
-            const auto boxes = pictures::patches(image, kWhite);
+            boxed(CAngularAxis_setLabelStyle(p.angular, nullptr, size, kRed, 0));
+            const auto boxes = boxesApart(p.picture(), std::to_string(count));
             EXPECT_GE(boxes.size(), static_cast<std::size_t>(std::min(count, 8)));
-            for (const QRect& box : boxes) {
-                EXPECT_GE(pictures::nearestOf(box, kCentre), 101) << count << ' ' << box;
-                EXPECT_TRUE(QRect(2, 2, 296, 296).contains(box)) << count << ' ' << box;
-                EXPECT_EQ(pictures::inked(image.copy(box), kWhite), box.width() * box.height())
-                    << count << ' ' << box << " is two labels in one";
-            }
+            for (const QRect& box : boxes) EXPECT_GE(nearestOf(box, kCentre), 101) << count << ' ' << box;
         }
     }
 }
@@ -229,13 +198,12 @@ TEST(PolarChart, KeepsAngularLabelsOutsideThePlotInsideThePictureAndApart) {
 TEST(PolarChart, ShowsTheRadialAxisUpwardsFromTheCentre) {
     Polar p;
     CAxis_setColors(p.radial, kBlue, CHART_TRANSPARENT, -1, kRed);
-    QImage image = pictures::of(p.chart, false);
-    EXPECT_EQ(pictures::boundsOf(image, kBlue), QRect(150, 50, 1, 101));
-    EXPECT_EQ(pictures::boundsOf(image, kRed).left(), 146) << "ticks of 4 pixels on the left";
-    TextBox* style = CAxis_setLabelStyle(p.radial, nullptr, 8, kGreen, 0);
-    CBox_setBackground(TextBox2Box(style), kGreen, CHART_TRANSPARENT, 0);
-    image = pictures::of(p.chart, false);
-    const QRect labels = pictures::boundsOf(image, kGreen);
+    QImage image = of(p.chart, false);
+    EXPECT_EQ(boundsOf(image, kBlue), QRect(150, 50, 1, 101));
+    EXPECT_EQ(boundsOf(image, kRed).left(), 146) << "ticks of 4 pixels on the left";
+    boxed(CAxis_setLabelStyle(p.radial, nullptr, 8, kGreen, 0), kGreen);
+    image = of(p.chart, false);
+    const QRect labels = boundsOf(image, kGreen);
     EXPECT_LT(labels.right(), 146);
     EXPECT_NEAR(labels.top(), 44, 2) << "the outermost is level with its tick, where there is room";
     EXPECT_NEAR(labels.bottom(), 156, 4);
@@ -243,7 +211,7 @@ TEST(PolarChart, ShowsTheRadialAxisUpwardsFromTheCentre) {
     CAxis_addMark(p.radial, 600, kRed, "unseen", nullptr, 8);
     CAxis_setReverse(p.radial, true);
     image = p.picture();
-    EXPECT_LT(QColor(image.pixel(pictures::roundPoint(kCentre, 135, 40))).lightness(), 160)
+    EXPECT_LT(QColor(image.pixel(roundPoint(kCentre, 135, 40))).lightness(), 160)
         << "reversed, 60 is 40 from the centre";
 }
 
@@ -255,11 +223,10 @@ TEST(PolarChart, PlacesDataLabelsBesideTheirPointsAndApart) {
         angles.push_back(i * 360.0 / 40);
     }
     PolarLayer* layer = PolarLineLayer2PolarLayer(p.line(data, angles, kRed, 0));
-    TextBox* style = CPolarLayer_setDataLabelStyle(layer, nullptr, 8, kBlue, 0);
-    CBox_setBackground(TextBox2Box(style), kBlue, CHART_TRANSPARENT, 0);
+    boxed(CPolarLayer_setDataLabelStyle(layer, nullptr, 8, kBlue, 0), kBlue);
     CPolarLayer_setDataLabelFormat(layer, "{value}");
     const QImage image = p.picture();
-    const auto boxes = pictures::patches(image, kWhite);
+    const auto boxes = patches(image, kWhite);
     EXPECT_GE(boxes.size(), 20u);
     int together = 0;
     for (const QRect& box : boxes) {
@@ -267,7 +234,7 @@ TEST(PolarChart, PlacesDataLabelsBesideTheirPointsAndApart) {
         together += box.height() > 20 || box.width() > 45 ? 1 : 0; // two that touch are one patch
         double nearest = 1000;
         for (std::size_t i = 0; i < data.size(); ++i)
-            nearest = std::min(nearest, pictures::nearestOf(box, pictures::roundPoint(kCentre, angles[i], data[i])));
+            nearest = std::min(nearest, nearestOf(box, roundPoint(kCentre, angles[i], data[i])));
         EXPECT_LE(nearest, 4) << box;
     }
     EXPECT_LE(together, 6);
@@ -276,7 +243,7 @@ TEST(PolarChart, PlacesDataLabelsBesideTheirPointsAndApart) {
     layer = PolarLineLayer2PolarLayer(format.line({60}, {90}, kRed, 0));
     CPolarLayer_setDataLabelStyle(layer, nullptr, 8, kBlue, 0);
     CPolarLayer_setDataLabelFormat(layer, " ");
-    EXPECT_EQ(pictures::inked(format.picture(), kWhite), 0);
+    EXPECT_EQ(inked(format.picture(), kWhite), 0);
 }
 
 } // namespace

@@ -1,10 +1,10 @@
 // Smooth curves: through their points, round where the points are, and without overshooting.
 
 #include "engine/polar/smooth_curve.h"
+#include "tests/expect.h"
 
 #include <algorithm>
 #include <cmath>
-#include <gtest/gtest.h>
 #include <numbers>
 
 using chartdraw::smoothCurve;
@@ -28,17 +28,15 @@ TEST(SmoothCurve, PassesItsPointsInOrder) {
         from = std::find(from, curve.end(), point);
         ASSERT_NE(from, curve.end());
     }
-    EXPECT_EQ(curve.front(), points.front());
-    EXPECT_EQ(curve.back(), points.back());
-    EXPECT_EQ(smoothCurve(points, true).back(), points.front());
+    EXPECT_EQS((curve.front(), points.front()), (curve.back(), points.back()),
+               (smoothCurve(points, true).back(), points.front()));
 }
 
 TEST(SmoothCurve, IsRoundAndFineEnough) {
     const auto curve = smoothCurve(circle(8), true);
     for (std::size_t i = 0; i < curve.size(); ++i) {
         EXPECT_NEAR(std::hypot(curve[i].x(), curve[i].y()), 100, 1) << "a circle from eight points";
-        if (i > 0)
-            EXPECT_LE(std::hypot(curve[i].x() - curve[i - 1].x(), curve[i].y() - curve[i - 1].y()), 4);
+        if (i > 0) EXPECT_LE(std::hypot(curve[i].x() - curve[i - 1].x(), curve[i].y() - curve[i - 1].y()), 4);
     }
 }
 

@@ -49,8 +49,7 @@ inline std::string faultOf(BaseChart* chart, std::size_t& count) {
     std::vector<QPolygonF> texts;
     for (const QPolygonF& text : textsOf(chart)) {
         ++count;
-        if (!picture.contains(shrunk(text, kTolerance).boundingRect()))
-            return "leaves the picture: " + place(text);
+        if (!picture.contains(shrunk(text, kTolerance).boundingRect())) return "leaves the picture: " + place(text);
         texts.push_back(shrunk(text, kTolerance / 2));
     }
     for (std::size_t i = 0; i < texts.size(); ++i)

@@ -2,11 +2,12 @@
 
 #include "engine/xy/frame_layout.h"
 #include "engine/xy/xy_chart.h"
+#include "tests/engine/chart/picture.h"
 #include "tests/engine/room/overlap.h"
 
-#include <gtest/gtest.h>
-
 namespace {
+
+using namespace pictures;
 
 using overlap::textsOf;
 
@@ -15,46 +16,24 @@ constexpr int kClear = CHART_TRANSPARENT;
 /// The texts are apart and in the picture, and there are so many of them. Ends the chart.
 std::vector<QRectF> placed(BaseChart* chart, std::size_t count) {
     std::size_t texts = 0;
-    EXPECT_EQ(overlap::faultOf(chart, texts), "");
-    EXPECT_EQ(texts, count);
+    EXPECT_EQS((overlap::faultOf(chart, texts), ""), (texts, count));
     std::vector<QRectF> boxes;
-    for (const QPolygonF& text : textsOf(chart))
-        boxes.push_back(text.boundingRect());
+    for (const QPolygonF& text : textsOf(chart)) boxes.push_back(text.boundingRect());
     CBaseChart_destroy(chart);
     return boxes;
 }
 
-QImage pictureOf(BaseChart* chart) {
-    const char* bytes = nullptr;
-    int length = 0;
-    CBaseChart_makeChart2(chart, CHART_FORMAT_BMP, &bytes, &length);
-    QImage image = QImage::fromData(reinterpret_cast<const uchar*>(bytes), length, "BMP");
-    CBaseChart_destroy(chart);
-    return image.convertToFormat(QImage::Format_RGB32);
+int countOf(const QImage& image, const QRect& area, int colour) {
+    return area.width() * area.height() - inked(image.copy(area), colour);
 }
 
-template <class Test>
-int countIf(const QImage& image, const QRect& area, Test test) {
+/// How many pixels are that bright.
+int greys(const QImage& image, const QRect& area, int least, int most) {
     int count = 0;
     for (int y = area.top(); y <= area.bottom(); ++y)
         for (int x = area.left(); x <= area.right(); ++x)
-            count += test(image.pixel(x, y)) ? 1 : 0;
+            count += qGray(image.pixel(x, y)) >= least && qGray(image.pixel(x, y)) <= most ? 1 : 0;
     return count;
-}
-
-int countOf(const QImage& image, const QRect& area, QRgb colour) {
-    return countIf(
-        image, area, [colour](QRgb pixel) { return pixel == (0xff000000 | colour); });
-}
-
-int darkPixels(const QImage& image, const QRect& area) {
-    return countIf(
-        image, area, [](QRgb pixel) { return qGray(pixel) < 100; });
-}
-
-int lightPixels(const QImage& image, const QRect& area) {
-    return countIf(
-        image, area, [](QRgb pixel) { return qGray(pixel) > 160; });
 }
 
 /// Nearest distance of a box from a point.
@@ -99,8 +78,7 @@ TEST(Placement, LabelsOfAPieEndAtTitlesAndLegend) {
     CBaseChart_addTitle2(chart, CHART_BOTTOM, "Source", nullptr, 8, -1, kClear, kClear);
     CBaseChart_addLegend(chart, 300, 60, true, nullptr, 8);
     const std::vector<QRectF> boxes = placed(chart, 6 + 2 + 6);
-    for (const QRectF& box : boxes)
-        EXPECT_GT(distance(box, QPointF(180, 150)), 80) << box.left() << ", " << box.top();
+    for (const QRectF& box : boxes) EXPECT_GT(distance(box, QPointF(180, 150)), 80) << box.left() << ", " << box.top();
 }
 
 TEST(Placement, MetersShortenManyDigitsAndKeepTheirMiddleFree) {
@@ -143,8 +121,7 @@ TEST(Placement, LegendsWrapLongKeysAndStandInColumns) {
         std::find_if(boxes.begin() + 1, boxes.end(), [&](const QRectF& box) { return box.top() > boxes[0].top(); });
     ASSERT_NE(below, boxes.end()) << "there is no room for one row";
     const auto columns = static_cast<std::size_t>(below - boxes.begin());
-    for (std::size_t i = columns; i < boxes.size(); ++i)
-        EXPECT_EQ(boxes[i].left(), boxes[i - columns].left()) << i;
+    for (std::size_t i = columns; i < boxes.size(); ++i) EXPECT_EQ(boxes[i].left(), boxes[i - columns].left()) << i;
 
     pie = CPieChart_create(240, 200, 0xffffff, kClear, 0);
     legend = CBaseChart_addLegend(PieChart2BaseChart(pie), 120, 10, true, nullptr, 8);
@@ -159,11 +136,11 @@ TEST(Placement, LabelsInBarsAreReadOnThemOrLeftOut) {
     const Chart chart;
     chart.hideLabels();
     chart.bars(CHART_COMBINE_STACK, {{50, 99}, {50, 1}}, {0x000080, 0xffff80});
-    const QImage image = pictureOf(chart.base);
+    const QImage image = of(chart.base);
     // Of the axis to 120 50 is at row 136, 100 at 53.
-    EXPECT_GT(lightPixels(image, QRect(80, 145, 90, 60)), 0) << "white on the dark bar";
-    EXPECT_GT(darkPixels(image, QRect(80, 60, 90, 60)), 0) << "black on the light one";
-    EXPECT_EQ(darkPixels(image, QRect(220, 40, 110, 12)), 0) << "none in the low one";
+    EXPECT_GT(greys(image, QRect(80, 145, 90, 60), 161, 255), 0) << "white on the dark bar";
+    EXPECT_GT(greys(image, QRect(80, 60, 90, 60), 0, 99), 0) << "black on the light one";
+    EXPECT_EQ(greys(image, QRect(220, 40, 110, 12), 0, 99), 0) << "none in the low one";
 }
 
 TEST(Placement, BarsThatOthersHideHaveNoLabels) {
@@ -184,7 +161,7 @@ TEST(Placement, LabelsOfValuesHaveTheDigitsOfTheirAxisAndTwoMore) {
         const Chart chart;
         Layer* layer = chart.bars(CHART_COMBINE_SIDE, {{2.0 / 3, 1}}, {0xff0000});
         CLayer_setDataLabelFormat(layer, format);
-        return pictureOf(chart.base).copy(60, 20, 130, 200);
+        return of(chart.base).copy(60, 20, 130, 200);
     };
     EXPECT_EQ(picture("{value}"), picture("0.667"));
 }
@@ -208,11 +185,10 @@ TEST(Placement, LinesAreTwoPixelsWideWhereTheyHaveRoom) {
         CBaseChart_destroy(chart.base);
         return result;
     };
-    EXPECT_EQ(width(10), 2);
-    EXPECT_EQ(width(1000), 1);
+    EXPECT_EQS((width(10), 2), (width(1000), 1));
     const Chart chart;
     chart.line(std::vector<double>(10, 5));
-    EXPECT_EQ(countOf(pictureOf(chart.base), QRect(200, 25, 1, 190), 0xff0000), 2);
+    EXPECT_EQ(countOf(of(chart.base), QRect(200, 25, 1, 190), 0xff0000), 2);
 }
 
 TEST(Placement, NarrowCandlesShowTheirColours) {
@@ -227,7 +203,7 @@ TEST(Placement, NarrowCandlesShowTheirColours) {
     }
     CXYChart_addCandleStickLayer(xy, high.data(), 100, low.data(), 100, open.data(), 100, close.data(), 100, 0x00ff00,
                                  0xff0000, -1);
-    const QImage image = pictureOf(XYChart2BaseChart(xy));
+    const QImage image = of(XYChart2BaseChart(xy));
     const QRect plot(55, 25, 470, 190);
     EXPECT_EQ(countOf(image, plot, 0x000000), 0);
     EXPECT_GT(countOf(image, plot, 0x00ff00), 1000);
@@ -246,8 +222,7 @@ TEST(Placement, OnlyBarsAndAreasNeedZero) {
     asked.line({80, 165});
     CAxis_setAutoScale(asked.y, 0.1, 0.1, 0.8);
     EXPECT_GE(lowest(line), 60);
-    EXPECT_EQ(lowest(bars), 0);
-    EXPECT_EQ(lowest(asked), 0);
+    EXPECT_EQS((lowest(bars), 0), (lowest(asked), 0));
 }
 
 TEST(Placement, LogAxesHaveMinorTicksAndFewDecadesMoreLabels) {
@@ -255,8 +230,7 @@ TEST(Placement, LogAxesHaveMinorTicksAndFewDecadesMoreLabels) {
         const Chart chart;
         chart.line({least, most});
         CAxis_setLogScale3(chart.y, nullptr);
-        if (plain)
-            CAxis_setTickDensity(chart.y, -1, -1);
+        if (plain) CAxis_setTickDensity(chart.y, -1, -1);
         auto frame = chartdraw::layoutFrame(*chartdraw::object<chartdraw::XYChart>(chart.xy));
         CBaseChart_destroy(chart.base);
         return std::pair(frame.axes[1].labels.size(),

@@ -10,8 +10,6 @@
 
 namespace {
 
-constexpr int kCharts = 2000;
-
 const char* const kNames[] = {"North",
                               "South-East",
                               "Unbreakablelongnameofaplace",
@@ -35,33 +33,17 @@ public:
     explicit Maker(unsigned seed) : m_random(seed) {}
 
     BaseChart* make() {
-        const struct {
-            int width, height;
-        } sizes[] = {{200, 150}, {360, 260}, {550, 500}, {500, 550}, {800, 400}, {1600, 900}};
-        const auto& size = sizes[below(below(8) == 0 ? 6 : 5)];
-        m_width = size.width;
-        m_height = size.height;
+        const std::pair<int, int> sizes[] = {{200, 150}, {360, 260}, {550, 500}, {500, 550}, {800, 400}, {1600, 900}};
+        std::tie(m_width, m_height) = sizes[below(below(8) == 0 ? 6 : 5)];
         const double points[] = {8, 8, 8, 10, 12, 20};
         m_font = points[below(6)];
         m_top = m_font * 1.4 + 14;
-        BaseChart* chart = nullptr;
-        switch (below(10)) {
-        case 0:
-        case 1:
-            chart = pie();
-            break;
-        case 2:
-            chart = polar();
-            break;
-        case 3:
-            chart = angularMeter();
-            break;
-        case 4:
-            chart = linearMeter();
-            break;
-        default:
-            chart = xy();
-        }
+        const int kind = below(10);
+        BaseChart* chart = kind < 2    ? pie()
+                           : kind == 2 ? polar()
+                           : kind == 3 ? angularMeter()
+                           : kind == 4 ? linearMeter()
+                                       : xy();
         dress(chart);
         return chart;
     }
@@ -72,21 +54,20 @@ private:
     double part() { return static_cast<double>(m_random() % 10000) / 10000; }
     const char* name() { return kNames[below(static_cast<int>(std::size(kNames)))]; }
 
+    std::vector<const char*> someNames(int count) {
+        std::vector<const char*> names(static_cast<std::size_t>(count));
+        std::generate(names.begin(), names.end(), [this] { return name(); });
+        return names;
+    }
     std::vector<double> data(int count) {
         const double scales[] = {1, 100, 1e-7, 1e6, 3e12, 1e40, 0.013};
         const double scale = scales[oneIn(2) ? below(7) : 1];
         const int form = below(8);
         std::vector<double> values;
         for (int i = 0; i < count; ++i) {
-            double value = part() * scale;
-            if (form == 0)
-                value -= scale / 2;
-            else if (form == 1)
-                value = -value;
-            else if (form == 2)
-                value = scale;
-            else if (form == 3)
-                value += 50 * scale;
+            const double some = part() * scale;
+            const double forms[] = {some - scale / 2, -some, scale, some + 50 * scale};
+            const double value = form < 4 ? forms[form] : some;
             values.push_back(form == 4 && oneIn(5) ? CHART_NO_VALUE : value);
         }
         return values;
@@ -112,20 +93,15 @@ private:
     BaseChart* pie() {
         PieChart* pie = CPieChart_create(m_width, m_height, CHART_BACKGROUND_COLOR, CHART_TRANSPARENT, 0);
         const int count = this->count();
-        std::vector<const char*> names;
-        for (int i = 0; i < count; ++i)
-            names.push_back(name());
+        const std::vector<const char*> names = someNames(count);
         const std::vector<double> values = data(count);
         CPieChart_setPieSize(pie, m_width / 2, m_height / 2 + 10, std::min(m_width, m_height) / (3 + below(3)));
         CPieChart_setData(pie, values.data(), count, names.data(), count);
         CPieChart_setLabelStyle(pie, nullptr, m_font, -1);
         CPieChart_setStartAngle(pie, below(360), !oneIn(4));
-        if (oneIn(2))
-            CPieChart_setLabelLayout(pie, CHART_SIDE_LAYOUT, -1, -1, -1);
-        if (oneIn(3))
-            CPieChart_set3D(pie, -1, -1, oneIn(2));
-        if (oneIn(4))
-            CPieChart_setLabelFormat(pie, "{label}: {value} ({percent|1}%)");
+        if (oneIn(2)) CPieChart_setLabelLayout(pie, CHART_SIDE_LAYOUT, -1, -1, -1);
+        if (oneIn(3)) CPieChart_set3D(pie, -1, -1, oneIn(2));
+        if (oneIn(4)) CPieChart_setLabelFormat(pie, "{label}: {value} ({percent|1}%)");
         return PieChart2BaseChart(pie);
     }
 
@@ -136,19 +112,15 @@ private:
         const int count = this->count();
         const std::vector<double> values = data(count);
         PolarLineLayer* line = CPolarChart_addLineLayer(polar, values.data(), count, -1, name());
-        if (oneIn(2))
-            CPolarLayer_setDataLabelStyle(PolarLineLayer2PolarLayer(line), nullptr, m_font, -1, 0);
+        if (oneIn(2)) CPolarLayer_setDataLabelStyle(PolarLineLayer2PolarLayer(line), nullptr, m_font, -1, 0);
         if (oneIn(2)) {
-            std::vector<const char*> names;
-            for (int i = 0; i < count; ++i)
-                names.push_back(name());
+            const std::vector<const char*> names = someNames(count);
             CAngularAxis_setLabels(CPolarChart_angularAxis(polar), names.data(), count);
         }
         CAngularAxis_setLabelStyle(CPolarChart_angularAxis(polar), nullptr, m_font, -1, 0);
         Axis* radial = CPolarChart_radialAxis(polar);
         CAxis_setLabelStyle(radial, nullptr, m_font, -1, 0);
-        if (oneIn(3))
-            CAxis_setTitle(radial, name(), nullptr, m_font, -1);
+        if (oneIn(3)) CAxis_setTitle(radial, name(), nullptr, m_font, -1);
         return PolarChart2BaseChart(polar);
     }
 
@@ -178,8 +150,7 @@ private:
         else
             CLinearMeter_setMeter(meter, m_width / 10, m_height / 2, m_width * 4 / 5, 20, sides[side], oneIn(4));
         scale(LinearMeter2BaseMeter(meter));
-        for (int i = below(4); i > 0; --i)
-            CLinearMeter_addZone(meter, part() * 50, 50 + part() * 50, 0xffeeaa, name());
+        for (int i = below(4); i > 0; --i) CLinearMeter_addZone(meter, part() * 50, 50 + part() * 50, 0xffeeaa, name());
         return BaseMeter2BaseChart(LinearMeter2BaseMeter(meter));
     }
 
@@ -201,8 +172,7 @@ private:
     void style(Axis* axis) {
         const double angles[] = {0, 0, 0, 45, 90, -30};
         CAxis_setLabelStyle(axis, nullptr, m_font, -1, angles[below(6)]);
-        if (!oneIn(3))
-            CAxis_setTitle(axis, oneIn(2) ? name() : kTitles[below(5)], nullptr, m_font, -1);
+        if (!oneIn(3)) CAxis_setTitle(axis, oneIn(2) ? name() : kTitles[below(5)], nullptr, m_font, -1);
         if (oneIn(6)) {
             const char* const formats[] = {"${value}", "{value|2,.}", "{value} kg"};
             CAxis_setLabelFormat(axis, formats[below(3)]);
@@ -222,20 +192,14 @@ private:
         Axis* x = CXYChart_xAxis(chart);
         Axis* y = CXYChart_yAxis(chart);
         layers(chart, count);
-        if (oneIn(2))
-            rowLabels(x, count);
+        if (oneIn(2)) rowLabels(x, count);
         style(x);
         style(y);
-        if (oneIn(5))
-            CAxis_setLogScale3(y, nullptr);
-        if (oneIn(5))
-            CXYChart_swapXY(chart, true);
-        if (oneIn(8))
-            CXYChart_setYAxisOnRight(chart, true);
-        if (oneIn(8))
-            style(CXYChart_yAxis2(chart));
-        if (oneIn(10))
-            CXYChart_setAxisAtOrigin(chart, CHART_ORIGIN_XY, 0);
+        if (oneIn(5)) CAxis_setLogScale3(y, nullptr);
+        if (oneIn(5)) CXYChart_swapXY(chart, true);
+        if (oneIn(8)) CXYChart_setYAxisOnRight(chart, true);
+        if (oneIn(8)) style(CXYChart_yAxis2(chart));
+        if (oneIn(10)) CXYChart_setAxisAtOrigin(chart, CHART_ORIGIN_XY, 0);
         return base;
     }
 
@@ -245,33 +209,25 @@ private:
         for (int i = 1 + below(2); i > 0; --i) {
             Layer* layer = nullptr;
             const std::vector<double> a = data(count), b = data(count), c = data(count), d = data(count);
-            switch (below(6)) {
-            case 0:
+            if (const int kind = below(6); kind == 0) {
                 layer = LineLayer2Layer(CXYChart_addLineLayer(chart, a.data(), count, -1, name(), 0));
-                break;
-            case 1:
+            } else if (kind == 1) {
                 layer = LineLayer2Layer(CXYChart_addScatterLayer(chart, b.data(), count, a.data(), count, name(),
                                                                  CHART_CIRCLE_SYMBOL, 5 + below(9), -1, -1));
-                break;
-            case 2:
+            } else if (kind == 2) {
                 layer = AreaLayer2Layer(CXYChart_addAreaLayer2(chart, combines[1 + 2 * below(2)], 0));
-                CLayer_addDataSet(layer, a.data(), count, -1, name());
-                CLayer_addDataSet(layer, b.data(), count, -1, name());
-                break;
-            case 3:
+                for (const auto& set : {a, b}) CLayer_addDataSet(layer, set.data(), count, -1, name());
+            } else if (kind == 3) {
                 layer = BaseBoxLayer2Layer(BoxWhiskerLayer2BaseBoxLayer(
                     CXYChart_addBoxWhiskerLayer(chart, a.data(), count, b.data(), count, c.data(), count, d.data(),
                                                 count, nullptr, 0, -1, -1, -1)));
-                break;
-            default:
+            } else {
                 layer = BarLayer2Layer(CXYChart_addBarLayer2(chart, combines[below(4)], oneIn(4) ? 8 : 0));
                 for (int set = 1 + below(3); set > 0; --set)
                     CLayer_addDataSet(layer, (set == 1 ? a : set == 2 ? b : c).data(), count, -1, name());
-                if (oneIn(3))
-                    CLayer_setAggregateLabelStyle(layer, "bold", m_font, -1, 0);
+                if (oneIn(3)) CLayer_setAggregateLabelStyle(layer, "bold", m_font, -1, 0);
             }
-            if (oneIn(2))
-                CLayer_setDataLabelStyle(layer, nullptr, m_font, -1, 0);
+            if (oneIn(2)) CLayer_setDataLabelStyle(layer, nullptr, m_font, -1, 0);
         }
     }
 
@@ -281,9 +237,7 @@ private:
 };
 
 TEST(RandomCharts, KeepTheirTextsApartAndInThePicture) {
-    const int charts = qEnvironmentVariableIsSet("CHART_RANDOM_CHARTS")
-                           ? qEnvironmentVariableIntValue("CHART_RANDOM_CHARTS")
-                           : kCharts;
+    const int wanted = qEnvironmentVariableIntValue("CHART_RANDOM_CHARTS"), charts = wanted > 0 ? wanted : 2000;
     const int first = qEnvironmentVariableIntValue("CHART_RANDOM_SEED");
     std::size_t texts = 0;
     for (int i = 0; i < charts; ++i) {

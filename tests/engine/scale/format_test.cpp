@@ -23,21 +23,16 @@ struct ValueCase {
 };
 
 void expectAll(std::initializer_list<ValueCase> cases) {
-    for (const ValueCase& c : cases)
-        EXPECT_EQ(formatValue(c.value, c.format), c.text) << c.value << " by " << c.format;
+    for (const ValueCase& c : cases) EXPECT_EQ(formatValue(c.value, c.format), c.text) << c.value << " by " << c.format;
 }
 
 /// A bar of a chart: a name, a value, a share, a time and a value with a text of its own.
 struct Bar final : chartdraw::FieldSource {
     FieldValue field(std::string_view name) const override {
-        if (name == "label")
-            return FieldValue::text("North");
-        if (name == "value")
-            return FieldValue::number(1234.5);
-        if (name == "percent")
-            return FieldValue::number(100.0 / 3);
-        if (name == "xLabel")
-            return FieldValue::number(chartTime(2003, 1, 6, 15, 4, 5), "tick");
+        if (name == "label") return FieldValue::text("North");
+        if (name == "value") return FieldValue::number(1234.5);
+        if (name == "percent") return FieldValue::number(100.0 / 3);
+        if (name == "xLabel") return FieldValue::number(chartTime(2003, 1, 6, 15, 4, 5), "tick");
         return FieldValue::unknown();
     }
 };
@@ -154,8 +149,7 @@ TEST(FormatFields, KnownUnknownAndUnclosed) {
         {"<*font=bold*>{label}", "<*font=bold*>North"},
         {"", ""},
     };
-    for (const auto& [format, text] : cases)
-        EXPECT_EQ(Format(format).apply(bar), text) << format;
+    for (const auto& [format, text] : cases) EXPECT_EQ(Format(format).apply(bar), text) << format;
     EXPECT_TRUE(Format("x{percent|1}").has("percent"));
     EXPECT_FALSE(Format("percent {percents}").has("percent"));
 }

@@ -19,8 +19,7 @@ std::vector<double> tradingTimes(double start, int count, double hours = 24) {
     std::vector<double> times;
     for (double time = start; static_cast<int>(times.size()) < count; time += hours * 3600) {
         const int hour = toCivil(time).hour;
-        if (weekdayOf(time) < 5 && (hours >= 24 || (hour >= 9 && hour <= 16)))
-            times.push_back(time);
+        if (weekdayOf(time) < 5 && (hours >= 24 || (hour >= 9 && hour <= 16))) times.push_back(time);
     }
     return times;
 }
@@ -78,13 +77,7 @@ TEST(LabelPicker, HoursOfTradingDays) {
 }
 
 TEST(LabelPicker, StartsAndTheirSteps) {
-    struct Case {
-        FilterType type;
-        int step;
-        double margin;
-        int first;
-        const char* items;
-    };
+    using Case = std::tuple<FilterType, int, double, int, const char*>;
     const auto days = tradingTimes(chartTime(2003, 1, 2), 60); // Thursday, 2 January to 26 March
     const Case cases[] = {
         {FilterType::StartOfWeek, 1, 0, 30, "17.2.03 24.2.03 3.3.03 10.3.03 17.3.03 24.3.03"},
@@ -101,21 +94,15 @@ TEST(LabelPicker, StartsAndTheirSteps) {
         {FilterType::AllPass, 40, 0, 0, "2.1.03 27.2.03"},
         {FilterType::NonePass, 1, 1, 0, ""},
     };
-    for (const Case& c : cases) {
-        std::string plain = shown(days, c.first, {rule(c.type, c.step, c.margin, 1, false)});
-        for (std::size_t at; (at = plain.find(":0")) != std::string::npos;)
-            plain.erase(at, 2);
-        EXPECT_EQ(plain, c.items) << static_cast<int>(c.type) << " step " << c.step << " margin " << c.margin;
+    for (const auto& [type, step, margin, first, items] : cases) {
+        std::string plain = shown(days, first, {rule(type, step, margin, 1, false)});
+        for (std::size_t at; (at = plain.find(":0")) != std::string::npos;) plain.erase(at, 2);
+        EXPECT_EQ(plain, items) << static_cast<int>(type) << " step " << step << " margin " << margin;
     }
 }
 
 TEST(LabelThinning, StepsAndEnds) {
-    struct Case {
-        int count;
-        double pitch, width;
-        bool keepEnds;
-        std::vector<int> kept;
-    };
+    using Case = std::tuple<int, double, double, bool, std::vector<int>>;
     const Case cases[] = {
         {5, 30, 20, true, {0, 1, 2, 3, 4}},
         {11, 30, 70, false, {0, 3, 6, 9}},
@@ -128,11 +115,10 @@ TEST(LabelThinning, StepsAndEnds) {
         {1, 30, 20, true, {0}},
         {0, 30, 20, true, {}},
     };
-    for (const Case& c : cases) {
+    for (const auto& [count, pitch, width, keepEnds, kept] : cases) {
         std::vector<LabelExtent> labels;
-        for (int i = 0; i < c.count; ++i)
-            labels.push_back({i * c.pitch - c.width / 2, i * c.pitch + c.width / 2});
-        EXPECT_EQ(thinLabels(labels, 4, c.keepEnds), c.kept) << c.count << " of " << c.width;
+        for (int i = 0; i < count; ++i) labels.push_back({i * pitch - width / 2, i * pitch + width / 2});
+        EXPECT_EQ(thinLabels(labels, 4, keepEnds), kept) << count << " of " << width;
     }
     const double nan = std::numeric_limits<double>::quiet_NaN();
     EXPECT_EQ(thinLabels(std::vector<LabelExtent>{{0, 9}, {nan, nan}, {20, 11}}, 1, true), (std::vector<int>{0, 1, 2}));

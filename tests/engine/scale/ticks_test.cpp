@@ -5,10 +5,10 @@
 #include "engine/data/no_value.h"
 #include "engine/scale/auto_scale.h"
 #include "engine/scale/ticks.h"
+#include "tests/expect.h"
 
 #include <cfloat>
 #include <cmath>
-#include <gtest/gtest.h>
 #include <limits>
 #include <set>
 
@@ -21,8 +21,7 @@ constexpr double kInf = std::numeric_limits<double>::infinity();
 
 DataRange range(std::initializer_list<double> values) {
     DataRange data;
-    for (const double value : values)
-        data.add(value);
+    for (const double value : values) data.add(value);
     return data;
 }
 
@@ -30,8 +29,7 @@ std::string labels(const Ticks& ticks) {
     std::string text;
     for (const Tick& tick : ticks.major) {
         text += text.empty() ? "" : " | ";
-        for (const char c : tick.label)
-            text += c == '\n' ? '/' : c;
+        for (const char c : tick.label) text += c == '\n' ? '/' : c;
     }
     return text;
 }
@@ -50,8 +48,7 @@ void expectSound(const Ticks& ticks, const Scale& scale, double lengthPx) {
     std::size_t count = 0;
     for (const std::vector<double>& values : {major, ticks.minor, ticks.micro}) {
         EXPECT_TRUE(std::is_sorted(values.begin(), values.end()));
-        for (const double value : values)
-            EXPECT_TRUE(scale.contains(value)) << value;
+        for (const double value : values) EXPECT_TRUE(scale.contains(value)) << value;
         EXPECT_LE(static_cast<double>(values.size()), lengthPx / 2 + 2);
         all.insert(values.begin(), values.end());
         count += values.size();
@@ -103,9 +100,8 @@ TEST(AutoScale, LinearLimits) {
         const double length = std::string(c.ticks).starts_with("45") ? 330 : 270;
         const Scale scale = autoLinearScale(range(c.data), c.options, {length});
         const Ticks ticks = linearTicks(scale, {}, {length});
-        EXPECT_EQ(labels(ticks), c.ticks);
-        EXPECT_EQ(ticks.major.front().value, scale.lower());
-        EXPECT_EQ(ticks.major.back().value, scale.upper());
+        EXPECT_EQS((labels(ticks), c.ticks), (ticks.major.front().value, scale.lower()),
+                   (ticks.major.back().value, scale.upper()));
     }
 }
 
@@ -113,14 +109,10 @@ TEST(AutoScale, RangesOfData) {
     const std::vector<double> values = {4, kNan, -2, kNoValue, 0.5, -kInf, 0};
     DataRange data;
     data.add(values);
-    EXPECT_FALSE(data.empty);
-    EXPECT_EQ(data.min, -2);
-    EXPECT_EQ(data.max, 4);
-    EXPECT_EQ(data.minPositive, 0.5);
+    EXPECT_EQS((data.empty, false), (data.min, -2), (data.max, 4), (data.minPositive, 0.5));
     data.add(range({}));
     data.add(range({9, 0.25}));
-    EXPECT_EQ(data.max, 9);
-    EXPECT_EQ(data.minPositive, 0.25);
+    EXPECT_EQS((data.max, 9), (data.minPositive, 0.25));
     DataRange gaps;
     gaps.add(std::vector<double>{kNan, kNoValue});
     EXPECT_TRUE(gaps.empty);
@@ -129,8 +121,7 @@ TEST(AutoScale, RangesOfData) {
 TEST(AutoScale, DatesKeepTheirLimits) {
     const double day = chartTime(2003, 5, 1);
     const Scale plain = autoDateScale(range({day, day + 80000}), {0, 0, 0});
-    EXPECT_EQ(plain.lower(), day);
-    EXPECT_EQ(plain.upper(), day + 80000);
+    EXPECT_EQS((plain.lower(), day), (plain.upper(), day + 80000));
     EXPECT_EQ(autoDateScale(range({day, day + 80000}), {0.1, 0.1, 0}).upper(), day + 90000) << "a tenth of 100000";
     EXPECT_EQ(autoDateScale({}, {}).lower(), chartTime(2000, 1, 1));
     EXPECT_EQ(autoDateScale(range({1e300}), {}).upper(), kLastChartTime + 1);
@@ -157,12 +148,7 @@ TEST(AutoScale, AnyDataGiveLimitsOnTicks) {
 }
 
 TEST(LinearTicks, GivenIncrements) {
-    struct Case {
-        Scale scale;
-        Increments increments;
-        const char* major;
-        std::size_t minor, micro;
-    };
+    using Case = std::tuple<Scale, Increments, const char*, std::size_t, std::size_t>;
     const Case cases[] = {
         {Scale::linear(0, 100), {10, 5, 1}, "0 | 10 | 20 | 30 | 40 | 50 | 60 | 70 | 80 | 90 | 100", 10, 80},
         {Scale::linear(-6, 6), {3, 0, 0}, "-6 | -3 | 0 | 3 | 6", 0, 0},
@@ -176,12 +162,12 @@ TEST(LinearTicks, GivenIncrements) {
         {Scale::linear(0, 100), {1e-320, 0, 0}, "0 | 20 | 40 | 60 | 80 | 100", 0, 0},
         {Scale::linear(3.7, 6.1), {2, 0, 0}, "3.7 | 5.7", 0, 0},
     };
-    for (const Case& c : cases) {
-        const Ticks ticks = linearTicks(c.scale, c.increments, {300});
-        EXPECT_EQ(labels(ticks), c.major);
-        EXPECT_EQ(ticks.minor.size(), c.minor) << c.major;
-        EXPECT_EQ(ticks.micro.size(), c.micro) << c.major;
-        expectSound(ticks, c.scale, 300);
+    for (const auto& [scale, increments, major, minor, micro] : cases) {
+        const Ticks ticks = linearTicks(scale, increments, {300});
+        EXPECT_EQ(labels(ticks), major);
+        EXPECT_EQ(ticks.minor.size(), minor) << major;
+        EXPECT_EQ(ticks.micro.size(), micro) << major;
+        expectSound(ticks, scale, 300);
     }
 }
 
@@ -198,11 +184,7 @@ TEST(LinearTicks, DensityAndItems) {
 }
 
 TEST(LogTicks, DecadesAndParts) {
-    struct Case {
-        double from, to, length;
-        const char* major;
-        std::size_t minor;
-    };
+    using Case = std::tuple<double, double, double, const char*, std::size_t>;
     const Case cases[] = {
         // 270 pixels over four decades: 67 each, room for 2 to 9 three pixels apart; over twelve: 22 each,
         // room
@@ -216,13 +198,13 @@ TEST(LogTicks, DecadesAndParts) {
         {-5, -1, 200, "1 | 2 | 5 | 10", 6},
         {-5, 1000, 100, "100 | 1000 | 10000", 4},
     };
-    for (const Case& c : cases) {
-        const Density density{c.length, 0, 3};
-        const Scale scale = autoLogScale(range({c.from, c.to}), {0, 0, 0}, density);
+    for (const auto& [from, to, length, major, minor] : cases) {
+        const Density density{length, 0, 3};
+        const Scale scale = autoLogScale(range({from, to}), {0, 0, 0}, density);
         const Ticks ticks = logTicks(scale, density);
-        EXPECT_EQ(labels(ticks), c.major) << c.from << ".." << c.to;
-        EXPECT_EQ(ticks.minor.size(), c.minor) << c.major;
-        expectSound(ticks, scale, c.length);
+        EXPECT_EQ(labels(ticks), major) << from << ".." << to;
+        EXPECT_EQ(ticks.minor.size(), minor) << major;
+        expectSound(ticks, scale, length);
     }
     EXPECT_EQ(labels(logTicks(Scale::log(1, 10), {2000})), "1 | 2 | 3 | 4 | 5 | 6 | 7 | 8 | 9 | 10");
     // One notation for all: 10000000000 does not stand beside 1e20.
@@ -231,10 +213,7 @@ TEST(LogTicks, DecadesAndParts) {
 }
 
 TEST(DateTicks, CalendarBorders) {
-    struct Case {
-        double lower, upper, length;
-        const char* major;
-    };
+    using Case = std::tuple<double, double, double, const char*>;
     const Case cases[] = {
         {chartTime(1900, 1, 1), chartTime(2024, 2, 1), 400, "1900 | 1920 | 1940 | 1960 | 1980 | 2000 | 2020"},
         {chartTime(2019, 7, 1), chartTime(2024, 2, 1), 400, "2020 | 2021 | 2022 | 2023 | 2024"},
@@ -252,11 +231,11 @@ TEST(DateTicks, CalendarBorders) {
         // The month that was wanted begins nowhere here: Mondays instead.
         {chartTime(2024, 1, 2), chartTime(2024, 1, 30), 100, "8 Jan/2024 | 15 Jan | 22 Jan | 29 Jan"},
     };
-    for (const Case& c : cases) {
-        const Scale scale = Scale::date(c.lower, c.upper);
-        const Ticks ticks = dateTicks(scale, {}, {c.length, 0, 6});
-        EXPECT_EQ(labels(ticks), c.major);
-        expectSound(ticks, scale, c.length);
+    for (const auto& [lower, upper, length, major] : cases) {
+        const Scale scale = Scale::date(lower, upper);
+        const Ticks ticks = dateTicks(scale, {}, {length, 0, 6});
+        EXPECT_EQ(labels(ticks), major);
+        expectSound(ticks, scale, length);
     }
 }
 
@@ -281,7 +260,6 @@ TEST(AllTicks, HostileRequestsAreAnsweredAtOnce) {
                 for (const double length : {-5.0, 1.0, 333.0, 20000.0, 1e300, kNan}) {
                     const Ticks ticks = makeTicks(scale, {major, minor, minor / 7}, {length, 0, 5});
                     ASSERT_LE(ticks.major.size(), 50'003u);
-                    if (length <= 333)
-                        expectSound(ticks, scale, std::max(length, 30.0));
+                    if (length <= 333) expectSound(ticks, scale, std::max(length, 30.0));
                 }
 }

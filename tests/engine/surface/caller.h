@@ -51,8 +51,7 @@ public:
     }
 
     ~Caller() {
-        while (!m_charts.empty())
-            destroyOne();
+        while (!m_charts.empty()) destroyOne();
         std::for_each(m_tables.begin(), m_tables.end(), CRanTable_destroy);
         std::for_each(m_arrays.begin(), m_arrays.end(), CArrayMath_destroy);
     }
@@ -60,16 +59,14 @@ public:
     void drawAll() {
         for (BaseChart* chart : m_charts) {
             const bool made = CBaseChart_makeChart2(chart, CHART_FORMAT_BMP, &m_outBytes, &m_outCount);
-            if (made != (m_outBytes != nullptr && m_outCount > 54))
-                std::abort();
+            if (made != (m_outBytes != nullptr && m_outCount > 54)) std::abort();
             m_pictures += made ? 1 : 0;
         }
     }
 
     int pictures() const { return m_pictures; }
 
-    template <class Result, class... Args>
-    void call(Result (*operation)(Args...)) {
+    template <class Result, class... Args> void call(Result (*operation)(Args...)) {
         std::tuple<Args...> args;
         fill(args, std::index_sequence_for<Args...>());
         if constexpr (std::is_pointer_v<Result> && !std::is_same_v<Result, const char*>)
@@ -82,27 +79,23 @@ public:
 
     /// Ends one of the charts, with all handles that came from it.
     void destroyOne() {
-        if (m_charts.empty())
-            return;
+        if (m_charts.empty()) return;
         const std::size_t at = below(m_charts.size());
         BaseChart* chart = m_charts[at];
         m_charts.erase(m_charts.begin() + static_cast<std::ptrdiff_t>(at));
         const auto its = [&](void* handle) { return m_owners[handle] == chart; };
-        for (auto& [key, handles] : m_handles)
-            std::erase_if(handles, its);
+        for (auto& [key, handles] : m_handles) std::erase_if(handles, its);
         std::erase_if(m_all, its);
         std::erase_if(m_owners, [&](const auto& entry) { return entry.second == chart; });
         CBaseChart_destroy(chart);
     }
 
 private:
-    template <class Tuple, std::size_t... I>
-    void fill(Tuple& args, std::index_sequence<I...>) {
+    template <class Tuple, std::size_t... I> void fill(Tuple& args, std::index_sequence<I...>) {
         (fillOne<I>(args), ...);
     }
 
-    template <std::size_t I, class Tuple>
-    void fillOne(Tuple& args) {
+    template <std::size_t I, class Tuple> void fillOne(Tuple& args) {
         using T = std::tuple_element_t<I, Tuple>;
         if constexpr (I > 0 && std::is_same_v<T, int>) {
             if constexpr (isArray<std::tuple_element_t<I - 1, Tuple>>) {
@@ -125,18 +118,15 @@ private:
     int* pick(int**) { return below(4) == 0 ? nullptr : &m_outCount; }
 
     /// A handle: mostly a fitting one, now and then null or of any other kind.
-    template <class Handle>
-    Handle* pick(Handle**) {
+    template <class Handle> Handle* pick(Handle**) {
         const auto& fitting = handles<Handle>();
         const std::size_t chance = below(20);
-        if (chance == 0 && !m_all.empty())
-            return static_cast<Handle*>(m_all[below(m_all.size())]);
+        if (chance == 0 && !m_all.empty()) return static_cast<Handle*>(m_all[below(m_all.size())]);
         return chance == 1 || fitting.empty() ? nullptr : static_cast<Handle*>(fitting[below(fitting.size())]);
     }
 
     /// The chart that the first argument belongs to; null for a creator.
-    template <class... Args>
-    void* ownerOf(const std::tuple<Args...>& args) {
+    template <class... Args> void* ownerOf(const std::tuple<Args...>& args) {
         using First = std::tuple_element_t<0, std::tuple<Args...>>;
         if constexpr (std::is_pointer_v<First> && !std::is_const_v<std::remove_pointer_t<First>>)
             return m_owners[std::get<0>(args)];
@@ -144,8 +134,7 @@ private:
             return nullptr;
     }
 
-    template <class Handle>
-    void keep(Handle* handle, void* owner) {
+    template <class Handle> void keep(Handle* handle, void* owner) {
         if (handle != nullptr) {
             m_owners[handle] = owner != nullptr ? owner : static_cast<void*>(handle);
             handles<Handle>().push_back(handle);
@@ -160,8 +149,7 @@ private:
         }
     }
 
-    template <class Handle>
-    std::vector<void*>& handles() {
+    template <class Handle> std::vector<void*>& handles() {
         static char key;
         return m_handles[&key];
     }

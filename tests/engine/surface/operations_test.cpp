@@ -1,11 +1,11 @@
 // Every operation of the surface, by the table of rows.h and by what it gives back.
 
 #include "tests/engine/surface/rows.h"
+#include "tests/expect.h"
 
 #include <QTemporaryDir>
 #include <cmath>
 #include <gmock/gmock.h>
-#include <gtest/gtest.h>
 #include <set>
 #include <string>
 #include <tuple>
@@ -17,8 +17,7 @@ const char* imageFile() {
     static const std::string path = [] {
         QImage image(20, 10, QImage::Format_RGB32);
         for (int y = 0; y < 10; ++y)
-            for (int x = 0; x < 20; ++x)
-                image.setPixel(x, y, static_cast<unsigned>(x < 10 ? kBrown : kBlue));
+            for (int x = 0; x < 20; ++x) image.setPixel(x, y, static_cast<unsigned>(x < 10 ? kBrown : kBlue));
         const QString file = folder.filePath("image.png");
         image.save(file);
         return file.toStdString();
@@ -142,8 +141,7 @@ TEST(Operations, ThatAnswerSayWhatWasAsked) {
     CBox_setSize(box, 30, 77);
     EXPECT_EQ(CBox_getHeight(box), 77);
     DrawArea* area = CBaseChart_getDrawArea(s.chart);
-    EXPECT_EQ(CDrawArea_getWidth(area), 300);
-    EXPECT_EQ(CDrawArea_getHeight(area), 200);
+    EXPECT_EQS((CDrawArea_getWidth(area), 300), (CDrawArea_getHeight(area), 200));
     CDrawArea_destroy(area); // the chart's own stays
     EXPECT_EQ(CDrawArea_getWidth(area), 300);
     CLayer_setHTMLImageMap(s.layer, "url", "query", "more"); // a picture shows none of it
@@ -176,8 +174,7 @@ TEST(Operations, OfMultiChartsPlaceTheirCharts) {
     EXPECT_TRUE(Shot(all.chart).has(kBrown, keys)); // what changes in a chart is seen in the one that shows it
 }
 
-template <class Target, class Source>
-void expectCast(Target* (*cast)(Source*), const char* name) {
+template <class Target, class Source> void expectCast(Target* (*cast)(Source*), const char* name) {
     // A handle of the kind itself comes through unchanged: the first that the creator of the name gives.
     Scene scenes[6];
     axes(scenes[0]);
@@ -215,11 +212,9 @@ void expectCast(Target* (*cast)(Source*), const char* name) {
     EXPECT_EQ(cast(reinterpret_cast<Source*>(xy.x)), nullptr) << name;
 }
 
-template <class Result, class... Args>
-void castIfOne(Result (*operation)(Args...), const char* name) {
+template <class Result, class... Args> void castIfOne(Result (*operation)(Args...), const char* name) {
     if constexpr (sizeof...(Args) == 1 && std::is_pointer_v<Result>) {
-        if (std::string(name)[0] != 'C' || std::string(name).starts_with("CandleStick"))
-            expectCast(operation, name);
+        if (std::string(name)[0] != 'C' || std::string(name).starts_with("CandleStick")) expectCast(operation, name);
     }
 }
 
@@ -231,8 +226,7 @@ TEST(Operations, ThatCastGiveTheSameObject) {
 
 TEST(Operations, AreAllInTheseTables) {
     std::set<std::string> named;
-    for (const Row& row : allRows())
-        named.insert(row.operation);
+    for (const Row& row : allRows()) named.insert(row.operation);
     for (const char* number :
          {"CArrayMath_create",        "CArrayMath_destroy",    "CArrayMath_result",      "CArrayMath_max",
           "CArrayMath_add",           "CArrayMath_sub",        "CArrayMath_mul2",        "CArrayMath_div2",

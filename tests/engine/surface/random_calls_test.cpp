@@ -4,19 +4,10 @@
 
 #include "tests/engine/surface/caller.h"
 
-#include <algorithm>
 #include <chrono>
-#include <climits>
-#include <cstdlib>
 #include <gtest/gtest.h>
-#include <limits>
-#include <map>
 #include <random>
-#include <string>
 #include <string_view>
-#include <tuple>
-#include <type_traits>
-#include <vector>
 
 namespace {
 
@@ -84,8 +75,7 @@ TEST(Surface, AnyCallsWithAnyArguments) {
             create(caller);
         }
         for (int round = 0; round < 6; ++round) {
-            for (int i = 0; i < 250; ++i)
-                others[caller.below(others.size())](caller);
+            for (int i = 0; i < 250; ++i) others[caller.below(others.size())](caller);
             caller.drawAll();
             caller.destroyOne();
         }

@@ -16,6 +16,11 @@ struct Row {
     bool (*shows)(const Shot& shot, bool second);
 };
 
+/// What most rows do: one expression of the scene `s` and of `b`, whether the second value is meant, or of the shot
+/// `p`.
+#define SET(...) [](Scene& s, [[maybe_unused]] bool b) { __VA_ARGS__; }
+#define SHOWS(...) [](const Shot& p, [[maybe_unused]] bool b) { return __VA_ARGS__; }
+
 std::vector<Row> chartRows();
 std::vector<Row> axisRows();
 std::vector<Row> layerRows();

@@ -33,12 +33,10 @@ public:
     }
     QColor at(int x, int y) const { return m_image.valid(x, y) ? m_image.pixelColor(x, y) : QColor(); }
     /// Whether some pixel of `part` is of a sort: for colours of thin lines, which are mixed with the ground.
-    template <class Sort>
-    bool any(const QRect& part, Sort sort) const {
+    template <class Sort> bool any(const QRect& part, Sort sort) const {
         for (int y = part.top(); y <= part.bottom(); ++y)
             for (int x = part.left(); x <= part.right(); ++x)
-                if (m_image.valid(x, y) && sort(m_image.pixelColor(x, y)))
-                    return true;
+                if (m_image.valid(x, y) && sort(m_image.pixelColor(x, y))) return true;
         return false;
     }
     /// Whether a pixel is unlike the white ground.
@@ -49,8 +47,7 @@ public:
         const QRect seen = part & m_image.rect();
         for (int y = seen.top(); y <= seen.bottom(); ++y)
             for (int x = seen.left(); x <= seen.right(); ++x)
-                if (is(x, y, colour))
-                    bounds |= QRect(x, y, 1, 1);
+                if (is(x, y, colour)) bounds |= QRect(x, y, 1, 1);
         return bounds;
     }
     /// The same for everything but the white ground.
@@ -59,8 +56,7 @@ public:
         const QRect seen = part & m_image.rect();
         for (int y = seen.top(); y <= seen.bottom(); ++y)
             for (int x = seen.left(); x <= seen.right(); ++x)
-                if (inked(x, y))
-                    bounds |= QRect(x, y, 1, 1);
+                if (inked(x, y)) bounds |= QRect(x, y, 1, 1);
         return bounds;
     }
     /// Whether `colour` covers about this rectangle, to `slack` pixels on each side.
@@ -167,8 +163,7 @@ inline void pie(Scene& s) {
     CPieChart_setPieSize(s.pie, 150, 100, 60);
     CPieChart_setData(s.pie, values, 3, labels, 3);
     const int colours[] = {kRed, kGreen, kBlue};
-    for (int i = 0; i < 3; ++i)
-        CSector_setColor(CPieChart_sector(s.pie, i), colours[i], kNone, -1);
+    for (int i = 0; i < 3; ++i) CSector_setColor(CPieChart_sector(s.pie, i), colours[i], kNone, -1);
 }
 
 /// About (150, 100), radius 80, angles 0 to 360 by 90 and radii 0 to 100 by 50, no grid, a green line.

@@ -7,7 +7,6 @@
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QTemporaryDir>
-#include <gtest/gtest.h>
 
 namespace chartdraw {
 
@@ -30,57 +29,34 @@ int widthOf(const TextLook& look, std::string_view text, const FontSet& fonts = 
 } // namespace
 
 TEST(Fonts, FileNames) {
-    const struct {
-        const char* name;
-        const char* file;
-        int face;
-    } cases[] = {
-        {"a.ttf", "a.ttf", 0},
-        {"a.ttc|2", "a.ttc", 2},
-        {"a.ttc|", "a.ttc|", 0},
-        {"a|b.ttf", "a|b.ttf", 0},
-        {"a.ttc|-1", "a.ttc", -1},
-        {"|3", "", 3},
-        {"/x/a.ttc|10", "/x/a.ttc", 10},
-        {"", "", 0},
-        {"a|99999999999", "a|99999999999", 0},
-    };
-    for (const auto& c : cases) {
-        const FontName name = splitFontName(c.name);
-        EXPECT_EQ(name.file, c.file) << c.name;
-        EXPECT_EQ(name.face, c.face) << c.name;
+    EXPECT_EQS((splitFontName("/x/a.ttc|10").file, "/x/a.ttc"), (splitFontName("|3").file, ""));
+    for (const auto& [name, face] : {std::pair("a.ttc|2", 2), {"a.ttc|-1", -1}, {"|3", 3}, {"/x/a.ttc|10", 10}})
+        EXPECT_EQ(splitFontName(name).face, face) << name;
+    for (const char* whole : {"a.ttf", "a.ttc|", "a|b.ttf", "", "a|99999999999"}) {
+        EXPECT_EQ(splitFontName(whole).file, whole);
+        EXPECT_EQ(splitFontName(whole).face, 0) << whole;
     }
     const QString path = findFontFile("LiberationMono-Bold.ttf");
-    EXPECT_TRUE(QFileInfo(path).isFile());
-    EXPECT_EQ(findFontFile("liberationmono-BOLD.TTF"), path);
-    EXPECT_EQ(findFontFile(path.toStdString()), path);
-    EXPECT_EQ(findFontFile(path.toStdString() + "x"), QString());
-    EXPECT_EQ(findFontFile("/dev/zero"), QString());
-    EXPECT_EQ(findFontFile("no such file.ttf"), QString());
+    EXPECT_EQS((QFileInfo(path).isFile(), true), (findFontFile("liberationmono-BOLD.TTF"), path),
+               (findFontFile(path.toStdString()), path), (findFontFile(path.toStdString() + "x"), QString()),
+               (findFontFile("/dev/zero"), QString()), (findFontFile("no such file.ttf"), QString()));
 }
 
 TEST(Fonts, StyleWords) {
-    const FontSet own;
-    EXPECT_EQ(own.resolve(""), "normal");
-    EXPECT_EQ(own.resolve("boldItalic"), "boldItalic");
-    EXPECT_EQ(own.resolve("a.ttf"), "a.ttf");
-    const FontSet set{{"n.ttf", "b.ttf", "", "bi.ttf"}};
-    EXPECT_EQ(set.resolve(""), "n.ttf");
-    EXPECT_EQ(set.resolve("normal"), "n.ttf");
-    EXPECT_EQ(set.resolve("bold"), "b.ttf");
-    EXPECT_EQ(set.resolve("italic"), "italic");
-    EXPECT_EQ(set.resolve("boldItalic"), "bi.ttf");
+    const FontSet own, set{{"n.ttf", "b.ttf", "", "bi.ttf"}};
+    const std::tuple<const FontSet&, const char*, const char*> cases[] = {
+        {own, "", "normal"},       {own, "boldItalic", "boldItalic"}, {own, "a.ttf", "a.ttf"},
+        {set, "", "n.ttf"},        {set, "normal", "n.ttf"},          {set, "bold", "b.ttf"},
+        {set, "italic", "italic"}, {set, "boldItalic", "bi.ttf"}};
+    for (const auto& [fonts, word, name] : cases) EXPECT_EQ(fonts.resolve(word), name) << word;
     // A set whose entries are style words means the library's own.
     EXPECT_EQ(widthOf(lookOf("normal"), "iiiii", {{"bold", "normal", "", ""}}), widthOf(lookOf("bold"), "iiiii"));
 }
 
-// Widths of letters in thousandths of the size, as published for the metrics that these faces share with the
-// classic sans, serif and typewriter faces.
 TEST(Fonts, MadeUpNamesAndSpellingsTakeNothingAway) {
     const auto faces = [] { return QFontDatabase::families().filter(QStringLiteral("chartdraw-")).size(); };
     const int bold = widthOf(lookOf("bold"), "Hamburg");
-    for (int i = 0; i < 1000; ++i)
-        widthOf(lookOf("made-up-" + std::to_string(i)), "a");
+    for (int i = 0; i < 1000; ++i) widthOf(lookOf("made-up-" + std::to_string(i)), "a");
     EXPECT_EQ(widthOf(lookOf("bold"), "Hamburg"), bold);
 
     const std::string path = findFontFile("DejaVuSans.ttf").toStdString();
@@ -115,45 +91,32 @@ TEST(Fonts, ATextNamesNoFilesOutsideTheFontFolders) {
     EXPECT_GT(widthOf(lookOf(copy.toStdString()), "iiiiii"), widthOf(look, "iiiiii"));
 }
 
+// Widths of letters in thousandths of the size, as published for the metrics that these faces share with the
+// classic sans, serif and typewriter faces.
 TEST(Fonts, TheFileNamedIsTheFaceDrawn) {
     const std::string serif = findFontFile("LiberationSerif-Regular.ttf").toStdString();
-    const struct {
-        std::string font;
-        char letter;
-        int width;
-    } cases[] = {
-        {"", 'i', 222},
-        {"normal", 'x', 500},
-        {"bold", 'i', 278},
-        {"bold", 'x', 556},
-        {"italic", 'i', 222},
-        {"boldItalic", 'i', 278},
-        {"LiberationSans-Regular.ttf", 'W', 944},
-        {"liberationsans-bold.TTF", 'i', 278},
-        {"LiberationMono-Regular.ttf", 'i', 600},
-        {"LiberationMono-Bold.ttf|0", 'W', 600},
-        {serif, 'i', 278},
-        {"LiberationSerif-Bold.ttf", 'x', 500},
-        {"NotoSansCJK-Regular.ttc|5", 'i', 500},
-        {"NotoSansCJK-Bold.ttc|7", 'W', 500},
-        // Missing files, missing faces of a file and files that are no font give the sans face, in the style
-        // that the name tells.
-        {"missing.ttf", 'i', 222},
-        {"missingbd.ttf", 'i', 278},
-        {"timesbi.ttf", 'i', 278},
-        {"gulim.ttc", 'x', 500},
-        {"LiberationMono-Regular.ttf|1", 'i', 222},
-        {"NotoSansCJK-Regular.ttc|10", 'i', 222},
-        {"NotoSansCJK-Regular.ttc|-1", 'i', 222},
-        {"/etc/passwd", 'i', 222},
-        {"/", 'i', 222},
-        {"\xff\xfe", 'i', 222},
-    };
-    for (const auto& c : cases) {
-        // 72 points are 96 pixels. The difference of two texts leaves out what the last letter leans over.
-        const TextLook look = lookOf(c.font, 72);
-        const int width = widthOf(look, std::string(20, c.letter)) - widthOf(look, std::string(10, c.letter));
-        EXPECT_NEAR(width, 10 * c.width * 0.096, 1.5) << c.font << c.letter;
+    // Missing files, missing faces of a file and files that are no font give the sans face, in the style that the name
+    // tells.
+    const std::tuple<char, int, std::vector<std::string>> cases[] = {
+        {'i',
+         222,
+         {"", "italic", "missing.ttf", "LiberationMono-Regular.ttf|1", "NotoSansCJK-Regular.ttc|10",
+          "NotoSansCJK-Regular.ttc|-1", "/etc/passwd", "/", "\xff\xfe"}},
+        {'i', 278, {"bold", "boldItalic", "liberationsans-bold.TTF", serif, "missingbd.ttf", "timesbi.ttf"}},
+        {'i', 500, {"NotoSansCJK-Regular.ttc|5"}},
+        {'i', 600, {"LiberationMono-Regular.ttf"}},
+        {'x', 500, {"normal", "LiberationSerif-Bold.ttf", "gulim.ttc"}},
+        {'x', 556, {"bold"}},
+        {'W', 500, {"NotoSansCJK-Bold.ttc|7"}},
+        {'W', 600, {"LiberationMono-Bold.ttf|0"}},
+        {'W', 944, {"LiberationSans-Regular.ttf"}}};
+    for (const auto& [letter, published, fonts] : cases) {
+        for (const std::string& font : fonts) {
+            // 72 points are 96 pixels. The difference of two texts leaves out what the last letter leans over.
+            const TextLook look = lookOf(font, 72);
+            const int width = widthOf(look, std::string(20, letter)) - widthOf(look, std::string(10, letter));
+            EXPECT_NEAR(width, 10 * published * 0.096, 1.5) << font << letter;
+        }
     }
 }
 

@@ -3,6 +3,7 @@
 
 #include "engine/text/application.h"
 #include "engine/text/text_block.h"
+#include "tests/expect.h"
 
 namespace chartdraw {
 
@@ -15,8 +16,7 @@ inline QImage whitePicture(int width = 300, int height = 200) {
 /// Draws black on white unless the look has another colour, the anchor in the middle of the picture.
 inline QImage drawn(TextLook look, std::string_view text, int anchorAlignment = Center, bool pivot = false,
                     const FontSet& fonts = {}) {
-    if (look.colour == kTextColour)
-        look.colour = 0x000000;
+    if (look.colour == kTextColour) look.colour = 0x000000;
     ensureApplication(); // Before the first painter, as each chart does.
     QImage image = whitePicture();
     ColourTable colours;
@@ -34,8 +34,7 @@ inline QRect ink(const QImage& image) {
     QRect bounds;
     for (int y = 0; y < image.height(); ++y) {
         for (int x = 0; x < image.width(); ++x)
-            if (image.pixel(x, y) != 0xffffffff)
-                bounds |= QRect(x, y, 1, 1);
+            if (image.pixel(x, y) != 0xffffffff) bounds |= QRect(x, y, 1, 1);
     }
     return bounds;
 }
@@ -44,8 +43,7 @@ inline QRect ink(const QImage& image) {
 inline double darkness(const QImage& image) {
     double sum = 0;
     for (int y = 0; y < image.height(); ++y)
-        for (int x = 0; x < image.width(); ++x)
-            sum += (255 - qGray(image.pixel(x, y))) / 255.0;
+        for (int x = 0; x < image.width(); ++x) sum += (255 - qGray(image.pixel(x, y))) / 255.0;
     return sum;
 }
 

@@ -1,6 +1,6 @@
 #include "engine/text/markup.h"
+#include "tests/expect.h"
 
-#include <gtest/gtest.h>
 #include <iomanip>
 #include <sstream>
 
@@ -16,12 +16,9 @@ std::string dump(const std::vector<MarkupLine>& lines) {
         for (std::size_t k = 0; k < lines[i].size(); ++k) {
             const RunStyle& style = lines[i][k].style;
             out << (k ? "|" : "");
-            if (!style.font.empty())
-                out << "f=" << style.font << ' ';
-            if (style.size != 0)
-                out << "s=" << style.size << ' ';
-            if (style.colour != kDefaultColour)
-                out << "c=" << std::hex << style.colour << std::dec << ' ';
+            if (!style.font.empty()) out << "f=" << style.font << ' ';
+            if (style.size != 0) out << "s=" << style.size << ' ';
+            if (style.colour != kDefaultColour) out << "c=" << std::hex << style.colour << std::dec << ' ';
             out << (style.underline ? "u " : "") << (style.script > 0 ? "^ " : style.script < 0 ? "_ " : "");
             out << ':' << lines[i][k].text;
         }
@@ -32,10 +29,7 @@ std::string dump(const std::vector<MarkupLine>& lines) {
 } // namespace
 
 TEST(Markup, RunsAndLines) {
-    const struct {
-        const char* text;
-        const char* expected;
-    } cases[] = {
+    const std::tuple<const char*, const char*> cases[] = {
         {"", ""},
         {"plain", ":plain"},
         {"<*font=bold*>12 Mar", "f=bold :12 Mar"},
@@ -63,16 +57,14 @@ TEST(Markup, RunsAndLines) {
         {"*>", ":*>"},
         {"<*>", ":<*>"},
     };
-    for (const auto& c : cases)
-        EXPECT_EQ(dump(parseMarkup(c.text)), c.expected) << c.text;
+    for (const auto& [text, expected] : cases) EXPECT_EQ(dump(parseMarkup(text)), expected) << text;
 }
 
 TEST(Markup, ZeroBytesAreText) {
     const std::vector<MarkupLine> lines = parseMarkup(std::string_view("a\0b<*sub*>\0", 11));
     ASSERT_EQ(lines.size(), 1U);
     ASSERT_EQ(lines[0].size(), 2U);
-    EXPECT_EQ(lines[0][0].text, std::string("a\0b", 3));
-    EXPECT_EQ(lines[0][1].text, std::string(1, '\0'));
+    EXPECT_EQS((lines[0][0].text, std::string("a\0b", 3)), (lines[0][1].text, std::string(1, '\0')));
 }
 
 } // namespace chartdraw

@@ -2,12 +2,12 @@
 
 #include "engine/text/application.h"
 #include "engine/text/font_files.h"
+#include "tests/expect.h"
 
 #include <QFile>
 #include <QFontDatabase>
 #include <QPainterPath>
 #include <QRawFont>
-#include <gtest/gtest.h>
 #include <random>
 
 namespace chartdraw {
@@ -52,28 +52,24 @@ TEST(SfntFace, TakesTheFaceMeant) {
     };
     EXPECT_NE(glyph(0), glyph(2));
 
-    EXPECT_FALSE(extractFace(collection, 10, "face"));
-    EXPECT_FALSE(extractFace(collection, -1, "face"));
+    for (const int none : {10, -1}) EXPECT_FALSE(extractFace(collection, none, "face"));
     EXPECT_FALSE(extractFace(bytesOf("LiberationSans-Regular.ttf"), 1, "face"));
 }
 
 TEST(SfntFace, BearsTheGivenNameAndItsOwnStyle) {
     ensureApplication();
-    const struct {
-        const char* file;
-        bool bold, italic;
-    } cases[] = {
+    const std::tuple<const char*, bool, bool> cases[] = {
         {"LiberationSans-Regular.ttf", false, false}, {"LiberationSans-Bold.ttf", true, false},
         {"LiberationSans-Italic.ttf", false, true},   {"LiberationSans-BoldItalic.ttf", true, true},
         {"NotoSansCJK-Bold.ttc", true, false},
     };
-    for (const auto& c : cases) {
-        const auto face = extractFace(bytesOf(c.file), 0, "private-name");
-        ASSERT_TRUE(face) << c.file;
-        EXPECT_EQ(face->bold, c.bold) << c.file;
-        EXPECT_EQ(face->italic, c.italic) << c.file;
+    for (const auto& [file, bold, italic] : cases) {
+        const auto face = extractFace(bytesOf(file), 0, "private-name");
+        ASSERT_TRUE(face) << file;
+        EXPECT_EQ(face->bold, bold) << file;
+        EXPECT_EQ(face->italic, italic) << file;
         const int id = QFontDatabase::addApplicationFontFromData(face->data);
-        EXPECT_EQ(QFontDatabase::applicationFontFamilies(id), QStringList("private-name")) << c.file;
+        EXPECT_EQ(QFontDatabase::applicationFontFamilies(id), QStringList("private-name")) << file;
         QFontDatabase::removeApplicationFont(id);
     }
 }
@@ -81,9 +77,7 @@ TEST(SfntFace, BearsTheGivenNameAndItsOwnStyle) {
 TEST(SfntFace, RefusesWhatIsNoFont) {
     const QByteArray font = bytesOf("LiberationSans-Regular.ttf");
     const auto refused = [](const QByteArray& bytes) { return !extractFace(bytes, 0, "x"); };
-    EXPECT_FALSE(refused(font));
-    EXPECT_TRUE(refused({}));
-    EXPECT_TRUE(refused("no font"));
+    EXPECT_EQS((refused(font), false), (refused({}), true), (refused("no font"), true));
     EXPECT_TRUE(refused(QByteArray("ttcf\0\1\0\0\0\0\0\1\0\0\0\x0c", 16))); // A directory inside the header.
     for (const qsizetype length : {4, 11, 12, 28, 300, 5000, 100'000})
         EXPECT_TRUE(refused(font.first(length))) << length;

@@ -1,13 +1,7 @@
 #include "tests/engine/text/ink.h"
 
-#include <QCoreApplication>
-#include <QGuiApplication>
 #include <QTransform>
-#include <atomic>
 #include <cmath>
-#include <gtest/gtest.h>
-#include <random>
-#include <thread>
 
 namespace chartdraw {
 
@@ -17,9 +11,12 @@ const FontSet kFonts;
 
 QSize boxOf(const TextLook& look, std::string_view text) { return TextBlock(look, text, kFonts).boxSize(); }
 
-TextLook sized(double points) {
+TextLook sized(double points, int width = 0, int height = 0, double angle = 0) {
     TextLook look;
     look.size = points;
+    look.width = width;
+    look.height = height;
+    look.angle = angle;
     return look;
 }
 
@@ -30,21 +27,18 @@ const int kAllAlignments[] = {TopLeft, TopCenter, TopRight, Left, Center, Right,
 TEST(TextBlock, LinesStackAndTheLongestSetsTheWidth) {
     const TextLook look = sized(10);
     const QSize one = boxOf(look, "Longest line");
-    EXPECT_EQ(boxOf(look, "a\nLongest line\nb"), QSize(one.width(), 3 * one.height()));
-    EXPECT_EQ(boxOf(look, "a<*br*>Longest line"), QSize(one.width(), 2 * one.height()));
-    EXPECT_EQ(boxOf(look, "Longest line\n"), QSize(one.width(), 2 * one.height()));
-    EXPECT_EQ(boxOf(look, ""), QSize(0, 0));
+    EXPECT_EQS((boxOf(look, "a\nLongest line\nb"), QSize(one.width(), 3 * one.height())),
+               (boxOf(look, "a<*br*>Longest line"), QSize(one.width(), 2 * one.height())),
+               (boxOf(look, "Longest line\n"), QSize(one.width(), 2 * one.height())), (boxOf(look, ""), QSize(0, 0)));
     EXPECT_GT(boxOf(look, "a ").width(), boxOf(look, "a").width());
-    EXPECT_TRUE(TextBlock(look, " \n", kFonts).empty());
-    EXPECT_FALSE(TextBlock(look, " x", kFonts).empty());
+    EXPECT_EQS((TextBlock(look, " \n", kFonts).empty(), true), (TextBlock(look, " x", kFonts).empty(), false));
 }
 
 TEST(TextBlock, MarkupChangesMeasures) {
     const TextLook look = sized(10);
     const QSize plain = boxOf(look, "Text");
-    EXPECT_EQ(boxOf(look, "Te<*color=ff0000*>xt"), plain);
-    EXPECT_EQ(boxOf(look, "<*size=20*>Text"), boxOf(sized(20), "Text"));
-    EXPECT_EQ(boxOf(look, "<*size=20*>T<*/*>ext").height(), boxOf(sized(20), "Text").height());
+    EXPECT_EQS((boxOf(look, "Te<*color=ff0000*>xt"), plain), (boxOf(look, "<*size=20*>Text"), boxOf(sized(20), "Text")),
+               (boxOf(look, "<*size=20*>T<*/*>ext").height(), boxOf(sized(20), "Text").height()));
     TextLook bold = look;
     bold.font = "bold";
     EXPECT_EQ(boxOf(look, "<*font=bold*>Text"), boxOf(bold, "Text"));
@@ -72,10 +66,7 @@ TEST(TextBlock, MarkupShows) {
             const QRgb pixel = twoColours.pixel(x, y);
             red += pixel == 0xffff0000;
             black += pixel == 0xff000000;
-            if (x < twoColours.width() / 2)
-                EXPECT_EQ(qRed(pixel), qGreen(pixel));
-            else
-                EXPECT_EQ(qRed(pixel), 255);
+            EXPECT_EQ(qRed(pixel), x < twoColours.width() / 2 ? qGreen(pixel) : 255);
         }
     }
     EXPECT_GT(red, 50);
@@ -108,15 +99,11 @@ TEST(TextBlock, OneTextInManyLooksIsNeverThatOfAnother) {
 }
 
 TEST(TextBlock, AlignmentInAFixedBox) {
-    TextLook look = sized(12);
-    look.width = 120;
-    look.height = 80;
+    TextLook look = sized(12, 120, 80);
     look.setMargins(10, 20, 5, 15);
     EXPECT_EQ(boxOf(look, "HH"), QSize(120, 80));
-    const TextLook fitted = sized(12);
-    const QSize text = boxOf(fitted, "HH");
-    TextLook fittedTopLeft = fitted;
-    const QRect inText = ink(drawn(fittedTopLeft, "HH", TopLeft)).translated(-150, -100);
+    const QSize text = boxOf(sized(12), "HH");
+    const QRect inText = ink(drawn(sized(12), "HH", TopLeft)).translated(-150, -100);
     for (const int alignment : kAllAlignments) {
         look.alignment = alignment;
         const QRect seen = ink(drawn(look, "HH", TopLeft)).translated(-150, -100);
@@ -133,12 +120,10 @@ TEST(TextBlock, AlignmentInAFixedBox) {
         const int lineHeight = boxOf(look, "H").height();
         const QRect first = ink(image.copy(0, 0, 300, 100 + lineHeight));
         const QRect second = ink(image.copy(0, 100 + lineHeight, 300, lineHeight));
-        if (alignment == Left)
-            EXPECT_EQ(first.left(), second.left());
-        else if (alignment == Right)
-            EXPECT_NEAR(first.right(), second.right(), 1);
-        else
-            EXPECT_NEAR(first.center().x(), second.center().x(), 1);
+        const auto place = [&](const QRect& line) {
+            return alignment == Left ? line.left() : alignment == Right ? line.right() : line.center().x();
+        };
+        EXPECT_NEAR(place(first), place(second), alignment == Left ? 0 : 1);
     }
 }
 
@@ -173,47 +158,32 @@ TEST(TextBlock, WrapsAtWords) {
 }
 
 TEST(TextBlock, BoundsOfTurnedBoxes) {
-    TextLook look = sized(10);
-    look.width = 100;
-    look.height = 20;
+    TextLook look = sized(10, 100, 20);
     const double r = std::sqrt(0.5);
-    const struct {
-        double angle;
-        double width, height; ///< worked by hand
-    } cases[] = {
-        {0, 100, 20},
-        {90, 20, 100},
-        {180, 100, 20},
-        {-90, 20, 100},
-        {450, 20, 100},
-        {360, 100, 20},
-        {-360, 100, 20},
-        {45, 120 * r, 120 * r},
-        {-45, 120 * r, 120 * r},
-        {30, 100 * std::sqrt(0.75) + 10, 50 + 20 * std::sqrt(0.75)},
-        {std::nan(""), 100, 20},
-        {INFINITY, 100, 20},
-    };
-    for (const auto& c : cases) {
-        look.angle = c.angle;
+    const double wide = 100 * std::sqrt(0.75) + 10, high = 50 + 20 * std::sqrt(0.75); // at 30 degrees, worked by hand
+    const std::tuple<double, double, double> cases[] = {
+        {0, 100, 20},   {90, 20, 100},      {180, 100, 20},         {-90, 20, 100},          {450, 20, 100},
+        {360, 100, 20}, {-360, 100, 20},    {45, 120 * r, 120 * r}, {-45, 120 * r, 120 * r}, {30, wide, high},
+        {NAN, 100, 20}, {INFINITY, 100, 20}};
+    for (const auto& [angle, width, height] : cases) {
+        look.angle = angle;
         const TextBlock block(look, "Text", kFonts);
         EXPECT_EQ(block.boxSize(), QSize(100, 20));
-        EXPECT_EQ(block.size(), QSize(qCeil(c.width), qCeil(c.height))) << c.angle;
+        EXPECT_EQ(block.size(), QSize(qCeil(width), qCeil(height))) << angle;
     }
     look.angle = 90;
     const TextBlock block(look, "Text", kFonts);
-    EXPECT_EQ(block.boundsAt({50, 60}, TopLeft), QRectF(50, 60, 20, 100));
-    EXPECT_EQ(block.boundsAt({50, 60}, BottomCenter), QRectF(40, -40, 20, 100));
-    EXPECT_EQ(block.boundsAt({50, 60}, TopRight2), QRectF(30, 60, 20, 100));
-    EXPECT_EQ(block.boundsAt({50, 60}, 99), QRectF(40, 10, 20, 100));
+    EXPECT_EQS((block.boundsAt({50, 60}, TopLeft), QRectF(50, 60, 20, 100)),
+               (block.boundsAt({50, 60}, BottomCenter), QRectF(40, -40, 20, 100)),
+               (block.boundsAt({50, 60}, TopRight2), QRectF(30, 60, 20, 100)),
+               (block.boundsAt({50, 60}, 99), QRectF(40, 10, 20, 100)));
 }
 
 TEST(TextBlock, DrawsInsideItsBounds) {
     for (const double angle : {0.0, 17.0, 45.0, 90.0, 135.0, 180.0, 222.0, 270.0, 315.0}) {
         for (const bool vertical : {false, true}) {
             for (const int alignment : kAllAlignments) {
-                TextLook look = sized(9);
-                look.angle = angle;
+                TextLook look = sized(9, 0, 0, angle);
                 look.vertical = vertical;
                 look.background = 0xe0e0ff;
                 const TextBlock block(look, "Turned", kFonts);
@@ -242,20 +212,13 @@ TEST(TextBlock, QuarterTurnsAreAsSharpAsUprightText) {
 }
 
 TEST(TextBlock, CounterClockwiseReading) {
-    TextLook look = sized(12);
-    // "i......" has its darkest letter first. Read upwards at 90 degrees, so it stands at the bottom.
-    look.angle = 90;
-    const QImage image = drawn(look, "MMM...");
-    const QRect bounds = ink(image);
-    const QImage lower = image.copy(0, bounds.center().y(), 300, 200);
-    EXPECT_GT(darkness(lower), 0.8 * darkness(image));
+    // "MMM..." has its darkest letters first. Read upwards at 90 degrees, so they stand at the bottom.
+    const QImage image = drawn(sized(12, 0, 0, 90), "MMM...");
+    EXPECT_GT(darkness(image.copy(0, ink(image).center().y(), 300, 200)), 0.8 * darkness(image));
 }
 
 TEST(TextBlock, PivotKeepsItsPointOnTheAnchor) {
-    TextLook look = sized(9);
-    look.width = 60;
-    look.height = 20;
-    look.angle = 30;
+    TextLook look = sized(9, 60, 20, 30);
     const TextBlock block(look, "Label", kFonts);
     const QPointF anchor(150.5, 100.25);
     // Corners clockwise from the top left of the upright box.

@@ -49,16 +49,13 @@ TEST(TwoThreads, DrawTheSamePicturesAsOneAlone) {
     std::vector<std::thread> threads;
     for (auto& pictures : made) {
         threads.emplace_back([&pictures, &file] {
-            for (int variant = 0; variant < kVariants; ++variant)
-                pictures.push_back(picture(variant, file));
+            for (int variant = 0; variant < kVariants; ++variant) pictures.push_back(picture(variant, file));
         });
     }
-    for (std::thread& thread : threads)
-        thread.join();
+    for (std::thread& thread : threads) thread.join();
     for (int variant = 0; variant < kVariants; ++variant) {
         const std::string alone = picture(variant, file);
-        for (const auto& pictures : made)
-            EXPECT_TRUE(pictures[static_cast<std::size_t>(variant)] == alone) << variant;
+        for (const auto& pictures : made) EXPECT_TRUE(pictures[static_cast<std::size_t>(variant)] == alone) << variant;
     }
 }
 

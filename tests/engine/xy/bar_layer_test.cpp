@@ -8,8 +8,6 @@
 namespace {
 
 using namespace layers;
-using pictures::at;
-using pictures::boundsOf;
 
 constexpr double kRest = 0; // fills up to six rows without a bar
 
@@ -54,14 +52,13 @@ TEST(BarLayer, StandsOnTheBaseLineAndEndsAtItsValue) {
     for (const auto& row : rows) {
         Chart chart(row.lower, row.upper);
         std::vector<std::vector<double>> sets;
-        for (const double value : row.values)
-            sets.push_back(six(value));
+        for (const double value : row.values) sets.push_back(six(value));
         bars(chart, row.combine, sets);
         const QImage image = chart.picture();
-        const unsigned colours[] = {kRed, kGreen, kBlue};
+        const int colours[] = {kRed, kGreen, kBlue};
         for (std::size_t i = 0; i < row.places.size(); ++i)
             EXPECT_EQ(boundsOf(image, colours[i]), row.places[i]) << row.what << ", set " << i;
-        EXPECT_EQ(pictures::inked(image.copy(96, 0, 250, 300), kWhite), 0) << row.what << ": other rows";
+        EXPECT_EQ(inked(image.copy(96, 0, 250, 300), kWhite), 0) << row.what << ": other rows";
     }
 }
 
@@ -81,8 +78,7 @@ TEST(BarLayer, BarsOfOneColumnAreOneBarThatReachesAsFar) {
                 Chart chart(-100, 100);
                 CXYChart_swapXY(chart.xy, swapped);
                 BarLayer* bar = CXYChart_addBarLayer(chart.xy, values.data(), size(values), kRed, nullptr, 0);
-                if (givenX)
-                    CLayer_setXData(BarLayer2Layer(bar), x.data(), size(x));
+                if (givenX) CLayer_setXData(BarLayer2Layer(bar), x.data(), size(x));
                 if (oneByOne) // whose shape is asked for is drawn by itself
                     CBarLayer_setBarShape(bar, CHART_SQUARE_SHAPE, -1, -1);
                 return chart.picture();
@@ -140,8 +136,8 @@ TEST(BarLayer, ShapesKeepWithinTheBarAndPointToTheTip) {
             EXPECT_EQ(inside(57, middle), row.leftMiddle) << row.shape << negative;
             EXPECT_EQ(inside(92, middle), row.rightMiddle || row.shape == CHART_LEFT_TRIANGLE_SHAPE)
                 << row.shape << negative;
-            EXPECT_EQ(pictures::inked(image.copy(0, 0, 55, 300), kWhite), 0) << row.shape;
-            EXPECT_EQ(pictures::inked(image.copy(95, 0, 40, 300), kWhite), 0) << row.shape;
+            EXPECT_EQ(inked(image.copy(0, 0, 55, 300), kWhite), 0) << row.shape;
+            EXPECT_EQ(inked(image.copy(95, 0, 40, 300), kWhite), 0) << row.shape;
         }
     }
 }
@@ -154,7 +150,7 @@ TEST(BarLayer, ShadesOnlyTheCylinderThatHasShading) {
         const QImage image = chart.picture();
         const bool shaded = shape == CHART_CIRCLE_SHAPE;
         EXPECT_EQ(at(image, 92, 150) < at(image, 70, 150), shaded);
-        EXPECT_EQ(at(image, 92, 150) == 0x4080c0u, !shaded);
+        EXPECT_EQ(at(image, 92, 150) == 0x4080c0, !shaded);
     }
 }
 
@@ -164,13 +160,13 @@ TEST(BarLayer, EdgesLieWithinTheBarAndStacksShareThem) {
     CLayer_setBorderColor(layer, 0x123456, 0);
     const QImage image = chart.picture();
     for (const int y : {130, 180, 229}) // the upper end, the line between, the foot
-        EXPECT_EQ(at(image, 75, y), 0x123456u) << y;
-    EXPECT_EQ(at(image, 75, 131), static_cast<unsigned>(kGreen));
-    EXPECT_EQ(at(image, 75, 179), static_cast<unsigned>(kGreen));
-    EXPECT_EQ(at(image, 75, 181), static_cast<unsigned>(kRed));
-    EXPECT_EQ(at(image, 55, 150), 0x123456u);
-    EXPECT_EQ(at(image, 94, 150), 0x123456u);
-    EXPECT_EQ(at(image, 95, 150), kWhite);
+        EXPECT_EQ(at(image, 75, y), 0x123456) << y;
+    shows(image, {{75, 131, kGreen},
+                  {75, 179, kGreen},
+                  {75, 181, kRed},
+                  {55, 150, 0x123456},
+                  {94, 150, 0x123456},
+                  {95, 150, kWhite}});
 }
 
 TEST(BarLayer, BodiesReachBackByTheirDepthAndAreDarkerAtTheSides) {
@@ -184,8 +180,7 @@ TEST(BarLayer, BodiesReachBackByTheirDepthAndAreDarkerAtTheSides) {
     EXPECT_LT(red(top), 255);
     EXPECT_LT(red(side), red(top)); // light falls from above
     EXPECT_EQ(qGreen(image.pixel(side)), 0);
-    EXPECT_EQ(at(image, front.right() + 12, front.center().y()), kWhite);
-    EXPECT_EQ(at(image, front.center().x(), front.top() - 12), kWhite);
+    shows(image, {{front.right() + 12, front.center().y(), kWhite}, {front.center().x(), front.top() - 12, kWhite}});
 }
 
 } // namespace

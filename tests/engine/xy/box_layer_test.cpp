@@ -6,8 +6,6 @@
 namespace {
 
 using namespace layers;
-using pictures::at;
-using pictures::boundsOf;
 
 constexpr int kBlack = 0x000000;
 
@@ -15,10 +13,17 @@ struct Prices {
     std::vector<double> high, low, open, close;
 };
 
-CandleStickLayer* candles(Chart& chart, const Prices& p) {
+CandleStickLayer* candles(Chart& chart, const Prices& p, int rise = kGreen, int fall = kRed, int edge = kBlack) {
     return CXYChart_addCandleStickLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low), p.open.data(),
-                                        size(p.open), p.close.data(), size(p.close), kGreen, kRed, kBlack);
+                                        size(p.open), p.close.data(), size(p.close), rise, fall, edge);
 }
+
+HLOCLayer* priceBars(Chart& chart, const Prices& p, int colour = kBlue) {
+    return CXYChart_addHLOCLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low), p.open.data(),
+                                 size(p.open), p.close.data(), size(p.close), colour);
+}
+
+const std::vector<double> kSixHigh(6, 60), kSixLow(6, 10), kSixOpen(6, 50);
 
 TEST(CandleStickLayer, BodyWickAndColoursTellThePrices) {
     Chart chart;
@@ -28,58 +33,49 @@ TEST(CandleStickLayer, BodyWickAndColoursTellThePrices) {
     CBaseBoxLayer_setDataGap(CandleStickLayer2BaseBoxLayer(layer), 0.5);
     const QImage image = chart.picture();
     EXPECT_EQ(boundsOf(image, kGreen), QRect(64, 151, 23, 39)); // the first row's body within its edge
-    EXPECT_EQ(at(image, 63, 170), 0u);
-    EXPECT_EQ(at(image, 87, 170), 0u);
-    EXPECT_EQ(at(image, 88, 170), kWhite);
-    EXPECT_EQ(boundsOf(image.copy(75, 0, 1, 150), 0), QRect(0, 130, 1, 20));    // wick from high to body
-    EXPECT_EQ(boundsOf(image.copy(75, 190, 1, 110), 0), QRect(0, 0, 1, 21));    // and from body to low
-    EXPECT_EQ(boundsOf(image, kRed), QRect(114, 141, 23, 29));                  // 45 down to 30
-    EXPECT_EQ(boundsOf(image.copy(160, 0, 31, 300), 0), QRect(15, 130, 1, 81)); // no open: wick alone
-    EXPECT_EQ(pictures::inked(image.copy(205, 0, 45, 300), kWhite), 0);         // no high: a gap
-    EXPECT_EQ(boundsOf(image.copy(250, 170, 50, 1), 0), QRect(13, 0, 25, 1));   // unchanged: a line
-    EXPECT_EQ(pictures::inked(image.copy(300, 0, 50, 300), kWhite), 25);        // all equal: nothing else
+    shows(image, {{63, 170, 0}, {87, 170, 0}, {88, 170, kWhite}});
+    EXPECT_EQ(boundsOf(image, kRed), QRect(114, 141, 23, 29)); // 45 down to 30
+    shows(image, {{{75, 0, 1, 150}, 0, {0, 130, 1, 20}, "wick from high to body"},
+                  {{75, 190, 1, 110}, 0, {0, 0, 1, 21}, "and from body to low"},
+                  {{160, 0, 31, 300}, 0, {15, 130, 1, 81}, "no open: wick alone"},
+                  {{205, 0, 45, 300}, 0, {}, "no high: a gap"},
+                  {{250, 170, 50, 1}, 0, {13, 0, 25, 1}, "unchanged: a line"}});
+    EXPECT_EQ(inked(image.copy(205, 0, 45, 300), kWhite), 0);
+    EXPECT_EQ(inked(image.copy(300, 0, 50, 300), kWhite), 25); // all equal: nothing else
 }
 
 TEST(HLOCLayer, TicksOfNeighboursStayApart) {
     Chart chart;
-    const std::vector<double> high(6, 60), low(6, 10), even(6, 30);
-    HLOCLayer* layer =
-        CXYChart_addHLOCLayer(chart.xy, high.data(), 6, low.data(), 6, even.data(), 6, even.data(), 6, kBlue);
+    HLOCLayer* layer = priceBars(chart, {kSixHigh, kSixLow, kSixOpen, kSixOpen});
     CBaseBoxLayer_setDataGap(HLOCLayer2BaseBoxLayer(layer), 0);
     // Two thirds of 50 pixels.
-    EXPECT_EQ(boundsOf(chart.picture().copy(100, 170, 50, 1), kBlue), QRect(9, 0, 33, 1));
+    EXPECT_EQ(boundsOf(chart.picture().copy(100, 130, 50, 1), kBlue), QRect(9, 0, 33, 1));
 }
 
 TEST(HLOCLayer, TicksStandAtOpenAndCloseAndColoursComeFromTheCloseBefore) {
     const struct {
         double lead;
-        unsigned first;
+        int first;
     } rows[] = {{-1.7E+308, kGreen}, {25, kRed}, {20, kGreen}, {NAN, kGreen}};
     for (const auto& row : rows) {
         Chart chart;
-        const std::vector<double> high(6, 60), low(6, 10), open(6, 50);
-        const std::vector<double> close = {20, 30, 25, 25, kGap, 24};
-        HLOCLayer* layer =
-            CXYChart_addHLOCLayer(chart.xy, high.data(), 6, low.data(), 6, open.data(), 6, close.data(), 6, kBlue);
+        HLOCLayer* layer = priceBars(chart, {kSixHigh, kSixLow, kSixOpen, {20, 30, 25, 25, kGap, 24}});
         CHLOCLayer_setColorMethod(layer, CHART_UP_DOWN, kGreen, kRed, row.lead);
         const QImage image = chart.picture();
-        const unsigned colours[] = {row.first, kGreen, kRed, kGreen, kGreen, kRed};
-        for (int i = 0; i < 6; ++i)
-            EXPECT_EQ(at(image, 75 + 50 * i, 120), colours[i]) << row.lead << ", row " << i;
-        EXPECT_EQ(boundsOf(image.copy(75, 0, 1, 300), row.first), QRect(0, 110, 1, 101));
-        EXPECT_EQ(boundsOf(image.copy(50, 130, 50, 1), row.first), QRect(13, 0, 13, 1)); // open, to the left
-        EXPECT_EQ(boundsOf(image.copy(50, 190, 50, 1), row.first), QRect(25, 0, 13, 1)); // close, to the right
+        const int colours[] = {row.first, kGreen, kRed, kGreen, kGreen, kRed};
+        for (int i = 0; i < 6; ++i) EXPECT_EQ(at(image, 75 + 50 * i, 120), colours[i]) << row.lead << ", row " << i;
+        shows(image, {{{75, 0, 1, 300}, row.first, {0, 110, 1, 101}},
+                      {{50, 130, 50, 1}, row.first, {13, 0, 13, 1}, "open, to the left"},
+                      {{50, 190, 50, 1}, row.first, {25, 0, 13, 1}, "close, to the right"}});
     }
 }
 
 TEST(HLOCLayer, TrimmedRowsStillTellTheCloseBefore) {
     Chart chart;
-    const std::vector<double> high = {60, 60}, low = {10, 10}, close = {40, 30};
-    HLOCLayer* layer =
-        CXYChart_addHLOCLayer(chart.xy, high.data(), 2, low.data(), 2, nullptr, 0, close.data(), 2, kBlue);
+    HLOCLayer* layer = priceBars(chart, {{60, 60}, {10, 10}, {}, {40, 30}});
     CHLOCLayer_setColorMethod(layer, CHART_UP_DOWN, kGreen, kRed, -1.7E+308);
     CXYChart_setTrimData(chart.xy, 1, 100);
-    EXPECT_EQ(at(chart.picture(), 200, 120), static_cast<unsigned>(kRed));
+    EXPECT_EQ(at(chart.picture(), 200, 120), kRed);
 }
 
 /// Thousands of rows in 300 pixels, many in a column, all in colours of one transparency.
@@ -99,16 +95,11 @@ QImage crowdedPicture(bool areCandles, int transparency) {
         p.low.push_back(price - random() * 0.2);
     }
     const auto colour = [&](int plain) { return transparency << 24 | plain; };
-    if (areCandles) {
-        CXYChart_addCandleStickLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low), p.open.data(),
-                                     size(p.open), p.close.data(), size(p.close), colour(kGreen), colour(kRed),
-                                     colour(kBlack));
-    } else {
-        HLOCLayer* layer =
-            CXYChart_addHLOCLayer(chart.xy, p.high.data(), size(p.high), p.low.data(), size(p.low), p.open.data(),
-                                  size(p.open), p.close.data(), size(p.close), colour(kBlue));
-        CHLOCLayer_setColorMethod(layer, CHART_UP_DOWN, colour(kGreen), colour(kRed), -1.7E+308);
-    }
+    if (areCandles)
+        candles(chart, p, colour(kGreen), colour(kRed), colour(kBlack));
+    else
+        CHLOCLayer_setColorMethod(priceBars(chart, p, colour(kBlue)), CHART_UP_DOWN, colour(kGreen), colour(kRed),
+                                  -1.7E+308);
     return chart.picture();
 }
 
@@ -124,7 +115,7 @@ TEST(PriceLayers, ManyRowsInAColumnLookAsIfDrawnOneByOne) {
                     std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue()) > 12;
             }
         EXPECT_EQ(differences, 0) << areCandles;
-        EXPECT_GT(pictures::inked(together, kWhite), 5000);
+        EXPECT_GT(inked(together, kWhite), 5000);
     }
 }
 
@@ -135,13 +126,13 @@ TEST(BoxWhiskerLayer, DrawsWhatIsThere) {
     CXYChart_addBoxWhiskerLayer(chart.xy, top.data(), 3, bottom.data(), 6, most.data(), 3, least.data(), 3,
                                 middle.data(), 1, kGreen, kBlue, kBlack);
     const QImage image = chart.picture();
-    for (const int x : {64, 114}) // top and bottom may change places
-        EXPECT_EQ(boundsOf(image.copy(x - 1, 0, 25, 300), kGreen), QRect(1, 151, 23, 39)) << x;
-    EXPECT_EQ(boundsOf(image.copy(50, 0, 50, 150), kBlue), QRect(19, 110, 13, 40)); // with its end of 13
-    EXPECT_EQ(boundsOf(image.copy(75, 191, 1, 109), kBlue), QRect(0, 0, 1, 20));
-    EXPECT_EQ(boundsOf(image.copy(63, 170, 25, 1), kBlue), QRect(0, 0, 25, 1));
-    EXPECT_EQ(boundsOf(image.copy(175, 0, 1, 300), kBlue), QRect(0, 110, 1, 81)); // no box: from end to end
-    EXPECT_EQ(pictures::inked(image.copy(200, 0, 200, 300), kWhite), 0);
+    shows(image, {{{63, 0, 25, 300}, kGreen, {1, 151, 23, 39}},
+                  {{113, 0, 25, 300}, kGreen, {1, 151, 23, 39}, "top and bottom may change places"},
+                  {{50, 0, 50, 150}, kBlue, {19, 110, 13, 40}, "with its end of 13"},
+                  {{75, 191, 1, 109}, kBlue, {0, 0, 1, 20}},
+                  {{63, 170, 25, 1}, kBlue, {0, 0, 25, 1}},
+                  {{175, 0, 1, 300}, kBlue, {0, 110, 1, 81}, "no box: from end to end"}});
+    EXPECT_EQ(inked(image.copy(200, 0, 200, 300), kWhite), 0);
 }
 
 TEST(AreaLayer, StacksFromTheBaseLineAndBreaksAtGaps) {
@@ -151,9 +142,9 @@ TEST(AreaLayer, StacksFromTheBaseLineAndBreaksAtGaps) {
     CLayer_addDataSet(layer, a.data(), 4, kRed, nullptr);
     CLayer_addDataSet(layer, b.data(), 4, kGreen, nullptr);
     const QImage image = chart.picture();
-    EXPECT_EQ(boundsOf(image.copy(60, 0, 1, 300), kRed), QRect(0, 191, 1, 39)); // from the middle of row 190
-    EXPECT_EQ(boundsOf(image.copy(60, 0, 1, 300), kGreen), QRect(0, 131, 1, 60));
-    EXPECT_EQ(boundsOf(image.copy(250, 0, 1, 300), kRed), QRect()); // the gap
+    shows(image, {{{60, 0, 1, 300}, kRed, {0, 191, 1, 39}, "from the middle of row 190"},
+                  {{60, 0, 1, 300}, kGreen, {0, 131, 1, 60}},
+                  {{250, 0, 1, 300}, kRed, {}, "the gap"}});
     EXPECT_EQ(boundsOf(image.copy(250, 0, 1, 300), kGreen).bottom(), 229);
     EXPECT_EQ(boundsOf(image, kRed).right(), 150); // up to the row before the gap
 }
@@ -166,8 +157,7 @@ TEST(CandleStickLayer, WicksShowInDepthToo) {
     CLayer_set3D(BaseBoxLayer2Layer(box), 20, 0);
     const QImage image = chart.picture();
     const int middle = (120 + 100) / 2 - 10; // half up the top face, whose back edge is on row 90
-    EXPECT_EQ(at(image, 75 + 10, 230 - 2 * 80 - 10 + 5), 0u);
-    EXPECT_EQ(at(image, 75 + 10, middle - 5), 0u);
+    shows(image, {{75 + 10, 230 - 2 * 80 - 10 + 5, 0}, {75 + 10, middle - 5, 0}});
 }
 
 TEST(BoxLayer, LabelStandsAtTheEndThatItTells) {
@@ -195,14 +185,12 @@ TEST(Rows, HaveTheirRoomBesidePoints) {
     const QImage image = chart.picture();
     std::vector<int> widths;
     for (int column = 0, run = 0; column < 400; ++column) {
-        const bool inked = at(image, column, 200) == static_cast<unsigned>(kRed);
+        const bool inked = at(image, column, 200) == kRed;
         run = inked ? run + 1 : 0;
-        if (inked && at(image, column + 1, 200) != static_cast<unsigned>(kRed))
-            widths.push_back(run);
+        if (inked && at(image, column + 1, 200) != kRed) widths.push_back(run);
     }
     ASSERT_EQ(widths.size(), 6u);
-    for (const int width : widths)
-        EXPECT_NEAR(width, widths[2], 1);
+    for (const int width : widths) EXPECT_NEAR(width, widths[2], 1);
 }
 
 } // namespace

@@ -7,8 +7,8 @@
 #include "engine/xy/bar_layer.h"
 #include "engine/xy/frame_layout.h"
 #include "tests/engine/xy/probe.h"
+#include "tests/expect.h"
 
-#include <gtest/gtest.h>
 #include <limits>
 
 namespace chartdraw {
@@ -30,14 +30,12 @@ protected:
     AxisLayout of(const Axis* axis) const {
         FrameLayout all = layout();
         for (std::size_t i = 0; i < chart.axes().size(); ++i)
-            if (chart.axes()[i].axis == axis)
-                return std::move(all.axes[i]);
+            if (chart.axes()[i].axis == axis) return std::move(all.axes[i]);
         throw std::logic_error("no axis of the chart");
     }
     static std::vector<int> pixels(const AxisLayout& axis) {
         std::vector<int> result;
-        for (const AxisLayout::Tick& tick : axis.ticks)
-            result.push_back(tick.pixel);
+        for (const AxisLayout::Tick& tick : axis.ticks) result.push_back(tick.pixel);
         return result;
     }
 
@@ -51,20 +49,17 @@ TEST_F(FrameLayoutTest, FrameLinesAreTheEndsOfTheScales) {
     EXPECT_EQ(pixels(of(chart.yAxis())), (std::vector<int>{230, 180, 130, 80, 30}));
     add({1, 2});
     const PlotFrame frame = layout().layers.at(0);
-    EXPECT_EQ(frame.point(3, 50), QPointF(200, 130));
-    EXPECT_EQ(frame.baseLine(), 230);
-    EXPECT_EQ(frame.plot, QRect(QPoint(50, 30), QPoint(350, 230)));
-    EXPECT_EQ(frame.inner(), QRect(QPoint(51, 31), QPoint(349, 229)));
+    EXPECT_EQS((frame.point(3, 50), QPointF(200, 130)), (frame.baseLine(), 230),
+               (frame.plot, QRect(QPoint(50, 30), QPoint(350, 230))),
+               (frame.inner(), QRect(QPoint(51, 31), QPoint(349, 229))));
 }
 
 TEST_F(FrameLayoutTest, BaseLineIsZeroOrTheNearestEnd) {
-    struct Row {
-        double lower, upper, base;
-    };
-    for (const Row& row : {Row{-50, 50, 130}, Row{10, 20, 230}, Row{-20, -10, 30}}) {
-        chart.yAxis()->setLimits(Type::Linear, row.lower, row.upper, {});
+    using Row = std::tuple<double, double, double>;
+    for (const auto& [lower, upper, base] : {Row{-50, 50, 130}, Row{10, 20, 230}, Row{-20, -10, 30}}) {
+        chart.yAxis()->setLimits(Type::Linear, lower, upper, {});
         add({1});
-        EXPECT_DOUBLE_EQ(layout().layers.back().baseLine(), row.base);
+        EXPECT_DOUBLE_EQ(layout().layers.back().baseLine(), base);
     }
     chart.yAxis()->setScaleFromData(Type::Log, "");
     EXPECT_DOUBLE_EQ(layout().layers.back().baseLine(), 230);
@@ -78,9 +73,9 @@ TEST_F(FrameLayoutTest, AxesTakeTheirLimitsFromTheLayersBoundToThem) {
     EXPECT_EQ(of(chart.yAxis2()).map.lower(), 0); // blocks stand on zero
     EXPECT_GE(of(chart.yAxis2()).map.upper(), 3000);
     const FrameLayout all = layout();
-    EXPECT_EQ(all.layers[0].y.upper(), of(chart.yAxis()).map.upper());
-    EXPECT_EQ(all.layers[1].y.upper(), of(chart.yAxis2()).map.upper());
-    EXPECT_EQ(all.layers[0].x.pixel(0), all.layers[1].x.pixel(0));
+    EXPECT_EQS((all.layers[0].y.upper(), of(chart.yAxis()).map.upper()),
+               (all.layers[1].y.upper(), of(chart.yAxis2()).map.upper()),
+               (all.layers[0].x.pixel(0), all.layers[1].x.pixel(0)));
     EXPECT_EQ(all.layers[0].x.pixel(0), 100); // three rows, half a row free: 300 / 3 / 2
 
     XYChart stranger(100, 100, 0, 0, 0);
@@ -91,28 +86,25 @@ TEST_F(FrameLayoutTest, AxesTakeTheirLimitsFromTheLayersBoundToThem) {
 }
 
 TEST_F(FrameLayoutTest, PercentagesFillTheirAxis) {
-    const struct {
-        std::vector<double> first, second, beside;
-        std::pair<double, double> limits;
-    } rows[] = {
-        {{1, 2, 3}, {7, 5, 6}, {}, {0, 100}},    {{1, -2}, {3, -5}, {}, {-100, 100}},
-        {{-1, -2}, {-3, -5}, {}, {-100, 0}},     {{1, 2}, {7, 5}, {10, 95}, {0, 100}},
-        {{1, 2}, {7, 5}, {10, 130}, {0, 150}},   // 130 / 0.9 = 144, and steps of at least 26 pixels
-        {{1, 2}, {7, 5}, {-20, 50}, {-40, 100}}, // 100 - 120 / 0.9 = -33
-    };
-    for (const auto& row : rows) {
+    const std::tuple<std::vector<double>, std::vector<double>, std::vector<double>, std::pair<double, double>> rows[] =
+        {
+            {{1, 2, 3}, {7, 5, 6}, {}, {0, 100}},    {{1, -2}, {3, -5}, {}, {-100, 100}},
+            {{-1, -2}, {-3, -5}, {}, {-100, 0}},     {{1, 2}, {7, 5}, {10, 95}, {0, 100}},
+            {{1, 2}, {7, 5}, {10, 130}, {0, 150}},   // 130 / 0.9 = 144, and steps of at least 26 pixels
+            {{1, 2}, {7, 5}, {-20, 50}, {-40, 100}}, // 100 - 120 / 0.9 = -33
+        };
+    for (const auto& [first, second, beside, limits] : rows) {
         for (const bool bars : {true, false}) {
             XYChart tried(400, 300, 0xffffff, kTransparent, 0);
             tried.setPlotArea(50, 30, 300, 200);
             Layer* layer = bars ? static_cast<Layer*>(tried.addLayer<BarLayer>(BarLayer::Combine::Percentage, 0))
                                 : tried.addLayer<AreaLayer>(true, 0);
-            layer->addDataSet(row.first, kDefaultColour, {});
-            layer->addDataSet(row.second, kDefaultColour, {});
-            if (!row.beside.empty())
-                tried.addLayer<Probe>(Form::Polyline, row.beside);
+            layer->addDataSet(first, kDefaultColour, {});
+            layer->addDataSet(second, kDefaultColour, {});
+            if (!beside.empty()) tried.addLayer<Probe>(Form::Polyline, beside);
             const AxisMap y = layoutFrame(tried).layers.at(0).y;
-            EXPECT_EQ(y.value(230), row.limits.first) << bars << row.limits.first;
-            EXPECT_EQ(y.value(30), row.limits.second) << bars << row.limits.second;
+            EXPECT_EQ(y.value(230), limits.first) << bars << limits.first;
+            EXPECT_EQ(y.value(30), limits.second) << bars << limits.second;
         }
     }
 }
@@ -123,11 +115,8 @@ TEST_F(FrameLayoutTest, SecondAxesRepeatTheFirstUntilTheyHaveTheirOwn) {
     Axis* y2 = chart.yAxis2();
     EXPECT_EQ(chart.yAxis2(), y2);
     Axis* x2 = chart.xAxis2();
-    EXPECT_EQ(chart.axes().size(), 4u);
-    EXPECT_EQ(pixels(of(y2)), pixels(of(chart.yAxis())));
-    EXPECT_EQ(pixels(of(x2)), pixels(of(chart.xAxis())));
-    EXPECT_EQ(of(y2).place.side, Right);
-    EXPECT_EQ(of(x2).place.across, 30);
+    EXPECT_EQS((chart.axes().size(), 4u), (pixels(of(y2)), pixels(of(chart.yAxis()))),
+               (pixels(of(x2)), pixels(of(chart.xAxis()))), (of(y2).place.side, Right), (of(x2).place.across, 30));
     y2->setLimits(Type::Linear, 0, 1, {});
     EXPECT_EQ(of(y2).map.upper(), 1);
     // The first axis follows the second, which must not follow back.
@@ -146,8 +135,7 @@ TEST_F(FrameLayoutTest, TiesHoldInAnyOrderOfCallsAndThroughChains) {
     chart.yAxis()->setLimits(Type::Linear, 0, 10, {});
     EXPECT_DOUBLE_EQ(of(far).map.lower(), 11);
     EXPECT_DOUBLE_EQ(of(far).map.upper(), 71);
-    EXPECT_EQ(of(far).place.across, 10);
-    EXPECT_EQ(of(near).place.across, 380);
+    EXPECT_EQS((of(far).place.across, 10), (of(near).place.across, 380));
     chart.yAxis()->setMargin(20, 0);
     chart.yAxis()->setReverse(true);
     EXPECT_EQ(of(far).map.wholePixel(11), of(chart.yAxis()).map.wholePixel(0)); // margins and way go along
@@ -155,8 +143,7 @@ TEST_F(FrameLayoutTest, TiesHoldInAnyOrderOfCallsAndThroughChains) {
     // Data on a tied axis count for the axis at the end of the chain.
     chart.yAxis()->setAutoScale(0, 0, 1);
     add({11, 611})->setYAxis(far); // 0 to 100 there
-    EXPECT_EQ(of(chart.yAxis()).map.lower(), 0);
-    EXPECT_EQ(of(chart.yAxis()).map.upper(), 100);
+    EXPECT_EQS((of(chart.yAxis()).map.lower(), 0), (of(chart.yAxis()).map.upper(), 100));
 }
 
 TEST_F(FrameLayoutTest, SidesFollowSwapAndRight) {
@@ -176,11 +163,8 @@ TEST_F(FrameLayoutTest, SidesFollowSwapAndRight) {
     for (const Row& row : rows) {
         chart.swapXY(row.swap);
         chart.setYAxisOnRight(row.right);
-        EXPECT_EQ(of(chart.xAxis()).place.side, row.x);
-        EXPECT_EQ(of(chart.yAxis()).place.side, row.y);
-        EXPECT_EQ(of(x2).place.side, row.x2);
-        EXPECT_EQ(of(y2).place.side, row.y2);
-        EXPECT_EQ(of(further).place.side, row.further);
+        EXPECT_EQS((of(chart.xAxis()).place.side, row.x), (of(chart.yAxis()).place.side, row.y),
+                   (of(x2).place.side, row.x2), (of(y2).place.side, row.y2), (of(further).place.side, row.further));
     }
     EXPECT_EQ(of(further).place.across, 240); // 10 below the plot area
     EXPECT_EQ(chart.addAxis(99, 0)->direction(), Direction::Y);
@@ -191,26 +175,23 @@ TEST_F(FrameLayoutTest, SwappedLayersSeeXUpwards) {
     chart.yAxis()->setLimits(Type::Linear, 0, 100, {});
     add({1, 2, 3});
     const PlotFrame frame = layout().layers.at(0);
-    EXPECT_EQ(frame.point(0, 0), QPointF(50, 230));
-    EXPECT_EQ(frame.point(2, 100), QPointF(350, 30));
-    EXPECT_EQ(frame.point(1, 50), QPointF(200, 130));
+    EXPECT_EQS((frame.point(0, 0), QPointF(50, 230)), (frame.point(2, 100), QPointF(350, 30)),
+               (frame.point(1, 50), QPointF(200, 130)));
 }
 
 TEST_F(FrameLayoutTest, AxesMoveToTheOriginOfTheOther) {
     chart.xAxis()->setLimits(Type::Linear, -6, 6, {2, 0, 0});
     chart.yAxis()->setLimits(Type::Linear, -100, 100, {50, 0, 0});
-    struct Row {
-        int mode, x, y; // row of the x axis, column of the y axis
-    };
-    for (const Row& row : {Row{0, 230, 50}, Row{1, 130, 50}, Row{2, 230, 200}, Row{3, 130, 200}}) {
-        chart.setAxisAtOrigin(row.mode, 0);
-        EXPECT_EQ(of(chart.xAxis()).place.across, row.x) << row.mode;
-        EXPECT_EQ(of(chart.yAxis()).place.across, row.y) << row.mode;
+    // row of the x axis, column of the y axis
+    using Row = std::tuple<int, int, int>;
+    for (const auto& [mode, x, y] : {Row{0, 230, 50}, Row{1, 130, 50}, Row{2, 230, 200}, Row{3, 130, 200}}) {
+        chart.setAxisAtOrigin(mode, 0);
+        EXPECT_EQ(of(chart.xAxis()).place.across, x) << mode;
+        EXPECT_EQ(of(chart.yAxis()).place.across, y) << mode;
     }
     // Nothing is written across the crossing lines.
     for (const Axis* axis : {chart.xAxis(), chart.yAxis()})
-        for (const AxisLayout::Label& label : of(axis).labels)
-            EXPECT_NE(label.value, 0);
+        for (const AxisLayout::Label& label : of(axis).labels) EXPECT_NE(label.value, 0);
     chart.yAxis()->setLimits(Type::Linear, 10, 20, {}); // no zero: the end nearest to it
     EXPECT_EQ(of(chart.xAxis()).place.across, 230);
     chart.setAxisAtOrigin(3, 5);
@@ -222,30 +203,23 @@ TEST_F(FrameLayoutTest, AxesMoveToTheOriginOfTheOther) {
 }
 
 TEST_F(FrameLayoutTest, TrimmingShowsTheRowsFromStartOn) {
-    struct Row {
-        int start, length;
-        std::size_t begin, end;
-    };
+    using Row = std::tuple<int, int, std::size_t, std::size_t>;
     Probe* layer = add({9, 9, 1, 2, 3});
     std::vector<double> days;
-    for (int i = 0; i < 5; ++i)
-        days.push_back(chartTime(2004, 1, 1 + i));
+    for (int i = 0; i < 5; ++i) days.push_back(chartTime(2004, 1, 1 + i));
     chart.xAxis()->setLabels(days, "{value|d}");
     const Row rows[] = {{0, 0x7fffffff, 0, 5}, {2, 0x7fffffff, 2, 5}, {2, 2, 2, 4},
                         {-3, 2, 0, 2},         {9, 1, 5, 5},          {1, -1, 1, 1}};
-    for (const Row& row : rows) {
-        chart.setTrimData(row.start, row.length);
-        EXPECT_EQ(layer->rows().begin, row.begin);
-        EXPECT_EQ(layer->rows().end, row.end);
+    for (const auto& [start, length, begin, end] : rows) {
+        chart.setTrimData(start, length);
+        EXPECT_EQS((layer->rows().begin, begin), (layer->rows().end, end));
         const AxisLayout x = of(chart.xAxis());
-        ASSERT_EQ(x.labels.size(), row.end - row.begin);
-        if (!x.labels.empty())
-            EXPECT_EQ(x.labels[0].text, std::to_string(row.begin + 1));
+        ASSERT_EQ(x.labels.size(), end - begin);
+        if (!x.labels.empty()) EXPECT_EQ(x.labels[0].text, std::to_string(begin + 1));
     }
     chart.setTrimData(2, 0x7fffffff);
     EXPECT_EQ(layout().layers[0].x.pixel(layer->xValue(2)), 50); // the first row shown
-    EXPECT_EQ(layer->yRange().max, 3);
-    EXPECT_EQ(chart.rowTexts().text(2), "3");
+    EXPECT_EQS((layer->yRange().max, 3), (chart.rowTexts().text(2), "3"));
 }
 
 TEST_F(FrameLayoutTest, XValuesOfItsOwnMakeANumericAxis) {
@@ -256,8 +230,7 @@ TEST_F(FrameLayoutTest, XValuesOfItsOwnMakeANumericAxis) {
     EXPECT_EQ(of(chart.xAxis()).map.scale().kind(), ScaleKind::Linear);
     EXPECT_LE(of(chart.xAxis()).map.lower(), 0); // the rows 0 and 1 of the other layer
     EXPECT_GE(of(chart.xAxis()).map.upper(), 3.5);
-    EXPECT_EQ(layer->xValue(1), kNoValue);
-    EXPECT_EQ(layer->xValue(7), kNoValue);
+    EXPECT_EQS((layer->xValue(1), kNoValue), (layer->xValue(7), kNoValue));
 }
 
 TEST_F(FrameLayoutTest, LayersStandBehindEachOther) {
@@ -268,8 +241,7 @@ TEST_F(FrameLayoutTest, LayersStandBehindEachOther) {
     FrameLayout all = layout();
     EXPECT_EQ(all.layers[1].depthOffset, QPoint(0, 0));
     EXPECT_EQ(all.layers[0].depthOffset, QPoint(13, -13)); // behind 8 of depth and a gap of 5
-    EXPECT_EQ(all.depth, 23);
-    EXPECT_EQ(all.layers[0].plot.topLeft(), QPoint(63, 17));
+    EXPECT_EQS((all.depth, 23), (all.layers[0].plot.topLeft(), QPoint(63, 17)));
     front->set3D(-1, 0);
     EXPECT_GT(front->depth(), 0);
     back->set3D(std::numeric_limits<int>::max(), std::numeric_limits<int>::max());
@@ -298,10 +270,8 @@ TEST_F(FrameLayoutTest, PanesThatCopyAnAxisAgreeToThePixel) {
     lower.addLayer<Probe>(Form::Polyline, values);
     const FrameLayout other = layoutFrame(lower);
     const FrameLayout all = layout();
-    EXPECT_TRUE(all.axes[0].labels.empty());
-    EXPECT_FALSE(other.axes[0].labels.empty());
-    EXPECT_EQ(pixels(all.axes[0]), pixels(other.axes[0]));
-    EXPECT_EQ(all.layers[0].x.pixel(77), other.layers[0].x.pixel(77));
+    EXPECT_EQS((all.axes[0].labels.empty(), true), (other.axes[0].labels.empty(), false),
+               (pixels(all.axes[0]), pixels(other.axes[0])), (all.layers[0].x.pixel(77), other.layers[0].x.pixel(77)));
 }
 
 TEST_F(FrameLayoutTest, DataSetsTakeTheNextColourWhereTheyHaveNone) {
@@ -309,14 +279,10 @@ TEST_F(FrameLayoutTest, DataSetsTakeTheNextColourWhereTheyHaveNone) {
     EXPECT_EQ(layer->dataSet(0)->colour(), kDataColour);
     layer->addDataSet({}, 0x123456, "named");
     DataSet* third = layer->addDataSet({}, kDefaultColour, "");
-    EXPECT_EQ(third->colour(), seriesColour(1));
-    EXPECT_EQ(third->edge(), kTransparent);
-    EXPECT_EQ(third->edge(0x111111), 0x111111u);
+    EXPECT_EQS((third->colour(), seriesColour(1)), (third->edge(), kTransparent), (third->edge(0x111111), 0x111111u));
     third->setColours(kDefaultColour, 0x222222, kDefaultColour, kDefaultColour);
-    EXPECT_EQ(third->colour(), seriesColour(1));
-    EXPECT_EQ(third->edge(0x111111), 0x222222u);
-    EXPECT_EQ(layer->dataSet(3), nullptr);
-    EXPECT_EQ(layer->dataSet(-1), nullptr);
+    EXPECT_EQS((third->colour(), seriesColour(1)), (third->edge(0x111111), 0x222222u), (layer->dataSet(3), nullptr),
+               (layer->dataSet(-1), nullptr));
     std::vector<LegendKey> keys;
     chart.collectKeys(keys);
     EXPECT_EQ(keys.size(), 1u); // only the named one

@@ -7,60 +7,48 @@
 
 namespace {
 
-using pictures::at;
+using namespace pictures;
 
-constexpr int kNone = CHART_TRANSPARENT;
-constexpr unsigned kWhite = 0xffffff, kGrid = 0xcccccc, kEdge = 0x111111, kPaper = 0xeeeeff;
+constexpr int kGrid = 0xcccccc, kEdge = 0x111111, kPaper = 0xeeeeff;
 
 /// 400 x 300, frame lines on columns 50 and 350, rows 30 and 230; 0 to 6 in steps of 2, 0 to 100 by 25; no
 /// labels, so that every pixel is known.
 struct Frame {
-    XYChart* xy = CXYChart_create(400, 300, static_cast<int>(kWhite), kNone, 0);
+    XYChart* xy = CXYChart_create(400, 300, kWhite, kNone, 0);
     BaseChart* base = XYChart2BaseChart(xy);
-    PlotArea* area = CXYChart_setPlotArea(xy, 50, 30, 300, 200, static_cast<int>(kPaper), -1, static_cast<int>(kEdge),
-                                          static_cast<int>(kGrid), kNone);
+    PlotArea* area = CXYChart_setPlotArea(xy, 50, 30, 300, 200, kPaper, -1, kEdge, kGrid, kNone);
     Axis* x = CXYChart_xAxis(xy);
     Axis* y = CXYChart_yAxis(xy);
 
     Frame() {
         CAxis_setLinearScale(x, 0, 6, 2, 1);
         CAxis_setLinearScale(y, 0, 100, 25, 5);
-        for (Axis* axis : {x, y})
-            CAxis_setColors(axis, 0, kNone, -1, -1);
+        for (Axis* axis : {x, y}) CAxis_setColors(axis, 0, kNone, -1, -1);
     }
-    QImage picture() const { return pictures::of(base); }
+    QImage picture() const { return of(base); }
 };
 
 TEST(FramePicture, NothingIsDrawnBeforeThereIsAPlotArea) {
-    XYChart* xy = CXYChart_create(100, 80, static_cast<int>(kWhite), kNone, 0);
+    XYChart* xy = CXYChart_create(100, 80, kWhite, kNone, 0);
     const double data[] = {1, 2, 3};
     CAxis_setTitle(CXYChart_xAxis2(xy), "Title", nullptr, 10, 0);
     CAxis_setLabels2(CXYChart_xAxis(xy), data, 3, nullptr);
-    EXPECT_EQ(pictures::inked(pictures::of(XYChart2BaseChart(xy)), kWhite), 0);
+    EXPECT_EQ(inked(of(XYChart2BaseChart(xy)), kWhite), 0);
 }
 
 TEST(FramePicture, LinesAndGridLieOnWholePixels) {
     const QImage image = Frame().picture();
-    for (const int y : {30, 80, 130, 180, 230}) {
-        EXPECT_EQ(at(image, 50, y), 0u); // axis line
-        EXPECT_EQ(at(image, 46, y), 0u); // tick of 4 pixels
-        EXPECT_EQ(at(image, 45, y), kWhite);
-        EXPECT_EQ(at(image, 46, y + 1), kWhite);
-    }
-    EXPECT_EQ(at(image, 48, 220), 0u); // minor tick of 2 pixels at 5
-    EXPECT_EQ(at(image, 47, 220), kWhite);
-    for (const int y : {80, 130, 180}) {
-        EXPECT_EQ(at(image, 200, y), kGrid);
-        EXPECT_EQ(at(image, 200, y - 1), kPaper);
-        EXPECT_EQ(at(image, 200, y + 1), kPaper);
-    }
-    EXPECT_EQ(at(image, 150, 100), kPaper); // no vertical grid
-    EXPECT_EQ(at(image, 350, 100), kEdge);  // the frame's far lines
-    EXPECT_EQ(at(image, 200, 30), kEdge);
-    EXPECT_EQ(at(image, 351, 100), kWhite);
-    EXPECT_EQ(at(image, 200, 29), kWhite);
-    EXPECT_EQ(at(image, 150, 234), 0u); // tick of the x axis
-    EXPECT_EQ(at(image, 150, 235), kWhite);
+    for (const int y : {30, 80, 130, 180, 230})
+        shows(image, {{50, y, 0, "axis line"}, {46, y, 0, "tick of 4 pixels"}, {45, y, kWhite}, {46, y + 1, kWhite}});
+    shows(image, {{48, 220, 0, "minor tick of 2 pixels at 5"}, {47, 220, kWhite}});
+    for (const int y : {80, 130, 180}) shows(image, {{200, y, kGrid}, {200, y - 1, kPaper}, {200, y + 1, kPaper}});
+    shows(image, {{150, 100, kPaper, "no vertical grid"},
+                  {350, 100, kEdge, "the frame's far lines"},
+                  {200, 30, kEdge},
+                  {351, 100, kWhite},
+                  {200, 29, kWhite},
+                  {150, 234, 0, "tick of the x axis"},
+                  {150, 235, kWhite}});
 }
 
 TEST(FramePicture, ZonesLieUnderTheGridAndTurnWithTheAxes) {
@@ -69,35 +57,34 @@ TEST(FramePicture, ZonesLieUnderTheGridAndTurnWithTheAxes) {
     CAxis_addZone(frame.x, 4, 1e308, 0xff9999);
     CAxis_addZone(frame.x, 0, std::nan(""), 0xff0000);
     QImage image = frame.picture();
-    EXPECT_EQ(at(image, 100, 81), 0x99ff99u);
-    EXPECT_EQ(at(image, 100, 179), 0x99ff99u);
-    EXPECT_EQ(at(image, 100, 181), kPaper);
-    EXPECT_EQ(at(image, 100, 79), kPaper);
-    EXPECT_EQ(at(image, 100, 130), kGrid);
-    EXPECT_EQ(at(image, 349, 100), 0x99ff99u); // axes in their order: x, then y
-    EXPECT_EQ(at(image, 349, 200), 0xff9999u);
-    EXPECT_EQ(at(image, 249, 200), kPaper);
-    EXPECT_EQ(at(image, 250, 200), 0xff9999u);
+    shows(image, {{100, 81, 0x99ff99},
+                  {100, 179, 0x99ff99},
+                  {100, 181, kPaper},
+                  {100, 79, kPaper},
+                  {100, 130, kGrid},
+                  {349, 100, 0x99ff99, "axes in their order: x, then y"},
+                  {349, 200, 0xff9999},
+                  {249, 200, kPaper},
+                  {250, 200, 0xff9999}});
 
     Frame turned;
     CXYChart_swapXY(turned.xy, true);
     CAxis_addZone(turned.y, 25, 75, 0x99ff99);
     image = turned.picture();
-    EXPECT_EQ(at(image, 200, 100), 0x99ff99u);
-    EXPECT_EQ(at(image, 100, 100), kPaper);
+    shows(image, {{200, 100, 0x99ff99}, {100, 100, kPaper}});
 }
 
 TEST(FramePicture, LayersAreDrawnOverTheAxesInTheirOrder) {
     Frame frame;
     auto* chart = chartdraw::object<chartdraw::XYChart>(frame.xy);
-    for (const unsigned colour : {0xff0000u, 0x00ff00u}) {
+    for (const int colour : {0xff0000, 0x00ff00}) {
         auto* layer = chart->addLayer<chartdraw::Probe>(chartdraw::Probe::Form::Polyline, std::vector<double>{0, 0, 0});
         layer->dataSet(0)->setColours(colour, colour, colour, colour);
     }
     const QImage image = frame.picture();
-    EXPECT_EQ(at(image, 100, 230), 0x00ff00u); // on the axis line, the last one on top
-    EXPECT_EQ(at(image, 100, 229), kPaper);    // 2 pixels wide: this row and the one below
-    EXPECT_EQ(at(image, 300, 230), 0u);        // rows 0 to 2 of an axis to 6
+    shows(image, {{100, 230, 0x00ff00, "on the axis line, the last one on top"},
+                  {100, 229, kPaper, "2 pixels wide: this row and the one below"},
+                  {300, 230, 0, "rows 0 to 2 of an axis to 6"}});
 }
 
 TEST(FramePicture, WallsStandBehindAFrontThatKeepsItsPlace) {
@@ -105,10 +92,10 @@ TEST(FramePicture, WallsStandBehindAFrontThatKeepsItsPlace) {
     auto* chart = chartdraw::object<chartdraw::XYChart>(frame.xy);
     chart->addLayer<chartdraw::Probe>(chartdraw::Probe::Form::Polyline, std::vector<double>{})->set3D(20, 0);
     const QImage image = frame.picture();
-    EXPECT_EQ(at(image, 370, 100), kEdge); // the back wall's right line, 20 to the right
-    EXPECT_EQ(at(image, 220, 160), kGrid); // the grid of 25 on the back wall, 20 up
-    EXPECT_EQ(at(image, 220, 10), kEdge);
-    EXPECT_EQ(at(image, 50, 100), 0u);     // the axis in front
+    shows(image, {{370, 100, kEdge, "the back wall's right line, 20 to the right"},
+                  {220, 160, kGrid, "the grid of 25 on the back wall, 20 up"},
+                  {220, 10, kEdge},
+                  {50, 100, 0, "the axis in front"}});
     EXPECT_NE(at(image, 58, 200), kPaper); // the side wall is a shade darker
     EXPECT_NE(at(image, 58, 200), kWhite);
 }

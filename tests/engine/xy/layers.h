@@ -10,22 +10,20 @@
 
 namespace layers {
 
-constexpr unsigned kWhite = 0xffffff;
-constexpr int kNone = CHART_TRANSPARENT;
-constexpr int kRed = 0xff0000, kGreen = 0x00cc00, kBlue = 0x0000ff;
+using namespace pictures;
+
 constexpr double kGap = CHART_NO_VALUE;
 
 struct Chart {
-    XYChart* xy = CXYChart_create(400, 300, static_cast<int>(kWhite), kNone, 0);
+    XYChart* xy = CXYChart_create(400, 300, kWhite, kNone, 0);
     BaseChart* base = XYChart2BaseChart(xy);
 
     explicit Chart(double lower = 0, double upper = 100) {
         CXYChart_setPlotArea(xy, 50, 30, 300, 200, kNone, -1, kNone, kNone, kNone);
         CAxis_setLinearScale(CXYChart_yAxis(xy), lower, upper, 0, 0);
-        for (Axis* axis : {CXYChart_xAxis(xy), CXYChart_yAxis(xy)})
-            CAxis_setColors(axis, kNone, kNone, kNone, kNone);
+        for (Axis* axis : {CXYChart_xAxis(xy), CXYChart_yAxis(xy)}) CAxis_setColors(axis, kNone, kNone, kNone, kNone);
     }
-    QImage picture() const { return pictures::of(base); }
+    QImage picture() const { return of(base); }
 };
 
 inline int size(const std::vector<double>& data) { return static_cast<int>(data.size()); }

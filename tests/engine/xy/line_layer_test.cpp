@@ -13,16 +13,10 @@
 namespace {
 
 using namespace layers;
-using pictures::at;
-using pictures::boundsOf;
 
 TEST(LineLayer, RunsOnWholePixelsThroughItsValuesAndBreaksAtGaps) {
-    const struct {
-        const char* what;
-        std::vector<double> data;
-        int width;
-        std::vector<QRect> pieces; // all that is drawn, no piece touching another
-    } rows[] = {
+    // all that is drawn, no piece touching another
+    const std::tuple<const char*, std::vector<double>, int, std::vector<QRect>> rows[] = {
         {"level", {50, 50}, 1, {QRect(50, 130, 301, 1)}},
         {"level between pixels", {50.2, 50.2}, 1, {QRect(50, 130, 301, 1)}},
         {"gaps of every sort",
@@ -34,16 +28,16 @@ TEST(LineLayer, RunsOnWholePixelsThroughItsValuesAndBreaksAtGaps) {
         {"nothing but gaps", {kGap, NAN}, 1, {}},
         {"no width", {50, 50}, 0, {}},
     };
-    for (const auto& row : rows) {
+    for (const auto& [what, data, width, pieces] : rows) {
         Chart chart;
-        line(chart, row.data, kRed, row.width);
+        line(chart, data, kRed, width);
         const QImage image = chart.picture();
         int pixels = 0;
-        for (const QRect& piece : row.pieces) {
-            EXPECT_EQ(boundsOf(image.copy(piece), kRed), QRect(QPoint(), piece.size())) << row.what;
+        for (const QRect& piece : pieces) {
+            EXPECT_EQ(boundsOf(image.copy(piece), kRed), QRect(QPoint(), piece.size())) << what;
             pixels += piece.width() * piece.height();
         }
-        EXPECT_EQ(pictures::inked(image, kWhite), pixels) << row.what;
+        EXPECT_EQ(inked(image, kWhite), pixels) << what;
     }
 }
 
@@ -53,9 +47,9 @@ TEST(LineLayer, IsNotCutInHalfAtTheFrameButEndsThere) {
     CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(layer), 0), CHART_SQUARE_SYMBOL, 9, kBlue, kBlue, 1);
     const QImage image = chart.picture();
     EXPECT_EQ(boundsOf(image, kBlue).top(), 26); // both symbols whole, none at 300
-    EXPECT_EQ(boundsOf(image, kBlue), QRect(46, 26, 109, 9));
-    EXPECT_EQ(boundsOf(image.copy(80, 0, 50, 300), kRed), QRect(0, 28, 50, 5));
-    EXPECT_EQ(pictures::inked(image.copy(0, 0, 400, 26), kWhite), 0);
+    EXPECT_EQS((boundsOf(image, kBlue), QRect(46, 26, 109, 9)),
+               (boundsOf(image.copy(80, 0, 50, 300), kRed), QRect(0, 28, 50, 5)),
+               (inked(image.copy(0, 0, 400, 26), kWhite), 0));
 }
 
 TEST(LineLayer, DenseCloudsLookAsIfAllSymbolsWereDrawn) {
@@ -97,32 +91,29 @@ TEST(LineLayer, StepsKeepTheValueUntilTheNextRow) {
     StepLineLayer* steps = CXYChart_addStepLineLayer(chart.xy, data, 3, kRed, nullptr);
     CLayer_setLineWidth(LineLayer2Layer(StepLineLayer2LineLayer(steps)), 1);
     const QImage image = chart.picture();
-    EXPECT_EQ(boundsOf(image.copy(50, 0, 150, 300), kRed), QRect(0, 210, 150, 1));
-    EXPECT_EQ(boundsOf(image.copy(200, 0, 1, 300), kRed), QRect(0, 150, 1, 61));
-    EXPECT_EQ(boundsOf(image.copy(201, 0, 200, 300), kRed), QRect(0, 150, 150, 1));
+    EXPECT_EQS((boundsOf(image.copy(50, 0, 150, 300), kRed), QRect(0, 210, 150, 1)),
+               (boundsOf(image.copy(200, 0, 1, 300), kRed), QRect(0, 150, 1, 61)),
+               (boundsOf(image.copy(201, 0, 200, 300), kRed), QRect(0, 150, 150, 1)));
 }
 
 TEST(LineLayer, CurvesGoThroughTheirPointsAndShowNoOtherPeak) {
-    const struct {
-        const char* what;
-        std::vector<QPointF> points;
-    } rows[] = {
+    const std::tuple<const char*, std::vector<QPointF>> rows[] = {
         {"equal neighbours", {{0, 10}, {10, 10}, {20, 90}, {30, 90}, {40, 5}}},
         {"uneven", {{0, 0}, {1, 50}, {40, 55}, {41, 0}, {80, 1}}},
         {"backwards", {{80, 0}, {60, 40}, {59, 41}, {10, 40}}},
         {"two", {{0, 0}, {50, 50}}},
         {"one", {{3, 4}}},
     };
-    for (const auto& row : rows) {
-        const std::vector<QPointF> curve = chartdraw::smoothCurve(row.points);
+    for (const auto& [what, points] : rows) {
+        const std::vector<QPointF> curve = chartdraw::smoothCurve(points);
         auto next = curve.begin();
-        for (std::size_t i = 0; i < row.points.size(); ++i) {
-            const auto found = std::find(next, curve.end(), row.points[i]);
-            ASSERT_NE(found, curve.end()) << row.what << ", point " << i;
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            const auto found = std::find(next, curve.end(), points[i]);
+            ASSERT_NE(found, curve.end()) << what << ", point " << i;
             for (auto p = next; i > 0 && p != found; ++p) {
-                const auto [low, high] = std::minmax({row.points[i - 1].y(), row.points[i].y()});
-                EXPECT_GE(p->y(), low - 1e-9) << row.what;
-                EXPECT_LE(p->y(), high + 1e-9) << row.what;
+                const auto [low, high] = std::minmax({points[i - 1].y(), points[i].y()});
+                EXPECT_GE(p->y(), low - 1e-9) << what;
+                EXPECT_LE(p->y(), high + 1e-9) << what;
             }
             next = found;
         }
@@ -136,12 +127,11 @@ TEST(LineLayer, AllNineSymbolsShowFillAndEdgeInTheirSize) {
         CDataSet_setDataSymbol(CLayer_getDataSet(LineLayer2Layer(layer), 0), symbol, 21, kGreen, kBlue, 1);
         const QImage image = chart.picture();
         if (symbol == 0 || symbol == 10) {
-            EXPECT_EQ(pictures::inked(image, kWhite), 0) << symbol;
+            EXPECT_EQ(inked(image, kWhite), 0) << symbol;
             continue;
         }
-        EXPECT_EQ(at(image, 200, 130), static_cast<unsigned>(kGreen)) << symbol;
-        const int outside =
-            pictures::inked(image, kWhite) - pictures::inked(image.copy(QRect(190, 120, 21, 21)), kWhite);
+        EXPECT_EQ(at(image, 200, 130), kGreen) << symbol;
+        const int outside = inked(image, kWhite) - inked(image.copy(QRect(190, 120, 21, 21)), kWhite);
         EXPECT_EQ(outside, 0) << symbol;
         int edge = 0;
         for (int y = 119; y < 142; ++y)
@@ -174,8 +164,7 @@ public:
     }
 };
 
-template <class L>
-QImage longLine(const std::vector<double>& x, const std::vector<double>& y, int width) {
+template <class L> QImage longLine(const std::vector<double>& x, const std::vector<double>& y, int width) {
     Chart chart;
     auto* xy = chartdraw::object<chartdraw::XYChart>(chart.xy);
     auto* layer = xy->addLayer<L>(chartdraw::LineLayer::Form::Straight, 0);
@@ -208,8 +197,7 @@ TEST(LineLayer, LongLinesLookAsIfAllPointsWereDrawn) {
     std::uniform_real_distribution<double> part(0, 1);
     const auto made = [](std::size_t count, const auto& value) {
         std::vector<double> values(count);
-        for (std::size_t i = 0; i < count; ++i)
-            values[i] = value(static_cast<double>(i) / static_cast<double>(count));
+        for (std::size_t i = 0; i < count; ++i) values[i] = value(static_cast<double>(i) / static_cast<double>(count));
         return values;
     };
     const struct {

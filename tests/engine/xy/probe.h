@@ -34,8 +34,7 @@ public:
                 canvas.fillRect(QRectF(from, to).normalized() & QRectF(frame.inner()), dataSets()[0]->colour());
             }
         }
-        if (m_form == Form::Polyline)
-            canvas.polyline(points, dataSets()[0]->colour(), 2);
+        if (m_form == Form::Polyline) canvas.polyline(points, dataSets()[0]->colour(), 2);
     }
 
 private:

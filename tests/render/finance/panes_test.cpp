@@ -11,16 +11,14 @@ namespace {
 /// The labels of the x axis for `rows` rows `step` seconds apart.
 std::vector<std::string> formats(int width, int rows, double step, int extraPoints) {
     std::vector<double> times;
-    for (int row = 0; row < rows; ++row)
-        times.push_back(CChart_chartTime(2002, 1, 1, 0, 0, 0) + row * step);
+    for (int row = 0; row < rows; ++row) times.push_back(CChart_chartTime(2002, 1, 1, 0, 0, 0) + row * step);
     FinanceChart chart(width);
     chart.setData({times, {}, {}, {}, {}, {}}, extraPoints);
     const recorder::Recording recording;
     chart.addIndicator(70);
     std::vector<std::string> lines;
     for (const std::string& line : recording.Lines()) {
-        if (line.starts_with("CChart_encodeFilter("))
-            lines.push_back(line.substr(20, line.size() - 21));
+        if (line.starts_with("CChart_encodeFilter(")) lines.push_back(line.substr(20, line.size() - 21));
         if (line.starts_with("CAxis_setMultiFormat")) // the end: the span and whether the first is promoted
             lines.push_back(line.substr(line.rfind('"') + 3, line.size() - line.rfind('"') - 4));
     }
