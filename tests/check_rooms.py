@@ -21,8 +21,9 @@ FLOORS = [
     ["editors/entry"],
     ["demo", "tools", "bench"],
 ]
-ENGINE = ["object", "data", "scale", "paint", "text", "chart", "axis", "pie", "xy", "polar", "meter", "multi", "api"]
-ENGINE_PEERS = [{"scale", "paint"}, {"pie", "xy", "polar", "meter", "multi"}]
+# The rooms of the engine, in the order of its list; the kinds of charts stand side by side.
+ENGINE = re.search(r"foreach\(room (.*)\)", pathlib.Path(sys.argv[1], "engine/CMakeLists.txt").read_text()).group(1).split()
+ENGINE_PEERS = [{"scale", "paint"}, set(ENGINE[ENGINE.index("axis") + 1 : -1])]
 PUBLIC = {"chartdraw": "engine", "charteditors": "model", "chartrender": "render", "chartstyle": "style"}
 # What a host's program may include of this project: public headers alone.
 HOSTS = ["demo", "tools"]

@@ -1,3 +1,4 @@
+#include "model/fields/xy.h"
 #include "model/src/value_class.h"
 #include <charteditors/xy_chart.h>
 #include <initializer_list>
@@ -15,40 +16,6 @@ void forEachRelation(CXYChart& chart, Change change) {
     for (int i = 0; i < chart.m_axes.GetAxisCount(); i++)
         if (CXYChartAxis* axis = chart.m_axes.GetAxis(i))
             change(axis->m_syncAxis);
-}
-
-/// Every field but the additional axes and the layers.
-void copyLook(CXYChart& to, const CXYChart& from) {
-    to.m_majorHGridColor = from.m_majorHGridColor;
-    to.m_majorVGridColor = from.m_majorVGridColor;
-    to.m_minorHGridColor = from.m_minorHGridColor;
-    to.m_minorVGridColor = from.m_minorVGridColor;
-    to.m_majorHGridWidth = from.m_majorHGridWidth;
-    to.m_majorVGridWidth = from.m_majorVGridWidth;
-    to.m_minorHGridWidth = from.m_minorHGridWidth;
-    to.m_minorVGridWidth = from.m_minorVGridWidth;
-    to.m_lineColor = from.m_lineColor;
-    to.m_lineWidth = from.m_lineWidth;
-    to.m_useBackground = from.m_useBackground;
-    to.m_backgroundType = from.m_backgroundType;
-    to.m_edgeColor = from.m_edgeColor;
-    to.m_backColor = from.m_backColor;
-    to.m_altColor = from.m_altColor;
-    to.m_backImage = from.m_backImage;
-    to.m_q1Color = from.m_q1Color;
-    to.m_q2Color = from.m_q2Color;
-    to.m_q3Color = from.m_q3Color;
-    to.m_q4Color = from.m_q4Color;
-    to.m_swapXY = from.m_swapXY;
-    to.m_xAxis = from.m_xAxis;
-    to.m_yAxis = from.m_yAxis;
-    to.m_useX2Axis = from.m_useX2Axis;
-    to.m_x2Axis = from.m_x2Axis;
-    to.m_useY2Axis = from.m_useY2Axis;
-    to.m_y2Axis = from.m_y2Axis;
-    to.m_show3D = from.m_show3D;
-    to.m_depth = from.m_depth;
-    to.m_zGap = from.m_zGap;
 }
 
 } // namespace
@@ -80,9 +47,8 @@ CXYChart& CXYChart::operator=(const CXYChart& other) {
     if (this == &other)
         return *this;
     try {
-        copyLook(*this, other);
-        m_axes = other.m_axes;
-        m_layers = other.m_layers;
+        model::EachField(
+            other, [&](const auto& field, const auto& value) { this->*field.member = value; });
     } catch (...) {
         UpdateRelation(); // a half-made copy must not name the source's axes
         throw;

@@ -22,10 +22,10 @@ TEST(PieWaysOut, AHostsOwnModalDialogOwnsTheEditor) {
             EXPECT_TRUE(Edit(pie, [&](Person& person) {
                 EXPECT_EQ(person.Window().parentWidget(), &host);
                 CPieChart inner;
-                EXPECT_TRUE(
-                    Edit(inner, [](Person& second) { // a host may call from a timer of its own second.Click("Show 3D");
-                        second.Ok();
-                    }));
+                EXPECT_TRUE(Edit(inner, [](Person& second) { // a host may call from a timer of its own
+                    second.Click("Show 3D");
+                    second.Ok();
+                }));
                 EXPECT_TRUE(inner.m_show3D);
                 person.Click("Shadow3D");
                 person.Ok();

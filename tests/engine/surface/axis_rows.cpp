@@ -113,17 +113,12 @@ std::vector<Row> axisRows() {
         {"CAxis_setTitle", axes,
          SET(CAxis_setColors(s.x, kNone, kNone, kBlue, kNone),
              CAxis_setTitle(s.x, b ? "TTTTTTTT" : "TT", b ? "normal" : "bold", b ? 9 : 18, b ? kRed : -1)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.box(b ? kRed : kBlue);
-             return ink.top() > 170 && (ink.height() < 13) == b && (ink.width() > 40) == b;
-         }},
+         INK(p.box(b ? kRed : kBlue), ink.top() > 170 && (ink.height() < 13) == b && (ink.width() > 40) == b)},
         {"CAxis_setTitlePos", axes,
          SET(CAxis_setColors(s.x, kNone, kNone, -1, kNone), CAxis_setTitle(s.x, "III", "bold", 8, kRed),
              CAxis_setTitlePos(s.x, b ? CHART_BOTTOM_RIGHT : CHART_BOTTOM_LEFT, b ? 12 : 1)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.ink(QRect(40, 180, 260, 20));
-             return b ? ink.left() > 220 && ink.bottom() > 190 : ink.right() < 90 && ink.bottom() < 195;
-         }},
+         INK(p.ink(QRect(40, 180, 260, 20)),
+             b ? ink.left() > 220 && ink.bottom() > 190 : ink.right() < 90 && ink.bottom() < 195)},
         {"CAxis_setLabelStyle", axes,
          SET(CAxis_setLabelStyle(s.y, b ? "bold" : "boldItalic", b ? 10 : 9, b ? kRed : kBlue, b ? 90 : 0)),
          [](const Shot& p, bool b) {
@@ -138,6 +133,7 @@ std::vector<Row> axisRows() {
              CAxis_setLabels2(s.x, values, b ? 4 : 2, b ? "{value|4}" : "{value}");
          },
          SHOWS((p.ink(kBelow).right() > 230) == b)},
+        // January is the fifth of the twelve months; the first is promoted
         {"CAxis_setMultiFormat", months,
          [](Scene& s, bool b) {
              const int years = CChart_encodeFilter(CHART_START_OF_YEAR, 1, 0),
@@ -146,13 +142,10 @@ std::vector<Row> axisRows() {
              b ? CAxis_setMultiFormat(s.x, years, "<*color=ff0000*>I", all, "<*color=ff*>I", 1, true)
                : CAxis_setMultiFormat(s.x, all, "<*color=ff*>I", years, "<*color=ff0000*>I", 4, false);
          },
-         [](const Shot& p, bool b) { // January is the fifth of the twelve months; the first is promoted
-             const QRect red = p.ink(QRect(40, 174, 30, 20));
-             return b ? blocks(p, kBelow, false) == 12 && p.has(kRed, QRect(118, 174, 12, 20)) &&
-                            p.has(kRed, QRect(44, 174, 12, 20)) && p.has(kBlue, QRect(230, 174, 30, 20)) &&
-                            !red.isNull()
-                      : blocks(p, kBelow, false) == 3 && !p.has(kRed);
-         }},
+         INK(p.ink(QRect(40, 174, 30, 20)),
+             b ? blocks(p, kBelow, false) == 12 && p.has(kRed, QRect(118, 174, 12, 20)) &&
+                     p.has(kRed, QRect(44, 174, 12, 20)) && p.has(kBlue, QRect(230, 174, 30, 20)) && !ink.isNull()
+               : blocks(p, kBelow, false) == 3 && !p.has(kRed))},
         {"CAxis_setMultiFormat2", months,
          SET(CAxis_setLabelStyle(s.x, "bold", 10, -1, 0),
              CAxis_setMultiFormat2(s.x, CChart_encodeFilter(b ? CHART_START_OF_YEAR : CHART_START_OF_MONTH, 1, 0),

@@ -71,18 +71,13 @@ std::vector<Row> chartRows() {
         {"CBaseChart_addText", blank,
          SET(b ? CBaseChart_addText(s.chart, 60, 40, "TTTT", "bold", 20, kRed, CHART_TOP_LEFT, 0, false)
                : CBaseChart_addText(s.chart, 200, 150, "TTTT", "bold", 10, kBlue, CHART_BOTTOM_RIGHT, 0, true)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.box(b ? kRed : kBlue);
-             return b ? ink.left() >= 60 && ink.left() < 64 && ink.top() >= 40 && ink.top() < 52 && ink.width() > 50
-                      : ink.right() < 200 && ink.right() > 190 && ink.bottom() < 150 && ink.bottom() > 130 &&
-                            ink.height() > 2 * ink.width();
-         }},
+         INK(p.box(b ? kRed : kBlue),
+             b ? ink.left() >= 60 && ink.left() < 64 && ink.top() >= 40 && ink.top() < 52 && ink.width() > 50
+               : ink.right() < 200 && ink.right() > 190 && ink.bottom() < 150 && ink.bottom() > 130 &&
+                     ink.height() > 2 * ink.width())},
         {"CBaseChart_addText", blank, // the angle
          SET(CBaseChart_addText(s.chart, 150, 100, "TTTTTTTT", "bold", 10, kRed, CHART_CENTER, b ? 90 : 0, false)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.box(kRed);
-             return b ? ink.height() > 3 * ink.width() : ink.width() > 3 * ink.height();
-         }},
+         INK(p.box(kRed), b ? ink.height() > 3 * ink.width() : ink.width() > 3 * ink.height())},
         {"CBaseChart_addLine", blank,
          SET(b ? CBaseChart_addLine(s.chart, 20, 50, 120, 50, kRed, 5)
                : CBaseChart_addLine(s.chart, 200, 30, 200, 90, kBlue, 9)),
@@ -136,21 +131,16 @@ std::vector<Row> chartRows() {
          SET(CBox_setBackground(TextBox2Box(s.text), b ? kCyan : kGreen, b ? kBlue : kPink, 0)),
          SHOWS(p.has(b ? kCyan : kGreen) && p.is(100, 80, b ? kBlue : kPink))},
         {"CBox_setPos", text, SET(CBox_setPos(TextBox2Box(s.text), b ? 30 : 120, b ? 150 : 20)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.box(kRed);
-             return std::abs(ink.left() - (b ? 32 : 122)) <= 2 && std::abs(ink.top() - (b ? 154 : 24)) <= 4;
-         }},
+         INK(p.box(kRed), std::abs(ink.left() - (b ? 32 : 122)) <= 2 && std::abs(ink.top() - (b ? 154 : 24)) <= 4)},
         {"CBox_setSize", text,
          SET(CBox_setBackground(TextBox2Box(s.text), kCyan, kNone, 0),
              CBox_setSize(TextBox2Box(s.text), b ? 150 : 120, b ? 40 : 90)),
          SHOWS(p.fills(kCyan, b ? QRect(100, 80, 150, 40) : QRect(100, 80, 120, 90), 0))},
         {"CTextBox_setText", text, SET(CTextBox_setText(s.text, b ? "I" : "WWWW")),
          SHOWS((p.box(kRed).width() < 10) == b)},
+        // letters one below the other are upright: H is two posts
         {"CTextBox_setFontAngle", text, SET(CTextBox_setFontAngle(s.text, b ? 0 : 90, b)),
-         [](const Shot& p, bool b) { // letters one below the other are upright: H is two posts
-             const QRect ink = p.box(kRed);
-             return b ? ink.height() > 90 : ink.height() > 40 && ink.height() < 90;
-         }},
+         INK(p.box(kRed), b ? ink.height() > 90 : ink.height() > 40 && ink.height() < 90)},
         {"CTextBox_setFontColor", text, SET(CTextBox_setFontColor(s.text, b ? kBlue : kGreen)),
          SHOWS(p.has(b ? kBlue : kGreen) && !p.has(kRed))},
         {"CTextBox_setFontSize", text, SET(CTextBox_setFontSize(s.text, b ? 10 : 20, b ? 20 : 10)),
@@ -161,11 +151,8 @@ std::vector<Row> chartRows() {
         {"CTextBox_setAlignment", text,
          SET(CBox_setSize(TextBox2Box(s.text), 180, 100),
              CTextBox_setAlignment(s.text, b ? CHART_BOTTOM_RIGHT : CHART_TOP)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.ink();
-             return b ? ink.right() > 270 && ink.bottom() > 170
-                      : ink.left() > 130 && ink.right() < 250 && ink.top() < 90;
-         }},
+         INK(p.ink(),
+             b ? ink.right() > 270 && ink.bottom() > 170 : ink.left() > 130 && ink.right() < 250 && ink.top() < 90)},
         {"CTextBox_setHeight", text,
          SET(CBox_setBackground(TextBox2Box(s.text), kCyan, kNone, 0), CTextBox_setHeight(s.text, b ? 40 : 70)),
          SHOWS(p.box(kCyan).height() == (b ? 40 : 70) && p.box(kCyan).top() == 80)},
@@ -238,13 +225,10 @@ std::vector<Row> chartRows() {
          SET(CAxis_setLinearScale(s.x, 0, 4, 2, 1), CAxis_setLinearScale(s.y, 0, 100, 50, 25),
              CPlotArea_setGridColor(s.plot, kRed, kGreen, kBlue, kPink),
              b ? CPlotArea_setGridWidth(s.plot, 9, 7, 5, 3) : CPlotArea_setGridWidth(s.plot, 1, 3, 7, 9)),
-         [](const Shot& p, bool b) {
-             const QRect clear(75, 100, 20, 60);
-             return p.box(kRed, QRect(80, 80, 1, 40)).height() == (b ? 9 : 1) &&
-                    p.box(kGreen, QRect(130, 80, 50, 1)).width() == (b ? 7 : 3) &&
-                    p.box(kBlue, QRect(80, 110, 1, 50)).height() == (b ? 5 : 7) &&
-                    p.box(kPink, QRect(85, 80, 40, 1)).width() == (b ? 3 : 9);
-         }},
+         SHOWS(p.box(kRed, QRect(80, 80, 1, 40)).height() == (b ? 9 : 1) &&
+               p.box(kGreen, QRect(130, 80, 50, 1)).width() == (b ? 7 : 3) &&
+               p.box(kBlue, QRect(80, 110, 1, 50)).height() == (b ? 5 : 7) &&
+               p.box(kPink, QRect(85, 80, 40, 1)).width() == (b ? 3 : 9))},
         {"CXYChart_swapXY", bars, SET(CXYChart_swapXY(s.xy, b)),
          SHOWS(p.box(kGreen).height() > 130 ? b : !b && p.box(kGreen).width() > 180)},
         {"CXYChart_setTrimData", bars, SET(CXYChart_setTrimData(s.xy, b ? 1 : 0, b ? 2 : 1)),
@@ -257,10 +241,8 @@ std::vector<Row> chartRows() {
         {"CXYChart_setAxisAtOrigin", line, // the flags
          SET(CAxis_setLinearScale(s.x, 0, 0, 0, 0), CAxis_setLinearScale(s.y, 0, 0, 0, 0),
              CXYChart_setAxisAtOrigin(s.xy, 0, b ? 1 : 4)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.ink(QRect(52, 22, 196, 146));
-             return b ? ink.left() >= 148 && ink.bottom() > 105 : ink.bottom() < 97 && ink.left() < 60;
-         }},
+         INK(p.ink(QRect(52, 22, 196, 146)),
+             b ? ink.left() >= 148 && ink.bottom() > 105 : ink.bottom() < 97 && ink.left() < 60)},
         {"CXYChart_setYAxisOnRight", axes,
          SET(CAxis_setColors(s.y, kBlue, kNone, kNone, kNone), CXYChart_setYAxisOnRight(s.xy, b)),
          SHOWS(p.is(b ? 250 : 50, 100, kBlue) && !p.is(b ? 50 : 250, 100, kBlue))},

@@ -88,11 +88,9 @@ std::vector<Row> layerRows() {
              CXYChart_addBoxLayer(s.xy, high, b ? 2 : 1, low, 2, b ? kRed : kBlue, b ? "WW" : "");
              CBaseChart_addLegend(s.chart, 0, 180, false, nullptr, 8);
          },
-         [](const Shot& p, bool b) {
-             const QRect box = p.box(b ? kRed : kBlue, QRect(0, 0, 300, 175));
-             return std::abs(box.top() - yOf(b ? 90 : 60)) <= 2 && std::abs(box.bottom() - yOf(30)) <= 2 &&
-                    p.has(b ? kRed : kBlue, QRect(0, 180, 30, 20)) == b;
-         }},
+         INK(p.box(b ? kRed : kBlue, QRect(0, 0, 300, 175)), std::abs(ink.top() - yOf(b ? 90 : 60)) <= 2 &&
+                                                                 std::abs(ink.bottom() - yOf(30)) <= 2 &&
+                                                                 p.has(b ? kRed : kBlue, QRect(0, 180, 30, 20)) == b)},
         {"CXYChart_addHLOCLayer", axes, SET(prices(s, b ? kRed : kBlue)),
          [](const Shot& p,
             bool b) { // high to low; the close of the last is to the right of it, the open to the left
@@ -182,10 +180,7 @@ std::vector<Row> layerRows() {
          SHOWS(p.box(kGreen).top() == (b ? 95 : 50))},
         {"CLayer_setDataLabelStyle", bars,
          SET(CLayer_setDataLabelStyle(s.layer, b ? "bold" : "boldItalic", b ? 12 : 9, b ? kRed : kBlue, b ? 0 : 90)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.ink(above(1, 60));
-             return p.has(b ? kRed : kBlue, above(0, 20)) && (ink.width() > ink.height()) == b;
-         }},
+         INK(p.ink(above(1, 60)), p.has(b ? kRed : kBlue, above(0, 20)) && (ink.width() > ink.height()) == b)},
         {"CLayer_setDataLabelFormat", bars,
          SET(CLayer_setDataLabelStyle(s.layer, "normal", 8, kRed, 0),
              CLayer_setDataLabelFormat(s.layer, b ? "{value|3}" : "I")),
@@ -193,10 +188,7 @@ std::vector<Row> layerRows() {
         {"CLayer_setAggregateLabelStyle", bars,
          SET(CLayer_setAggregateLabelStyle(s.layer, b ? "bold" : "boldItalic", b ? 12 : 9, b ? kRed : kBlue,
                                            b ? 0 : 90)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.ink(above(1, 60));
-             return p.has(b ? kRed : kBlue, above(0, 20)) && (ink.width() > ink.height()) == b;
-         }},
+         INK(p.ink(above(1, 60)), p.has(b ? kRed : kBlue, above(0, 20)) && (ink.width() > ink.height()) == b)},
         {"CLayer_setAggregateLabelFormat", bars,
          SET(CLayer_setAggregateLabelStyle(s.layer, "normal", 8, kRed, 0),
              CLayer_setAggregateLabelFormat(s.layer, b ? "{value|3}" : "I")),
@@ -213,11 +205,9 @@ std::vector<Row> layerRows() {
         {"CDataSet_setDataSymbol", line,
          SET(b ? CDataSet_setDataSymbol(CLayer_getDataSet(s.layer, 0), CHART_SQUARE_SYMBOL, 25, kRed, kBlue, 5)
                : CDataSet_setDataSymbol(CLayer_getDataSet(s.layer, 0), CHART_CROSS_SYMBOL, 35, kBlue, kPink, 1)),
-         [](const Shot& p, bool b) {
-             const QRect all = p.ink(QRect(xOf(2) - 25, yOf(60) - 12, 51, 3));
-             return p.is(xOf(2), yOf(60), b ? kRed : kBlue) && p.is(xOf(2), yOf(60) + 10, kBlue) &&
-                    p.is(xOf(2) + 7, yOf(60) + 7, kRed) == b && (all.width() > 20) == b;
-         }},
+         INK(p.ink(QRect(xOf(2) - 25, yOf(60) - 12, 51, 3)),
+             p.is(xOf(2), yOf(60), b ? kRed : kBlue) && p.is(xOf(2), yOf(60) + 10, kBlue) &&
+                 p.is(xOf(2) + 7, yOf(60) + 7, kRed) == b && (ink.width() > 20) == b)},
         {"CBarLayer_setBarShape", pairs,
          SET(CBarLayer_setBarShape(s.bars, b ? CHART_TRIANGLE_SHAPE : CHART_INVERTED_TRIANGLE_SHAPE, b ? 0 : 1,
                                    b ? 1 : 0)),

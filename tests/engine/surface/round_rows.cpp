@@ -69,10 +69,7 @@ std::vector<Row> roundRows() {
          SET(CPieChart_setLabelFormat(s.pie, "I"), CPieChart_setLabelStyle(s.pie, "bold", 12, kPink),
              CPieChart_setLabelLayout(s.pie, b ? CHART_SIDE_LAYOUT : CHART_CIRCLE_LAYOUT, b ? 10 : 40, b ? 10 : -1,
                                       b ? 80 : -1)),
-         [](const Shot& p, bool b) {
-             const QRect labels = p.box(kPink);
-             return b ? labels.bottom() < 85 && labels.top() > 9 : labels.right() > 240 && labels.bottom() > 120;
-         }},
+         INK(p.box(kPink), b ? ink.bottom() < 85 && ink.top() > 9 : ink.right() > 240 && ink.bottom() > 120)},
         {"CPieChart_setLineColor", pie,
          [](Scene& s, bool b) {
              for (int i = 0; i < 3; ++i) CSector_setColor(CPieChart_sector(s.pie, i), kWhite, -1, -1);
@@ -119,10 +116,7 @@ std::vector<Row> roundRows() {
          }},
         {"CBaseMeter_setLabelStyle", straightMeter,
          SET(CBaseMeter_setLabelStyle(s.meter, b ? "bold" : "normal", b ? 14 : 8, b ? kRed : kBlue, b ? 90 : 0)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.ink(QRect(230, 130, 60, 60));
-             return p.has(b ? kRed : kBlue) && (ink.height() > ink.width()) == b;
-         }},
+         INK(p.ink(QRect(230, 130, 60, 60)), p.has(b ? kRed : kBlue) && (ink.height() > ink.width()) == b)},
         {"CBaseMeter_setLineWidth", straightMeter,
          SET(CBaseMeter_setScale(s.meter, 0, 100, 50, 25, 12.5),
              CBaseMeter_setLabelStyle(s.meter, "normal", 8, kRed, 0),
@@ -185,10 +179,8 @@ std::vector<Row> roundRows() {
                (b ? p.ink().left() < 55 : p.ink().top() < 75))},
         {"CLinearMeter_addZone", straightMeter,
          SET(CLinearMeter_addZone(s.straight, b ? 25 : 50, b ? 50 : 100, b ? kRed : kBlue, b ? "WW" : "")),
-         [](const Shot& p, bool b) {
-             const QRect zone = b ? QRect(100, 100, 51, 20) : QRect(150, 100, 101, 20);
-             return p.fills(b ? kRed : kBlue, zone) && p.has(0, zone.adjusted(3, 1, -3, -1)) == b;
-         }},
+         INK(b ? QRect(100, 100, 51, 20) : QRect(150, 100, 101, 20),
+             p.fills(b ? kRed : kBlue, ink) && p.has(0, ink.adjusted(3, 1, -3, -1)) == b)},
         // ---- polar
         {"CPolarChart_setPlotArea", polar,
          SET(b ? CPolarChart_setPlotArea(s.polar, 100, 90, 60, kRed, kBlue, 9)
@@ -239,10 +231,7 @@ std::vector<Row> roundRows() {
         {"CPolarLayer_setDataLabelStyle", polar,
          SET(CPolarLayer_setDataLabelStyle(s.polarLayer, b ? "bold" : "boldItalic", b ? 14 : 10, b ? kRed : kBlue,
                                            b ? 90 : 0)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.box(b ? kRed : kBlue, QRect(192, 80, 40, 40));
-             return !ink.isNull() && (ink.height() > ink.width()) == b;
-         }},
+         INK(p.box(b ? kRed : kBlue, QRect(192, 80, 40, 40)), !ink.isNull() && (ink.height() > ink.width()) == b)},
         {"CPolarLayer_setDataLabelFormat", polar,
          SET(CPolarLayer_setDataLabelStyle(s.polarLayer, "bold", 10, kRed, 0),
              CPolarLayer_setDataLabelFormat(s.polarLayer, b ? "{value|2}" : "I")),
@@ -284,10 +273,7 @@ std::vector<Row> roundRows() {
         {"CAngularAxis_setLabelStyle", polar,
          SET(CAngularAxis_setLabelStyle(CPolarChart_angularAxis(s.polar), b ? "bold" : "boldItalic", b ? 13 : 10,
                                         b ? kRed : kBlue, b ? 90 : 0)),
-         [](const Shot& p, bool b) {
-             const QRect ink = p.box(b ? kRed : kBlue, QRect(232, 60, 68, 80));
-             return !ink.isNull() && (ink.height() > ink.width()) == b;
-         }},
+         INK(p.box(b ? kRed : kBlue, QRect(232, 60, 68, 80)), !ink.isNull() && (ink.height() > ink.width()) == b)},
         {"CAngularAxis_addZone2", polar,
          SET(CAngularAxis_addZone2(CPolarChart_angularAxis(s.polar), b ? 10 : 100, b ? 80 : 300, b ? kRed : kBlue,
                                    b ? kBlue : kPink)),

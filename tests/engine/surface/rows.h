@@ -17,9 +17,14 @@ struct Row {
 };
 
 /// What most rows do: one expression of the scene `s` and of `b`, whether the second value is meant, or of the shot
-/// `p`.
+/// `p`, with INK of what is called `ink` in it.
 #define SET(...) [](Scene& s, [[maybe_unused]] bool b) { __VA_ARGS__; }
 #define SHOWS(...) [](const Shot& p, [[maybe_unused]] bool b) { return __VA_ARGS__; }
+#define INK(area, ...)                                                                                                 \
+    [](const Shot& p, [[maybe_unused]] bool b) {                                                                       \
+        const QRect ink = area;                                                                                        \
+        return __VA_ARGS__;                                                                                            \
+    }
 
 std::vector<Row> chartRows();
 std::vector<Row> axisRows();
