@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <optional>
+#include <span>
 
 namespace chartdraw {
 
@@ -30,6 +31,14 @@ public:
     /// fits an int after a check against the plot area; NaN for NaN and missing values. On a log scale what
     /// is not above 0 lies far below the lower end.
     double pixel(double value) const { return m_lower + (m_upper - m_lower) * m_scale.fraction(own(value)); }
+    /// The positions of many values; those of gaps are NaN or far beyond the ends.
+    void pixels(std::span<const double> values, double* positions) const {
+        if (m_tied)
+            for (const double value : values)
+                *positions++ = pixel(value);
+        else
+            m_scale.positions(values, m_lower, m_upper - m_lower, positions);
+    }
     /// The pixel that a tick, a grid line, a bar's end at this value covers: the nearest one, limited to
     /// +-1e9. The lowest for NaN.
     int wholePixel(double value) const {

@@ -5,6 +5,7 @@
 #include "engine/chart/data_symbol.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 namespace chartdraw {
@@ -18,32 +19,41 @@ public:
     /// `symbol` is resolved; `canvas` must outlive the cloud.
     SymbolCloud(Canvas& canvas, const DataSymbol& symbol, const QRect& area);
 
-    /// The point is within the area. As SymbolPainter::draw, but behind the points before it.
-    void drawBehind(QPointF centre);
-    /// Lays all of them on the picture.
-    void finish();
+    /// The last point first. As SymbolPainter::draw, but behind the points before them. Those with their
+    /// middles outside the area are passed over.
+    void drawBehind(std::span<const double> x, std::span<const double> y);
+    /// Lays all of them on the picture, moved by the offset.
+    void finish(QPoint offset);
 
 private:
     /// Places between whole pixels, in x and in y.
-    static constexpr int kPhases = 4;
+    static constexpr int kPhaseBits = 2, kPhases = 1 << kPhaseBits;
 
-    const QImage& sprite(int phase);
+    struct Sprite {
+        QImage image;
+        int first = 0, rows = 0; ///< those that are not empty
+    };
+    const Sprite& sprite(int phase);
+    void drawOne(double x, double y, std::size_t tile);
     bool isFull(const QRect& tiles) const;
     void lookAt(int column, int row);
 
     Canvas& m_canvas;
     DataSymbol m_symbol;
     QRect m_area; ///< of the picture: where the symbols reach
+    QRectF m_middles;
     QImage m_image;
     QRgb* m_bits;
     int m_stride;
-    unsigned m_opaque = 255; ///< the alpha from which on no symbol adds anything
-    int m_phases = kPhases;  ///< 1 for symbols that stand on whole pixels only
-    QImage m_sprites[kPhases * kPhases];
-    // Of the tiles of the image, row by row:
-    int m_columns;
+    unsigned m_opaque = 255;      ///< the alpha from which on no symbol adds anything
+    int m_phaseBits = kPhaseBits; ///< 0 for symbols that stand on whole pixels only
+    Sprite m_sprites[kPhases * kPhases];
+    int m_columns; ///< of the tiles of the image
+    // Of the tiles, row by row; the last is none but always full:
     std::vector<std::uint8_t> m_full;   ///< whether all pixels are opaque
+    std::vector<std::uint8_t> m_hides;  ///< whether all symbols are hidden whose first pixel it has
     std::vector<std::uint8_t> m_visits; ///< symbols since it was looked at
+    std::vector<std::int32_t> m_tiles;  ///< of points in hand
 };
 
 } // namespace chartdraw

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 
 namespace chartdraw {
 namespace {
@@ -96,27 +97,41 @@ constexpr double kNone = std::numeric_limits<double>::infinity();
 /// Ranges that the processor finds together, of every eighth value each.
 struct Lanes {
     double low[kLanes], high[kLanes], positive[kLanes];
+    double gaps[kLanes]; ///< how many
 
     Lanes() {
         std::ranges::fill(low, kNone);
         std::ranges::fill(high, -kNone);
         std::ranges::fill(positive, kNone);
+        std::ranges::fill(gaps, 0);
+    }
+    DataRange range() const {
+        const double least = *std::ranges::min_element(low), most = *std::ranges::max_element(high);
+        const double above = *std::ranges::min_element(positive);
+        return {.min = least,
+                .max = most,
+                .minPositive = above < kNone ? above : 0,
+                .empty = least == kNone,
+                .gaps = std::accumulate(std::begin(gaps), std::end(gaps), 0.0) > 0};
     }
 };
 
 /// `count` is a multiple of the lanes. A line may have millions of points.
-CHART_FAST_LOOP void addToLanes(const double* values, std::size_t count, Lanes& lanes) {
+CHART_FAST_LOOP void look(const double* values, std::size_t count, Lanes& lanes) {
     constexpr double gap = std::numeric_limits<double>::quiet_NaN(); // neither above nor below anything
     Lanes found = lanes;
     for (std::size_t i = 0; i < count; i += kLanes) {
+#pragma GCC unroll 1 // only what stays a loop is turned into operations on many numbers
         for (std::size_t k = 0; k < kLanes; ++k) {
             const double value = values[i + k];
             // One comparison finds gaps and the sizes about 1e308, which show on no axis.
-            const double known = std::abs(value) < kNoValue ? value : gap;
+            const bool isKnown = std::abs(value) < kNoValue;
+            const double known = isKnown ? value : gap;
             const double above = known > 0 ? known : kNone;
             found.low[k] = known < found.low[k] ? known : found.low[k];
             found.high[k] = known > found.high[k] ? known : found.high[k];
             found.positive[k] = above < found.positive[k] ? above : found.positive[k];
+            found.gaps[k] += isKnown ? 0.0 : 1.0;
         }
     }
     lanes = found;
@@ -125,35 +140,32 @@ CHART_FAST_LOOP void addToLanes(const double* values, std::size_t count, Lanes& 
 } // namespace
 
 void DataRange::add(double value) {
-    if (!isValue(value))
-        return;
-    min = empty ? value : std::min(min, value);
-    max = empty ? value : std::max(max, value);
-    if (value > 0 && (minPositive <= 0 || value < minPositive))
-        minPositive = value;
-    empty = false;
+    if (isValue(value))
+        add({.min = value, .max = value, .minPositive = std::max(value, 0.0), .empty = false});
+    else
+        gaps = true;
 }
 
 void DataRange::add(std::span<const double> values) {
-    Lanes lanes;
     const std::size_t whole = values.size() / kLanes * kLanes;
-    addToLanes(values.data(), whole, lanes);
-    for (std::size_t k = 0; k < kLanes; ++k) {
-        add(lanes.low[k]);
-        add(lanes.high[k]);
-        add(lanes.positive[k]);
+    if (whole > 0) {
+        Lanes lanes;
+        look(values.data(), whole, lanes);
+        add(lanes.range());
     }
     for (const double value : values.subspan(whole))
         add(value);
 }
 
 void DataRange::add(const DataRange& other) {
+    gaps = gaps || other.gaps;
     if (other.empty)
         return;
-    add(other.min);
-    add(other.max);
-    if (other.minPositive > 0)
-        add(other.minPositive);
+    min = empty ? other.min : std::min(min, other.min);
+    max = empty ? other.max : std::max(max, other.max);
+    if (other.minPositive > 0 && (minPositive <= 0 || other.minPositive < minPositive))
+        minPositive = other.minPositive;
+    empty = false;
 }
 
 Scale autoLinearScale(const DataRange& data, const AutoScale& options, const Density& density) {

@@ -15,6 +15,7 @@ struct DataRange {
     double max = 0;
     double minPositive = 0; ///< smallest value above 0; 0 if there is none
     bool empty = true;
+    bool gaps = false; ///< whether any were passed over
 
     void add(double value);
     void add(std::span<const double> values);

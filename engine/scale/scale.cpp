@@ -1,6 +1,7 @@
 #include "engine/scale/scale.h"
 
 #include "engine/data/chart_time.h"
+#include "engine/data/fast_loop.h"
 
 #include <algorithm>
 #include <utility>
@@ -13,6 +14,16 @@ constexpr double kSmallestSpan = 1e-306;
 
 double limited(double value, double largest) {
     return isValue(value) ? std::clamp(value, -largest, largest) : 0;
+}
+
+/// Of a scale that is no log one.
+CHART_FAST_LOOP void linearPositions(const double* values, std::size_t count, double from, double span,
+                                     double farthest, double lower, double length, double* result) {
+    for (std::size_t i = 0; i < count; ++i) {
+        const double f = (values[i] - from) / span;
+        const double above = f < -farthest ? -farthest : f;
+        result[i] = lower + length * (above > farthest ? farthest : above);
+    }
 }
 
 } // namespace
@@ -65,6 +76,14 @@ Scale Scale::items(int count, bool indent) {
     const double last = std::max(count, 1) - 1;
     const double room = indent || last == 0 ? 0.5 : 0;
     return {ScaleKind::Enumerated, -room, last + room};
+}
+
+void Scale::positions(std::span<const double> values, double lower, double length, double* result) const {
+    if (m_kind == ScaleKind::Log)
+        for (const double value : values)
+            *result++ = lower + length * fraction(value);
+    else
+        linearPositions(values.data(), values.size(), m_from, m_span, kFar, lower, length, result);
 }
 
 double Scale::value(double fraction) const {

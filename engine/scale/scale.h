@@ -7,6 +7,7 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <span>
 
 namespace chartdraw {
 
@@ -46,6 +47,9 @@ public:
         const double f = (t - m_from) / m_span;
         return f < -kFar ? -kFar : (f > kFar ? kFar : f);
     }
+    /// lower + length * fraction(value) for many values, to the last bit; gaps lie anywhere beyond the
+    /// limits.
+    void positions(std::span<const double> values, double lower, double length, double* result) const;
     /// The value at a fraction; NaN for NaN.
     double value(double fraction) const;
     /// Whether a value lies between the limits, a millionth of the length beyond them included.

@@ -2,6 +2,7 @@
 
 #include "engine/data/no_value.h"
 #include "engine/xy/bar_shapes.h"
+#include "engine/xy/covered_column.h"
 #include "engine/xy/data_labels.h"
 #include "engine/xy/depth.h"
 #include "engine/xy/row_room.h"
@@ -152,31 +153,39 @@ DataRange BarLayer::yRange() const {
     return fillsRange() ? percentRange(range) : range;
 }
 
+bool BarLayer::findSpan(const PlotFrame& frame, const Piece& piece, bool edged, int& from, int& to,
+                        int& direction) {
+    const double root = alongY(frame, piece.from), end = alongY(frame, piece.to);
+    if (std::isnan(root) || std::isnan(end)) // a stack beyond all numbers
+        return false;
+    const int base = whole(root), tip = whole(end);
+    direction = tip < base ? -1 : 1;
+    if (tip != base) {
+        // The pixel of the base line itself stays free; pieces of a stack share the line between them.
+        from = base + (edged && piece.from != 0 ? 0 : direction);
+        to = tip;
+        return true;
+    }
+    if (piece.from != 0 || piece.to == 0)
+        return false;
+    const bool down = frame.y.upperPixel() > frame.y.lowerPixel();
+    direction = (piece.to > 0) == down ? 1 : -1;
+    from = to = base + direction; // however low, a bar is there
+    return true;
+}
+
+bool BarLayer::isEdged(const Canvas& canvas, const DataSet& set) const {
+    return lineWidth() > 0 && !canvas.colours().invisible(set.edge(borderColour()));
+}
+
 void BarLayer::drawPiece(Canvas& canvas, const PlotFrame& frame, const Places& places, std::size_t row,
                          const Piece& piece) const {
-    int x0 = 0, x1 = 0;
-    if (!places.find(row, piece.set, x0, x1))
-        return;
+    int x0 = 0, x1 = 0, y0 = 0, y1 = 0, direction = 0;
     const DataSet& set = *dataSets()[piece.set];
-    const Colour edge = set.edge(borderColour());
-    const bool edged = !canvas.colours().invisible(edge) && lineWidth() > 0;
-    const double from = alongY(frame, piece.from), to = alongY(frame, piece.to);
-    if (std::isnan(from) || std::isnan(to)) // a stack beyond all numbers
+    const bool edged = isEdged(canvas, set);
+    if (!places.find(row, piece.set, x0, x1) || !findSpan(frame, piece, edged, y0, y1, direction))
         return;
-    const int base = whole(from), tip = whole(to);
-    // The pixel of the base line itself stays free; pieces of a stack share the line between them.
-    const int gap = edged && piece.from != 0 ? 0 : 1;
-    QRect pixels;
-    int direction = tip < base ? -1 : 1;
-    if (tip != base) {
-        pixels = pixelRect(frame, x0, x1, base + direction * gap, tip);
-    } else if (piece.from == 0 && piece.to != 0) { // however low, a bar is there
-        const bool down = frame.y.upperPixel() > frame.y.lowerPixel();
-        direction = (piece.to > 0) == down ? 1 : -1;
-        pixels = pixelRect(frame, x0, x1, base + direction, base + direction);
-    } else {
-        return;
-    }
+    const QRect pixels = pixelRect(frame, x0, x1, y0, y1);
     const int shape = shapeOf(piece.set, row);
     if (frame.depth == 0 && !edged && borderEffect() == 0 && shape <= SquareShape) {
         canvas.fillRect(pixels, set.colour());
@@ -184,9 +193,9 @@ void BarLayer::drawPiece(Canvas& canvas, const PlotFrame& frame, const Places& p
     }
     BarLook look;
     look.fill = set.colour();
-    look.edge = edge;
+    look.edge = set.edge(borderColour());
     look.side = orDefault(set.shadow(), set.colour());
-    look.sideEdge = orDefault(set.shadowEdge(), edge);
+    look.sideEdge = orDefault(set.shadowEdge(), look.edge);
     look.effect = borderEffect();
     look.edgeWidth = lineWidth();
     look.depth = frame.depth;
@@ -205,16 +214,37 @@ std::vector<std::size_t> BarLayer::drawingOrder(const PlotFrame& frame) const {
 }
 
 bool BarLayer::joinsColumns(const Canvas& canvas, const PlotFrame& frame, const Places& places) const {
-    if (dataSets().size() != 1 || m_combine == Combine::Percentage || frame.depth > 0 || !places.narrow() ||
-        borderEffect() != 0 || !m_shapes.empty())
-        return false;
-    const DataSet& set = *dataSets().front();
-    const QBrush brush = canvas.colours().brush(set.colour(), QRectF(0, 0, 1, 1));
-    return (canvas.colours().invisible(set.edge(borderColour())) || lineWidth() <= 0) &&
-           brush.style() == Qt::SolidPattern && brush.isOpaque();
+    return frame.depth == 0 && places.narrow() && borderEffect() == 0 && m_shapes.empty() &&
+           std::ranges::all_of(
+               dataSets(),
+               [&](const DataSet* set) {
+                   const QBrush brush = canvas.colours().brush(set->colour(), QRectF(0, 0, 1, 1));
+                   return !isEdged(canvas, *set) && brush.style() == Qt::SolidPattern && brush.isOpaque();
+               });
 }
 
+/// From the last bar to the first, each where no later one is.
 void BarLayer::drawColumns(Canvas& canvas, const PlotFrame& frame, const Places& places) const {
+    std::map<int, CoveredColumn> columns;
+    std::vector<Piece> pieces;
+    for (std::size_t row = rows().end; row-- > rows().begin;) {
+        piecesOf(row, pieces);
+        orderPieces(frame, pieces);
+        for (std::size_t i = pieces.size(); i-- > 0;) {
+            int x = 0, last = 0, from = 0, to = 0, direction = 0;
+            if (places.find(row, pieces[i].set, x, last) &&
+                findSpan(frame, pieces[i], false, from, to, direction))
+                columns[x].paint(from, to, dataSets()[pieces[i].set]->colour());
+        }
+    }
+    for (auto& [x, column] : columns)
+        column.finish([&, x = x](int from, int to, Colour colour) {
+            canvas.fillRect(pixelRect(frame, x, x, from, to), colour);
+        });
+}
+
+/// Of one set the highest and the lowest bar of a column are enough.
+void BarLayer::drawOnlySet(Canvas& canvas, const PlotFrame& frame, const Places& places) const {
     const std::span<const double> data = dataSets().front()->data();
     const std::size_t end = std::min(rows().end, data.size());
     for (std::size_t row = rows().begin, next = row; row < end; row = next) {
@@ -226,8 +256,7 @@ void BarLayer::drawColumns(Canvas& canvas, const PlotFrame& frame, const Places&
             int otherX = 0;
             return places.find(other, 0, otherX, last) && otherX == x;
         });
-        DataRange range;
-        range.add(data.subspan(row, next - row));
+        const DataRange range = dataSets().front()->range(row, next);
         if (!range.empty) {
             drawPiece(canvas, frame, places, row, {.to = range.max});
             drawPiece(canvas, frame, places, row, {.to = range.min});
@@ -235,20 +264,24 @@ void BarLayer::drawColumns(Canvas& canvas, const PlotFrame& frame, const Places&
     }
 }
 
+void BarLayer::orderPieces(const PlotFrame& frame, std::vector<Piece>& pieces) const {
+    if (m_firstOnTop && !stacked())
+        std::reverse(pieces.begin(), pieces.end());
+    else if (frame.depth > 0 && stacked())
+        std::stable_sort(pieces.begin(), pieces.end(), [&](const Piece& a, const Piece& b) {
+            const double difference = frame.y.pixel(a.from + a.to) - frame.y.pixel(b.from + b.to);
+            return frame.swapped ? difference < 0 : difference > 0;
+        });
+    else if (frame.depth > 0 && (frame.x.lowerPixel() > frame.x.upperPixel()) != frame.swapped)
+        std::reverse(pieces.begin(), pieces.end()); // a reversed axis
+}
+
 void BarLayer::draw(Canvas& canvas, const PlotFrame& frame) {
     const Places places(*this, frame);
     std::vector<Piece> pieces;
     const auto drawRow = [&](std::size_t row) {
         piecesOf(row, pieces);
-        if (m_firstOnTop && !stacked())
-            std::reverse(pieces.begin(), pieces.end());
-        else if (frame.depth > 0 && stacked())
-            std::stable_sort(pieces.begin(), pieces.end(), [&](const Piece& a, const Piece& b) {
-                const double difference = frame.y.pixel(a.from + a.to) - frame.y.pixel(b.from + b.to);
-                return frame.swapped ? difference < 0 : difference > 0;
-            });
-        else if (frame.depth > 0 && (frame.x.lowerPixel() > frame.x.upperPixel()) != frame.swapped)
-            std::reverse(pieces.begin(), pieces.end()); // a reversed axis
+        orderPieces(frame, pieces);
         for (const Piece& piece : pieces)
             drawPiece(canvas, frame, places, row, piece);
     };
@@ -259,7 +292,10 @@ void BarLayer::draw(Canvas& canvas, const PlotFrame& frame) {
     }
     const ClipScope clip(canvas, frame.inner());
     if (joinsColumns(canvas, frame, places)) {
-        drawColumns(canvas, frame, places);
+        if (dataSets().size() == 1 && m_combine != Combine::Percentage)
+            drawOnlySet(canvas, frame, places);
+        else
+            drawColumns(canvas, frame, places);
         return;
     }
     for (std::size_t row = rows().begin; row < rows().end; ++row)

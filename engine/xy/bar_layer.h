@@ -48,11 +48,18 @@ private:
     bool stacked() const { return m_combine == Combine::Stack || m_combine == Combine::Percentage; }
     /// The pieces of a row, by data set.
     void piecesOf(std::size_t row, std::vector<Piece>& pieces) const;
+    /// The first and the last pixel along y, from the base on; false where there is nothing to draw.
+    static bool findSpan(const PlotFrame& frame, const Piece& piece, bool edged, int& from, int& to,
+                         int& direction);
     void drawPiece(Canvas& canvas, const PlotFrame& frame, const Places& places, std::size_t row,
                    const Piece& piece) const;
-    /// Whether the bars are so narrow and plain that those of one pixel column are one box of one colour.
+    bool isEdged(const Canvas& canvas, const DataSet& set) const;
+    /// The pieces of a row as they are drawn, the first below the others.
+    void orderPieces(const PlotFrame& frame, std::vector<Piece>& pieces) const;
+    /// Whether the bars are so narrow and plain that those of one pixel column hide one another whole.
     bool joinsColumns(const Canvas& canvas, const PlotFrame& frame, const Places& places) const;
     void drawColumns(Canvas& canvas, const PlotFrame& frame, const Places& places) const;
+    void drawOnlySet(Canvas& canvas, const PlotFrame& frame, const Places& places) const;
     bool isHidden(const Piece& piece, std::span<const Piece> pieces) const;
     Colour groundOf(const Piece& piece, std::span<const Piece> pieces) const;
     void labelSums(DataLabels& labels, const PlotFrame& frame, const Places& places, std::size_t row,

@@ -109,6 +109,7 @@ private:
 class PriceLayer : public BaseBoxLayer {
 public:
     enum Series { High, Low, Open, Close };
+    static constexpr std::size_t kSeries = 4;
 
 protected:
     using BaseBoxLayer::BaseBoxLayer;

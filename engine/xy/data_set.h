@@ -19,7 +19,7 @@ public:
     DataSet(Chart& chart, Numbers data, Colour colour, std::string name);
 
     /// All rows, before trimming; a gap is what isValue() refuses.
-    std::span<const double> data() const { return m_data; }
+    const Numbers& data() const { return m_data; }
     /// The range of the rows [begin, end).
     DataRange range(std::size_t begin, std::size_t end) const { return m_data.range(begin, end); }
     const std::string& name() const { return m_name; }

@@ -73,7 +73,7 @@ public:
 
     void setXData(Numbers data);
     /// The given x values of all rows, before trimming; empty where rows stand at 0, 1, 2...
-    std::span<const double> xData() const { return m_xData; }
+    const Numbers& xData() const { return m_xData; }
     /// Whether the x values are numbers of their own, so that the x axis cannot be one of rows.
     bool hasXData() const { return !m_xData.empty(); }
     /// The x value of a row: given (a gap past their end), or its number counted from the first row shown.

@@ -12,13 +12,15 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
+#include <numeric>
 #include <utility>
 
 namespace chartdraw {
 
 namespace {
 
-constexpr std::size_t kPiece = 1 << 14; // points in hand at a time
+constexpr std::size_t kPiece = 1 << 14;      // points in hand at a time
+constexpr std::size_t kCloudPiece = 1 << 10; // these all in the nearest cache
 
 Kind kindOf(LineLayer::Form form) {
     switch (form) {
@@ -107,7 +109,7 @@ void LineLayer::drawLongLine(Canvas& canvas, const DataSet& set) const {
         canvas.polyline(points, set.colour(), lineWidth());
     }
     if (lineWidth() == 1) {
-        for (const CoveredColumn& covered : reduction.covered()) {
+        for (const CoveredStretch& covered : reduction.covered()) {
             canvas.fillRect(pixelRect(m_frame, covered.column, covered.column, covered.from, covered.to),
                             set.colour());
         }
@@ -146,31 +148,45 @@ void LineLayer::drawSymbols(Canvas& canvas, const DataSet& set) const {
     const bool scaled = !m_widths.empty() || !m_heights.empty();
     const QRectF plot = QRectF(m_frame.plot).adjusted(-0.5, -0.5, -0.5, -0.5);
     const std::size_t begin = rows().begin, end = std::min(rows().end, set.data().size());
-    const auto find = [&](std::size_t row, QPointF& centre) {
-        const double x = xValue(row);
-        if (!isValue(set.data()[row]) || !isValue(x))
-            return false;
-        centre = m_frame.point(x, set.data()[row]);
-        return centre.x() >= plot.left() && centre.x() <= plot.right() && centre.y() >= plot.top() &&
-               centre.y() <= plot.bottom();
-    };
-    QPointF centre;
     if (!scaled && begin < end && SymbolCloud::pays(canvas, symbol, m_frame.plot, end - begin)) {
-        SymbolCloud cloud(canvas, symbol, m_frame.plot);
-        for (std::size_t row = end; row-- > begin;)
-            if (find(row, centre))
-                cloud.drawBehind(centre);
-        cloud.finish();
+        drawCloud(canvas, set, symbol);
         return;
     }
     for (std::size_t row = begin; row < end; ++row) {
-        if (!find(row, centre))
+        const double x = xValue(row);
+        if (!isValue(set.data()[row]) || !isValue(x))
+            continue;
+        const QPointF centre = m_frame.point(x, set.data()[row]);
+        if (!(centre.x() >= plot.left() && centre.x() <= plot.right() && centre.y() >= plot.top() &&
+              centre.y() <= plot.bottom()))
             continue;
         if (scaled)
             symbols.draw(centre, symbolSize(set, row));
         else
             symbols.draw(centre);
     }
+}
+
+/// In pieces, the last one first.
+void LineLayer::drawCloud(Canvas& canvas, const DataSet& set, const DataSymbol& symbol) const {
+    const std::span<const double> data = set.data(), given = xData();
+    const std::size_t begin = rows().begin;
+    SymbolCloud cloud(canvas, symbol, m_frame.plot.translated(-m_frame.depthOffset));
+    std::vector<double> rowNumbers, x, y;
+    std::size_t end = std::min({rows().end, data.size(), hasXData() ? given.size() : data.size()});
+    for (std::size_t first = end; end > begin; end = first) {
+        first = end - std::min(kCloudPiece, end - begin);
+        x.resize(end - first);
+        y.resize(end - first);
+        if (!hasXData()) {
+            rowNumbers.resize(end - first);
+            std::iota(rowNumbers.begin(), rowNumbers.end(), static_cast<double>(first - begin));
+        }
+        m_frame.x.pixels(hasXData() ? given.subspan(first, end - first) : rowNumbers, x.data());
+        m_frame.y.pixels(data.subspan(first, end - first), y.data());
+        cloud.drawBehind(m_frame.swapped ? y : x, m_frame.swapped ? x : y);
+    }
+    cloud.finish(m_frame.depthOffset);
 }
 
 void LineLayer::draw(Canvas& canvas, const PlotFrame& frame) {

@@ -55,6 +55,7 @@ private:
     void drawLine(Canvas& canvas, const DataSet& set) const;
     void drawLongLine(Canvas& canvas, const DataSet& set) const;
     void drawSymbols(Canvas& canvas, const DataSet& set) const;
+    void drawCloud(Canvas& canvas, const DataSet& set, const DataSymbol& symbol) const;
     QSize symbolSize(const DataSet& set, std::size_t row) const;
 
     Form m_form;

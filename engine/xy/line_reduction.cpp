@@ -1,12 +1,10 @@
 #include "engine/xy/line_reduction.h"
 
-#include "engine/data/fast_loop.h"
 #include "engine/data/no_value.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <numeric>
 
 namespace chartdraw {
 
@@ -16,41 +14,7 @@ constexpr double kGap = std::numeric_limits<double>::quiet_NaN();
 constexpr std::size_t kKeptWhole = 4; // so few points in a column are all kept
 constexpr std::size_t kDense = 8;     // from so many on, a line that goes up and down covers the column
 
-constexpr std::size_t kLanes = 8;
-constexpr std::size_t kBlock = 6 * kLanes; // rows that are looked at together
-
-/// The extremes of a block of rows, of every eighth value each, which the processor finds together.
-struct Lanes {
-    double least[kLanes], most[kLanes];
-    double check[kLanes]; ///< 0, or NaN where a value was not finite
-
-    explicit Lanes(double value) {
-        std::ranges::fill(least, value);
-        std::ranges::fill(most, value);
-        std::ranges::fill(check, 0);
-    }
-    bool within(double low, double high) const {
-        return std::accumulate(std::begin(check), std::end(check), 0.0) == 0 && lowest() >= low &&
-               highest() < high;
-    }
-    double lowest() const { return *std::ranges::min_element(least); }
-    double highest() const { return *std::ranges::max_element(most); }
-};
-
-/// `count` is a multiple of the lanes.
-CHART_FAST_LOOP void look(const double* values, std::size_t count, Lanes& lanes) {
-    Lanes found = lanes;
-    for (std::size_t i = 0; i < count; i += kLanes) {
-#pragma GCC unroll 1 // only what stays a loop is turned into operations on many numbers
-        for (std::size_t k = 0; k < kLanes; ++k) {
-            const double value = values[i + k];
-            found.least[k] = value < found.least[k] ? value : found.least[k];
-            found.most[k] = value > found.most[k] ? value : found.most[k];
-            found.check[k] += value - value;
-        }
-    }
-    lanes = found;
-}
+constexpr std::size_t kLook = 48; // rows that are looked at together
 
 int toWhole(double position) {
     return static_cast<int>(std::floor(std::clamp(position, -1e6, 1e6) + 0.5));
@@ -65,13 +29,12 @@ struct LineReduction::Run {
     std::size_t lowest = 0, highest = 0; ///< rows of the extreme values
 };
 
-LineReduction::LineReduction(const Layer& layer, std::span<const double> values, const PlotFrame& frame,
-                             double above)
+LineReduction::LineReduction(const Layer& layer, NumberView values, const PlotFrame& frame, double above)
     : m_frame(frame), m_x(layer.xData()), m_y(values), m_above(above), m_affine(frame.x.affine()) {
     const RowRange rows = layer.rows();
-    m_end = std::min(rows.end, values.size());
+    m_end = std::min(rows.end, values.values.size());
     if (layer.hasXData())
-        m_end = std::min(m_end, m_x.size());
+        m_end = std::min(m_end, m_x.values.size());
     m_begin = std::min(rows.begin, m_end);
     if (m_affine && !std::isfinite(m_affine->offset + m_affine->factor * 1e9))
         m_affine.reset();
@@ -79,12 +42,12 @@ LineReduction::LineReduction(const Layer& layer, std::span<const double> values,
 }
 
 bool LineReduction::isGap(std::size_t row) const {
-    return !isShown(m_y[row]) || (!m_x.empty() && !isValue(m_x[row]));
+    return !isShown(m_y.values[row]) || (!m_x.values.empty() && !isValue(m_x.values[row]));
 }
 
 /// The first row from `row` on that has the value.
 std::size_t LineReduction::rowOf(double value, std::size_t row) const {
-    while (m_y[row] != value)
+    while (m_y.values[row] != value)
         ++row;
     return row;
 }
@@ -96,40 +59,48 @@ LineReduction::Run LineReduction::scan(std::size_t row, double half) const {
     if (low > high)
         std::swap(low, high);
     Run run{row, row + 1, row, row};
-    double least = m_y[row], most = least;
+    const std::span<const double> x = m_x.values, y = m_y.values;
+    double least = y[row], most = least;
     std::size_t stop = m_end;
-    if (m_x.empty() && high - xOf(row) < static_cast<double>(m_end - row))
+    if (x.empty() && high - xOf(row) < static_cast<double>(m_end - row))
         stop = std::min(m_end, m_begin + static_cast<std::size_t>(std::max(0.0, std::ceil(high))));
     std::size_t next = row + 1;
-    // Whole blocks, as long as all rows of one are shown and within the half; which row of a block was the
-    // extreme one is looked for at the end.
+    // Blocks, as long as all rows of one are shown and within the half; which row of a block was the extreme
+    // one is looked for at the end.
     std::size_t lowBlock = row, highBlock = row;
-    for (; next + kBlock <= stop; next += kBlock) {
-        if (!m_x.empty()) {
-            Lanes places(m_x[next]);
-            look(m_x.data() + next, kBlock, places);
-            if (!places.within(low, high))
-                break;
+    const auto take = [&](std::size_t count) {
+        if (next + count > stop)
+            return false;
+        if (!x.empty()) {
+            const DataRange places = m_x.range(next, next + count);
+            if (places.gaps || places.min < low || places.max >= high)
+                return false;
         }
-        Lanes lanes(m_y[next]);
-        look(m_y.data() + next, kBlock, lanes);
-        if (!lanes.within(-kNoValue, kNoValue) || !(lanes.lowest() > m_above))
-            break;
-        if (lanes.lowest() < least) {
-            least = lanes.lowest();
+        const DataRange range = m_y.range(next, next + count);
+        if (range.gaps || range.min <= m_above)
+            return false;
+        if (range.min < least) {
+            least = range.min;
             lowBlock = next;
         }
-        if (lanes.highest() > most) {
-            most = lanes.highest();
+        if (range.max > most) {
+            most = range.max;
             highBlock = next;
         }
+        next += count;
+        return true;
+    };
+    while (next < stop) {
+        const std::size_t toBlock = Numbers::kBlock - next % Numbers::kBlock;
+        if (!(toBlock == Numbers::kBlock && take(toBlock)) && !take(std::min({kLook, toBlock, stop - next})))
+            break;
     }
     run.lowest = rowOf(least, lowBlock);
     run.highest = rowOf(most, highBlock);
     for (; next < stop; ++next) {
-        if (!m_x.empty() && !(m_x[next] >= low && m_x[next] < high))
+        if (!x.empty() && !(x[next] >= low && x[next] < high))
             break;
-        const double value = m_y[next];
+        const double value = y[next];
         if (!isShown(value))
             break;
         if (value < least) {
@@ -145,7 +116,7 @@ LineReduction::Run LineReduction::scan(std::size_t row, double half) const {
 }
 
 void LineReduction::append(std::vector<QPointF>& points, std::size_t row) const {
-    points.emplace_back(pixelOf(row), m_frame.y.pixel(m_y[row]));
+    points.emplace_back(pixelOf(row), m_frame.y.pixel(m_y.values[row]));
 }
 
 void LineReduction::appendColumn(std::vector<QPointF>& points) {
@@ -160,8 +131,9 @@ void LineReduction::appendColumn(std::vector<QPointF>& points) {
         second = scan(first.end, otherHalf);
     Run whole{first.begin, second.end, first.lowest, first.highest};
     if (second.end > second.begin) {
-        whole.lowest = m_y[second.lowest] < m_y[first.lowest] ? second.lowest : first.lowest;
-        whole.highest = m_y[second.highest] > m_y[first.highest] ? second.highest : first.highest;
+        whole.lowest = m_y.values[second.lowest] < m_y.values[first.lowest] ? second.lowest : first.lowest;
+        whole.highest =
+            m_y.values[second.highest] > m_y.values[first.highest] ? second.highest : first.highest;
     }
     m_next = whole.end;
     m_joined = true;
@@ -178,8 +150,8 @@ void LineReduction::appendColumn(std::vector<QPointF>& points) {
             append(points, row);
     append(points, last);
     if (whole.end - whole.begin >= kDense && second.end > second.begin) {
-        const double bottom = std::max(m_y[first.lowest], m_y[second.lowest]);
-        const double top = std::min(m_y[first.highest], m_y[second.highest]);
+        const double bottom = std::max(m_y.values[first.lowest], m_y.values[second.lowest]);
+        const double top = std::min(m_y.values[first.highest], m_y.values[second.highest]);
         if (bottom < top) {
             const auto [from, to] =
                 std::minmax({toWhole(m_frame.y.pixel(bottom)), toWhole(m_frame.y.pixel(top))});
@@ -208,7 +180,7 @@ bool LineReduction::more(std::vector<QPointF>& points, std::size_t most) {
     return points.size() > before;
 }
 
-std::vector<QPointF> reducedPoints(const Layer& layer, std::span<const double> values, const PlotFrame& frame,
+std::vector<QPointF> reducedPoints(const Layer& layer, NumberView values, const PlotFrame& frame,
                                    double above) {
     std::vector<QPointF> points;
     LineReduction(layer, values, frame, above).more(points, std::numeric_limits<std::size_t>::max());

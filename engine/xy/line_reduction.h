@@ -17,7 +17,7 @@ namespace chartdraw {
 
 /// A stretch of a pixel column, positions along the axes, that a thin line with more turns than points were
 /// kept covers wholly.
-struct CoveredColumn {
+struct CoveredStretch {
     int column = 0;
     int from = 0, to = 0; ///< pixels along y, from <= to
 };
@@ -26,7 +26,7 @@ class LineReduction {
 public:
     /// `values` holds a number or a gap a row of the layer, before trimming; it and the layer must outlive
     /// the reduction. `frame` tells the positions. Values that are not above `above` are gaps too.
-    LineReduction(const Layer& layer, std::span<const double> values, const PlotFrame& frame,
+    LineReduction(const Layer& layer, NumberView values, const PlotFrame& frame,
                   double above = -std::numeric_limits<double>::infinity());
 
     /// Appends points (positions along x and along y, a NaN for each gap), about `most` of them or all that
@@ -35,11 +35,13 @@ public:
     bool more(std::vector<QPointF>& points, std::size_t most);
 
     /// What the points given so far do not cover though the full line does.
-    const std::vector<CoveredColumn>& covered() const { return m_covered; }
+    const std::vector<CoveredStretch>& covered() const { return m_covered; }
 
 private:
     struct Run;
-    double xOf(std::size_t row) const { return m_x.empty() ? static_cast<double>(row - m_begin) : m_x[row]; }
+    double xOf(std::size_t row) const {
+        return m_x.values.empty() ? static_cast<double>(row - m_begin) : m_x.values[row];
+    }
     double pixelOf(std::size_t row) const {
         const double x = xOf(row);
         return m_affine ? m_affine->offset + m_affine->factor * x : m_frame.x.pixel(x);
@@ -52,16 +54,16 @@ private:
     void appendColumn(std::vector<QPointF>& points);
 
     PlotFrame m_frame;
-    std::span<const double> m_x, m_y;
+    NumberView m_x, m_y;
     double m_above;
     std::size_t m_begin, m_end, m_next;
     std::optional<AxisMap::Affine> m_affine;
     bool m_joined = false; ///< the row before `m_next` is a point of the line
-    std::vector<CoveredColumn> m_covered;
+    std::vector<CoveredStretch> m_covered;
 };
 
 /// All points of a series at once.
-std::vector<QPointF> reducedPoints(const Layer& layer, std::span<const double> values, const PlotFrame& frame,
+std::vector<QPointF> reducedPoints(const Layer& layer, NumberView values, const PlotFrame& frame,
                                    double above = -std::numeric_limits<double>::infinity());
 
 } // namespace chartdraw

@@ -7,6 +7,7 @@
 #include "engine/xy/row_room.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 
 namespace chartdraw {
@@ -40,22 +41,34 @@ bool PriceLayer::joinsColumns(const Canvas& canvas, const PlotFrame& frame) cons
 void PriceLayer::drawColumn(Canvas& canvas, const PlotFrame& frame, int x, std::size_t begin,
                             std::size_t end) const {
     CoveredColumn column;
-    // Blocks of rows, each as long as all later ones, that lie where all is painted already are not looked at
-    // closer.
-    constexpr std::size_t shortest = 16;
-    for (std::size_t block = shortest; end > begin; block *= 2) {
-        const std::size_t first = end - std::min(block, end - begin);
-        bool hidden = false;
-        if (block > shortest) {
-            DataRange range;
-            for (const DataSet* set : dataSets())
-                range.add(set->range(first, end));
-            hidden = range.empty || column.covers(pixel(frame, range.min), pixel(frame, range.max));
+    DataRange hidden{kNoValue, -kNoValue}; // values that are painted, with all between them
+    const auto isHidden = [&](double value) { return value >= hidden.min && value <= hidden.max; };
+    const auto hidesRows = [&](const DataSet* set, std::size_t from, std::size_t to) {
+        const DataRange range = set->range(from, to);
+        return range.empty || (isHidden(range.min) && isHidden(range.max));
+    };
+    std::array<std::span<const double>, kSeries> series;
+    std::transform(dataSets().begin(), dataSets().begin() + kSeries, series.begin(),
+                   [](const DataSet* set) { return std::span<const double>(set->data()); });
+    for (std::size_t row = end; row > begin;) {
+        const std::size_t block = row - std::min(Numbers::kBlock, row - begin);
+        if (row % Numbers::kBlock == 0 &&
+            std::ranges::all_of(dataSets(), [&](const DataSet* set) { return hidesRows(set, block, row); })) {
+            row = block;
+            continue;
         }
-        for (std::size_t row = end; row-- > first && !hidden;)
-            if (shows(row))
-                paintRow(column, frame, row);
-        end = first;
+        --row;
+        if (std::ranges::all_of(
+                series,
+                [&](std::span<const double> data) { return row < data.size() && isHidden(data[row]); }) ||
+            !shows(row))
+            continue;
+        paintRow(column, frame, row);
+        DataRange painted = hidden;
+        for (const std::span<const double> data : series)
+            painted.add(row < data.size() ? data[row] : kNoValue);
+        if (column.covers(pixel(frame, painted.min), pixel(frame, painted.max)))
+            hidden = painted;
     }
     column.finish(
         [&](int from, int to, Colour colour) { canvas.fillRect(pixelRect(frame, x, x, from, to), colour); });

@@ -72,18 +72,23 @@ TEST(BarLayer, BarsOfOneColumnAreOneBarThatReachesAsFar) {
                         : static_cast<double>(noise >> 16) / 500 - 60 * std::sin(static_cast<double>(i) * 1e-3) - 40;
         x[i] = static_cast<double>(i % 1000) + 1e-3 * static_cast<double>(noise >> 24);
     }
-    for (const bool givenX : {false, true}) {
-        for (const bool swapped : {false, true}) {
-            const auto drawn = [&](bool oneByOne) {
-                Chart chart(-100, 100);
-                CXYChart_swapXY(chart.xy, swapped);
-                BarLayer* bar = CXYChart_addBarLayer(chart.xy, values.data(), size(values), kRed, nullptr, 0);
-                if (givenX) CLayer_setXData(BarLayer2Layer(bar), x.data(), size(x));
-                if (oneByOne) // whose shape is asked for is drawn by itself
-                    CBarLayer_setBarShape(bar, CHART_SQUARE_SHAPE, -1, -1);
-                return chart.picture();
-            };
-            EXPECT_EQ(drawn(false), drawn(true)) << givenX << swapped;
+    std::vector<double> reversed(values.rbegin(), values.rend());
+    for (const int sets : {1, 2}) {
+        for (const int combine : {CHART_COMBINE_SIDE, CHART_COMBINE_STACK}) {
+            for (const bool given : {false, true}) { // x values, and the axes exchanged
+                const auto drawn = [&](bool oneByOne) {
+                    Chart chart(-200, 200);
+                    CXYChart_swapXY(chart.xy, given);
+                    BarLayer* bar = CXYChart_addBarLayer2(chart.xy, combine, 0);
+                    CLayer_addDataSet(BarLayer2Layer(bar), values.data(), size(values), kRed, nullptr);
+                    if (sets > 1) CLayer_addDataSet(BarLayer2Layer(bar), reversed.data(), size(x), kBlue, nullptr);
+                    if (given) CLayer_setXData(BarLayer2Layer(bar), x.data(), size(x));
+                    if (oneByOne) // whose shape is asked for is drawn by itself
+                        CBarLayer_setBarShape(bar, CHART_SQUARE_SHAPE, -1, -1);
+                    return chart.picture();
+                };
+                EXPECT_EQ(drawn(false), drawn(true)) << sets << combine << given;
+            }
         }
     }
 }

@@ -155,7 +155,7 @@ public:
         painter.translate(0.5, 0.5);
         painter.setClipRect(QRectF(frame.plot).adjusted(-1.5, -1.5, 0.5, 0.5));
         painter.setPen(QPen(Qt::black, lineWidth(), Qt::SolidLine, Qt::RoundCap));
-        const auto data = dataSets()[0]->data();
+        const std::span<const double> data = dataSets()[0]->data();
         for (std::size_t row = rows().begin + 1; row < rows().end; ++row)
             painter.drawLine(frame.point(xValue(row - 1), data[row - 1]), frame.point(xValue(row), data[row]));
         painter.end();

@@ -24,7 +24,7 @@ public:
     void draw(Canvas& canvas, const PlotFrame& frame) override {
         std::vector<QPointF> points;
         const RowRange rows = this->rows();
-        const auto data = dataSets()[0]->data();
+        const std::span<const double> data = dataSets()[0]->data();
         for (std::size_t row = rows.begin; row < rows.end && row < data.size(); ++row) {
             points.push_back(frame.point(xValue(row), data[row]));
             if (m_form == Form::Blocks && !std::isnan(points.back().x() + points.back().y())) {
