@@ -208,6 +208,17 @@ void Chart::collectKeys(std::vector<LegendKey>& /*keys*/) const {}
 
 void Chart::hostedEnds(Chart* /*chart*/) {}
 
+bool Chart::hasDataIn(const QRect& /*box*/) const {
+    return false;
+}
+
+bool Chart::meets(const QRectF& box, const QRectF& ellipse) {
+    const QPointF centre = ellipse.center();
+    const double aside = (std::clamp(centre.x(), box.left(), box.right()) - centre.x()) / ellipse.width();
+    const double above = (std::clamp(centre.y(), box.top(), box.bottom()) - centre.y()) / ellipse.height();
+    return aside * aside + above * above < 0.25; // of the diameters; no number for an ellipse without area
+}
+
 void Chart::addHost(Chart* host) {
     if (std::find(m_hosts.begin(), m_hosts.end(), host) == m_hosts.end())
         m_hosts.push_back(host);

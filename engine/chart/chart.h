@@ -89,8 +89,8 @@ public:
     virtual void collectKeys(std::vector<LegendKey>& keys) const;
     /// Where texts stand on the picture that is being made.
     TextRoom& textRoom() { return m_textRoom; }
-    /// The pixels that data may cover, where they are known: a legend there is given a ground.
-    virtual QRect dataArea() const { return {}; }
+    /// Whether data may cover pixels of `box`: a legend there is given a ground.
+    virtual bool hasDataIn(const QRect& box) const;
 
     /// A chart shown inside another one tells it of changes and of its end.
     void addHost(Chart* host);
@@ -104,6 +104,7 @@ public:
     bool hasSeveralHosts() const { return m_hosts.size() > 1; }
 
 protected:
+    static bool meets(const QRectF& box, const QRectF& ellipse);
     Chart(Kind kind, int width, int height, Colour background, Colour edge, int effect);
 
     /// The plot of the kind: everything between the background and the titles.

@@ -210,7 +210,7 @@ void LegendBox::draw(Canvas& canvas, const Plan& plan) const {
     const TextLook& style = look();
     const QRect box = boxOf(plan);
     // On data, keys would be hard to read without a ground of their own.
-    const bool bare = canvas.colours().invisible(style.background) && box.intersects(chart().dataArea());
+    const bool bare = canvas.colours().invisible(style.background) && chart().hasDataIn(box);
     canvas.box(box, bare ? groundFor(style.colour) : style.background, style.edge, style.effect,
                style.corners);
     const QPoint origin = box.topLeft() + QPoint(style.marginLeft, style.marginTop);

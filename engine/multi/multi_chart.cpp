@@ -99,6 +99,12 @@ Chart* MultiChart::mainChart() const {
     return m_main != nullptr || m_shown.empty() ? m_main : m_shown.front().chart;
 }
 
+bool MultiChart::hasDataIn(const QRect& box) const {
+    return std::any_of(
+        m_shown.begin(), m_shown.end(),
+        [&box](const Shown& shown) { return shown.chart->hasDataIn(box.translated(-shown.at)); });
+}
+
 void MultiChart::collectKeys(std::vector<LegendKey>& keys) const {
     const Chart* main = mainChart();
     if (main == nullptr || main->legend() != nullptr)

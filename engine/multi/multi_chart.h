@@ -24,6 +24,7 @@ public:
     void setMainChart(Chart* chart);
 
     void collectKeys(std::vector<LegendKey>& keys) const override;
+    bool hasDataIn(const QRect& box) const override;
 
 protected:
     void drawBody(Canvas& canvas) override;

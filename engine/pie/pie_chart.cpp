@@ -100,6 +100,12 @@ Colour PieChart::fillOf(std::size_t index) const {
                      seriesColour(static_cast<int>(index % kPaletteSize)));
 }
 
+bool PieChart::hasDataIn(const QRect& box) const {
+    const PieBody shape = body();
+    const QRectF face = shape.ellipse(shape.centre, shape.radius);
+    return meets(box, face) || meets(box, face.translated(shape.depth));
+}
+
 PieBody PieChart::body() const {
     PieBody body;
     body.centre = m_sized ? QPointF(m_centre) : QPointF(width() / 2.0, height() / 2.0);

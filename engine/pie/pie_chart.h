@@ -59,6 +59,7 @@ public:
     Sector* sector(int index);
 
     void collectKeys(std::vector<LegendKey>& keys) const override;
+    bool hasDataIn(const QRect& box) const override;
 
 protected:
     void drawBody(Canvas& canvas) override;

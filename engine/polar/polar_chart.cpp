@@ -63,6 +63,10 @@ PolarLayer* PolarChart::addLayer(Kind kind, std::vector<double> data, Colour col
     return layer;
 }
 
+bool PolarChart::hasDataIn(const QRect& box) const {
+    return meets(box, QRectF(m_centre - QPoint(m_radius, m_radius), QSizeF(2.0 * m_radius, 2.0 * m_radius)));
+}
+
 void PolarChart::collectKeys(std::vector<LegendKey>& keys) const {
     for (const PolarLayer* layer : m_layers)
         layer->collectKeys(keys);

@@ -27,6 +27,7 @@ public:
     PolarLayer* addLayer(Kind kind, std::vector<double> data, Colour colour, std::string name);
 
     void collectKeys(std::vector<LegendKey>& keys) const override;
+    bool hasDataIn(const QRect& box) const override;
 
 protected:
     void drawBody(Canvas& canvas) override;

@@ -86,14 +86,14 @@ void XYChart::collectKeys(std::vector<LegendKey>& keys) const {
         layer->collectKeys(keys);
 }
 
-QRect XYChart::dataArea() const {
+bool XYChart::hasDataIn(const QRect& box) const {
     if (m_plotArea == nullptr)
-        return {};
+        return false;
     int depth = 0;
     for (const Layer* layer : m_layers)
         depth =
             std::min(kMaxOffset, depth + layer->depth() + (layer != m_layers.front() ? layer->zGap() : 0));
-    return m_plotArea->frame().adjusted(0, -depth, depth, 0);
+    return m_plotArea->frame().adjusted(0, -depth, depth, 0).intersects(box);
 }
 
 void XYChart::drawBody(Canvas& canvas) {

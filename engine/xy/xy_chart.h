@@ -74,7 +74,7 @@ public:
     RowTexts rowTexts() const;
 
     void collectKeys(std::vector<LegendKey>& keys) const override;
-    QRect dataArea() const override;
+    bool hasDataIn(const QRect& box) const override;
 
 protected:
     void drawBody(Canvas& canvas) override;

@@ -116,4 +116,27 @@ TEST(Legend, TakesThePieceOfAPieAsItsFields) {
     EXPECT_EQ(format.apply(*keys[1].fields), "four four 4 50.0 2 {other}");
 }
 
+TEST(Legend, HasAGroundOfItsOwnOnData) {
+    for (const bool inside : {false, true}) {
+        Chart chart(true);
+        chart.addKeys(1, "Key");
+        CPieChart_setPieSize(chart.pie, 30, 20, 20); // under the corner of the legend
+        const double one[] = {1};
+        CPieChart_setData(chart.pie, one, 1, nullptr, 0);
+        MultiChart* multi = CMultiChart_create(300, 200, kWhite, CHART_TRANSPARENT, 0);
+        LegendBox* own = CBaseChart_addLegend(MultiChart2BaseChart(multi), 20, 10, true, nullptr, 8);
+        CBox_setBackground(TextBox2Box(LegendBox2TextBox(own)), CHART_TRANSPARENT, kEdge, 0);
+        CLegendBox_addKey(own, "Key", kKeys[0], 0, nullptr);
+        PieChart* child = CPieChart_create(300, 200, CHART_TRANSPARENT, CHART_TRANSPARENT, 0);
+        CPieChart_setPieSize(child, 30, 20, 20);
+        CPieChart_setData(child, one, 1, nullptr, 0);
+        CMultiChart_addChart(multi, 0, 0, PieChart2BaseChart(child));
+        const QImage image = inside ? of(MultiChart2BaseChart(multi), false) : chart.picture();
+        EXPECT_LT(qGray(image.pixel(18, 14)), 160) << "the pie";
+        EXPECT_GT(qGray(image.pixel(22, 12)), 200) << "the legend on it";
+        CBaseChart_destroy(MultiChart2BaseChart(multi));
+        CBaseChart_destroy(PieChart2BaseChart(child));
+    }
+}
+
 } // namespace
