@@ -1,7 +1,7 @@
 #include "engine/multi/multi_chart.h"
 
-#include "engine/paint/layer.h"
 #include "engine/paint/picture.h"
+#include "engine/paint/picture_layer.h"
 
 #include <algorithm>
 #include <cmath>
@@ -116,7 +116,7 @@ void MultiChart::collectKeys(std::vector<LegendKey>& keys) const {
         if (key.drawSymbol) {
             key.drawSymbol = [draw = std::move(key.drawSymbol), main](Canvas& canvas, const QRectF& area) {
                 const QRect place = area.toAlignedRect();
-                Layer layer(canvas.painter(), place);
+                PictureLayer layer(canvas.painter(), place);
                 {
                     ColourTable colours = main->colours();
                     colours.addPatternsOf(canvas.colours(), -place.topLeft());

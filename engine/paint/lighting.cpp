@@ -1,5 +1,5 @@
 #include "engine/paint/lighting.h"
-#include "engine/paint/layer.h"
+#include "engine/paint/picture_layer.h"
 
 #include <QLinearGradient>
 #include <QRadialGradient>
@@ -116,7 +116,7 @@ void bevelPath(QPainter& painter, const QPainterPath& path, int size) {
     const double width = std::min(std::abs(size) * 1.0, std::min(bounds.width(), bounds.height()) / 2);
     // In steps, so that it fades inwards: light and shade cross on thin shapes without a hard patch.
     const int steps = std::clamp(static_cast<int>(width), 1, 6);
-    Layer layer(painter, area);
+    PictureLayer layer(painter, area);
     for (int step = 2 * steps; step > 0; --step) {
         const double shift = (step % 2 == 0 ? width : -width) * ((step + 1) / 2) / steps;
         layer.image().fill(Qt::transparent);

@@ -1,5 +1,5 @@
 #include "engine/paint/pen_mask.h"
-#include "engine/paint/layer.h"
+#include "engine/paint/picture_layer.h"
 
 #include <QImage>
 #include <algorithm>

@@ -1,6 +1,6 @@
 #include "engine/text/text_block.h"
 
-#include "engine/paint/layer.h"
+#include "engine/paint/picture_layer.h"
 #include "engine/text/glyph_text.h"
 
 #include <QRawFont>

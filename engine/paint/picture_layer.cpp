@@ -1,8 +1,8 @@
-#include "engine/paint/layer.h"
+#include "engine/paint/picture_layer.h"
 
 namespace chartdraw {
 
-Layer::Layer(const QPainter& painter, const QRect& area) {
+PictureLayer::PictureLayer(const QPainter& painter, const QRect& area) {
     const QTransform& transform = painter.worldTransform();
     const QRect pixels = transform.mapRect(QRectF(area)).toAlignedRect();
     m_place = pixels.topLeft();
@@ -11,7 +11,7 @@ Layer::Layer(const QPainter& painter, const QRect& area) {
     m_image.fill(Qt::transparent);
 }
 
-void Layer::drawOn(QPainter& painter) const {
+void PictureLayer::drawOn(QPainter& painter) const {
     drawPixels(painter, m_place, m_image);
 }
 

@@ -9,9 +9,9 @@ namespace chartdraw {
 
 /// A transparent image over a part of the picture, of the same pixels as what `painter` draws on: in a
 /// picture that is drawn larger it is as fine as the rest. The painter may only be scaled and moved.
-class Layer {
+class PictureLayer {
 public:
-    Layer(const QPainter& painter, const QRect& area);
+    PictureLayer(const QPainter& painter, const QRect& area);
 
     bool isNull() const { return m_image.isNull(); }
     QImage& image() { return m_image; }
