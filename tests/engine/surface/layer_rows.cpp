@@ -120,8 +120,6 @@ std::vector<Row> layerRows() {
          [](Scene& s, bool b) {
              Layer* layer = LineLayer2Layer(CXYChart_addLineLayer(s.xy, kThree, 3, kNone, nullptr, 0));
              CLayer_addDataSet(layer, kOther, 3, kNone, nullptr);
-             LineLayer* base = CXYChart_addLineLayer(s.xy, kThree + 2, 1, kNone, nullptr, 0);
-             (void)base;
              const double level[] = {10, 10, 10};
              LineLayer* lower = CXYChart_addLineLayer(s.xy, level, 3, kNone, nullptr, 0);
              // The layer is a line layer with two lines.
