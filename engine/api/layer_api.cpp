@@ -115,9 +115,11 @@ LineLayer* CXYChart_addScatterLayer(XYChart* chart, const double* x, int xCount,
             auto* layer = target.addLayer<chartdraw::LineLayer>(Form::Straight, 0);
             layer->setLineWidth(0);
             layer->setXData(toSpan(x, count));
+            constexpr int kLeastLined = 9; // pixels; a smaller symbol would be little else than its edge
             layer->addDataSet(toSpan(y, count), toColour(fill), toText(name))
                 ->setSymbol({symbol, size, chartdraw::kDefaultColour,
-                             chartdraw::orDefault(toColour(edge), chartdraw::kLineColour), 1});
+                             chartdraw::orDefault(toColour(edge), chartdraw::kLineColour), 1,
+                             edge == -1 && size < kLeastLined});
             return handle<LineLayer>(layer);
         });
 }

@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <numbers>
 #include <span>
 
 namespace chartdraw {
@@ -12,6 +13,7 @@ namespace chartdraw {
 namespace {
 
 constexpr double kFarthest = 1e6; ///< pixels; farther out nothing shows
+constexpr int kDarker = 160;      ///< percent
 
 constexpr int kSquare = 1, kDiamond = 2, kTriangle = 3, kRightTriangle = 4, kLeftTriangle = 5,
               kInvertedTriangle = 6, kCircle = 7, kCross = 8, kCross2 = 9;
@@ -76,6 +78,18 @@ DataSymbol DataSymbol::resolved(Colour dataColour) const {
     return result;
 }
 
+DataSymbol DataSymbol::within(int side) const {
+    DataSymbol result = *this;
+    while (result.size > 1 && symbolReach(shape, result.size) > side)
+        --result.size;
+    return result;
+}
+
+double symbolReach(int shape, double side) {
+    const bool half = shape >= kDiamond && shape <= kInvertedTriangle; // of the rectangle around it
+    return half ? side + 2 * std::round(side * (std::numbers::sqrt2 - 1) / 2) : side;
+}
+
 QPainterPath symbolOutline(int shape, const QRectF& bounds) {
     QPainterPath path;
     if (shape == kCircle) {
@@ -95,7 +109,13 @@ SymbolPainter::SymbolPainter(Canvas& canvas, const DataSymbol& symbol)
     : m_canvas(canvas), m_symbol(symbol),
       m_visible(symbol.shape >= kSquare && symbol.shape <= kCross2 && symbol.size > 0 &&
                 !(canvas.colours().invisible(symbol.fill) && canvas.colours().invisible(symbol.edge))),
-      m_wholePixels(symbol.shape == kSquare || symbol.shape == kCross) {
+      m_wholePixels(symbol.shape == kSquare || symbol.shape == kCross),
+      m_reach(static_cast<int>(symbolReach(symbol.shape, symbol.size))) {
+    if (symbol.shaded) {
+        const QColor fill = canvas.colours().solid(symbol.fill);
+        m_symbol.edge = (fill.darker(kDarker).rgb() & 0xffffff) | static_cast<Colour>(255 - fill.alpha())
+                                                                      << 24;
+    }
     if (const Canvas::Pixels open = canvas.pixels(); open.image != nullptr) {
         m_bits = reinterpret_cast<QRgb*>(open.image->bits());
         m_stride = static_cast<std::size_t>(open.image->bytesPerLine()) / sizeof(QRgb);
@@ -106,25 +126,20 @@ SymbolPainter::SymbolPainter(Canvas& canvas, const DataSymbol& symbol)
 
 void SymbolPainter::draw(QPointF centre) {
     constexpr int kLargestSprite = 64;
-    if (m_symbol.size > kLargestSprite || m_canvas.scale() != 1) {
-        draw(centre, QSizeF(m_symbol.size, m_symbol.size));
-        return;
-    }
     if (!m_visible || !(std::abs(centre.x()) < kFarthest && std::abs(centre.y()) < kFarthest))
         return;
-    // The nearest of the places that there are sprites for.
-    const int steps = m_wholePixels ? 1 : kPhases;
-    const auto place = [&](double along, int& phase) {
-        const double wanted = along * steps + 0.5;
-        const int cut = static_cast<int>(wanted), nearest = cut - (wanted < cut ? 1 : 0);
-        const int whole = m_wholePixels ? nearest : nearest >> 2;
-        phase = m_wholePixels ? 0 : nearest & 3;
-        return whole - m_symbol.size / 2 - 1;
+    if (m_symbol.size > kLargestSprite || m_canvas.scale() != 1) {
+        const QTransform& toImage = m_canvas.painter().worldTransform();
+        const QPointF middle(0.5, 0.5), at = toImage.map(centre + middle);
+        const QPointF pixel(std::floor(at.x()), std::floor(at.y()));
+        draw(toImage.inverted().map(pixel + middle) - middle, QSizeF(m_symbol.size, m_symbol.size));
+        return;
+    }
+    const auto place = [this](double along) {
+        return static_cast<int>(std::floor(along + 0.5)) - m_reach / 2 - 1;
     };
-    static_assert(kPhases == 4);
-    int phaseX = 0, phaseY = 0;
-    const int left = place(centre.x(), phaseX), top = place(centre.y(), phaseY);
-    const Sprite& drawn = sprite(phaseX, phaseY);
+    const int left = place(centre.x()), top = place(centre.y());
+    const Sprite& drawn = sprite();
     if (!blend(drawn, left, top))
         m_canvas.painter().drawImage(QPoint(left, top), drawn.image);
 }
@@ -132,24 +147,26 @@ void SymbolPainter::draw(QPointF centre) {
 void SymbolPainter::draw(QPointF centre, QSizeF size) {
     const bool drawn = m_visible && size.width() > 0 && size.height() > 0 &&
                        std::abs(centre.x()) < kFarthest && std::abs(centre.y()) < kFarthest;
-    if (drawn)
-        paint(m_canvas, centre, size.boundedTo(QSizeF(kMaxSymbolSize, kMaxSymbolSize)));
+    if (drawn) {
+        size = size.boundedTo(QSizeF(kMaxSymbolSize, kMaxSymbolSize));
+        paint(m_canvas, centre,
+              {symbolReach(m_symbol.shape, size.width()), symbolReach(m_symbol.shape, size.height())});
+    }
 }
 
-/// A pixel free on all sides of the symbol, and one for its place between pixels.
-const SymbolPainter::Sprite& SymbolPainter::sprite(int phaseX, int phaseY) {
-    Sprite& sprite = m_sprites[static_cast<std::size_t>(phaseY * kPhases + phaseX)];
+/// A pixel free on all sides of the symbol.
+const SymbolPainter::Sprite& SymbolPainter::sprite() {
+    Sprite& sprite = m_sprite;
     if (sprite.pixels != nullptr)
         return sprite;
-    const int side = m_symbol.size + 3;
+    const int side = m_reach + 2;
     sprite.image = QImage((side + kLanes - 1) / kLanes * kLanes, side, QImage::Format_ARGB32_Premultiplied);
     sprite.image.fill(Qt::transparent);
     {
         Canvas canvas(sprite.image, m_canvas.colours(),
                       m_canvas.painter().testRenderHint(QPainter::Antialiasing));
-        const double middle = 1 + m_symbol.size / 2;
-        paint(canvas, QPointF(middle + 1.0 * phaseX / kPhases, middle + 1.0 * phaseY / kPhases),
-              QSizeF(m_symbol.size, m_symbol.size));
+        const double middle = 1 + m_reach / 2;
+        paint(canvas, QPointF(middle, middle), QSizeF(m_reach, m_reach));
     }
     const auto isEmpty = [&sprite](int row) {
         const auto* pixels = reinterpret_cast<const QRgb*>(sprite.image.constScanLine(row));

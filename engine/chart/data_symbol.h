@@ -3,8 +3,6 @@
 
 #include "engine/paint/canvas.h"
 
-#include <array>
-
 namespace chartdraw {
 
 constexpr int kMaxSymbolSize = 4096; ///< pixels
@@ -16,33 +14,38 @@ struct DataSymbol {
     Colour fill = kDefaultColour; ///< as the data
     Colour edge = kDefaultColour; ///< as the fill
     int lineWidth = 1;            ///< pixels of the edge, which lies within the size
+    bool shaded = false;          ///< the edge is a darker shade of the fill
 
     bool operator==(const DataSymbol&) const = default;
 
     /// Sizes limited and default colours replaced.
     DataSymbol resolved(Colour dataColour) const;
+    /// No larger than a square of so many pixels.
+    DataSymbol within(int side) const;
 };
+
+/// Pixels that a symbol reaches whose square has this side: diamonds and triangles have the square's area.
+/// What is odd stays odd, so that the middle is one of a pixel.
+double symbolReach(int shape, double side);
 
 /// The outline of a symbol within a rectangle; empty for a code that is none.
 QPainterPath symbolOutline(int shape, const QRectF& bounds);
 
-/// Draws a symbol at any number of points. The pixels of a size are made once, so that a cloud of points
-/// costs a small image copy a point.
+/// Draws a symbol at any number of points. Its pixels are made once, so that each point costs a small image
+/// copy and all look alike.
 class SymbolPainter {
 public:
     /// `symbol` is resolved; `canvas` must outlive the painter.
     SymbolPainter(Canvas& canvas, const DataSymbol& symbol);
 
     bool visible() const { return m_visible; }
-    /// Here as everywhere whole coordinates are the middle of pixels. A point that is no number draws none.
+    /// On the nearest whole pixel. Here as everywhere whole coordinates are the middle of pixels. A point
+    /// that is no number draws none.
     void draw(QPointF centre);
-    /// With a size of its own, for symbols that are scaled; a side that is not above 0 draws none.
+    /// With a size of its own, between pixels; a side that is not above 0 draws none.
     void draw(QPointF centre, QSizeF size);
 
 private:
-    /// Places between whole pixels that a sprite is made for, in x and in y: symbols on a curve do not dance.
-    static constexpr int kPhases = 4;
-
     /// The pixels of a symbol. Empty ones on its right make the width a multiple of what is blended together.
     struct Sprite {
         QImage image;
@@ -52,7 +55,7 @@ private:
     };
 
     void paint(Canvas& canvas, QPointF centre, QSizeF size) const;
-    const Sprite& sprite(int phaseX, int phaseY);
+    const Sprite& sprite();
     /// Straight into the image; false where that cannot be.
     bool blend(const Sprite& sprite, int left, int top) const;
 
@@ -64,7 +67,8 @@ private:
     std::size_t m_stride = 0;
     QPoint m_origin; ///< of the picture
     QRect m_limits;
-    std::array<Sprite, kPhases * kPhases> m_sprites;
+    int m_reach; ///< pixels a side
+    Sprite m_sprite;
 };
 
 } // namespace chartdraw

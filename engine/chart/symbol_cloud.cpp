@@ -57,14 +57,14 @@ CHART_FAST_LOOP void findTiles(const double* x, const double* y, std::size_t cou
 
 bool SymbolCloud::pays(const Canvas& canvas, const DataSymbol& symbol, const QRect& area, std::size_t count) {
     const double covered = static_cast<double>(count) * symbol.size * symbol.size;
-    return symbol.size > 0 && symbol.size <= kLargest &&
+    return symbol.size > 0 && symbolReach(symbol.shape, symbol.size) <= kLargest &&
            covered > kOften * std::max(1, area.width()) * std::max(1, area.height()) &&
            canvas.pixels().image != nullptr;
 }
 
 SymbolCloud::SymbolCloud(Canvas& canvas, const DataSymbol& symbol, const QRect& area)
-    : m_canvas(canvas), m_symbol(symbol) {
-    const int reach = symbol.size / 2 + 3;
+    : m_canvas(canvas), m_symbol(symbol), m_reach(static_cast<int>(symbolReach(symbol.shape, symbol.size))) {
+    const int reach = m_reach / 2 + 3;
     m_middles = QRectF(area).translated(-0.5, -0.5);
     m_area = area.adjusted(-reach, -reach, reach, reach);
     m_image = QImage((m_area.width() + 2 * kLanes) / kLanes * kLanes, m_area.height() + kTile,
@@ -89,13 +89,14 @@ const SymbolCloud::Sprite& SymbolCloud::sprite(int phase) {
     QImage& image = sprite.image;
     if (sprite.rows > 0)
         return sprite;
-    const int side = m_symbol.size + 5;
+    const int side = m_reach + 5;
     image = QImage((side + kLanes - 1) / kLanes * kLanes, side, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     Canvas canvas(image, m_canvas.colours(), m_canvas.painter().testRenderHint(QPainter::Antialiasing));
-    const double middle = m_symbol.size / 2 + 2;
+    const double middle = m_reach / 2 + 2;
     SymbolPainter(canvas, m_symbol)
-        .draw({middle + 1.0 * (phase % kPhases) / kPhases, middle + 1.0 * (phase / kPhases) / kPhases});
+        .draw({middle + 1.0 * (phase % kPhases) / kPhases, middle + 1.0 * (phase / kPhases) / kPhases},
+              QSizeF(m_symbol.size, m_symbol.size));
     unsigned strongest = 1;
     sprite.first = side;
     for (int y = 0; y < side; ++y) {
@@ -143,7 +144,7 @@ void SymbolCloud::drawBehind(std::span<const double> x, std::span<const double> 
                     .y = static_cast<double>(m_area.top()),
                     .phases = static_cast<double>(1 << m_phaseBits),
                     .shift = m_phaseBits,
-                    .before = m_symbol.size / 2 + 2,
+                    .before = m_reach / 2 + 2,
                     .columns = m_columns,
                     .none = static_cast<int>(m_full.size()) - 1};
     m_tiles.resize(x.size());
@@ -157,11 +158,11 @@ void SymbolCloud::drawOne(double x, double y, std::size_t tile) {
     const auto place = [this](double along, int& phase) {
         const int nearest = static_cast<int>(along * (1 << m_phaseBits) + 0.5);
         phase = nearest & ((1 << m_phaseBits) - 1);
-        return (nearest >> m_phaseBits) - m_symbol.size / 2 - 2;
+        return (nearest >> m_phaseBits) - m_reach / 2 - 2;
     };
     int phaseX = 0, phaseY = 0;
     const int left = place(x - m_area.left(), phaseX), top = place(y - m_area.top(), phaseY);
-    const int side = m_symbol.size + 5;
+    const int side = m_reach + 5;
     const QRect tiles(QPoint(left / kTile, top / kTile),
                       QPoint((left + side - 1) / kTile, (top + side - 1) / kTile));
     if (isFull(tiles)) {

@@ -40,6 +40,7 @@ private:
 
     Canvas& m_canvas;
     DataSymbol m_symbol;
+    int m_reach;  ///< pixels a side
     QRect m_area; ///< of the picture: where the symbols reach
     QRectF m_middles;
     QImage m_image;

@@ -220,7 +220,8 @@ void PolarLayer::drawLabels(Canvas& canvas, const PolarFrame& frame, const Angul
         if (text.empty())
             continue;
         const bool marked = m_symbol.shape > 0;
-        const double clear = (marked ? symbolSize(row) / 2 : m_lineWidth / 2.0) + kLabelGap;
+        const double clear =
+            (marked ? symbolReach(m_symbol.shape, symbolSize(row)) / 2 : m_lineWidth / 2.0) + kLabelGap;
         const double outwards = point->turn * 2 * std::numbers::pi;
         for (const double aside : {0.0, 0.25, -0.25, 0.5, -0.5, 0.75, -0.75, 1.0}) {
             QRectF box = boxOutside(point->at + QPointF(0.5, 0.5), clear, outwards + aside * std::numbers::pi,
@@ -245,9 +246,7 @@ void PolarLayer::collectKeys(std::vector<LegendKey>& keys) const {
     }
     const auto mark = [symbol = m_symbol.resolved(m_colour)](Canvas& canvas, QPointF at) {
         constexpr int kLargest = 11; // of a symbol in a key
-        DataSymbol fitted = symbol;
-        fitted.size = std::min(symbol.size, kLargest);
-        SymbolPainter(canvas, fitted).draw(at);
+        SymbolPainter(canvas, symbol.within(kLargest)).draw(at);
     };
     keys.push_back(lineKey(m_name, m_colour, m_lineWidth, mark));
 }

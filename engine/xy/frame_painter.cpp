@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <optional>
 
 namespace chartdraw {
 
@@ -104,6 +105,16 @@ private:
         }
     }
 
+    /// Lines along lying bars would run through their labels, so there they stand between the rows.
+    std::optional<int> gridPixel(const AxisLayout& axis, const AxisLayout::Tick& tick) const {
+        const Scale& scale = axis.map.scale();
+        if (!m_chart.swapped() || &axis != &firstX() || scale.kind() != ScaleKind::Enumerated ||
+            scale.lower() != -0.5)
+            return tick.pixel;
+        const double between = tick.value + 0.5;
+        return between < scale.upper() ? std::optional(axis.map.wholePixel(between)) : std::nullopt;
+    }
+
     void drawGrid(bool major) {
         for (const AxisLayout* axis : {&firstX(), &firstY()}) {
             const bool level = axis->place.upright(); // lines run across the axis
@@ -113,8 +124,8 @@ private:
             if (look.width < 1 || m_canvas.colours().invisible(look.colour))
                 continue;
             for (const AxisLayout::Tick& tick : axis->ticks)
-                if (tick.major == major)
-                    drawGridLine(axis->place, tick.pixel, look);
+                if (const std::optional<int> pixel = gridPixel(*axis, tick); tick.major == major && pixel)
+                    drawGridLine(axis->place, *pixel, look);
         }
     }
 

@@ -20,6 +20,7 @@ namespace chartdraw {
 namespace {
 
 constexpr std::size_t kPiece = 1 << 14;      // points in hand at a time
+constexpr int kLargestWhole = 20;            // pixels of symbols that are not cut at the plot area
 constexpr std::size_t kCloudPiece = 1 << 10; // these all in the nearest cache
 
 Kind kindOf(LineLayer::Form form) {
@@ -142,10 +143,13 @@ QSize LineLayer::symbolSize(const DataSet& set, std::size_t row) const {
 
 void LineLayer::drawSymbols(Canvas& canvas, const DataSet& set) const {
     const DataSymbol symbol = set.symbol().resolved(set.colour());
+    const bool scaled = !m_widths.empty() || !m_heights.empty();
+    // Large ones end at the plot area, or they would lie on the labels of the axes.
+    const int beyond = scaled || symbol.size > kLargestWhole ? 0 : kMaxSymbolSize;
+    const ClipScope clip(canvas, m_frame.plot.adjusted(-beyond, -beyond, beyond, beyond));
     SymbolPainter symbols(canvas, symbol);
     if (!symbols.visible())
         return;
-    const bool scaled = !m_widths.empty() || !m_heights.empty();
     const QRectF plot = QRectF(m_frame.plot).adjusted(-0.5, -0.5, -0.5, -0.5);
     const std::size_t begin = rows().begin, end = std::min(rows().end, set.data().size());
     if (!scaled && begin < end && SymbolCloud::pays(canvas, symbol, m_frame.plot, end - begin)) {
@@ -221,8 +225,9 @@ void LineLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
             const bool valley =
                 lower(row, row - 1) && lower(row, row + 1) && data.size() > 1 && lineWidth() > 0;
             const QSize size = symbolSize(*set, row);
-            const int symbol =
-                set->symbol().shape > 0 ? (frame.swapped ? size.width() : size.height()) : lineWidth();
+            const int side = frame.swapped ? size.width() : size.height();
+            const int shape = set->symbol().shape;
+            const int symbol = shape > 0 ? static_cast<int>(symbolReach(shape, side)) : lineWidth();
             // A riser stands on one side of its point.
             const bool riser = m_form == Form::Steps && row > 0 && isValue(data[row - 1]) &&
                                lineWidth() > 0 && data[row - 1] != data[row];
@@ -242,9 +247,8 @@ void LineLayer::collectKeys(std::vector<LegendKey>& keys) const {
         if (set->name().empty())
             continue;
         const auto mark = [set](Canvas& canvas, QPointF centre, double room) {
-            DataSymbol symbol = set->symbol().resolved(set->colour());
-            symbol.size = std::min(symbol.size, static_cast<int>(room));
-            SymbolPainter(canvas, symbol).draw(centre);
+            const DataSymbol symbol = set->symbol().resolved(set->colour());
+            SymbolPainter(canvas, symbol.within(static_cast<int>(room))).draw(centre);
         };
         if (lineWidth() > 0) {
             keys.push_back(lineKey(

@@ -103,6 +103,53 @@ BaseChart* noise() {
     return chart.base;
 }
 
+BaseChart* symbols() {
+    const Chart chart;
+    for (int shape = CHART_SQUARE_SYMBOL; shape <= CHART_CROSS2_SYMBOL; ++shape) {
+        std::vector<double> x, y;
+        for (int i = 0; i < 9; ++i) {
+            x.push_back(i + 0.13 * shape);
+            y.push_back(shape + 0.07 * i);
+        }
+        CXYChart_addScatterLayer(chart.xy, x.data(), 9, y.data(), 9, nullptr, shape, shape % 2 == 0 ? 6 : 9,
+                                 -1, -1);
+    }
+    return chart.base;
+}
+
+BaseChart* bubbles() {
+    const Chart chart;
+    const double x[] = {0, 2, 4}, y[] = {0, 5, 10}, sizes[] = {70, 40, 90};
+    LineLayer* layer =
+        CXYChart_addScatterLayer(chart.xy, x, 3, y, 3, nullptr, CHART_CIRCLE_SYMBOL, 9, 0x60d46a10, -1);
+    CLineLayer_setSymbolScale(layer, sizes, 3, CHART_SCALE_PIXELS, nullptr, 0, CHART_SCALE_PIXELS);
+    CAxis_setLinearScale(chart.y, 0, 10, 0, 0);
+    CAxis_setLinearScale(chart.x, 0, 4, 0, 0);
+    return chart.base;
+}
+
+BaseChart* wallBehindLegend() {
+    const Chart chart;
+    const double data[] = {25, 18, 31};
+    CXYChart_addBarLayer(chart.xy, data, 3, -1, "Bars with depth", 25);
+    CXYChart_setPlotArea(chart.xy, 50, 45, 260, 170, 0xffffff, -1, -1, -1, -1);
+    LegendBox* legend = CBaseChart_addLegend(chart.base, 70, 12, false, nullptr, points(8));
+    CBox_setBackground(TextBox2Box(LegendBox2TextBox(legend)), kClear, kClear, 0);
+    return chart.base;
+}
+
+BaseChart* twelveMonths() {
+    const Chart chart;
+    std::vector<double> times, values;
+    for (int month = 1; month <= 12; ++month) {
+        times.push_back(CChart_chartTime(2024, month, 1, 0, 0, 0));
+        values.push_back(10 + month % 5);
+    }
+    chart.addBars(values);
+    CAxis_setLabels2(chart.x, times.data(), 12, "{value|mmm yyyy}");
+    return chart.base;
+}
+
 const gallery::Family family("room",
                              {{"Numbers too long for the edge take a shorter form", largeNumbers},
                               {"Labels of close marks spread", marks},
@@ -113,6 +160,10 @@ const gallery::Family family("room",
                               {"Turned names end before the title", longNames},
                               {"Names beside lying bars are wrapped or shortened", namesBesideLyingBars},
                               {"A legend on data: columns on a ground", legendOnData},
-                              {"Values without noise, where they fit their bars", noise}});
+                              {"Values without noise, where they fit their bars", noise},
+                              {"Symbols of one area, small ones with a dark edge", symbols},
+                              {"Bubbles end at the plot area", bubbles},
+                              {"A back wall behind a legend", wallBehindLegend},
+                              {"Twelve months with even gaps", twelveMonths}});
 
 } // namespace

@@ -192,7 +192,7 @@ enum {
     CHART_CIRCLE_SHAPE_NO_SHADING = 10
 };
 
-/** Symbols at data points. */
+/** Symbols at data points. A size is the side of a square; diamonds and triangles have the square's area. */
 enum {
     CHART_NO_SYMBOL = 0,
     CHART_SQUARE_SYMBOL = 1,
@@ -450,7 +450,7 @@ CHARTDRAW_API StepLineLayer* CXYChart_addStepLineLayer(XYChart* chart, const dou
 CHARTDRAW_API AreaLayer* CXYChart_addAreaLayer2(XYChart* chart, int combine, int depth);
 /**
  * Symbols at points. x, y: as many points as the shorter has. symbol: a symbol code. size: pixels. fill: -1
- * is the next series colour. edge: -1 is CHART_LINE_COLOR.
+ * is the next series colour. edge: -1 is CHART_LINE_COLOR, or below 9 pixels a darker shade of the fill.
  */
 CHARTDRAW_API LineLayer* CXYChart_addScatterLayer(XYChart* chart, const double* x, int xCount,
                                                   const double* y, int yCount, const char* name, int symbol,

@@ -252,4 +252,93 @@ TEST(Placement, TitlesKeepFromTheBorder) {
         EXPECT_TRUE(QRectF(3, 2, 354, 255).contains(box)) << box.top() << " to " << box.bottom();
 }
 
+TEST(Placement, SymbolsOfASeriesAreAlikeAndOfOneArea) {
+    double square = 0;
+    for (const int shape :
+         {CHART_SQUARE_SYMBOL, CHART_DIAMOND_SYMBOL, CHART_TRIANGLE_SYMBOL, CHART_LEFT_TRIANGLE_SYMBOL,
+          CHART_RIGHT_TRIANGLE_SYMBOL, CHART_INVERTED_TRIANGLE_SYMBOL, CHART_CIRCLE_SYMBOL}) {
+        const Chart chart;
+        const double x[] = {1, 2.37, 3.61}, y[] = {10, 13.33, 11.87};
+        CXYChart_addScatterLayer(chart.xy, x, 3, y, 3, nullptr, shape, 15, 0x0000ff, 0x0000ff);
+        const chartdraw::PlotFrame frame =
+            chartdraw::layoutFrame(*chartdraw::object<chartdraw::XYChart>(chart.xy)).layers[0];
+        const QImage image = of(chart.base);
+        std::vector<QImage> each;
+        for (int i = 0; i < 3; ++i)
+            each.push_back(image.copy(QRect(frame.x.wholePixel(x[i]) - 12, frame.y.wholePixel(y[i]) - 12, 25, 25)));
+        EXPECT_TRUE(each[0] == each[1] && each[0] == each[2]) << shape;
+        double area = 0;
+        for (int at = 0; at < 25 * 25; ++at) area += 1 - qRed(each[0].pixel(at % 25, at / 25)) / 255.0;
+        square = shape == CHART_SQUARE_SYMBOL ? area : square;
+        if (shape != CHART_CIRCLE_SYMBOL) EXPECT_NEAR(area, square, 0.05 * square) << shape;
+    }
+}
+
+TEST(Placement, SmallSymbolsHaveAnEdgeOfTheirOwnColour) {
+    const auto dark = [](int size) {
+        const Chart chart;
+        const double x[] = {1, 2}, y[] = {10, 13};
+        CXYChart_addScatterLayer(chart.xy, x, 2, y, 2, nullptr, CHART_SQUARE_SYMBOL, size, 0xff8080, -1);
+        return countOf(of(chart.base), QRect(55, 25, 290, 190), 0x000000);
+    };
+    EXPECT_EQ(dark(7), 0);
+    EXPECT_GT(dark(9), 0);
+}
+
+TEST(Placement, BubblesEndAtThePlotArea) {
+    const Chart chart;
+    chart.hideLabels();
+    const double x[] = {0, 2}, y[] = {0, 10}, sizes[] = {80, 80};
+    CLineLayer_setSymbolScale(
+        CXYChart_addScatterLayer(chart.xy, x, 2, y, 2, nullptr, CHART_CIRCLE_SYMBOL, 9, 0xff0000, 0xff0000), sizes, 2,
+        CHART_SCALE_PIXELS, nullptr, 0, CHART_SCALE_PIXELS);
+    CAxis_setLinearScale(chart.y, 0, 10, 0, 0);
+    CAxis_setLinearScale(CXYChart_xAxis(chart.xy), 0, 2, 0, 0);
+    const QImage image = of(chart.base);
+    EXPECT_EQ(countOf(image, image.rect(), 0xff0000), countOf(image, QRect(50, 20, 301, 201), 0xff0000));
+    EXPECT_GT(countOf(image, image.rect(), 0xff0000), 1000);
+}
+
+TEST(Placement, GridLinesRunBetweenLyingBars) {
+    const Chart chart;
+    CXYChart_setPlotArea(chart.xy, 50, 20, 300, 200, 0xffffff, -1, -1, 0x00ff00, kClear);
+    CXYChart_swapXY(chart.xy, true);
+    chart.bars(CHART_COMBINE_SIDE, {{20, 30, 25, 10}}, {0xff0000});
+    const QImage image = of(chart.base);
+    std::vector<int> lines;
+    for (int y = 21; y < 220; ++y)
+        if (at(image, 345, y) == 0x00ff00) lines.push_back(y);
+    EXPECT_EQ(lines, (std::vector{70, 120, 170})); // the rows stand at 45, 95...
+}
+
+TEST(Placement, TheBackWallStaysOffTheLegend) {
+    const auto dark = [](int depth) {
+        XYChart* xy = CXYChart_create(360, 260, 0xffffff, kClear, 0);
+        CXYChart_setPlotArea(xy, 50, 40, 280, 180, 0xffffff, -1, 0x000000, kClear, kClear);
+        const double data[] = {20, 30};
+        CLayer_set3D(BarLayer2Layer(CXYChart_addBarLayer(xy, data, 2, 0xff0000, "A name", 0)), depth, 0);
+        LegendBox* legend = CBaseChart_addLegend(XYChart2BaseChart(xy), 80, 10, false, nullptr, 8);
+        CBox_setBackground(TextBox2Box(LegendBox2TextBox(legend)), kClear, kClear, 0);
+        return greys(of(XYChart2BaseChart(xy)), QRect(82, 12, 60, 14), 0, 100);
+    };
+    EXPECT_GT(dark(0), 0) << "the text";
+    EXPECT_NEAR(dark(20), dark(0), 10); // the wall's upper edge is in row 20
+}
+
+TEST(Placement, TitlesStayInsideBelowTurnedNames) {
+    const Chart chart;
+    chart.bars(CHART_COMBINE_SIDE, {{20, 30}}, {0xff0000});
+    const double rows[] = {0, 1};
+    CAxis_setLabels2(CXYChart_xAxis(chart.xy), rows, 2, "{value|\tA name that is longer than the room\tAnother}");
+    CAxis_setLabelStyle(CXYChart_xAxis(chart.xy), nullptr, 8, -1, 90);
+    CAxis_setTitle(CXYChart_xAxis(chart.xy), "Title", nullptr, 8, -1);
+    std::size_t texts = 0;
+    EXPECT_EQ(overlap::faultOf(chart.base, texts), "");
+    const std::vector<QPolygonF> all = textsOf(chart.base);
+    EXPECT_TRUE(std::any_of(all.begin(), all.end(), [](const QPolygonF& text) {
+        return text.boundingRect().top() > 230 && std::abs(text.boundingRect().center().x() - 200) < 3;
+    }));
+    CBaseChart_destroy(chart.base);
+}
+
 } // namespace
