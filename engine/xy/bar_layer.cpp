@@ -334,7 +334,8 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
                                  : piece.to >= 0 ? LabelSide::Above
                                                  : LabelSide::Below,
                          .body = inside ? std::max(1.0, std::abs(tip - root)) : 0,
-                         .ground = inside ? set->colour() : groundOf(piece, pieces)});
+                         .ground = inside ? set->colour() : groundOf(piece, pieces),
+                         .otherGround = set->colour()});
         }
     }
 }

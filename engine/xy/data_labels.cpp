@@ -96,7 +96,7 @@ bool DataLabels::fitsBody(const LabelSpot& spot, QSizeF size) const {
     return spot.body <= 0 || (m_frame.swapped ? size.width() : size.height()) <= spot.body + 4;
 }
 
-bool DataLabels::place(QRectF& box, const LabelSpot& spot, QSizeF size) const {
+bool DataLabels::place(QRectF& box, const LabelSpot& spot, QSizeF size) {
     const LabelSide other = spot.side == LabelSide::Above ? LabelSide::Below : LabelSide::Above;
     if (!fitsBody(spot, size))
         return false;
@@ -112,9 +112,11 @@ bool DataLabels::place(QRectF& box, const LabelSpot& spot, QSizeF size) const {
         const double shift = m_frame.swapped ? moved.left() - wished.left() : moved.top() - wished.top();
         if (std::abs(shift) <= spot.gap + 0.5 && m_room.isFree(moved)) {
             box = moved;
+            m_side = side;
             return true;
         }
     }
+    m_side = spot.side;
     return spot.beside && placeBeside(box, spot, size);
 }
 
@@ -136,7 +138,7 @@ bool DataLabels::placeBeside(QRectF& box, const LabelSpot& spot, QSizeF size) co
 
 /// A text without a colour of its own is black or white on a body, as it is read best.
 TextBlock DataLabels::blockOf(const std::string& text, const LabelSpot& spot) const {
-    const QColor ground = m_canvas.colours().solid(spot.ground);
+    const QColor ground = m_canvas.colours().solid(m_side == spot.side ? spot.ground : spot.otherGround);
     if (!m_plain || ground.alpha() < 128)
         return m_style.block(text);
     TextLook look = m_style.look();
@@ -153,10 +155,15 @@ void DataLabels::draw(const LabelContent& content, const LabelSpot& spot) {
     if (m_tries <= 0)
         return;
     --m_tries;
-    const TextBlock block = blockOf(m_format.apply(Fields(m_layer, m_rows, content, m_frame.decimals)), spot);
+    const std::string text = m_format.apply(Fields(m_layer, m_rows, content, m_frame.decimals));
+    const LabelSide tried = m_side;
+    const TextBlock block = blockOf(text, spot);
     if (!block.empty() && place(box, spot, block.size())) {
         m_room.take(box);
-        block.drawAt(m_canvas, box.topLeft(), TopLeft);
+        if (m_side == tried)
+            block.drawAt(m_canvas, box.topLeft(), TopLeft);
+        else
+            blockOf(text, spot).drawAt(m_canvas, box.topLeft(), TopLeft);
     }
 }
 

@@ -35,11 +35,12 @@ struct LabelSpot {
     double alongX = 0, alongY = 0;
     LabelSide side = LabelSide::Above;
     int gap = 2;
-    double otherY = NAN;          ///< the point on the other side, where that is not the same
-    double body = 0;              ///< Inside: pixels along y that the label has, 0 any
-    bool beside = false;          ///< may stand left or right of its point
-    bool oneSided = false;        ///< may not stand on the other side, where a line would run through it
-    Colour ground = kTransparent; ///< what the label is read on, where that is known
+    double otherY = NAN;               ///< the point on the other side, where that is not the same
+    double body = 0;                   ///< Inside: pixels along y that the label has, 0 any
+    bool beside = false;               ///< may stand left or right of its point
+    bool oneSided = false;             ///< may not stand on the other side, where a line would run through it
+    Colour ground = kTransparent;      ///< what the label is read on, where that is known
+    Colour otherGround = kTransparent; ///< the same on the other side of the point
 };
 
 class DataLabels {
@@ -54,7 +55,7 @@ public:
 private:
     QRectF boxAt(const LabelSpot& spot, LabelSide side, QSizeF size) const;
     bool fitsBody(const LabelSpot& spot, QSizeF size) const;
-    bool place(QRectF& box, const LabelSpot& spot, QSizeF size) const;
+    bool place(QRectF& box, const LabelSpot& spot, QSizeF size);
     bool placeBeside(QRectF& box, const LabelSpot& spot, QSizeF size) const;
     TextBlock blockOf(const std::string& text, const LabelSpot& spot) const;
 
@@ -68,7 +69,8 @@ private:
     QSizeF m_least; ///< no label is smaller
     int m_tries;    ///< labels that may still be laid out
     TextRoom& m_room;
-    bool m_plain; ///< the style has no colour of its own
+    bool m_plain;                        ///< the style has no colour of its own
+    LabelSide m_side = LabelSide::Above; ///< of the last label that was placed
 };
 
 } // namespace chartdraw

@@ -141,6 +141,11 @@ TEST(Placement, LabelsInBarsAreReadOnThemOrLeftOut) {
     EXPECT_GT(greys(image, QRect(80, 145, 90, 60), 161, 255), 0) << "white on the dark bar";
     EXPECT_GT(greys(image, QRect(80, 60, 90, 60), 0, 99), 0) << "black on the light one";
     EXPECT_EQ(greys(image, QRect(220, 40, 110, 12), 0, 99), 0) << "none in the low one";
+    const Chart full;
+    full.hideLabels();
+    CAxis_setLinearScale(full.y, 0, 100, 0, 0);
+    full.bars(CHART_COMBINE_SIDE, {{100}}, {0x000080});
+    EXPECT_GT(greys(of(full.base), QRect(190, 22, 20, 16), 160, 255), 0) << "white below the tip";
 }
 
 TEST(Placement, BarsThatOthersHideHaveNoLabels) {
