@@ -385,6 +385,15 @@ void manyBars(int count, int width = kWidth, int height = kHeight) {
     plot.make();
 }
 
+template <int combine>
+void manySets(int count) {
+    const Plot plot;
+    Layer* layer = BarLayer2Layer(CXYChart_addBarLayer2(plot.xy, combine, 0));
+    for (int set = 0; set < 3; ++set)
+        CLayer_addDataSet(layer, wave().data() + set * count, count, -1, nullptr);
+    plot.make();
+}
+
 void manyCandles(int count) {
     static const Prices p(1'000'000);
     const Plot plot;
@@ -431,6 +440,8 @@ void growth() {
             name, [=] { draw(many); }, [=] { draw(few); });
     };
     row("bars", [](int count) { manyBars(count); });
+    row("100,000 rows of three bars", manySets<CHART_COMBINE_SIDE>, 100'000);
+    row("100,000 rows of a stack", manySets<CHART_COMBINE_STACK>, 100'000);
     row("candles", manyCandles);
     row("scatter points", cloud);
     row("1,000 sectors beside 100", manySectors, 1'000, 100);
