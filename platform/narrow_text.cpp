@@ -114,13 +114,12 @@ const std::string& NarrowCodeset() {
 
 #else
 
-#include <QByteArray>
-#include <QStringConverter>
+#include <windows.h>
 
 namespace platform {
 
 const std::string& NarrowCodeset() {
-    static const std::string codeset = QStringConverter::nameForEncoding(QStringConverter::System);
+    static const std::string codeset = GetACP() == CP_UTF8 ? "UTF-8" : "CP" + std::to_string(GetACP());
     return codeset;
 }
 
@@ -128,17 +127,58 @@ const std::string& NarrowCodeset() {
 
 namespace {
 
-/// Between two encodings, one of which is UTF-8.
+/// The number of a code page by its name, "CP" and digits; that of UTF-8 where there is no such page.
+unsigned codePage(const std::string& name) {
+    const unsigned page =
+        name.rfind("CP", 0) == 0 ? QString::fromStdString(name.substr(2)).toUInt() : CP_UTF8;
+    return page != CP_ACP && IsValidCodePage(page) ? page : CP_UTF8;
+}
+
+/// One character after the other, so that what cannot be converted takes nothing along.
+QString decode(std::string_view text, unsigned page) {
+    QString result;
+    while (!text.empty()) {
+        const bool two = IsDBCSLeadByteEx(page, static_cast<BYTE>(text.front())) && text.size() > 1;
+        wchar_t wide[4];
+        int taken = two ? 2 : 1;
+        const int count = MultiByteToWideChar(page, MB_ERR_INVALID_CHARS, text.data(), taken, wide, 4);
+        if (count > 0) {
+            result += QString::fromWCharArray(wide, count);
+        } else {
+            result += QChar(QChar::ReplacementCharacter);
+            taken = 1;
+        }
+        text.remove_prefix(static_cast<std::size_t>(taken));
+    }
+    return result;
+}
+
+std::string encode(const QString& text, unsigned page) {
+    std::string result;
+    for (qsizetype at = 0; at < text.size();) {
+        const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
+        wchar_t wide[2];
+        const int taken = text.mid(at, pair ? 2 : 1).toWCharArray(wide);
+        char narrow[8];
+        BOOL lacks = FALSE;
+        const int count = WideCharToMultiByte(page, WC_NO_BEST_FIT_CHARS, wide, taken, narrow, sizeof narrow,
+                                              nullptr, &lacks);
+        if (count > 0 && !lacks)
+            result.append(narrow, static_cast<std::size_t>(count));
+        else
+            result += '?';
+        at += taken;
+    }
+    return result;
+}
+
+/// Between two encodings, one of which is UTF-8, whose faults the toolkit knows.
 std::string convertAll(std::string_view text, const std::string& from, const std::string& to) {
-    QStringDecoder decoder(from.c_str());
-    QStringEncoder encoder(to.c_str());
-    if (!decoder.isValid())
-        decoder = QStringDecoder(QStringDecoder::Utf8);
-    if (!encoder.isValid())
-        encoder = QStringEncoder(QStringEncoder::Utf8);
-    const QString decoded = decoder(QByteArrayView(text.data(), static_cast<qsizetype>(text.size())));
-    const QByteArray encoded = encoder(decoded);
-    return encoded.toStdString();
+    const unsigned fromPage = codePage(from), toPage = codePage(to);
+    const QString decoded = fromPage == CP_UTF8
+                                ? QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()))
+                                : decode(text, fromPage);
+    return toPage == CP_UTF8 ? decoded.toStdString() : encode(decoded, toPage);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Installs what the build, the demo and the tests need, by package name. Does nothing when all is there. With --ci
-# also what the checks of a change need, with --package what making and trying packages does.
+# also what the checks of a change need, with --package what making and trying packages does, with --windows what
+# building for Windows does.
 set -euo pipefail
 
 packages=(
@@ -17,6 +18,8 @@ if [ "${1:-}" = --ci ]; then
     packages+=(clang clang-format valgrind doxygen)
 elif [ "${1:-}" = --package ]; then
     packages+=(dpkg-dev file debootstrap)
+elif [ "${1:-}" = --windows ]; then
+    packages+=(dpkg-dev g++-mingw-w64-x86-64-posix wine64 wine zip)
 fi
 
 missing=()

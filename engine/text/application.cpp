@@ -8,6 +8,10 @@
 #include <mutex>
 #include <thread>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
+
 namespace chartdraw {
 
 namespace {
@@ -25,30 +29,43 @@ void makeByFactory() {
 }
 
 void makeGuiApplication() {
-    static char name[] = "chart";
-#if defined(Q_OS_UNIX) && !defined(Q_OS_DARWIN)
     // Pictures need no display, and a platform plugin that cannot reach its display ends the process: what
     // the environment asks for is meant for windows.
+    static char name[] = "chart";
     static char option[] = "-platform";
+#if defined(Q_OS_WIN)
+    static char platform[] = "windows"; // which knows the system's fonts, and always has its display
+#elif defined(Q_OS_DARWIN)
+    static char platform[] = "cocoa";
+#else
     static char platform[] = "offscreen";
+#endif
     static char* arguments[] = {name, option, platform, nullptr};
     static int count = 3;
-#else
-    static char* arguments[] = {name, nullptr};
-    static int count = 1;
-#endif
     new QGuiApplication(count, arguments);
 }
 
 std::atomic<int> s_running = 0; ///< operations at work
 std::atomic<bool> s_ending = false;
 
+/// Whether the system has ended all other threads, in the midst of what they did.
+bool othersAreGone() {
+#ifdef Q_OS_WIN
+    using Query = BOOLEAN(WINAPI*)();
+    const auto query = reinterpret_cast<Query>(
+        reinterpret_cast<void*>(GetProcAddress(GetModuleHandleW(L"ntdll"), "RtlDllShutdownInProgress")));
+    return query && query();
+#else
+    return false;
+#endif
+}
+
 void endUse() {
     if (s_ending.exchange(true))
         return;
     // Long enough for any picture of sensible size; one that never comes must not keep the process.
     const auto patience = std::chrono::steady_clock::now() + std::chrono::seconds(5);
-    while (s_running.load() > 0 && std::chrono::steady_clock::now() < patience)
+    while (s_running.load() > 0 && !othersAreGone() && std::chrono::steady_clock::now() < patience)
         std::this_thread::sleep_for(std::chrono::milliseconds(1));
 }
 

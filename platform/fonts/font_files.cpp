@@ -22,6 +22,10 @@ static QStringList FontFolders() {
     for (const QString& base : listOf("XDG_DATA_DIRS", QStringLiteral("/usr/local/share:/usr/share")))
         folders += base + QStringLiteral("/fonts");
     return folders;
+#elif defined(Q_OS_WIN)
+    return QStringList(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+                       QStringLiteral("/Microsoft/Windows/Fonts")) +
+           QStandardPaths::standardLocations(QStandardPaths::FontsLocation);
 #else
     return QStandardPaths::standardLocations(QStandardPaths::FontsLocation);
 #endif

@@ -14,10 +14,19 @@ import subprocess
 import sys
 
 
+def printed(command, given=None):
+    return subprocess.run(command, input=given, check=True, capture_output=True, text=True).stdout
+
+
 def exported(library):
-    output = subprocess.run(["nm", "-DC", "--defined-only", library], check=True, capture_output=True, text=True)
-    # A line is "address kind name". Sanitizers and the linker add names of their own, with an underscore.
-    names = (line.split(" ", 2)[2] for line in output.stdout.splitlines())
+    if library.endswith(".dll"):
+        table = printed(["objdump", "-p", library]).partition("[Ordinal/Name Pointer] Table")[2].partition("\n\n")[0]
+        names = printed(["c++filt"], "\n".join(re.findall(r"^\s+\[\s*\d+\] (?:\S+\s+\S+ )?(\S+)$", table, flags=re.M)))
+        names = names.splitlines()
+    else:
+        # A line is "address kind name". Sanitizers and the linker add names of their own, with an underscore.
+        output = printed(["nm", "-DC", "--defined-only", library])
+        names = [line.split(" ", 2)[2] for line in output.splitlines()]
     return {name for name in names if not name.startswith("_")}
 
 

@@ -25,6 +25,7 @@ TEST(ModuleGuard, MakesTheApplicationObjectOnce) {
     });
 }
 
+#ifdef __unix__
 TEST(ModuleGuard, ManagesWithoutADisplay) {
     expectInOwnProcess([] {
         for (const char* name : {"QT_QPA_PLATFORM", "DISPLAY", "WAYLAND_DISPLAY"}) qunsetenv(name);
@@ -39,6 +40,7 @@ TEST(ModuleGuard, ManagesWithoutADisplay) {
         return QGuiApplication::platformName() == "offscreen";
     });
 }
+#endif
 
 TEST(ModuleGuard, RefusesAThreadThatIsNotTheObjects) {
     expectInOwnProcess([] {

@@ -5,6 +5,7 @@ set -euo pipefail
 source=$1
 build=$2
 sanitizers=${3:-}
+here=$(cd "$(dirname "$0")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 cd "$work"
@@ -49,6 +50,9 @@ for host in host qthost; do
 done
 
 if [ -z "$sanitizers" ]; then
+    if command -v xvfb-run xdotool openbox >/dev/null; then
+        quietly "$here/answer_dialog.sh" made/host
+    fi
     PKG_CONFIG_PATH=$(dirname "$(find installed -name charteditors.pc)")
     export PKG_CONFIG_PATH=$work/$PKG_CONFIG_PATH
     quietly bash -c "$(block sh)"

@@ -62,7 +62,8 @@ def main(header, output):
     for result, name, arguments in operations:
         signature = ", ".join(f"{kind} {argument}" for kind, argument in arguments)
         lines += [f"{result} {name}({signature}) {{", *body(result, name, arguments), "}"]
-    lines.append("}")
+    # What was compiled to call a library calls through these there; else they would come with the library.
+    lines += ["#ifdef _WIN32", *(f"decltype(&{name}) __imp_{name} = {name};" for _, name, _ in operations), "#endif", "}"]
     with open(output, "w", encoding="utf-8") as file:
         file.write("\n".join(lines) + "\n")
 

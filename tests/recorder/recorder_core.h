@@ -1,9 +1,14 @@
 #pragma once
 // What the generated operations are made of.
 
-#include <dlfcn.h>
 #include <initializer_list>
 #include <string>
+
+#ifdef _WIN32
+#include <windows.h>
+#else
+#include <dlfcn.h>
+#endif
 
 namespace recorder {
 
@@ -44,7 +49,11 @@ void forget(const void* handle);
 
 /// The library's own operation of that name, null if it has none.
 template <typename Function> Function real(const char* name) {
+#ifdef _WIN32
+    return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(LoadLibraryA("libchartdraw.dll"), name)));
+#else
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
+#endif
 }
 
 } // namespace recorder

@@ -30,7 +30,7 @@ int widthOfMono() {
 
 TEST(ApplicationDeathTest, MadeAtFirstNeedWithoutADisplay) {
     expectInOwnProcess([] {
-        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) unsetenv(name);
+        for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) qunsetenv(name);
         const bool drawn = drawsText("");
         return drawn && qobject_cast<QGuiApplication*>(QCoreApplication::instance());
     });
@@ -75,8 +75,8 @@ TEST(ApplicationDeathTest, AHostWithoutAGuiGetsNoText) {
 
 TEST(ApplicationDeathTest, AHostThatOnlyDrawsNeedsNoDisplay) {
     expectInOwnProcess([] {
-        setenv("QT_QPA_PLATFORM", "xcb", 1);
-        unsetenv("DISPLAY");
+        qputenv("QT_QPA_PLATFORM", "xcb");
+        qunsetenv("DISPLAY");
         return drawsText("bold");
     });
 }

@@ -1,0 +1,10 @@
+# For 64-bit Windows, by Debian's cross compiler. CMAKE_FIND_ROOT_PATH is where the libraries for Windows are.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_SYSTEM_PROCESSOR x86_64)
+set(CMAKE_C_COMPILER x86_64-w64-mingw32-gcc-posix)
+set(CMAKE_CXX_COMPILER x86_64-w64-mingw32-g++-posix)
+set(CMAKE_RC_COMPILER x86_64-w64-mingw32-windres)
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+foreach(kind LIBRARY INCLUDE PACKAGE)
+    set(CMAKE_FIND_ROOT_PATH_MODE_${kind} ONLY)
+endforeach()
