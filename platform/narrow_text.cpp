@@ -158,7 +158,7 @@ std::string encode(const QString& text, unsigned page) {
     for (qsizetype at = 0; at < text.size();) {
         const bool pair = text[at].isHighSurrogate() && at + 1 < text.size() && text[at + 1].isLowSurrogate();
         wchar_t wide[2];
-        const int taken = text.mid(at, pair ? 2 : 1).toWCharArray(wide);
+        const auto taken = static_cast<int>(text.mid(at, pair ? 2 : 1).toWCharArray(wide));
         char narrow[8];
         BOOL lacks = FALSE;
         const int count = WideCharToMultiByte(page, WC_NO_BEST_FIT_CHARS, wide, taken, narrow, sizeof narrow,
