@@ -85,7 +85,7 @@ screen() { # screen COMMAND...: on a screen of its own
     wineserver -w
 }
 
-screen env QT_QPA_PLATFORM=windows wine "$build/chart-gallery.exe" "$build/gallery"
+screen wine "$build/chart-gallery.exe" "$build/gallery"
 screen wine "$installed/bin/chart-editors-demo.exe" --pictures "$build/pictures"
 
 # The README's host, without the toolkit.

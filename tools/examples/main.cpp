@@ -61,8 +61,10 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: chart-examples SOURCE PAGE [PICTURES]\n");
         return 2;
     }
+#ifndef _WIN32 // whose own platform knows the fonts
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
     const QGuiApplication application(argc, argv);
     QFile source(QString::fromLocal8Bit(argv[1])), target(QString::fromLocal8Bit(argv[2]));
     if (!source.open(QFile::ReadOnly) || !target.open(QFile::WriteOnly))

@@ -113,8 +113,10 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: chart-gallery DIR [FONT-SCALE [SCALE]]\n");
         return 2;
     }
+#ifndef _WIN32 // whose own platform knows the fonts
     if (qEnvironmentVariableIsEmpty("QT_QPA_PLATFORM"))
         qputenv("QT_QPA_PLATFORM", "offscreen");
+#endif
     const QGuiApplication application(argc, argv);
     if (argc > 2)
         gallery::fontScale = std::clamp(QString::fromLocal8Bit(argv[2]).toDouble(), 0.1, 10.0);
