@@ -17,7 +17,8 @@ answer() { # answer KEY: what the host ends with when its dialog gets that key
     rm -f costs.png
     QT_QPA_PLATFORM= "${command[@]}" >/dev/null 2>&1 &
     while kill -0 $! 2>/dev/null; do
-        xdotool search --onlyvisible --name '^PieChart$' windowactivate key "$1" >/dev/null 2>&1 || true
+        # The key goes to what has the focus: one sent to a window that goes in its midst would stay pressed.
+        xdotool search --onlyvisible --name '^PieChart$' windowactivate --sync >/dev/null 2>&1 && xdotool key "$1"
         sleep 0.3
     done
     wait $! || status=$?
