@@ -144,7 +144,7 @@ std::optional<SfntFace> extractFace(const QByteArray& file, int index, std::stri
     std::erase_if(tables, [](const Table& t) { return t.tag == tag("name") || t.tag == tag("DSIG"); });
     const QByteArray name = nameTable(family);
     tables.push_back({tag("name"), name});
-    std::ranges::sort(tables, {}, &Table::tag);
+    std::ranges::stable_sort(tables, {}, &Table::tag); // of two of one name the first stays the first
     face.data = assemble(version, tables);
     return face;
 }
