@@ -9,7 +9,7 @@ packages=(
     qt6-base-dev qt6-image-formats-plugins
     libgtest-dev libgmock-dev libbenchmark-dev
     # The tests' screen, its window manager, and the hand on its mouse and keyboard.
-    xvfb openbox xdotool
+    xvfb xauth openbox xdotool
     fontconfig
     # Faces: the default sans and its fallbacks for other scripts and symbols; the tests read some by name.
     fonts-liberation fonts-dejavu-core fonts-noto-cjk fonts-noto-core fonts-nanum fonts-vlgothic fonts-symbola

@@ -50,7 +50,7 @@ for host in host qthost; do
 done
 
 if [ -z "$sanitizers" ]; then
-    if command -v xvfb-run xdotool openbox >/dev/null; then
+    if command -v xvfb-run >/dev/null && command -v xdotool >/dev/null && command -v openbox >/dev/null; then
         quietly "$here/answer_dialog.sh" made/host
     fi
     PKG_CONFIG_PATH=$(dirname "$(find installed -name charteditors.pc)")
