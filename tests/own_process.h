@@ -4,7 +4,6 @@
 #include <cstdlib>
 #include <gtest/gtest.h>
 
-/// The arguments of a host's application object.
 inline int s_count = 1;
 inline char s_name[] = "host";
 inline char* s_arguments[] = {s_name, nullptr};

@@ -13,7 +13,6 @@ namespace {
 using recorder::Recording;
 using testing::Contains;
 
-/// The look of a pie with two named sectors.
 CPieChart twoSectors() {
     CPieChart pie;
     for (const char* name : {"first", "second"}) {

@@ -1,5 +1,4 @@
-// Meters and polar charts with the host's data: what reaches the drawing, and clear answers to what is no
-// data.
+// Meters and polar charts with the host's data: what reaches the drawing, and clear answers to what is no data.
 
 #include "tests/expect.h"
 #include "tests/recorder/recorder.h"
@@ -14,7 +13,6 @@ using testing::Contains;
 using testing::ElementsAre;
 using Lines = std::vector<std::string>;
 
-/// The lines of those operations.
 Lines linesOf(const Recording& recording, const char* part) {
     Lines found;
     for (const std::string& line : recording.Lines())

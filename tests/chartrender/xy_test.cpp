@@ -60,7 +60,6 @@ TEST_P(XYData, ReachesTheLayer) {
     expectCalls(calls, GetParam().calls, "CRanTable_create CBaseChart_addLine( CLegendBox_addKey");
 }
 
-/// What is one expression of `plot`.
 #define TELL(...) [](Plot& plot) { __VA_ARGS__; }
 
 void addGroups(CXYChartLayer* layer) {
@@ -130,23 +129,6 @@ TEST(RenderXY, DrawsNothingOfLayersWithoutData) {
     plot.data.layers = nullptr;
     EXPECT_EQS((plot.Render(picture), ChartRenderResult::Ok), (recording.Count("CXYChart_addBarLayer2"), 0));
     EXPECT_EQ(recording.Count("CAxis_setLinearScale"), 0); // no made-up scale
-}
-
-TEST(RenderXY, NamesRowsAlongTheAxis) {
-    // The same bars, once named by their numbers and once by letters: the labels below differ, and no bar.
-    Plot plot(0);
-    plot.UseSets();
-    const char* letters[] = {"A", "B", "C"};
-    const auto image = [&] {
-        CChartPicture picture;
-        plot.Render(picture);
-        return QImage::fromData(picture.Data(), static_cast<int>(picture.Size()), "BMP");
-    };
-    const QImage numbers = image();
-    plot.data.labels = letters;
-    const QImage named = image();
-    EXPECT_EQ(numbers.copy(0, 0, 500, 478), named.copy(0, 0, 500, 478));
-    EXPECT_NE(numbers.copy(50, 478, 400, 30), named.copy(50, 478, 400, 30));
 }
 
 TEST(RenderXY, AnswersWhatDoesNotFitWithoutAPicture) {

@@ -14,7 +14,6 @@ std::string Join(const std::vector<double>& values) {
     return texts.join(u' ').toStdString();
 }
 
-/// What was understood, or what was not.
 std::string Read(const QByteArray& bytes) {
     const Understood read = Understand(ReadCsv(bytes));
     if (!read.error.isEmpty()) return read.error.toStdString();

@@ -1,5 +1,3 @@
-// The window of the example host, driven as a person does.
-
 #include "demo/host_window.h"
 #include "demo/prices.h"
 #include "tests/driver/windows.h"

@@ -27,7 +27,6 @@ template <class Object> Dialog DialogOf(const std::string& name, const Object& s
             }};
 }
 
-/// A layout whose background has a colour of that kind.
 inline CChartLayout SomeLayout(int colorType) {
     CChartLayout layout;
     layout.m_backColor.m_type = colorType;
@@ -48,7 +47,6 @@ inline CPieChart SomePie() {
     return pie;
 }
 
-/// One additional axis, and a layer of each kind.
 inline CXYChart SomeXYChart() {
     CXYChart chart;
     chart.m_axes.AddAxis(CXYChartAxisMgr::CreateAxis());
@@ -118,7 +116,6 @@ inline void OnEachPage(const Person& person, const std::function<void(const QStr
     }
 }
 
-/// Calls `act` while fonts have that size.
 inline void AtFont(double points, const std::function<void()>& act) {
     NeedApplication();
     const QFont usual = QApplication::font();

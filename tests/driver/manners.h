@@ -84,7 +84,6 @@ template <class Object> void TestAnybody(const Object& start, const CChartLayout
     }
 }
 
-/// All of these, and the captions of the window and its tabs.
 template <class Object>
 void TestEditor(const char* caption, const QStringList& tabs, const Object& start, const CChartLayout& layout,
                 const Properties& rows) {

@@ -84,7 +84,6 @@ public:
     QString TextOf(const QString& number) const {
         return Find<QAbstractSpinBox>(number).template findChild<QLineEdit*>()->text();
     }
-    /// The control that has the focus, by its name.
     QString Focus() const {
         return m_window.focusWidget() == nullptr ? QString() : m_window.focusWidget()->accessibleName();
     }
@@ -99,12 +98,10 @@ public:
         QTest::mouseClick(&spin, Qt::LeftButton, {}, QPoint(spin.width() - 8, y));
     }
     void Press(const QString& number, bool up) const { Press(Find<QAbstractSpinBox>(number), up); }
-    /// Goes to an edit and types over what stands in it.
     void Type(const QString& edit, const QString& text) const { ::Type(&Find(edit), text); }
     void Key(Qt::Key key) const { QTest::keyClick(m_window.focusWidget(), key); }
     void Leave() const { Key(Qt::Key_Tab); }
     void Enter() const { Key(Qt::Key_Return); }
-    /// Types into an edit and leaves it.
     void Give(const QString& edit, const QString& text) const {
         Type(edit, text);
         Leave();
@@ -170,7 +167,6 @@ public:
     void Cancel() const { QTest::mouseClick(&Find("Cancel"), Qt::LeftButton); }
 
 private:
-    /// A button that opens a picker: its text tells nothing.
     static bool IsPicker(const QAbstractButton& button) {
         return button.text() == "..." || Read(button.text()) == "Font...";
     }

@@ -24,9 +24,8 @@ struct Number {
 };
 
 struct Property {
-    /// The caption of the tab; then, each after a '>', what else to go through: the label of a button that
-    /// opens a dialog ("Group|Label" or "Label"), a row of a list ("Layer[0]"), a tab in that dialog. "" for
-    /// a dialog without.
+    /// The caption of the tab; then, each after a '>', what else to go through: the label of a button that opens a
+    /// dialog ("Group|Label" or "Label"), a row of a list ("Layer[0]"), a tab in that dialog. "" for a dialog without.
     std::string place;
     std::string group; ///< "" for none
     std::string label; ///< "" for none
@@ -73,7 +72,6 @@ inline Properties ColorRows(const std::string& place, const std::string& group, 
     return rows;
 }
 
-/// The rows of an effect field that shows a lighting effect.
 inline Properties EffectRows(const std::string& place, const std::string& prefix) {
     const std::string path = LookField(prefix, "effect");
     return {{place, "Effect:", "Type:", "Flat|Raised|Depressed|SoftLighting|NormalGlare|ReduceGlare",
@@ -82,13 +80,10 @@ inline Properties EffectRows(const std::string& place, const std::string& prefix
             {place, "Effect:", "Size:", "9", path + ".value=9"}};
 }
 
-/// How a text looks, in the groups "Font:" and "Effect:".
 inline Properties LookRows(const std::string& place, const std::string& prefix) {
     return Properties{{place, "Font:", "", "31", LookField(prefix, "font") + ".size=31"}} +
            ColorRows(place, "Font:", prefix, {"fontColor", "backColor", "edgeColor"}) + EffectRows(place, prefix);
 }
-
-// ---- Doing what a row says
 
 inline void GiveNumber(const Person& person, QWidget& spin, const Property& row) {
     const auto shown = [&] { return spin.findChild<QLineEdit*>()->text().toDouble(); };
@@ -122,7 +117,6 @@ inline void GiveChoice(const Person& person, QComboBox& box, const Property& row
     person.Choose(box, index);
 }
 
-/// In the dialog of a colour, a font or an image file.
 inline void GiveInPicker(const Person& picker, const QString& give) {
     if (picker.Window().windowTitle() == "Select Color") {
         auto& type = picker.Find<QComboBox>("Type");
@@ -182,8 +176,6 @@ inline void Go(Person& person, const QString& place, const std::function<void(Pe
         leave(inner);
     });
 }
-
-// ---- The tests of a table
 
 /// Tries every row, each beginning with `start`.
 template <class Object> void TestProperties(const Object& start, const CChartLayout& layout, const Properties& rows) {

@@ -21,7 +21,6 @@ inline void NeedApplication() {
     if (QCoreApplication::instance() == nullptr) new QApplication(count, arguments); // to the end of the process
 }
 
-/// Makes the application object before the first widget.
 class WidgetTest : public testing::Test {
 protected:
     static void SetUpTestSuite() { NeedApplication(); }

@@ -6,8 +6,7 @@
 #include <fstream>
 #include <unistd.h>
 
-// The first byte picks the face, the rest is the font file, whose name is read or is not there. It fits and
-// ends.
+// The first byte picks the face, the rest is the font file, whose name is read or is not there. It fits and ends.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     if (size == 0) return 0;
     static const std::string path = "/tmp/fuzz_face." + std::to_string(getpid());

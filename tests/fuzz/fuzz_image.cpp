@@ -1,5 +1,3 @@
-// libFuzzer entry: any bytes as an image file.
-
 #include "engine/paint/picture.h"
 
 #include <QtGlobal>

@@ -23,7 +23,6 @@ CXYChartLayer* addLayer(CXYChart& chart, int type, const char* name, CXYChartAxi
     return layer;
 }
 
-/// Three axes a, b, c of which c follows a; X2 follows b; layers on b, on c and on none.
 void relate(CXYChart& chart) {
     CXYChartAxis* a = addAxis(chart, "a");
     CXYChartAxis* b = addAxis(chart, "b");
@@ -149,7 +148,6 @@ TEST(AxisMgr, LooksAtWhatItIsAskedFor) {
 
 namespace {
 
-/// What the two layer managers have in common, over either.
 template <class Manager> class LayerMgrTest : public testing::Test {};
 using LayerManagers = testing::Types<CXYChartLayerMgr, CPolarLayerMgr>;
 TYPED_TEST_SUITE(LayerMgrTest, LayerManagers);

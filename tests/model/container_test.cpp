@@ -6,7 +6,6 @@
 
 namespace {
 
-// The text that tells the elements of each container apart.
 CChartString& textOf(CChartString& element) { return element; }
 CChartString& textOf(CChartColor& element) { return element.m_patternFile; }
 CChartString& textOf(CPieChartSector& element) { return element.m_text; }

@@ -9,7 +9,6 @@
 
 namespace model_test {
 
-/// Allocations by operator new since the program began.
 long allocations();
 
 /// Lets the allocation after the next `granted` ones fail, as long as it lives.

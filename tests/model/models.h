@@ -37,9 +37,8 @@ template <class Value, class Visit> void Each(Value& value, Visit& visit, Words 
     }
 }
 
-/// Gives every value a number of its own, in the order of the fields, and lists two items. Switches are on;
-/// what a drawing branches by stays as it is: kinds of scales, backgrounds, lines and colours, and axes that
-/// are followed.
+/// Gives every value a number of its own, in the order of the fields, and lists two items. Switches are on; what a
+/// drawing branches by stays as it is: kinds of scales, backgrounds, lines and colours, and axes that are followed.
 class Number {
 public:
     void operator()(bool& value, Words) { value = true; }

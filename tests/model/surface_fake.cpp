@@ -46,8 +46,7 @@ int CChart_encodeFilter(int type, int labelStep, double initialMargin) {
     return type * 1000 + labelStep * 10 + static_cast<int>(initialMargin);
 }
 
-/// A time that can be read: year, month and day as decimal digits, and a fraction that gives away a clock
-/// time.
+/// A time that can be read: year, month and day as decimal digits, and a fraction that gives away a clock time.
 double CChart_chartTime(int year, int month, int day, int hour, int minute, int second) {
     return year * 10000.0 + month * 100.0 + day + (hour + minute + second) / 1000.0;
 }

@@ -7,7 +7,6 @@
 
 namespace model_test {
 
-/// The calls since the last reset, as "name(arguments)".
 extern std::vector<std::string> surfaceCalls;
 
 /// What the fake gives for a filter that nothing passes.

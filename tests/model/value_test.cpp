@@ -1,5 +1,3 @@
-// Strings, colours, effects, and the sizes of a layout.
-
 #include "resources/string_table.h"
 #include "tests/model/memory_probe.h"
 #include "tests/model/surface_fake.h"

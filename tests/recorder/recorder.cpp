@@ -15,7 +15,6 @@ struct Name {
     const void* root; // what was created by itself, and ends this handle with it
 };
 
-/// What one thread has written down and named.
 struct Log {
     bool on = false;
     int depth = 0;

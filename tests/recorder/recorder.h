@@ -13,7 +13,6 @@
 
 namespace recorder {
 
-/// How many operations the surface has.
 extern const int operationCount;
 
 /// Writes down the calls of this thread while it lives; recordings do not nest. Handles are numbered from the
@@ -25,9 +24,7 @@ public:
     Recording(const Recording&) = delete;
     Recording& operator=(const Recording&) = delete;
 
-    /// The calls so far.
     const std::vector<std::string>& Lines() const;
-    /// How many of them are calls of that operation.
     int Count(const std::string& operation) const;
     /// Forgets the calls so far; handles keep their numbers.
     void Clear();

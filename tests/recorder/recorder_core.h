@@ -1,5 +1,4 @@
 #pragma once
-// What the generated operations are made of.
 
 #include <initializer_list>
 #include <string>
@@ -47,7 +46,6 @@ template <typename Handle> Handle* given(const char* kind, Handle* handle, const
 /// Ends the numbers of a handle and of all that were got from it: the library may use their addresses again.
 void forget(const void* handle);
 
-/// The library's own operation of that name, null if it has none.
 template <typename Function> Function real(const char* name) {
 #ifdef _WIN32
     return reinterpret_cast<Function>(reinterpret_cast<void*>(GetProcAddress(LoadLibraryA("libchartdraw.dll"), name)));

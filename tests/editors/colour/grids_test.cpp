@@ -7,7 +7,6 @@
 
 namespace {
 
-/// A parent that keeps the messages of its children.
 class MessageLog : public QWidget {
 public:
     std::vector<int> m_keys;

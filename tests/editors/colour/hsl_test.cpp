@@ -28,9 +28,8 @@ TEST(Hsl, IsOnTheScaleTo240) {
 }
 
 TEST(Hsl, BecomesBytesThatAreCutNotRounded) {
-    // Worked by hand. Lightness 96 of 240 without saturation: 0.4 * 255 = 102. At h 140, s 120, l 96:
-    // q = 0.6, p = 0.2; red p -> 51, green p + 0.4 * 6 * (2/3 - 7/12) = 0.4 -> 102 less an error of
-    // arithmetic, blue q -> 153.
+    // Worked by hand. Lightness 96 of 240 without saturation: 0.4 * 255 = 102. At h 140, s 120, l 96: q = 0.6, p = 0.2;
+    // red p -> 51, green p + 0.4 * 6 * (2/3 - 7/12) = 0.4 -> 102 less an error of arithmetic, blue q -> 153.
     EXPECT_EQ(RgbOf(0, 0, 96), Rgb(102, 102, 102));
     EXPECT_EQ(RgbOf(200, 0, 100), Rgb(106, 106, 106)); // 106.25
     EXPECT_EQS((RgbOf(0, 0, 0), Rgb(0, 0, 0)), (RgbOf(0, 0, 240), Rgb(255, 255, 255)),

@@ -1,5 +1,3 @@
-// The order of the panes, moved and jumped by.
-
 #include "tests/driver/editor.h"
 
 using namespace driver;
@@ -8,7 +6,6 @@ namespace {
 
 std::vector<int> OrderOf(const CFinanceChart& chart) { return {std::begin(chart.m_order), std::end(chart.m_order)}; }
 
-/// The editor with its order list.
 struct Order {
     Person& person;
     QListWidget& list = person.Find<QListWidget>("Order list");

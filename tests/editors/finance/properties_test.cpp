@@ -1,12 +1,9 @@
-// The controls of the finance editor, one row each.
-
 #include "tests/driver/manners.h"
 
 using namespace driver;
 
 namespace {
 
-/// A chart that shows every property.
 CFinanceChart StartChart() {
     CFinanceChart chart;
     for (bool* show : {&chart.m_showSma, &chart.m_showBollingerBand, &chart.m_showVolBars, &chart.m_showCandleStick,

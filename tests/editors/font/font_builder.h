@@ -35,8 +35,7 @@ inline QByteArray NameTable(const std::vector<NameRecord>& records) {
     return table + storage;
 }
 
-/// A header with a directory of a "name" table and one that does not matter, then the tables, for a place in
-/// a file.
+/// A header with a directory of a "name" table and one that does not matter, then the tables, for a place in a file.
 inline QByteArray FontAt(qsizetype place, const QByteArray& nameTable, unsigned version = 0x00010000) {
     const auto tables = static_cast<unsigned>(place) + 12 + 2 * 16;
     return Number32(version) + Number16(2) + QByteArray(6, '\0') + QByteArray("glyf") + Number32(0) + Number32(tables) +
@@ -81,7 +80,6 @@ inline QByteArray ReadFile(const QString& path) {
     return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// Sets a variable of the environment for a while.
 class Environment {
 public:
     Environment(const char* name, const QByteArray& value)

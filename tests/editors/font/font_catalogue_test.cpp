@@ -7,7 +7,6 @@
 
 namespace {
 
-/// The font folders are those of a temporary home and a temporary system.
 class FontCatalogue : public testing::Test {
 protected:
     FontCatalogue() { g_fontCatalogueLoaded = false; }

@@ -1,5 +1,4 @@
-// Whatever takes the focus away from an edit acts only after the edit has committed, and not at all if it
-// cannot.
+// Whatever takes the focus away from an edit acts only after the edit has committed, and not at all if it cannot.
 
 #include "tests/editors/framework/test_editor.h"
 

@@ -94,7 +94,6 @@ TEST_F(Dialogs, OkAndCancelEndTheDialog) {
     }
 }
 
-/// A dialog whose edits stand in it, without pages.
 class CPlainDialog : public CDialog {
 public:
     CPlainDialog() : CDialog(QStringLiteral("Plain")), m_form(*this, [this] { ++m_told; }) {

@@ -5,7 +5,6 @@
 
 namespace {
 
-/// A page with one field of each kind, and no list.
 class CFieldsPage : public CDialog {
 public:
     explicit CFieldsPage(QWidget& owner) : m_form(*this, owner) {

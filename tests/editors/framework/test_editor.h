@@ -118,7 +118,6 @@ public:
         activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(this));
     }
-    /// How often a change was told since the last call.
     int Told() { return std::exchange(m_told, 0); }
 
     Values m_values;
@@ -142,7 +141,6 @@ private:
     int m_told = 0;
 };
 
-/// A test with an application and, when opened, the editor and the person.
 class EditorTest : public WidgetTest {
 protected:
     void Open() {

@@ -8,7 +8,6 @@ namespace {
 
 enum ChartType { Pie, XY, Finance, Polar, Angular, Linear };
 
-/// A layout in which every property shows.
 CChartLayout StartLayout(ChartType type) {
     CChartLayout layout;
     layout.m_chartType = type;
@@ -69,7 +68,6 @@ const Properties kRows =
     ColorRows("General", "", "", {"backColor", "edgeColor"}) + EffectRows("General", "") +
     LookRows("Title", "titles[0].") + LookRows("DataLabel", "label") + LookRows("Legend", "legend");
 
-/// What another start than the common one shows.
 const Properties kPositionRows = {
     {"Title", "Position:", "X:", "77", "titles[0].x=77", {10}},
     {"Title", "Position:", "Y:", "33", "titles[0].y=33", {10}},

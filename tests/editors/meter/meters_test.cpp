@@ -14,7 +14,6 @@ template <class Styled> void GiveLook(Styled& styled) {
     styled.m_effect.m_value = 5;
 }
 
-/// What both meters have, so that every property shows.
 template <class Meter> Meter StartMeter() {
     Meter meter;
     CMeterPointer pointer;
@@ -125,7 +124,6 @@ const Properties kLinearRows =
                {"Zone", "", "EndValue:", "77", "zones[0].endValue=77", {10}}} +
     LookRows("Zone", "zones[0].") + GeneralRows() + PointerRows("Fill Color:") + TextRows() + LabelRows();
 
-/// Presses "Add" on a page and sees its first row.
 void AddOn(const Person& person, const char* tab, const char* list, const char* row) {
     person.Tab(tab);
     ExpectBox("Warning", "Select anyone.", [&] { person.Click("Delete"); });

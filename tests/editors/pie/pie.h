@@ -1,5 +1,4 @@
 #pragma once
-// Pies to edit.
 
 #include "tests/driver/editor.h"
 
@@ -21,7 +20,6 @@ inline CPieChart PieOf(std::initializer_list<const char*> texts) {
     return pie;
 }
 
-/// A pie in which no field has its default and each has an effect.
 inline CPieChart UnusualPie() {
     CPieChart pie = PieOf({"one\nof two lines", "", "100 % {value} <*b*>"});
     pie.m_startAngle = 1.0 / 3;

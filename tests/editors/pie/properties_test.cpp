@@ -1,5 +1,3 @@
-// The controls of the pie editor, one row each.
-
 #include "tests/driver/manners.h"
 #include "tests/editors/pie/pie.h"
 
@@ -7,7 +5,6 @@ using namespace driver;
 
 namespace {
 
-/// A pie that shows every property.
 CPieChart StartPie() {
     CPieChart pie = pie_test::PieOf({"one", "two", "three"});
     for (int i = 0; i < 3; ++i) pie.m_sectors[i].m_color.m_color = 0x3366CCU << i;

@@ -1,12 +1,7 @@
-// From the host's call to its return, on every way.
-
 #include "tests/editors/pie/pie.h"
 #include "tests/own_process.h"
 
 #include <QGuiApplication>
-#include <chrono>
-#include <clocale>
-#include <thread>
 
 using namespace pie_test;
 
@@ -39,25 +34,6 @@ TEST(PieWaysOut, AHostsOwnModalDialogOwnsTheEditor) {
 }
 
 // ---- Hosts that are no programs of the toolkit, or only half of one: each in a process of its own.
-
-TEST(PieHosts, NoApplicationObjectIsNeeded) {
-    expectInOwnProcess([] {
-        // The host knows no toolkit; the person is a thread that waits for the window.
-        std::thread person([] {
-            while (QCoreApplication::instance() == nullptr) std::this_thread::sleep_for(std::chrono::milliseconds(1));
-            const auto answer = [] {
-                const Person guest(*QApplication::activeModalWidget());
-                guest.Click("Show 3D");
-                guest.Ok();
-            };
-            QMetaObject::invokeMethod(qApp, answer, Qt::QueuedConnection);
-        });
-        CPieChart pie;
-        const bool ok = ShowPieChartWnd(pie, CChartLayout());
-        person.join();
-        return ok && pie.m_show3D && std::string(std::setlocale(LC_ALL, nullptr)) == "C";
-    });
-}
 
 TEST(PieHosts, AnApplicationObjectWithoutWindowsIsACancel) {
     for (const bool gui : {false, true})

@@ -1,5 +1,3 @@
-// Dragging and switching, driven by the mouse.
-
 #include "resources/preview_menu.h"
 #include "tests/editors/preview/test_view.h"
 #include "tests/recorder/recorder.h"

@@ -43,8 +43,7 @@ TEST(FitMode, PlacesThePictureInThePane) {
             EXPECT_TRUE(showsNaturalSize(pane, -fit.place.topLeft(), fit.picture));
             continue;
         }
-        // Shrunk: the pixel in the middle of each quarter is that of the picture, give or take its
-        // neighbours.
+        // Shrunk: the pixel in the middle of each quarter is that of the picture, give or take its neighbours.
         for (const int part : {1, 3}) {
             const QPoint from(fit.picture.width() * part / 4, fit.picture.height() * part / 4);
             const QPoint to = fit.place.topLeft() + QPoint(fit.place.width() * part / 4, fit.place.height() * part / 4);

@@ -15,7 +15,6 @@ constexpr QRgb codeAt(int x, int y) {
 /// A layout without anything but a wallpaper of coded pixels, as large as the picture.
 CChartLayout codedLayout(QSize picture);
 
-/// A view as a window of its own, with that room within its border.
 struct TestView : CChartPreviewView {
     TestView(QSize pane, QSize picture);
 
@@ -27,9 +26,7 @@ struct TestView : CChartPreviewView {
     QPoint ScrollRange() const;
 };
 
-/// The smallest rectangle that holds all pixels that are no surround.
 QRect shownRect(const QImage& pane);
 
-/// Whether the pane shows coded pixels one to one, that of `origin` at its top left corner, and surround
-/// beyond.
+/// Whether the pane shows coded pixels one to one, that of `origin` at its top left corner, and surround beyond.
 testing::AssertionResult showsNaturalSize(const QImage& pane, QPoint origin, QSize picture);

@@ -1,5 +1,4 @@
 #pragma once
-// Charts to begin with, in which every property can show.
 
 #include "tests/driver/manners.h"
 

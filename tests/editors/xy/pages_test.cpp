@@ -127,8 +127,7 @@ Properties AxisRows() {
     return rows;
 }
 
-/// What shows when the axis follows another additional one, and the kind of scale, which takes a label format
-/// with it.
+/// What shows when the axis follows another additional one, and the kind of scale, which takes a label format with it.
 const Properties kFollowingRows = {
     {"Axis>Additional|Modify...>Scale", "SyncAxis:", "Additional:", "Axis 1|Axis 2", "axes[0].syncAxis=1", {}, false},
     {"Axis>Additional|Modify...>Scale", "", "Scale Type:", "None|Auto Scale|Linear Scale|Date Scale", "axes[0]"},
@@ -149,7 +148,6 @@ const char* const kSymbols =
     "NoSymbol|SquareSymbol|DiamondSymbol|TriangleSymbol|RightTriangleSymbol|LeftTriangleSymbol|"
     "InvertedTriangleSymbol|CircleSymbol|CrossSymbol|Cross2Symbol";
 
-/// A row of the dialog of the first layer.
 Property Row(const char* group, const char* label, const char* give, const std::string& change, Number number = {},
              bool seen = true) {
     return {"Layer>Modify...", group, label, give, "layers[0]." + change, number, seen};
@@ -161,7 +159,6 @@ struct KindOfLayer {
     Properties back{}; ///< rows of what is on in a new layer
 };
 
-/// The effect of bars, which stands in the group of their border.
 Properties BorderEffectRows() {
     Properties rows = EffectRows("Layer>Modify...", "layers[0].");
     for (Property& row : rows) row.group = "Border:";
@@ -223,7 +220,6 @@ std::vector<KindOfLayer> LayerKinds() {
     };
 }
 
-/// What stands beside the page of a kind.
 Properties RowsBeside(int type) {
     const char* kinds = "Bar|Line|Scatter(Bubble)|Area|BoxWhisker|Box|HLOC|Gantt|CandleStick";
     return {Row("", "Name:", "new", "name=new", {}, false),

@@ -1,5 +1,3 @@
-// Where lines, ticks, labels, marks and titles stand.
-
 #include "engine/data/label_filter.h"
 #include "tests/engine/axis/axis_fixture.h"
 
@@ -28,7 +26,6 @@ double distance(const AxisLayout& layout, const QRectF& box) {
 }
 
 TEST_F(AxisLayoutTest, LabelsStandOutsideTheTicks) {
-    // pixels
     using Row = std::tuple<int, int, int>;
     const Row rows[] = {{1, 4, 7}, {1, -4, 3}, {1, 0, 3}, {3, 4, 9}, {0, 4, 7}};
     axis.setLimits(Type::Linear, 0, 100, {50, 0, 0});
@@ -65,7 +62,6 @@ TEST_F(AxisLayoutTest, SlantedLabelsEndAtTheirTicks) {
     }
 }
 
-/// The room that a label takes: its outline, a little smaller, so that touching sides are no overlap.
 QPolygonF outline(const AxisLayout::Label& label) {
     if (!label.pivot) return QPolygonF(label.box().adjusted(0.5, 0.5, -0.5, -0.5));
     const QPolygonF full = label.block.pivotOutlineAt(label.anchor, label.alignment);

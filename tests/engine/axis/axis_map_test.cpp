@@ -1,5 +1,3 @@
-// Values and pixels, worked by hand.
-
 #include "tests/engine/axis/axis_fixture.h"
 
 namespace chartdraw {

@@ -71,7 +71,6 @@ TEST(Bitmap, IsNotMadeOfWhatHasNoPicture) {
         const Bytes file(chart);
         EXPECT_EQ(file.made, made) << width << " x " << height;
         EXPECT_EQS((file.data != nullptr, made), (file.length > 54, made));
-        // A good size heals it.
         CBaseChart_setSize(chart, 20, 20);
         EXPECT_TRUE(Bytes(chart).made);
         const Bytes other(chart, 1);
@@ -84,7 +83,6 @@ TEST(Bitmap, IsNotMadeOfWhatHasNoPicture) {
                (CBaseChart_makeChart2(nullptr, CHART_FORMAT_BMP, nullptr, nullptr), false));
 }
 
-/// A white chart of 40 by 30 with a box, a line and a text.
 BaseChart* sketch() {
     BaseChart* chart = PieChart2BaseChart(CPieChart_create(40, 30, 0xffffff, CHART_TRANSPARENT, 0));
     TextBox* box = CBaseChart_addText(chart, 10, 10, "  ", "normal", 8, 0, 7, 0, false);

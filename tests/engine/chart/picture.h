@@ -64,7 +64,6 @@ inline void shows(const QImage& image, std::initializer_list<Bounds> all) {
         EXPECT_EQ(boundsOf(image.copy(one.part), one.colour), one.bounds) << one.part << ": " << one.what;
 }
 
-/// How many pixels are unlike `background`.
 inline int inked(const QImage& image, int background) {
     int count = 0;
     for (int y = 0; y < image.height(); ++y)

@@ -22,7 +22,6 @@ inline int roundAt(const QImage& image, QPoint centre, double degrees, double di
     return at(image, point.x(), point.y());
 }
 
-/// What stands at an angle and a distance.
 struct RoundPixel {
     double degrees, distance;
     int colour;
@@ -61,7 +60,6 @@ inline std::vector<QRect> patches(QImage image, int background) {
     return found;
 }
 
-/// How far the nearest pixel of a rectangle is from a point, in pixels.
 inline double nearestOf(const QRect& rect, QPoint point) {
     const int dx = std::max({0, rect.left() - point.x(), point.x() - rect.right()});
     const int dy = std::max({0, rect.top() - point.y(), point.y() - rect.bottom()});

@@ -12,7 +12,6 @@ BaseChart* chart(int width = 300, int height = 200) {
     return PieChart2BaseChart(CPieChart_create(width, height, kWhite, CHART_TRANSPARENT, 0));
 }
 
-/// A title that is nothing but a box of a colour.
 TextBox* block(BaseChart* chart, int alignment, int colour, int width, int height) {
     TextBox* title = CBaseChart_addTitle2(chart, alignment, "", nullptr, 8, -1, colour, CHART_TRANSPARENT);
     CBox_setSize(TextBox2Box(title), width, height);

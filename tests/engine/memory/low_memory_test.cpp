@@ -1,8 +1,7 @@
-// A host whose memory ends: an allocator that fails at the n-th call, for every n. Nothing is thrown at the
-// host, which may be a C program, a picture that memory does not suffice for is false and no bytes, and the
-// charts are sound afterwards. What fails are the library's own allocations, and those of whole pictures,
-// which the toolkit makes for it; that the toolkit comes through want of memory by itself is not ours to
-// prove.
+// A host whose memory ends: an allocator that fails at the n-th call, for every n. Nothing is thrown at the host, which
+// may be a C program, a picture that memory does not suffice for is false and no bytes, and the charts are sound
+// afterwards. What fails are the library's own allocations, and those of whole pictures, which the toolkit makes for
+// it; that the toolkit comes through want of memory by itself is not ours to prove.
 
 #include "tests/expect.h"
 

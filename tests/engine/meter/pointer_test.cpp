@@ -1,5 +1,3 @@
-// Outlines of pointers: where they end and how broad they are.
-
 #include "engine/meter/meter_pointer.h"
 
 #include <gtest/gtest.h>

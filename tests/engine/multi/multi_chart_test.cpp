@@ -10,7 +10,6 @@ namespace {
 
 using namespace pictures;
 
-/// A chart that is nothing but its background.
 BaseChart* plain(int width, int height, int background) {
     return PieChart2BaseChart(CPieChart_create(width, height, background, CHART_TRANSPARENT, 0));
 }

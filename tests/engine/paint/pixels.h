@@ -1,5 +1,4 @@
 #pragma once
-// A small white picture to draw on and to look at pixel by pixel.
 
 #include "engine/paint/canvas.h"
 #include "tests/expect.h"
@@ -32,7 +31,6 @@ inline QRect inked(const QImage& image, QRgb paper = kWhite) {
     return area;
 }
 
-/// The number of pixels of exactly this colour.
 inline int count(const QImage& image, QRgb colour) {
     int found = 0;
     for (int y = 0; y < image.height(); ++y)
@@ -40,7 +38,6 @@ inline int count(const QImage& image, QRgb colour) {
     return found;
 }
 
-/// The largest difference of a channel between two pictures of one size.
 inline int difference(const QImage& a, const QImage& b) {
     int most = 0;
     for (int y = 0; y < a.height(); ++y) {

@@ -50,7 +50,6 @@ std::vector<SectorLabel> randomSpots(int count, unsigned seed) {
 }
 
 TEST(StackApart, MovesAsLittleAsCan) {
-    // worked by hand
     const std::tuple<const char*, std::vector<double>, std::vector<double>, double, double, std::vector<double>>
         rows[] = {
             {"nothing to do", {0, 20, 50}, {10, 10, 10}, 0, 100, {0, 20, 50}},

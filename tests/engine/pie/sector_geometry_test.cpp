@@ -18,7 +18,6 @@ constexpr double kDegree = kPi / 180;
 
 TEST(Shares, CountOnlyRealPositiveValues) {
     const double inf = std::numeric_limits<double>::infinity();
-    // worked by hand
     const std::tuple<std::vector<double>, std::vector<double>> rows[] = {
         {{1, 3}, {0.25, 0.75}},
         {{5}, {1}},
@@ -62,7 +61,6 @@ TEST(PieBody, ShowsTheOuterWallInFrontAndTheInnerOneBehind) {
     EXPECT_NEAR(outer.top(), 100, 1);
     EXPECT_NEAR(outer.bottom(), 100 + 40 + 20, 1e-3);
     EXPECT_NEAR(outer.width(), 160, 1e-3);
-    // The inner wall hangs from the rear half of the hole.
     const QRectF inner = body.roundWall(body.centre, whole, false).boundingRect();
     EXPECT_NEAR(inner.top(), 100 - 20, 1);
     EXPECT_NEAR(inner.bottom(), 100 + 20, 1e-3);
@@ -77,7 +75,6 @@ TEST(PieBody, ShowsTheOuterWallInFrontAndTheInnerOneBehind) {
 
 TEST(PieBody, ShowsTheCutsThatFaceTheViewer) {
     const PieBody body = tilted();
-    // degrees
     const std::tuple<double, double, bool, bool> rows[] = {
         {10, 80, false, true},    // right, behind: the cut on its front side
         {100, 170, false, true},  // right, in front

@@ -186,9 +186,8 @@ TEST(LinearTicks, DensityAndItems) {
 TEST(LogTicks, DecadesAndParts) {
     using Case = std::tuple<double, double, double, const char*, std::size_t>;
     const Case cases[] = {
-        // 270 pixels over four decades: 67 each, room for 2 to 9 three pixels apart; over twelve: 22 each,
-        // room
-        // for 2 and 5 and the decades between the labels (37 in all, less 7).
+        // 270 pixels over four decades: 67 each, room for 2 to 9 three pixels apart; over twelve: 22 each, room for 2
+        // and 5 and the decades between the labels (37 in all, less 7).
         {3, 4000, 270, "1 | 10 | 100 | 1000 | 10000", 32},
         {1, 1e12, 270, "1 | 100 | 10000 | 1000000 | 100000000 | 10000000000 | 1000000000000", 30},
         {2e-8, 0.7, 270, "1e-8 | 1e-7 | 1e-6 | 1e-5 | 1e-4 | 1e-3 | 1e-2 | 1e-1 | 1e0", 16},

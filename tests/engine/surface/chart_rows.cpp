@@ -126,7 +126,6 @@ std::vector<Row> chartRows() {
              CChart_glassEffect(b ? CHART_GLARE_REDUCED : CHART_GLARE_NORMAL, b ? CHART_LEFT : CHART_TOP,
                                 b ? 0 : 9))), // the glare lies at that side; the raised border is 9 pixels wide
          SHOWS(b ? p.at(30, 100).red() > p.at(200, 100).red() + 20 : p.at(150, 20).red() > p.at(150, 120).red() + 20)},
-        // ---- boxes and texts
         {"CBox_setBackground", text,
          SET(CBox_setBackground(TextBox2Box(s.text), b ? kCyan : kGreen, b ? kBlue : kPink, 0)),
          SHOWS(p.has(b ? kCyan : kGreen) && p.is(100, 80, b ? kBlue : kPink))},
@@ -192,7 +191,6 @@ std::vector<Row> chartRows() {
          SHOWS(p.has(kBrown) == b && p.has(kRed) != b)},
         {"CDrawArea_load", blank, SET(CDrawArea_load(CBaseChart_getDrawArea(s.chart), b ? imageFile() : "none.png")),
          SHOWS(p.size() == (b ? QSize(20, 10) : QSize(300, 200)) && p.has(kBrown) == b)},
-        // ---- plot area
         {"CXYChart_setPlotArea", blank,
          SET(b ? CXYChart_setPlotArea(s.xy, 50, 20, 200, 150, kCyan, kCyan, kRed, kGreen, kBlue)
                : CXYChart_setPlotArea(s.xy, 80, 40, 100, 120, kPink, kBrown, kBlue, kNone, kRed),

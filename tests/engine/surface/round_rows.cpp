@@ -44,7 +44,6 @@ template <class Add> void addPolar(Scene& s, bool b, Add add) {
 
 std::vector<Row> roundRows() {
     return {
-        // ---- pie
         {"CPieChart_setPieSize", pie, SET(CPieChart_setPieSize(s.pie, b ? 100 : 200, b ? 90 : 120, b ? 40 : 70)),
          SHOWS(p.fills(kRed, b ? QRect(100, 50, 41, 81) : QRect(200, 50, 71, 141)))},
         {"CPieChart_setDonutSize", pie,
@@ -102,7 +101,6 @@ std::vector<Row> roundRows() {
          }},
         {"CSector_setExplode", pie, SET(CSector_setExplode(CPieChart_sector(s.pie, 0), b ? 25 : 5)),
          SHOWS(std::abs(p.box(kRed).left() - (b ? 175 : 155)) <= 2)},
-        // ---- meters
         {"CBaseMeter_setScale", roundMeter,
          SET(CBaseMeter_setScale(s.meter, b ? 0 : -50, b ? 100 : 150, 50, 0, 0),
              CAngularMeter_addZone2(s.round, 0, 50, kRed, kRed)),
@@ -181,7 +179,6 @@ std::vector<Row> roundRows() {
          SET(CLinearMeter_addZone(s.straight, b ? 25 : 50, b ? 50 : 100, b ? kRed : kBlue, b ? "WW" : "")),
          INK(b ? QRect(100, 100, 51, 20) : QRect(150, 100, 101, 20),
              p.fills(b ? kRed : kBlue, ink) && p.has(0, ink.adjusted(3, 1, -3, -1)) == b)},
-        // ---- polar
         {"CPolarChart_setPlotArea", polar,
          SET(b ? CPolarChart_setPlotArea(s.polar, 100, 90, 60, kRed, kBlue, 9)
                : CPolarChart_setPlotArea(s.polar, 180, 110, 70, kBlue, kPink, 3)),

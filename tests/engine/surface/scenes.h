@@ -14,7 +14,6 @@ constexpr int kNone = CHART_TRANSPARENT;
 constexpr int kWhite = 0xffffff, kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff, kCyan = 0x00ffff,
               kPink = 0xff00ff, kBrown = 0x804020;
 
-/// A picture.
 class Shot {
 public:
     explicit Shot(BaseChart* chart) {
@@ -27,7 +26,6 @@ public:
 
     QSize size() const { return m_image.size(); }
     bool operator==(const Shot& other) const { return m_image == other.m_image; }
-    /// Whether a pixel has exactly this colour.
     bool is(int x, int y, int colour) const {
         return m_image.valid(x, y) && static_cast<int>(m_image.pixel(x, y) & 0xffffffu) == colour;
     }
@@ -50,7 +48,6 @@ public:
                 if (is(x, y, colour)) bounds |= QRect(x, y, 1, 1);
         return bounds;
     }
-    /// The same for everything but the white ground.
     QRect ink(const QRect& part = QRect(0, 0, 10000, 10000)) const {
         QRect bounds;
         const QRect seen = part & m_image.rect();
@@ -113,7 +110,6 @@ inline void blank(Scene& s) {
     s.chart = XYChart2BaseChart(s.xy);
 }
 
-/// Axes and nothing else.
 inline void axes(Scene& s) {
     s.startXy();
     CAxis_setLinearScale(s.x, 0, 4, 1, 0);

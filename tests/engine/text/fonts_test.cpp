@@ -121,8 +121,7 @@ TEST(Fonts, TheFileNamedIsTheFaceDrawn) {
 }
 
 TEST(Fonts, ABoldFaceIsNotMadeBolder) {
-    // Ten bars, each a tenth of the size high and as wide as the letter's stem: a made-up bold would be
-    // wider.
+    // Ten bars, each a tenth of the size high and as wide as the letter's stem: a made-up bold would be wider.
     const double regular = darkness(drawn(lookOf("normal", 36), "lllllll"));
     const double bold = darkness(drawn(lookOf("bold", 36), "lllllll"));
     // Stems of 180 and 281 of 2048 units, as the outlines of the two files have them.

@@ -1,5 +1,4 @@
 #pragma once
-// What a drawn text leaves on a white picture.
 
 #include "engine/text/application.h"
 #include "engine/text/text_block.h"
@@ -39,7 +38,6 @@ inline QRect ink(const QImage& image) {
     return bounds;
 }
 
-/// How dark a picture is: 1 for each black pixel.
 inline double darkness(const QImage& image) {
     double sum = 0;
     for (int y = 0; y < image.height(); ++y)

@@ -34,8 +34,7 @@ std::vector<int> widths(const QByteArray& font, const QString& text) {
 TEST(SfntFace, TakesTheFaceMeant) {
     ensureApplication();
     const QByteArray collection = bytesOf("NotoSansCJK-Regular.ttc");
-    // Faces 0 to 4 are proportional, 5 to 9 have letters half an ideograph wide (the family's published
-    // design).
+    // Faces 0 to 4 are proportional, 5 to 9 have letters half an ideograph wide (the family's published design).
     for (int index = 0; index < 10; ++index) {
         const auto face = extractFace(collection, index, "face");
         ASSERT_TRUE(face) << index;

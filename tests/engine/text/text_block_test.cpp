@@ -246,7 +246,6 @@ TEST(TextBlock, StackedLetters) {
     EXPECT_LT(boxOf(look, "We\u0301").height(), 3 * letter.height());
     EXPECT_GT(boxOf(look, "WW\nWWW").width(), 2 * letter.width());
     EXPECT_EQ(boxOf(look, "WW\nWWW").height(), 3 * letter.height());
-    // Narrow letters stand in the middle of the column.
     const QImage image = drawn(look, "WI", TopLeft);
     const QRect wide = ink(image.copy(0, 0, 300, 100 + letter.height()));
     const QRect narrow = ink(image.copy(0, 100 + letter.height(), 300, letter.height()));

@@ -176,8 +176,7 @@ TEST(BoxLayer, LabelStandsAtTheEndThatItTells) {
 }
 
 TEST(Rows, HaveTheirRoomBesidePoints) {
-    // Six bars and three points on one axis that finds its own limits: the first bar is as wide as the
-    // others.
+    // Six bars and three points on one axis that finds its own limits: the first bar is as wide as the others.
     Chart chart;
     bars(chart, CHART_COMBINE_SIDE, {{50, 50, 50, 50, 50, 50}});
     const double x[] = {0, 1, 5}, y[] = {90, 90, 90};

@@ -26,7 +26,6 @@ protected:
     Probe* add(std::vector<double> data, Form form = Form::Polyline) {
         return chart.addLayer<Probe>(form, std::move(data));
     }
-    /// The layout of one axis.
     AxisLayout of(const Axis* axis) const {
         FrameLayout all = layout();
         for (std::size_t i = 0; i < chart.axes().size(); ++i)

@@ -67,7 +67,6 @@ TEST_P(Indicators, AreExact) {
     EXPECT_EQS((names, GetParam().names), (added, series.size()));
 }
 
-// The calls, by their periods.
 auto sma(int period) {
     return [=](FinanceChart& chart) { chart.addSimpleMovingAvg(period, 0); };
 }
@@ -140,7 +139,6 @@ const Case cases[] = {
 INSTANTIATE_TEST_SUITE_P(Finance, Indicators, testing::ValuesIn(cases),
                          [](const auto& test) { return test.param.name; });
 
-/// What the legend and the axis say of volumes.
 std::vector<std::string> volumeTexts(const Rows& closes, const Rows& volumes) {
     Rows times(closes.size());
     FinanceChart chart(500);
