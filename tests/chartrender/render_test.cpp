@@ -1,7 +1,5 @@
 // Rendering with the host's data: the calls, the picture, and clear answers where there is none.
 
-#include "render/pie.h"
-#include "render/sample_data.h"
 #include "tests/render/calls.h"
 #include <QFile>
 #include <QTemporaryDir>
@@ -42,22 +40,6 @@ TEST(Render, ShowsTheHostsDataInTheModelsLooks) {
                 Contains(R"(CPieChart_setData(PieChart#2, [25, 18.5, 15], ["first", "second", ""]))"));
     EXPECT_EQS((recording.Count("CSector_setColor"), 4), (recording.Count("CRanTable_create"), 0),
                (recording.Lines().back(), "CBaseChart_destroy(BaseChart#2)"));
-}
-
-TEST(Render, OfTheSampleDataIsThePreview) {
-    PreviewFake preview;
-    DrawPieChart(preview);
-
-    const CRandomTable table(0, 2, 5);
-    CRanTable_setCol(table.Get(), 0, 10, 100);
-    const CRoundedData rounded(table, 0);
-    const std::span<const double> values = rounded;
-    const char* labels[] = {"Sector 1", "Sector 2", "Sector 3", "Sector 4", "Sector 5"};
-    CChartPicture picture;
-    RenderPieChart(preview.m_ownPieChart, preview.m_ownLayout, {values.data(), labels, 5}, ChartPictureFormat::Bmp,
-                   picture);
-    const auto& previewed = preview.m_picture.Bytes();
-    EXPECT_TRUE(bytesOf(picture) == QByteArray(previewed.data(), std::ssize(previewed)));
 }
 
 TEST(Render, MakesTheSamePictureInBothFormats) {

@@ -3,7 +3,6 @@
 #include "tests/render/calls.h"
 #include <chartrender/chartrender.h>
 #include <limits>
-#include <thread>
 
 namespace {
 
@@ -168,28 +167,6 @@ TEST(RenderXY, AnswersWhatDoesNotFitWithoutAPicture) {
         fault.make(plot);
         EXPECT_EQS((plot.Render(picture), ChartRenderResult::BadData), (picture.Empty(), true));
     }
-}
-
-TEST(RenderXY, TwoThreadsDoNotDisturbEachOther) {
-    const auto render = [](int type) {
-        Plot plot(type);
-        plot.UseSets();
-        const char* letters[] = {"A", "B", "C"};
-        plot.data.labels = letters;
-        CChartPicture picture;
-        plot.Render(picture);
-        return std::string(reinterpret_cast<const char*>(picture.Data()), picture.Size());
-    };
-    const std::string expected[] = {render(0), render(3)};
-    EXPECT_NE(expected[0], expected[1]);
-    std::vector<std::thread> threads;
-    int wrong[] = {0, 0};
-    for (const int i : {0, 1})
-        threads.emplace_back([&, i] {
-            for (int round = 0; round < 10; ++round) wrong[i] += render(i * 3) != expected[i];
-        });
-    for (std::thread& thread : threads) thread.join();
-    EXPECT_EQ(wrong[0] + wrong[1], 0);
 }
 
 } // namespace

@@ -29,7 +29,7 @@ template <class Kind> Kind& numbered(CXYChart& chart, int type) {
     return layer;
 }
 
-const CallCase frame[] = {
+const CallCase cases[] = {
     {"Empty", DrawXYChart, EDIT(), R"(
 CXYChart_create(500, 550, 0xffff0000, 0xff000000, 0)
 CXYChart_setPlotArea(XYChart#1, 50, 75, 400, 400, 0xff000000, -1, -1, 0x00c0c0c0, 0xff000000)
@@ -107,9 +107,7 @@ CAxis_setLinearScale(Axis#1, -6, 6, 1, 0); CAxis_setLinearScale(Axis#2, -100, 10
     {"UnknownBackgroundAndScale", DrawXYChart,
      EDIT(chart.m_useBackground = true, chart.m_backgroundType = 3, chart.m_yAxis.m_scaleType = 4),
      R"(CAxis_setLinearScale(Axis#2, 0, 100, 10, 0); CAxis_setWidth(Axis#1, 1))", "CAxis_setAutoScale(Axis#2"},
-};
 
-const CallCase axes[] = {
     {"LinearScale", DrawXYChart,
      [](PreviewFake& view) {
          CXYChart& chart = view.m_ownXYChart;
@@ -119,13 +117,9 @@ const CallCase axes[] = {
          chart.m_yAxis.m_title.m_useAngle = chart.m_yAxis.m_title.m_usePosition = false;
      },
      R"(
-CAxis_setReverse(Axis#2, true); CAxis_setWidth(Axis#2, 3); CAxis_setColors(Axis#2, 4, -65534, -1, -1)
-CAxis_setMargin(Axis#2, 5, 6); CAxis_setLabelStep(Axis#2, 7, 8, 9, 10); CAxis_setTickLength2(Axis#2, 11, 12)
-CAxis_setTickDensity(Axis#2, 13, 14); CAxis_setLinearScale(Axis#2, 18.5, 19.5, 20.5, 21.5)
-CAxis_setTitle(Axis#2, "t26", "t28", 29.5, 30); CBox_setBackground(Box#3, 31, 32, 33)
-CAxis_setLabelStyle(Axis#2, "t39", 40.5, 41, 0); CTextBox_setFontAngle(TextBox#5, 45.5, true)
-CBox_setBackground(Box#4, 42, 43, 44); CAxis_setLabelFormat(Axis#2, "t37")
-CAxis_setMultiFormat(Axis#2, 46, "t47", 48, "t49", 1, true))",
+CAxis_setReverse(Axis#2, true); CAxis_setWidth(Axis#2, 3)
+...CAxis_setTickDensity(Axis#2, 13, 14); CAxis_setLinearScale(Axis#2, 18.5, 19.5, 20.5, 21.5)
+CAxis_setTitle(Axis#2, "t26", "t28", 29.5, 30); CBox_setBackground(Box#3, 31, 32, 33))",
      "CAxis_setReverse(Axis#1 CAxis_setTitlePos"},
     {"DateScale", DrawXYChart,
      EDIT(chart.m_xAxis.m_scaleType = 3, chart.m_xAxis.m_dateMajorTickInc = 86400,
@@ -165,9 +159,7 @@ CAxis_syncAxis(Axis#5, Axis#2, -0.5, 0); CBaseChart_makeChart2(BaseChart#1, 4))"
      R"(
 CXYChart_xAxis2(XYChart#1); CAxis_syncAxis(Axis#3, Axis#6, 1, 0); CXYChart_yAxis2(XYChart#1)
 CAxis_syncAxis(Axis#4, Axis#7, 1, 0); CBaseChart_makeChart2(BaseChart#1, 4))"},
-};
 
-const CallCase layers[] = {
     {"Bars", DrawXYChart, EDIT(add<CXYBarLayer>(chart, 0).m_combineMethod = 1),
      R"(
 CRanTable_create(9, 7, 6); CRanTable_setCol(RanTable#1, 5, 8, 39); CXYChart_addBarLayer2(XYChart#1, 1, 0)
@@ -189,9 +181,9 @@ CRanTable_destroy(RanTable#1); CBaseChart_makeChart2()",
          bars.m_aggregateLabel = bars.m_useOverlap = false;
      },
      R"(
-CXYChart_addBarLayer2(XYChart#1, 4, 0); CRanTable_create(7, 2, 6); CRanTable_setCol(RanTable#2, 0, 0, 50)
-CLayer_addDataSet(Layer#1, [48, 44, 45, 3, 36, 8], 10, "t2"); CRanTable_setCol(RanTable#2, 1, 0, 50)
-CLayer_addDataSet(Layer#1, [26, 0, 1, 11, 41, 21], 11, "t2"); CBarLayer_setBarShape(BarLayer#1, 3, -1, -1)
+CXYChart_addBarLayer2(XYChart#1, 4, 0); CRanTable_create(7, 2, 6)
+...CLayer_addDataSet(Layer#1, [48, 44, 45, 3, 36, 8], 10, "t2")
+...CLayer_addDataSet(Layer#1, [26, 0, 1, 11, 41, 21], 11, "t2"); CBarLayer_setBarShape(BarLayer#1, 3, -1, -1)
 CBarLayer_setBarGap(BarLayer#1, 6.5, 7.5); CLayer_setBorderColor(Layer#1, 8, 9); CRanTable_destroy(RanTable#2)
 CLayer_setUseYAxis(Layer#1, Axis#2))",
      "CLayer_setAggregateLabel"},
@@ -201,13 +193,7 @@ CLayer_setUseYAxis(Layer#1, Axis#2))",
          auto& bars = numbered<CXYBarLayer>(chart, 0);
          bars.m_firstOnTop = bars.m_labelForEachSeg = false;
      },
-     R"(
-CXYChart_addBarLayer2(XYChart#1, 4, 0); CRanTable_create(7, 2, 6); CRanTable_setCol(RanTable#2, 0, 0, 50)
-CLayer_addDataSet(Layer#1, [48, 44, 45, 3, 36, 8], 10, "t2"); CRanTable_setCol(RanTable#2, 1, 0, 50)
-CLayer_addDataSet(Layer#1, [26, 0, 1, 11, 41, 21], 11, "t2"); CBarLayer_setBarShape(BarLayer#1, 3, -1, -1)
-CLayer_setAggregateLabelStyle(Layer#1, "gulim.ttc", 12, 0, 0); CBox_setBackground(Box#4, -1, -1, 0)
-CTextBox_setFontAngle(TextBox#5, 0, false); CBarLayer_setOverlapRatio(BarLayer#1, 5.5, false)
-CLayer_setBorderColor(Layer#1, 8, 9); CRanTable_destroy(RanTable#2); CLayer_setUseYAxis(Layer#1, Axis#2))",
+     R"(CTextBox_setFontAngle(TextBox#5, 0, false); CBarLayer_setOverlapRatio(BarLayer#1, 5.5, false))",
      "CLayer_setDataLabel"},
     {"BarsWithoutLabels", DrawXYChart, EDIT(add<CXYBarLayer>(chart, 0), view.m_ownLayout.m_showLabel = false),
      R"(CLayer_setUseYAxis(Layer#1, Axis#2); CRanTable_destroy(RanTable#1))",
@@ -228,7 +214,6 @@ CRanTable_setCol(RanTable#1, 0, 0, 6); CRanTable_setCol(RanTable#1, 1, 0, 50); C
 CXYChart_addScatterLayer(XYChart#1, [1, 5, 2, 1, 4, 0], [11, 8, 47, 50, 50, 27], "t2", 3, 4, 5, -1)
 CLineLayer_setSymbolScale(LineLayer#1, [36, 15, 29, 35, 38, 18], 0, [], 0); CLayer_setUseYAxis(Layer#1, Axis#2))"},
     {"Areas", DrawXYChart, EDIT(add<CXYAreaLayer>(chart, 3).m_combineMethod = 4), R"(
-CRanTable_setCol(RanTable#1, 0, 0, 50); CRanTable_setCol(RanTable#1, 1, 0, 50); CRanTable_setCol(RanTable#1, 2, 0, 50)
 CXYChart_addAreaLayer2(XYChart#1, 4, 0); CLayer_addDataSet(Layer#1, [11, 44, 16, 12, 31, 0], -65500, "n")
 CLayer_addDataSet(Layer#1, [11, 8, 47, 50, 50, 27], -65522, "n")
 CLayer_addDataSet(Layer#1, [44, 9, 31, 42, 46, 13], -65505, "n"); CLayer_setUseYAxis(Layer#1, Axis#2))"},
@@ -293,9 +278,8 @@ CRanTable_setCol(RanTable#1, 0, 100, 200); ...CRanTable_setHLOCCols(RanTable#2, 
      EDIT(chart.m_xAxis.m_scaleType = chart.m_yAxis.m_scaleType = 3, chart.m_show3D = true, chart.m_depth = 11,
           chart.m_zGap = 12, add<CXYBarLayer>(chart, 0)),
      R"(
-CBox_setBackground(Box#4, -1, -1, 0); CTextBox_setFontAngle(TextBox#5, 0, false)
-CLayer_setAggregateLabelFormat(Layer#1, "{value|yyyy/mm/dd}"); CBarLayer_setOverlapRatio(BarLayer#1, 0.5, true)
-CRanTable_destroy(RanTable#2); CRanTable_setDateCol(RanTable#1, 6, 1000, 864000, false); CLayer_setXData(Layer#1, [6])
+CLayer_setAggregateLabelFormat(Layer#1, "{value|yyyy/mm/dd}")
+...CRanTable_setDateCol(RanTable#1, 6, 1000, 864000, false); CLayer_setXData(Layer#1, [6])
 CLayer_set3D(Layer#1, 11, 12); CLayer_setUseYAxis(Layer#1, Axis#2)
 CLayer_setDataLabelStyle(Layer#1, "gulim.ttc", 12, 0, 0); CBox_setBackground(Box#5, -1, -1, 0)
 CTextBox_setFontAngle(TextBox#6, 0, false); CLayer_setDataLabelFormat(Layer#1, "{value|yyyy/mm/dd}")
@@ -320,8 +304,6 @@ CXYChart_yAxis2(XYChart#1); CLayer_setUseYAxis(Layer#1, Axis#4); ...CLayer_setUs
      "CLegendBox_addKey(LegendBox#1, \"Legend\", -1, 0, null)", "CXYChart_addBarLayer2 CAxis_setLinearScale"},
 };
 
-INSTANTIATE_TEST_SUITE_P(Frame, Calls, testing::ValuesIn(frame), kNameOfCase);
-INSTANTIATE_TEST_SUITE_P(Axes, Calls, testing::ValuesIn(axes), kNameOfCase);
-INSTANTIATE_TEST_SUITE_P(Layers, Calls, testing::ValuesIn(layers), kNameOfCase);
+INSTANTIATE_TEST_SUITE_P(XY, Calls, testing::ValuesIn(cases), kNameOfCase);
 
 } // namespace

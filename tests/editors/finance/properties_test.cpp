@@ -23,15 +23,13 @@ const Properties kTable = {
     {"MainChart", "SimpleMoveAverage:", "Period:", "12", "smaPeriod=12", kRows},
     {"MainChart", "SimpleMoveAverage:", "Color:", "Metal", "smaColor.type=metal"},
     {"MainChart", "HLOC:", "Show HLOC", "", "showHloc=false"},
-    {"MainChart", "HLOC:", "UpColor:", "Metal", "hlocUpColor.type=metal", {}, false}, // thin lines look the
-                                                                                      // same
+    {"MainChart", "HLOC:", "UpColor:", "Metal", "hlocUpColor.type=metal", {}, false}, // looks alike
     {"MainChart", "HLOC:", "DownColor:", "Metal", "hlocDownColor.type=metal"},
     {"MainChart", "VolBars:", "Show VolBars", "", "showVolBars=false"},
     {"MainChart", "VolBars:", "Height:", "35", "volBarsHeight=35", kPixels},
     {"MainChart", "VolBars:", "UpColor:", "Metal", "volUpColor.type=metal"},
     {"MainChart", "VolBars:", "DownColor:", "Metal", "volDownColor.type=metal"},
-    {"MainChart", "VolBars:", "FlatColor:", "Metal", "volFlatColor.type=metal", {}, false}, // the sample has
-                                                                                            // no such day
+    {"MainChart", "VolBars:", "FlatColor:", "Metal", "volFlatColor.type=metal", {}, false}, // no such day
     {"MainChart", "DonchianChannel:", "Show DonchianChannel", "", "showDonchianChannel=false"},
     {"MainChart", "DonchianChannel:", "Period:", "7", "dcPeriod=7", kRows},
     {"MainChart", "DonchianChannel:", "FillColor:", "Metal", "dcFillColor.type=metal"},

@@ -35,6 +35,7 @@ CChartLayout StartLayout(ChartType type) {
 constexpr bool kUnseen = false;
 const char* const kTypes = "PieChart|XYChart|FinanceChart|PolarChart|AngularMeter|LinearMeter";
 const char* const kDashes = "---------------------------------";
+const std::string kFormats = std::string(kDashes) + "|{dataSetName}|{value}|{percent}%";
 
 const Properties kRows =
     Properties{
@@ -53,13 +54,11 @@ const Properties kRows =
         {"Title", "Position:", "Use Position", "", "titles[0].usePosition=true"},
         {"DataLabel", "", "Show Label", "", "showLabel=false"},
         {"DataLabel", "", "Label:", "new", "labelFormat=new"},
-        {"DataLabel", "", "Format:", std::string(kDashes) + "|{dataSetName}|{value}|{percent}%",
-         "labelFormat={percent}%"},
+        {"DataLabel", "", "Format:", kFormats, "labelFormat={percent}%"},
         {"DataLabel", "Angle:", "", "45", "labelAngle=45", {10}},
         {"DataLabel", "Angle:", "Vertical", "", "labelVertical=true"},
         {"Legend", "", "Show Legend", "", "showLegend=false"},
-        {"Legend", "", "Format:", std::string(kDashes) + "|{dataSetName}|{value}|{percent}%",
-         "legendFormat={percent}%"},
+        {"Legend", "", "Format:", kFormats, "legendFormat={percent}%"},
         {"Legend", "", "Label:", "new", "legendFormat=new"},
         {"Legend", "", "Vertical", "", "legendVertical=true", {}, kUnseen}, // the sample has one key
         {"Legend", "Position:", "X:", "-7", "legendX=-7", {10}},
@@ -72,13 +71,9 @@ const Properties kPositionRows = {
     {"Title", "Position:", "X:", "77", "titles[0].x=77", {10}},
     {"Title", "Position:", "Y:", "33", "titles[0].y=33", {10}},
 };
-const Properties kFormatRow = {{"General",
-                                "ToolTip:",
-                                "Format:",
-                                std::string(kDashes) + "|{xLabel}:{value}",
-                                "toolTipFormat={xLabel}:{value}",
-                                {},
-                                kUnseen}};
+const std::string kTips = std::string(kDashes) + "|{xLabel}:{value}";
+const Properties kFormatRow = {
+    {"General", "ToolTip:", "Format:", kTips, "toolTipFormat={xLabel}:{value}", {}, kUnseen}};
 
 Properties CircleRows(const char* group, const std::string& path, const char* x, const char* y) {
     return {{"PlotArea", group, x, "222", path + ".centerX=222", {10}},

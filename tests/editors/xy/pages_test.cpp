@@ -44,12 +44,8 @@ Properties OtherChartRows() {
         {"Layer", "Layer Y Axis:", "Axis", "Axis 1|Axis 2", "layers[0].yAxis=1", {}, false},
     };
     for (const char quarter : {'1', '2', '3', '4'})
-        rows.push_back({"Background",
-                        "4Q Back Color:",
-                        std::string("Q") + quarter,
-                        "Metal",
-                        std::string("q") + quarter + "Color.type=metal",
-                        {},
+        rows.push_back({"Background", "4Q Back Color:", std::string("Q") + quarter, "Metal",
+                        std::string("q") + quarter + "Color.type=metal", Number(),
                         quarter == '1' || quarter == '4'}); // the others lie beyond the axes
     return rows;
 }
@@ -57,11 +53,8 @@ Properties OtherChartRows() {
 /// The pages of the first additional axis, which alone has every property.
 Properties AxisRows() {
     const auto at = [](const char* tab) { return std::string("Axis>Additional|Modify...>") + tab; };
-    const std::string general = at("General");
-    const std::string ticks = at("Tick");
-    const std::string scale = at("Scale");
-    const std::string title = at("Title");
-    const std::string label = at("Label");
+    const std::string general = at("General"), ticks = at("Tick"), scale = at("Scale"), title = at("Title"),
+                      label = at("Label"), formats = "---------------------------------|{label}|{value}|{percent}%";
     const std::string filters =
         "StartOfHour|StartOfDay|StartOfWeek|StartOfMonth|StartOfYear|RegularSpacing|AllPass|NonePass";
     Properties rows = {
@@ -105,13 +98,7 @@ Properties AxisRows() {
         {title, "Angle:", "Vertical", "", "title.vertical=true"},
         {title, "Angle:", "", "45", "title.angle=45", {10}},
         {label, "", "Label:", "{value} km", "labelFormat={value} km"},
-        {label,
-         "",
-         "Format:",
-         "---------------------------------|{label}|{value}|{percent}%",
-         "labelFormat={percent}%",
-         {},
-         false},
+        {label, "", "Format:", formats, "labelFormat={percent}%", {}, false},
         {label, "", "Angle:", "45", "labelAngle=45", {10}},
         {label, "", "Vertical", "", "labelVertical=true"},
         {label, "", "Filter 1:", filters, "filter1=7", {}, false},

@@ -42,18 +42,4 @@ TEST(Titles, StackInwardsAtTheNinePlaces) {
     }
 }
 
-TEST(Lines, LieOnWholePixels) {
-    BaseChart* base = chart();
-    CBaseChart_addLine(base, 10, 20, 60, 20, kRed, 1);
-    CBaseChart_addLine(base, 100, 30, 100, 90, kGreen, 3);
-    CBaseChart_addLine(base, 10, 150, 90, 190, 0x0000ff, 0);
-    const QImage image = of(base);
-    const QRect level = boundsOf(image, kRed);
-    EXPECT_EQS((level.height(), 1), (level.top(), 20));
-    EXPECT_NEAR(level.width(), 51, 1);
-    const QRect upright = boundsOf(image, kGreen);
-    EXPECT_EQS((upright.width(), 3), (upright.center().x(), 100));
-    EXPECT_EQ(inked(image, kWhite), level.width() + 3 * upright.height()) << "width 0 draws nothing";
-}
-
 } // namespace

@@ -160,16 +160,9 @@ private:
     }
 
     double real() {
-        static const double odd[] = {0,
-                                     -1,
-                                     1e-300,
-                                     1e18,
-                                     CHART_NO_VALUE,
-                                     -CHART_NO_VALUE,
-                                     1e308,
-                                     std::numeric_limits<double>::infinity(),
-                                     -std::numeric_limits<double>::infinity(),
-                                     std::numeric_limits<double>::quiet_NaN()};
+        using Limits = std::numeric_limits<double>;
+        constexpr double kNone = CHART_NO_VALUE, kBeyond = Limits::infinity(), kNaN = Limits::quiet_NaN();
+        static const double odd[] = {0, -1, 1e-300, 1e18, kNone, -kNone, 1e308, kBeyond, -kBeyond, kNaN};
         return below(4) == 0 ? odd[below(std::size(odd))] : static_cast<double>(below(20000)) / 100 - 50;
     }
 

@@ -14,6 +14,8 @@ constexpr double kRest = 0; // fills up to six rows without a bar
 std::vector<double> six(double first) { return {first, kGap, NAN, kRest, INFINITY, kGap}; }
 
 TEST(BarLayer, StandsOnTheBaseLineAndEndsAtItsValue) {
+    constexpr int kSide = CHART_COMBINE_SIDE, kStack = CHART_COMBINE_STACK, kShare = CHART_COMBINE_PERCENTAGE,
+                  kOver = CHART_COMBINE_OVERLAY;
     const struct {
         const char* what;
         int combine;
@@ -21,33 +23,18 @@ TEST(BarLayer, StandsOnTheBaseLineAndEndsAtItsValue) {
         std::vector<double> values; // of the first row, a data set each
         std::vector<QRect> places;  // of red, green, blue
     } rows[] = {
-        {"one", CHART_COMBINE_SIDE, 0, 100, {25}, {QRect(55, 180, 40, 50)}},
-        {"side by side", CHART_COMBINE_SIDE, 0, 100, {25, 50}, {QRect(55, 180, 20, 50), QRect(75, 130, 20, 100)}},
-        {"stack", CHART_COMBINE_STACK, 0, 100, {25, 12}, {QRect(55, 180, 40, 50), QRect(55, 156, 40, 24)}},
-        {"a gap in a stack",
-         CHART_COMBINE_STACK,
-         0,
-         100,
-         {25, kGap, 12},
-         {QRect(55, 180, 40, 50), QRect(), QRect(55, 156, 40, 24)}},
-        {"overlay", CHART_COMBINE_OVERLAY, 0, 100, {50, 25}, {QRect(55, 130, 40, 50), QRect(55, 180, 40, 50)}},
-        {"percentage", CHART_COMBINE_PERCENTAGE, 0, 200, {1, 3}, {QRect(55, 205, 40, 25), QRect(55, 130, 40, 75)}},
-        {"negative", CHART_COMBINE_SIDE, -50, 50, {-20}, {QRect(55, 131, 40, 40)}},
-        {"stacks down and up",
-         CHART_COMBINE_STACK,
-         -50,
-         50,
-         {20, -10, -15},
-         {QRect(55, 90, 40, 40), QRect(55, 131, 40, 20), QRect(55, 151, 40, 30)}},
-        {"parts of the sizes",
-         CHART_COMBINE_PERCENTAGE,
-         -100,
-         100,
-         {30, -10},
-         {QRect(55, 55, 40, 75), QRect(55, 131, 40, 25)}},
-        {"zero out of sight", CHART_COMBINE_SIDE, 20, 70, {45}, {QRect(55, 130, 40, 100)}},
-        {"past the axis", CHART_COMBINE_SIDE, 0, 100, {300}, {QRect(55, 31, 40, 199)}},
-        {"however low", CHART_COMBINE_SIDE, 0, 100, {0.01}, {QRect(55, 229, 40, 1)}},
+        {"one", kSide, 0, 100, {25}, {{55, 180, 40, 50}}},
+        {"side by side", kSide, 0, 100, {25, 50}, {{55, 180, 20, 50}, {75, 130, 20, 100}}},
+        {"stack", kStack, 0, 100, {25, 12}, {{55, 180, 40, 50}, {55, 156, 40, 24}}},
+        {"a gap in a stack", kStack, 0, 100, {25, kGap, 12}, {{55, 180, 40, 50}, {}, {55, 156, 40, 24}}},
+        {"overlay", kOver, 0, 100, {50, 25}, {{55, 130, 40, 50}, {55, 180, 40, 50}}},
+        {"percentage", kShare, 0, 200, {1, 3}, {{55, 205, 40, 25}, {55, 130, 40, 75}}},
+        {"negative", kSide, -50, 50, {-20}, {{55, 131, 40, 40}}},
+        {"down and up", kStack, -50, 50, {20, -10, -15}, {{55, 90, 40, 40}, {55, 131, 40, 20}, {55, 151, 40, 30}}},
+        {"parts of the sizes", kShare, -100, 100, {30, -10}, {{55, 55, 40, 75}, {55, 131, 40, 25}}},
+        {"zero out of sight", kSide, 20, 70, {45}, {{55, 130, 40, 100}}},
+        {"past the axis", kSide, 0, 100, {300}, {{55, 31, 40, 199}}},
+        {"however low", kSide, 0, 100, {0.01}, {{55, 229, 40, 1}}},
     };
     for (const auto& row : rows) {
         Chart chart(row.lower, row.upper);

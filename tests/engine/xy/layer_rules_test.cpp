@@ -14,29 +14,27 @@ TEST(InterLineLayer, CutsExactlyWhereTheLinesCross) {
     const std::vector<QPointF> rising = {{0, 0}, {10, 10}}, falling = {{0, 10}, {5, 5}, {10, 0}},
                                level = {{-5, 4}, {20, 4}}, broken = {{0, 2}, {4, 2}, {NAN, NAN}, {6, 2}, {8, 2}},
                                step = {{0, 0}, {5, 0}, {5, 8}, {10, 8}};
-    const std::tuple<const char*, std::vector<QPointF>, std::vector<QPointF>, std::vector<chartdraw::BetweenPiece>>
-        rows[] = {
-            {"a crossing between points",
-             rising,
-             level,
-             {{true, {{0, 0}, {4, 4}, {4, 4}, {0, 4}}}, {false, {{4, 4}, {10, 10}, {10, 4}, {4, 4}}}}},
-            {"at a point",
-             rising,
-             falling,
-             {{true, {{0, 0}, {5, 5}, {5, 5}, {0, 10}}}, {false, {{5, 5}, {10, 10}, {10, 0}, {5, 5}}}}},
-            {"gaps",
-             broken,
-             level,
-             {{true, {{0, 2}, {4, 2}, {4, 4}, {0, 4}}}, {true, {{6, 2}, {8, 2}, {8, 4}, {6, 4}}}}},
-            {"a step",
-             step,
-             level,
-             {{true, {{0, 0}, {5, 0}, {5, 4}, {0, 4}}}, {false, {{5, 8}, {10, 8}, {10, 4}, {5, 4}}}}},
-            {"the same line", rising, rising, {}},
-            {"side by side", {{0, 0}, {1, 1}}, {{2, 0}, {3, 1}}, {}},
-            {"nothing", {}, level, {}},
-            {"a point", {{3, 3}}, level, {}},
-        };
+    using Points = std::vector<QPointF>;
+    // what is crossed by what, and the pieces: whether the first is above, and their outlines
+    const std::tuple<const char*, Points, Points, std::vector<chartdraw::BetweenPiece>> rows[] = {
+        {"between points",
+         rising,
+         level,
+         {{true, {{0, 0}, {4, 4}, {4, 4}, {0, 4}}}, {false, {{4, 4}, {10, 10}, {10, 4}, {4, 4}}}}},
+        {"at a point",
+         rising,
+         falling,
+         {{true, {{0, 0}, {5, 5}, {5, 5}, {0, 10}}}, {false, {{5, 5}, {10, 10}, {10, 0}, {5, 5}}}}},
+        {"gaps", broken, level, {{true, {{0, 2}, {4, 2}, {4, 4}, {0, 4}}}, {true, {{6, 2}, {8, 2}, {8, 4}, {6, 4}}}}},
+        {"a step",
+         step,
+         level,
+         {{true, {{0, 0}, {5, 0}, {5, 4}, {0, 4}}}, {false, {{5, 8}, {10, 8}, {10, 4}, {5, 4}}}}},
+        {"the same line", rising, rising, {}},
+        {"side by side", {{0, 0}, {1, 1}}, {{2, 0}, {3, 1}}, {}},
+        {"nothing", {}, level, {}},
+        {"a point", {{3, 3}}, level, {}},
+    };
     for (const auto& [what, first, second, expected] : rows) {
         const auto pieces = chartdraw::piecesBetween(first, second, true);
         ASSERT_EQ(pieces.size(), expected.size()) << what;
