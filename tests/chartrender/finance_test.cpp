@@ -7,7 +7,6 @@
 #include <limits>
 
 namespace {
-
 using testing::Contains;
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -147,5 +146,4 @@ TEST(RenderFinance, AnswersBadDataWithoutAPicture) {
                   width == 80 ? ChartRenderResult::Ok : ChartRenderResult::NoPicture);
     }
 }
-
 } // namespace

@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 
 namespace {
-
 using recorder::Recording;
 using testing::Contains;
 
@@ -106,5 +105,4 @@ TEST(Picture, SavesItsBytesOrNothing) {
     ASSERT_TRUE(file.open(QFile::ReadOnly));
     EXPECT_EQ(file.readAll(), bytesOf(picture));
 }
-
 } // namespace

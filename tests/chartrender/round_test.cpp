@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 
 namespace {
-
 using recorder::Recording;
 using testing::Contains;
 using testing::ElementsAre;
@@ -170,5 +169,4 @@ TEST(RenderPolar, AnswersBadDataWithoutAPicture) {
         EXPECT_TRUE(picture.Empty());
     }
 }
-
 } // namespace

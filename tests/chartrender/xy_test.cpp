@@ -5,7 +5,6 @@
 #include <limits>
 
 namespace {
-
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 const double kFirst[] = {1, 2, 3}, kSecond[] = {4, kNaN, 6}, kThird[] = {7, 8, 9}, kFourth[] = {10, 11, 12};
 
@@ -168,5 +167,4 @@ TEST(RenderXY, AnswersWhatDoesNotFitWithoutAPicture) {
         EXPECT_EQS((plot.Render(picture), ChartRenderResult::BadData), (picture.Empty(), true));
     }
 }
-
 } // namespace

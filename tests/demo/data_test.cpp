@@ -2,12 +2,10 @@
 
 #include "demo/prices.h"
 #include "tests/expect.h"
-
 #include <QTemporaryDir>
 #include <algorithm>
 
 namespace {
-
 std::string Join(const std::vector<double>& values) {
     QStringList texts;
     for (const double value : values) texts += QString::number(value, 'g', 12);
@@ -34,7 +32,6 @@ std::string Read(const QByteArray& bytes) {
     }
     return shown;
 }
-
 } // namespace
 
 TEST(Data, ReadsWhatPeopleHave) {

@@ -2,7 +2,6 @@
 #include "demo/prices.h"
 #include "tests/driver/windows.h"
 #include "tests/expect.h"
-
 #include <QDragEnterEvent>
 #include <QLabel>
 #include <QListWidget>
@@ -10,7 +9,6 @@
 #include <QTemporaryDir>
 
 namespace {
-
 class Host : public testing::Test {
 protected:
     Host() {
@@ -63,7 +61,6 @@ protected:
     QLabel* m_picture = nullptr;
     QTemporaryDir m_folder;
 };
-
 } // namespace
 
 TEST_F(Host, AnEditShowsInTheFinishedChartAndACancelDoesNot) {

@@ -24,7 +24,6 @@
 #include <set>
 
 namespace audit {
-
 inline std::string Describe(const QWidget& widget) {
     return std::string(widget.metaObject()->className()) + " \"" + widget.objectName().toStdString() + '"';
 }
@@ -230,5 +229,4 @@ inline void Everything(QWidget& window) {
     BoxesAreSeen(window);
     NumbersHaveTips(window);
 }
-
 } // namespace audit

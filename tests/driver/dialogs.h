@@ -4,7 +4,6 @@
 #include "tests/driver/properties.h"
 
 namespace driver {
-
 /// A dialog, known by a name. `visit` opens it, acts in it, and leaves it and all on the way by Cancel.
 struct Dialog {
     std::string name;
@@ -125,5 +124,4 @@ inline void AtFont(double points, const std::function<void()>& act) {
     act();
     QApplication::setFont(usual);
 }
-
 } // namespace driver

@@ -3,11 +3,9 @@
 
 #include "model/fields/values.h"
 #include "tests/driver/person.h"
-
 #include <charteditors/charteditors.h>
 
 namespace driver {
-
 inline bool Show(CChartLayout& edited, const CChartLayout& /*layout*/) { return ShowChartLayoutWnd(edited); }
 inline bool Show(CXYChart& chart, const CChartLayout& layout) { return ShowXYChartWnd(chart, layout); }
 inline bool Show(CPieChart& chart, const CChartLayout& layout) { return ShowPieChartWnd(chart, layout); }
@@ -32,5 +30,4 @@ template <class Object> bool Edit(Object& object, const CChartLayout& layout, co
 template <class Object> bool Edit(Object& object, const std::function<void(Person&)>& act) {
     return Edit(object, CChartLayout(), act);
 }
-
 } // namespace driver

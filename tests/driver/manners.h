@@ -10,7 +10,6 @@
 #include <regex>
 
 namespace driver {
-
 /// OK without an edit gives the object back in every field; Cancel and Esc after edits of every row do too.
 template <class Object> void TestWaysOut(const Object& start, const CChartLayout& layout, const Properties& rows) {
     Object object(start);
@@ -100,5 +99,4 @@ void TestEditor(const char* caption, const QStringList& tabs, const Object& star
     TestSearch(start, layout, rows);
     TestAnybody(start, layout, rows);
 }
-
 } // namespace driver

@@ -3,7 +3,6 @@
 // the toolkit's own events.
 
 #include "tests/driver/windows.h"
-
 #include <QAbstractSpinBox>
 #include <QCheckBox>
 #include <QComboBox>

@@ -4,7 +4,6 @@
 // named field of the returned object has changed and no other, and the preview shows it.
 
 #include "tests/driver/editor.h"
-
 #include <QDateEdit>
 #include <cctype>
 #include <cmath>
@@ -13,7 +12,6 @@
 #include <set>
 
 namespace driver {
-
 constexpr double kNoLimit = std::numeric_limits<double>::infinity();
 
 /// What the arrows of a number do, and between which limits it stays.
@@ -243,5 +241,4 @@ template <class Object> void TestTableIsWhole(const Object& start, const CChartL
     EXPECT_EQ(found, told) << "two rows for one control";
     std::cout << told.size() << " rows in the table, " << found.size() << " controls in the dialogs\n";
 }
-
 } // namespace driver

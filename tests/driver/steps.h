@@ -4,11 +4,9 @@
 #include "tests/driver/audit.h"
 #include "tests/driver/properties.h"
 #include "tests/driver/random_person.h"
-
 #include <QClipboard>
 
 namespace driver {
-
 /// A button of the strip, by its object name: what shows on it changes.
 inline QAbstractButton& StripButton(const QWidget& window, const char* name) {
     auto* strip = window.findChild<QWidget*>(QStringLiteral("Strip"), Qt::FindDirectChildrenOnly);
@@ -197,5 +195,4 @@ template <class Object> void TestSearch(const Object& start, const CChartLayout&
         person.Cancel();
     }));
 }
-
 } // namespace driver

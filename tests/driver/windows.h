@@ -2,7 +2,6 @@
 // Windows that open while a test drives them: how they are waited for, answered and closed.
 
 #include "tests/expect.h"
-
 #include <QApplication>
 #include <QDialog>
 #include <QMessageBox>

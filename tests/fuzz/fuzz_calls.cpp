@@ -1,7 +1,6 @@
 // Whole charts from calls that the input picks, one after the other, with arguments that it picks as well.
 
 #include "tests/engine/surface/caller.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <string_view>

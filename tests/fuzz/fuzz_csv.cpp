@@ -1,5 +1,4 @@
 #include "demo/csv.h"
-
 #include <cstddef>
 #include <cstdint>
 

@@ -1,5 +1,4 @@
 #include "editors/font/font_file.h"
-
 #include <cstddef>
 #include <cstdint>
 #include <cstring>

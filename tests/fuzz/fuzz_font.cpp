@@ -1,5 +1,4 @@
 #include "engine/text/sfnt_face.h"
-
 #include <cstddef>
 #include <cstdint>
 

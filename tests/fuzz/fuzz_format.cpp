@@ -2,13 +2,11 @@
 // size is bounded by that of the format.
 
 #include "engine/scale/format.h"
-
 #include <cstdint>
 #include <cstdlib>
 #include <cstring>
 
 namespace {
-
 struct Fields final : chartdraw::FieldSource {
     double value = 0;
 
@@ -17,7 +15,6 @@ struct Fields final : chartdraw::FieldSource {
         return name == "label" ? chartdraw::FieldValue::text("text") : chartdraw::FieldValue::unknown();
     }
 };
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {

@@ -1,5 +1,4 @@
 #include "engine/paint/picture.h"
-
 #include <QtGlobal>
 #include <cstdint>
 #include <cstdlib>

@@ -1,6 +1,5 @@
 #include "engine/paint/canvas.h"
 #include "engine/text/text_block.h"
-
 #include <cstddef>
 #include <cstdint>
 

@@ -1,5 +1,4 @@
 #include "engine/text/markup.h"
-
 #include <cstddef>
 #include <cstdint>
 

@@ -6,7 +6,6 @@
 #include <string>
 
 namespace {
-
 CXYChartAxis* addAxis(CXYChart& chart, const char* format) {
     CXYChartAxis* axis = CXYChartAxisMgr::CreateAxis();
     axis->m_labelFormat = format;
@@ -53,7 +52,6 @@ std::string relations(const CXYChart& chart) {
 }
 
 const char* const related = "x2>1 y2>2 a>-1 b>-1 c>0 bar>1 gantt>2 area>-1 ";
-
 } // namespace
 
 TEST(XYChart, RelationsFollowIntoEveryCopy) {
@@ -147,7 +145,6 @@ TEST(AxisMgr, LooksAtWhatItIsAskedFor) {
 }
 
 namespace {
-
 template <class Manager> class LayerMgrTest : public testing::Test {};
 using LayerManagers = testing::Types<CXYChartLayerMgr, CPolarLayerMgr>;
 TYPED_TEST_SUITE(LayerMgrTest, LayerManagers);
@@ -164,7 +161,6 @@ template <class Manager> auto* named(int type, const char* name) {
     layer->m_name = name;
     return layer;
 }
-
 } // namespace
 
 TYPED_TEST(LayerMgrTest, KeepsLayersInOrderAndCopiesThem) {

@@ -5,7 +5,6 @@
 #include <string>
 
 namespace {
-
 CChartString& textOf(CChartString& element) { return element; }
 CChartString& textOf(CChartColor& element) { return element.m_patternFile; }
 CChartString& textOf(CPieChartSector& element) { return element.m_text; }
@@ -40,7 +39,6 @@ protected:
 
 using Containers = testing::Types<CChartStrings, CChartColors, CPieChartSectors>;
 TYPED_TEST_SUITE(ContainerTest, Containers);
-
 } // namespace
 
 TYPED_TEST(ContainerTest, StartsEmptyAndTakesNoMemory) {

@@ -8,7 +8,6 @@
 #include <stdexcept>
 
 namespace {
-
 /// Edits a layout by widening it; answers with what the test has set.
 class AnsweringDialog {
 public:
@@ -31,7 +30,6 @@ public:
 private:
     CChartLayout m_copy;
 };
-
 } // namespace
 
 TEST(Entry, WritesBackOnOkOnly) {

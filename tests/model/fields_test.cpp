@@ -12,7 +12,6 @@
 #include <sstream>
 
 namespace {
-
 std::string ReadFile(const std::filesystem::path& path) {
     std::ostringstream text;
     text << std::ifstream(path).rdbuf();
@@ -42,7 +41,6 @@ double midnight(std::chrono::year_month_day day) {
     return static_cast<int>(day.year()) * 10000.0 + static_cast<unsigned>(day.month()) * 100.0 +
            static_cast<unsigned>(day.day());
 }
-
 } // namespace
 
 TEST(Fields, AllStandInTheTables) {

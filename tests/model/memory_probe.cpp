@@ -2,20 +2,16 @@
 #include <cstdlib>
 
 namespace {
-
 long s_allocations = 0;
 long s_left = -1; // allocations until one fails; less than 0: none does
-
 } // namespace
 
 namespace model_test {
-
 long allocations() { return s_allocations; }
 
 MemoryLimit::MemoryLimit(long granted) { s_left = granted; }
 
 MemoryLimit::~MemoryLimit() { s_left = -1; }
-
 } // namespace model_test
 
 void* operator new(std::size_t size) {

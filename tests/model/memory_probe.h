@@ -3,12 +3,10 @@
 // The program's own operator new: it counts, and can run out of memory at a chosen allocation.
 
 #include "tests/expect.h"
-
 #include <exception>
 #include <new>
 
 namespace model_test {
-
 long allocations();
 
 /// Lets the allocation after the next `granted` ones fail, as long as it lives.
@@ -33,5 +31,4 @@ template <class Action, class Check> int failEachAllocation(Action action, Check
         check();
     }
 }
-
 } // namespace model_test

@@ -9,7 +9,6 @@
 #include <string>
 
 namespace models {
-
 using model::Words;
 
 /// Calls `visit(value, words)` for each value below `value` that it takes; `visit.Grow(list)` comes before
@@ -137,5 +136,4 @@ private:
 
     std::mt19937 m_random;
 };
-
 } // namespace models

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 namespace {
-
 using model::Change;
 
 template <class Object> class PlacesTest : public testing::Test {};
@@ -52,5 +51,4 @@ TEST(Changes, AreToldAsAPersonWouldTellThem) {
     EXPECT_EQ(model::Changes(model::PlacesOf(pie), model::PlacesOf(longer)),
               (std::vector<Change>{{"depth3D", "1", "5"}, {"sectors", "0", "1"}}));
 }
-
 } // namespace

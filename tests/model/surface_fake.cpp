@@ -3,11 +3,9 @@
 #include <sstream>
 
 namespace model_test {
-
 std::vector<std::string> surfaceCalls;
 
 namespace {
-
 template <class... Arguments> void record(const char* name, const Arguments&... arguments) {
     std::ostringstream call;
     call << name << '(';
@@ -16,12 +14,10 @@ template <class... Arguments> void record(const char* name, const Arguments&... 
     call << ')';
     surfaceCalls.push_back(call.str());
 }
-
 } // namespace
 } // namespace model_test
 
 extern "C" {
-
 int CBaseChart_patternColor2(BaseChart*, const char* imageFile, int startX, int startY) {
     model_test::record("patternColor2", imageFile, startX, startY);
     return 71;
@@ -50,5 +46,4 @@ int CChart_encodeFilter(int type, int labelStep, double initialMargin) {
 double CChart_chartTime(int year, int month, int day, int hour, int minute, int second) {
     return year * 10000.0 + month * 100.0 + day + (hour + minute + second) / 1000.0;
 }
-
 } // extern "C"

@@ -6,10 +6,8 @@
 #include <vector>
 
 namespace model_test {
-
 extern std::vector<std::string> surfaceCalls;
 
 /// What the fake gives for a filter that nothing passes.
 constexpr int encodedNonePass = 8000;
-
 } // namespace model_test

@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 
 namespace {
-
 CChartString text(const char* bytes) {
     CChartString string;
     string = bytes;
@@ -16,7 +15,6 @@ std::string bytesOf(const CChartString& string) {
     EXPECT_EQS((string.data()[string.size()], '\0'), (string.empty(), string.size() == 0));
     return {string.data(), string.size()};
 }
-
 } // namespace
 
 TEST(ChartString, HoldsWhatItIsGiven) {

@@ -5,9 +5,7 @@ using platform::NarrowToUtf8;
 using platform::Utf8ToNarrow;
 
 namespace {
-
 const char* const replacement = "\xEF\xBF\xBD";
-
 } // namespace
 
 TEST(NarrowText, BecomesUtf8) {

@@ -1,12 +1,10 @@
 #include "platform/rounding.h"
-
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 #include <tuple>
 
 namespace {
-
 TEST(RoundTo, RoundsHalfAwayFromZeroAndWraps) {
     constexpr double kInfinity = std::numeric_limits<double>::infinity();
     // Worked by hand: sign * trunc(|v| * 10^d + 0.5), taken as 32 bits with a sign, / 10^d.
@@ -36,5 +34,4 @@ TEST(RoundTo, RoundsHalfAwayFromZeroAndWraps) {
         EXPECT_FALSE(std::signbit(RoundTo(value, digits)) && rounded == 0) << value;
     }
 }
-
 } // namespace

@@ -7,9 +7,7 @@
 #include <utility>
 
 namespace recorder {
-
 namespace {
-
 struct Name {
     std::string shown;
     const void* root; // what was created by itself, and ends this handle with it
@@ -34,7 +32,6 @@ const void* rootOf(const void* handle) {
         std::find_if(names.begin(), names.end(), [&](const auto& entry) { return entry.first.second == handle; });
     return known == names.end() ? handle : known->second.root;
 }
-
 } // namespace
 
 Recording::Recording() {
@@ -102,5 +99,4 @@ void forget(const void* handle) {
     std::erase_if(
         log().names, [root = rootOf(handle)](const auto& entry) { return entry.second.root == root; });
 }
-
 } // namespace recorder

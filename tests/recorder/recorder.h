@@ -12,7 +12,6 @@
 #include <vector>
 
 namespace recorder {
-
 extern const int operationCount;
 
 /// Writes down the calls of this thread while it lives; recordings do not nest. Handles are numbered from the
@@ -29,5 +28,4 @@ public:
     /// Forgets the calls so far; handles keep their numbers.
     void Clear();
 };
-
 } // namespace recorder

@@ -10,7 +10,6 @@
 #endif
 
 namespace recorder {
-
 extern const int operationCount;
 
 /// One running operation: the outermost one is written down, those that the library itself calls are not.
@@ -53,5 +52,4 @@ template <typename Function> Function real(const char* name) {
     return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
 #endif
 }
-
 } // namespace recorder

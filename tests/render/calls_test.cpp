@@ -12,7 +12,6 @@
 #include <gmock/gmock.h>
 
 namespace {
-
 TEST_P(Calls, FollowFromTheModel) {
     PreviewFake view;
     for (CXYChartAxis* axis : {&view.m_ownXYChart.m_xAxis, &view.m_ownXYChart.m_yAxis}) {
@@ -268,5 +267,4 @@ CXYChart_addLineLayer(XYChart#3, [130], 255, "Momentum (12)", 0))-";
     EXPECT_EQ(found, std::regex_replace(wanted.substr(1), std::regex("; "), "\n"));
     EXPECT_EQS((view.m_pictureWidth, 321), (view.m_pictureHeight, 65 + 211 + 71 + 71));
 }
-
 } // namespace

@@ -13,7 +13,6 @@
 #include <numeric>
 
 namespace {
-
 int rounds() { return std::max(80, qEnvironmentVariableIntValue("CHART_RANDOM_MODELS")); }
 
 template <class Model>
@@ -79,5 +78,4 @@ TEST(Random, PricesAreDrawn) {
     }
     EXPECT_GT(pictures, rounds() / 4);
 }
-
 } // namespace

@@ -8,7 +8,6 @@
 #include <gmock/gmock.h>
 
 namespace {
-
 TEST(ColorSample, ShowsAGeneralColourOverAChequerBoardAndAPatternOverBlack) {
     PreviewFake view;
     view.m_sampleColor.m_color = 0x800000ff; // half transparent blue
@@ -109,5 +108,4 @@ TEST(Utf8Text, KeepsNullEmptyAndAsciiAndMakesGoodUtf8) {
     EXPECT_STREQ(CUtf8Text("\xed\x95\x9c"), "\xed\x95\x9c");
     EXPECT_STREQ(CUtf8Text("a\xff"), "a\xef\xbf\xbd");
 }
-
 } // namespace

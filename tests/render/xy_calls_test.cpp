@@ -5,7 +5,6 @@
 #include "tests/render/calls.h"
 
 namespace {
-
 CXYChartAxis& addAxis(CXYChart& chart) {
     CXYChartAxis* axis = CXYChartAxisMgr::CreateAxis();
     chart.m_axes.AddAxis(axis);
@@ -305,5 +304,4 @@ CXYChart_yAxis2(XYChart#1); CLayer_setUseYAxis(Layer#1, Axis#4); ...CLayer_setUs
 };
 
 INSTANTIATE_TEST_SUITE_P(XY, Calls, testing::ValuesIn(cases), kNameOfCase);
-
 } // namespace

@@ -9,7 +9,6 @@
 #include <sstream>
 
 namespace {
-
 std::string Text(const CChartStyleText& text) { return {text.Data(), text.Size()}; }
 
 template <class Chart>
@@ -34,7 +33,6 @@ TYPED_TEST_SUITE(RoundTrip, Charts);
 const char* const kPie = R"({"chartStyle": 1, "kind": "pie",
  "chart": {"depth3D": 7,
   "sectors": [{"text": "a"}, {"text": "b", "color": {"color": "0x80112233"}}]}})";
-
 } // namespace
 
 TYPED_TEST(RoundTrip, GivesEveryFieldBack) {

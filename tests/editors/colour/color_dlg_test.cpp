@@ -4,12 +4,10 @@
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/numeric_edit.h"
 #include "tests/driver/person.h"
-
 #include <QAbstractButton>
 #include <QClipboard>
 
 namespace {
-
 class ColorDlg : public WidgetTest {
 protected:
     ColorDlg() {
@@ -50,7 +48,6 @@ protected:
 
     CColorDlg m_dialog;
 };
-
 } // namespace
 
 TEST_F(ColorDlg, ShowsEachTypeAndChangesNothingByItself) {

@@ -3,10 +3,8 @@
 #include "tests/expect.h"
 
 namespace {
-
 constexpr GridShape kPalette{.columns = 8, .rows = 5};
 constexpr GridShape kCustom{.columns = 3, .rows = 6};
-
 } // namespace
 
 TEST(GridGeometry, CellsAreCutToWholePixels) {

@@ -2,11 +2,9 @@
 #include "editors/colour/swatch_grids.h"
 #include "platform/widgets/field_changed.h"
 #include "tests/driver/windows.h"
-
 #include <algorithm>
 
 namespace {
-
 class MessageLog : public QWidget {
 public:
     std::vector<int> m_keys;
@@ -45,7 +43,6 @@ protected:
     CColorPaletteCtrl m_palette{&m_log};
     CCustomColorCtrl m_custom{&m_log};
 };
-
 } // namespace
 
 TEST_F(Grids, PaletteTellsOfNewChoicesOnly) {

@@ -1,6 +1,5 @@
 #include "editors/colour/hsl.h"
 #include "tests/expect.h"
-
 #include <cstdlib>
 
 TEST(Hsl, IsOnTheScaleTo240) {

@@ -2,7 +2,6 @@
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/dialog.h"
 #include "tests/driver/person.h"
-
 #include <QDir>
 #include <QFile>
 #include <QImage>
@@ -10,7 +9,6 @@
 #include <QTemporaryDir>
 
 namespace {
-
 class ImageFileDlg : public WidgetTest {
 protected:
     ImageFileDlg() {
@@ -32,7 +30,6 @@ protected:
     QTemporaryDir m_folder;
     CImageFileDlg m_dialog;
 };
-
 } // namespace
 
 TEST_F(ImageFileDlg, OffersTheKindsOfImages) {

@@ -3,7 +3,6 @@
 #include "tests/driver/person.h"
 
 namespace {
-
 /// A parent that keeps what the spectrum sends: 'c' and 'e' for the two messages, and the colour.
 class SpectrumLog : public QWidget {
 public:
@@ -55,7 +54,6 @@ protected:
     QLineEdit m_after{&m_log};
     std::unique_ptr<XColorSpectrumCtrl> m_control;
 };
-
 } // namespace
 
 TEST_F(Spectrum, FollowsTheMouse) {

@@ -3,7 +3,6 @@
 using namespace driver;
 
 namespace {
-
 std::vector<int> OrderOf(const CFinanceChart& chart) { return {std::begin(chart.m_order), std::end(chart.m_order)}; }
 
 struct Order {
@@ -85,5 +84,4 @@ TEST(FinanceOrder, WhatIsNoPaneHasNoRowAndKeepsItsPlace) {
     }));
     EXPECT_EQ(OrderOf(chart), std::vector({7, 0, -1, 1, 4}));
 }
-
 } // namespace

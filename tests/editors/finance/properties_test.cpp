@@ -3,7 +3,6 @@
 using namespace driver;
 
 namespace {
-
 CFinanceChart StartChart() {
     CFinanceChart chart;
     for (bool* show : {&chart.m_showSma, &chart.m_showBollingerBand, &chart.m_showVolBars, &chart.m_showCandleStick,
@@ -72,7 +71,6 @@ const Properties kTable = {
     {"MACD", "", "Signal:", "Metal", "macdSignalColor.type=metal"},
     {"MACD", "", "Divergent:", "Metal", "macdDivergentColor.type=metal"},
 };
-
 } // namespace
 
 TEST(FinanceEditor, EachControlReachesItsField) {

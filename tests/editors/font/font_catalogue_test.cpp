@@ -1,12 +1,10 @@
 #include "editors/font/font_catalogue.h"
 #include "tests/editors/font/font_builder.h"
-
 #include <QDir>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
 namespace {
-
 class FontCatalogue : public testing::Test {
 protected:
     FontCatalogue() { g_fontCatalogueLoaded = false; }
@@ -26,7 +24,6 @@ protected:
     Environment m_system{"XDG_DATA_DIRS", (m_root.filePath("one") + ':' + m_root.filePath("two")).toUtf8()};
     Environment m_locale{"LC_ALL", "C.UTF-8"};
 };
-
 } // namespace
 
 TEST_F(FontCatalogue, FindsFontsInAllSubfolders) {

@@ -2,11 +2,9 @@
 #include "editors/font/font_dlg.h"
 #include "editors/preview/chart_preview_view.h"
 #include "tests/driver/person.h"
-
 #include <QAbstractButton>
 
 namespace {
-
 class FontDlg : public WidgetTest {
 protected:
     FontDlg() {
@@ -55,7 +53,6 @@ protected:
 
     CFontDlg m_dialog;
 };
-
 } // namespace
 
 TEST_F(FontDlg, ShowsTheFontItIsGiven) {

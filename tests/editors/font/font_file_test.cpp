@@ -1,11 +1,9 @@
 #include "editors/font/font_file.h"
 #include "tests/editors/font/font_builder.h"
 #include "tests/expect.h"
-
 #include <QTemporaryDir>
 
 namespace {
-
 constexpr int kKorean = 1042;
 constexpr int kJapanese = 1041;
 const QString kHangul = QStringLiteral("\uB098\uB214");
@@ -24,7 +22,6 @@ protected:
     QTemporaryDir m_folder;
     QString m_path = m_folder.filePath("font.ttf");
 };
-
 } // namespace
 
 TEST_F(FontFile, LanguageFollowsTheLocale) {

@@ -1,7 +1,6 @@
 #include "tests/editors/framework/test_editor.h"
 
 namespace {
-
 using Choices = EditorTest;
 using Texts = EditorTest;
 
@@ -102,5 +101,4 @@ TEST_F(Texts, TheFormatThatBeginsWithTheTextIsSelectedAtFirst) {
         EXPECT_EQ(Person(other).Find<QComboBox>("Format").currentIndex(), row) << text;
     }
 }
-
 } // namespace

@@ -1,11 +1,9 @@
 // Whatever takes the focus away from an edit acts only after the edit has committed, and not at all if it cannot.
 
 #include "tests/editors/framework/test_editor.h"
-
 #include <QAccessible>
 
 namespace {
-
 class Commits : public EditorTest {
 protected:
     void OpenItemsWithBadX() {
@@ -104,5 +102,4 @@ TEST_F(Commits, AScreenReadersToggleReachesTheModel) {
     ScreenReader(person.Find("On"), QAccessibleActionInterface::toggleAction());
     EXPECT_EQS((values.m_on, false), (editor.Told(), 1));
 }
-
 } // namespace

@@ -2,7 +2,6 @@
 #include "tests/expect.h"
 
 namespace {
-
 TEST(Codes, OfAlignmentsAndSidesGoToRowsAndBack) {
     const int alignments[] = {7, 8, 9, 4, 5, 6, 1, 2, 3, 10, 11, 12, 13};
     for (int row = 0; row < 13; ++row)
@@ -20,5 +19,4 @@ TEST(FirstLineOf, CutsTextsAtTheirFirstBreak) {
                (FirstLineOf("one\r\ntwo"), "one..."), (FirstLineOf("one\rtwo"), "one..."), (FirstLineOf("\n"), "..."),
                (FromEditText("a\r\nb\nc\rd"), "a\nb\nc\rd"));
 }
-
 } // namespace

@@ -1,7 +1,6 @@
 #include "tests/editors/framework/test_editor.h"
 
 namespace {
-
 using Dialogs = EditorTest;
 
 TEST_F(Dialogs, OpenOnTheFirstPageWithTheFocusOnTheDialog) {
@@ -137,5 +136,4 @@ TEST_F(Dialogs, AChangeMarksThePreviewAndThePaintDrawsOnce) {
     editor.m_preview.grab();
     EXPECT_FALSE(editor.m_preview.m_dirty);
 }
-
 } // namespace

@@ -1,10 +1,8 @@
 #include "platform/widgets/simple_combo.h"
 #include "tests/editors/framework/test_editor.h"
-
 #include <climits>
 
 namespace {
-
 class CFieldsPage : public CDialog {
 public:
     explicit CFieldsPage(QWidget& owner) : m_form(*this, owner) {
@@ -179,5 +177,4 @@ TEST_F(Fields, OfAListGoToTheSelectedItem) {
     Answer(*person.Find("FontColor").findChild<QPushButton*>(), Qt::Key_Return);
     EXPECT_EQS((editor.Told(), 1), (editor.Titles()[1].m_effect.m_value, 1));
 }
-
 } // namespace

@@ -2,7 +2,6 @@
 #include "tests/editors/framework/test_editor.h"
 
 namespace {
-
 class Lists : public EditorTest {
 protected:
     void OpenWith(std::initializer_list<const char*> texts) {
@@ -109,5 +108,4 @@ TEST_F(Lists, TheDeleteKeyDeletesTheRow) {
     QTest::keyClick(&person.List("Titles"), Qt::Key_Delete);
     EXPECT_EQS((Rows(), QStringList{"Title 1 ( b )"}), (titles.size(), 1), (editor.Told(), 1));
 }
-
 } // namespace

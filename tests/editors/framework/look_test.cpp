@@ -1,7 +1,6 @@
 #include "tests/editors/framework/test_editor.h"
 
 namespace {
-
 TEST_F(EditorTest, LettersAndLabelsLeadToTheirControls) {
     Open();
     for (const QLabel* label : editor.m_valuesPage.findChildren<QLabel*>()) {
@@ -18,5 +17,4 @@ TEST_F(EditorTest, LettersAndLabelsLeadToTheirControls) {
     QTest::keyClick(&editor, tab[tab.indexOf(u'&') + 1].toLower().toLatin1(), Qt::AltModifier);
     EXPECT_TRUE(editor.m_itemsPage.isVisible());
 }
-
 } // namespace

@@ -1,10 +1,8 @@
 #include "editors/layout/size_pages.h"
 #include "tests/editors/framework/test_editor.h"
-
 #include <cmath>
 
 namespace {
-
 using Numbers = EditorTest;
 
 struct Typed {
@@ -186,5 +184,4 @@ TEST_F(Numbers, ValuesThatNoControlCanShowAreShownAsZero) {
     person.Click("On"); // the page can be read
     EXPECT_EQS((editor.Told(), 1), (std::isnan(values.m_real), true));
 }
-
 } // namespace

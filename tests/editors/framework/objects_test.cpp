@@ -1,13 +1,10 @@
 // Lists of objects that are edited in a dialog of their own, and rows that follow more than one value.
 
-#include "tests/editors/framework/test_editor.h"
-
 #include "platform/widgets/simple_combo.h"
-
+#include "tests/editors/framework/test_editor.h"
 #include <QDateEdit>
 
 namespace {
-
 struct Object {
     CChartString m_name;
     std::int32_t m_size = 1;
@@ -177,5 +174,4 @@ TEST_F(Objects, AreShownAnewWhenTheDialogIsOpenedAgain) {
     EXPECT_EQ(person.Find<QComboBox>("Row").count(), 2);
     EXPECT_EQ(person.Find<QDateEdit>("Day").date(), QDate(2030, 1, 2));
 }
-
 } // namespace

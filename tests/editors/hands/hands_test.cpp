@@ -6,7 +6,6 @@
 using namespace pie_test;
 
 namespace {
-
 /// Runs the editor on a pie of two sectors and a window manager beside it; it ends with OK.
 void WithEditor(CPieChart& pie, const std::function<void(Person&)>& act) {
     NeedApplication();
@@ -82,5 +81,4 @@ TEST(Hands, ALetterKeepsWhatWasTyped) {
     EXPECT_STREQ(pie.m_sectors[0].m_text.data(), "typed");
     EXPECT_EQS((pie.m_sectors[0].m_distance, 33), (pie.m_depth3D, 21));
 }
-
 } // namespace

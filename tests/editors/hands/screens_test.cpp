@@ -3,11 +3,9 @@
 #include "tests/driver/audit.h"
 #include "tests/driver/dialogs.h"
 #include "tests/driver/real_hand.h"
-
 #include <QScreen>
 
 namespace {
-
 using namespace driver;
 
 void Look(const Person& person, const Dialog& dialog, double points) {
@@ -64,5 +62,4 @@ TEST(Screens, KeepTheSizeThatAPersonGave) {
         person.Cancel();
     }));
 }
-
 } // namespace

@@ -5,7 +5,6 @@
 using namespace driver;
 
 namespace {
-
 enum ChartType { Pie, XY, Finance, Polar, Angular, Linear };
 
 CChartLayout StartLayout(ChartType type) {
@@ -101,7 +100,6 @@ const std::pair<ChartType, Properties> kPlotAreas[] = {
                  Properties{{"PlotArea", "Linear Meter:", "AxisPos:", kSides, "linearPlotArea.axisPos=bottom"},
                             {"PlotArea", "Linear Meter:", "Reverse", "", "linearPlotArea.reverse=true"}}},
 };
-
 } // namespace
 
 TEST(LayoutEditor, EachControlReachesItsField) {

@@ -2,7 +2,6 @@
 // on what has the focus.
 
 #include "tests/driver/dialogs.h"
-
 #include <QHelpEvent>
 #include <QToolTip>
 

@@ -6,7 +6,6 @@
 using namespace driver;
 
 namespace {
-
 struct Setting {
     double points;
     bool dark;
@@ -54,5 +53,4 @@ TEST_P(Looks, OfEveryDialogAreWhole) {
                 });
         });
 }
-
 } // namespace

@@ -5,7 +5,6 @@
 using namespace driver;
 
 namespace {
-
 template <class Styled> void GiveLook(Styled& styled) {
     styled.m_fontColor.m_color = 0x993300;
     styled.m_backColor.m_color = 0x99CCFF;
@@ -130,7 +129,6 @@ void AddOn(const Person& person, const char* tab, const char* list, const char* 
     person.Click("Add");
     EXPECT_EQ(person.Rows(list), QStringList({row}));
 }
-
 } // namespace
 
 TEST(AngularMeterEditor, EachControlReachesItsField) {

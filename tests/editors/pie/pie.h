@@ -3,7 +3,6 @@
 #include "tests/driver/editor.h"
 
 namespace pie_test {
-
 using driver::Difference;
 using driver::Edit;
 
@@ -42,5 +41,4 @@ inline CPieChart UnusualPie() {
     pie.m_sectors[1].m_distance = 30;
     return pie;
 }
-
 } // namespace pie_test

@@ -4,7 +4,6 @@
 using namespace driver;
 
 namespace {
-
 CPieChart StartPie() {
     CPieChart pie = pie_test::PieOf({"one", "two", "three"});
     for (int i = 0; i < 3; ++i) pie.m_sectors[i].m_color.m_color = 0x3366CCU << i;
@@ -40,7 +39,6 @@ const Properties kRows = {
     {"", "Sector:", "Distance:", "47", "sectors[0].distance=47", {10, 0}},
     {"", "Sector:", "Color:", "Metal", "sectors[0].color.type=metal"},
 };
-
 } // namespace
 
 TEST(PieProperties, EachControlReachesItsField) {

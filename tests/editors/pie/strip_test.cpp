@@ -3,7 +3,6 @@
 
 #include "tests/driver/steps.h"
 #include "tests/editors/pie/pie.h"
-
 #include <QMenu>
 #include <QPainter>
 #include <QScrollArea>
@@ -11,7 +10,6 @@
 #include <array>
 
 namespace {
-
 using driver::Edit;
 using driver::StripButton;
 using pie_test::PieOf;
@@ -58,7 +56,6 @@ void WithPie(const std::function<void(Person&)>& act) {
         person.Cancel();
     }));
 }
-
 } // namespace
 
 TEST(PieStrip, AnArrowThatIsHeldIsOneStep) {

@@ -1,6 +1,5 @@
 #include "tests/editors/pie/pie.h"
 #include "tests/own_process.h"
-
 #include <QGuiApplication>
 
 using namespace pie_test;

@@ -5,7 +5,6 @@
 using namespace driver;
 
 namespace {
-
 /// A chart that shows nearly every property: either the scale and alternating backgrounds, or labels.
 CPolarChart StartPolar(bool labels) {
     CPolarChart chart;
@@ -113,7 +112,6 @@ const Properties kLabelRows = PlainLetters(
     ColorRows(kAlong, "Font:", "radialLabelStyle.", {"fontColor"}) + EffectRows(kAlong, "radialLabelStyle.") +
     ColorRows(kAlong, "", "radialLabelStyle.", {"backColor", "edgeColor"}) +
     ZoneRows("Zone (Angular)", "angularZones[0]", true) + ZoneRows("Zone (Radial)", "radialZones[0]", false));
-
 } // namespace
 
 TEST(PolarEditor, EachControlReachesItsField) {

@@ -8,7 +8,6 @@
 #include <malloc.h>
 
 namespace {
-
 using recorder::Recording;
 
 TEST(Refresh, DrawsOnceAtTheNextPaintAndForANewSize) {
@@ -99,5 +98,4 @@ TEST(Views, WithNothingToDrawPaintNothing) {
     }
     EXPECT_TRUE(recording.Lines().empty());
 }
-
 } // namespace

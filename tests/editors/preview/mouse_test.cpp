@@ -10,7 +10,6 @@
 #include <QWindow>
 
 namespace {
-
 void mouse(void (*act)(QWindow*, Qt::MouseButton, Qt::KeyboardModifiers, QPoint, int), TestView& view,
            Qt::MouseButton button, QPoint place) {
     act(view.windowHandle(), button, {}, view.viewport()->pos() + place, -1);
@@ -90,5 +89,4 @@ TEST(Mouse, DragMovesThePictureWithinItsRange) {
     EXPECT_EQ(view.Scroll(), view.ScrollRange());
     EXPECT_TRUE(recording.Lines().empty()) << recording.Lines()[0]; // all of it comes from the one picture
 }
-
 } // namespace

@@ -8,7 +8,6 @@
 #include <QScrollBar>
 
 namespace {
-
 struct FitCase {
     QSize pane;
     QSize picture;
@@ -168,5 +167,4 @@ TEST(ScreenScale, DrawsInThePixelsOfTheScreen) {
     EXPECT_EQ(edgeWidth(), qRound(scale));
     EXPECT_EQ(view.ScrollRange(), QPoint(100, 0)) << "in numbers of the layout";
 }
-
 } // namespace

@@ -3,7 +3,6 @@
 #include <QTemporaryDir>
 
 namespace {
-
 [[maybe_unused]] const bool s_application = (NeedApplication(), true); // before any widget
 
 QString codedImage(QSize size) {
@@ -15,7 +14,6 @@ QString codedImage(QSize size) {
     image.save(path);
     return path;
 }
-
 } // namespace
 
 CChartLayout codedLayout(QSize picture) {

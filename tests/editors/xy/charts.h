@@ -3,7 +3,6 @@
 #include "tests/driver/manners.h"
 
 namespace xy_test {
-
 inline void GiveLook(CXYChartAxis& axis) {
     axis.m_title.m_show = true;
     axis.m_title.m_text = "Revenue";
@@ -44,5 +43,4 @@ inline CXYChart ChartOf(int layerType) {
     chart.m_useBackground = true;
     return chart;
 }
-
 } // namespace xy_test

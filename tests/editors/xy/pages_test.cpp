@@ -6,7 +6,6 @@ using namespace driver;
 using namespace xy_test;
 
 namespace {
-
 Properties GridRows(const char* group, const std::string& prefix) {
     const std::string tab = "General";
     Properties rows;
@@ -228,7 +227,6 @@ CXYChart ChartOfKind(int type) {
     if (auto* gantt = dynamic_cast<CXYGanttLayer*>(layer)) gantt->m_groups.push_back(CBoxGroup());
     return chart;
 }
-
 } // namespace
 
 TEST(XYEditor, EachControlReachesItsField) {

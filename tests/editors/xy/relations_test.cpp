@@ -1,13 +1,11 @@
 // Axes and layers name each other: what the editor shows of that, and what is left when one of them goes.
 
 #include "tests/editors/xy/charts.h"
-
 #include <variant>
 
 using namespace driver;
 
 namespace {
-
 /// What X2, Y2, each additional axis (by its offset) and each layer (by name and kind) follow: a kind, for 16 with the
 /// row of the axis.
 std::string Ties(const CXYChart& chart) {
@@ -57,7 +55,6 @@ void InLayer(const Person& person, const char* button, std::initializer_list<int
 }
 
 int AxisShown(const Person& person) { return person.Find<QComboBox>("Axis").currentIndex(); }
-
 } // namespace
 
 TEST(XYRelations, HoldWhateverIsAddedMovedAndDeleted) {

@@ -4,13 +4,11 @@
 #include "engine/axis/axis_layout.h"
 #include "engine/chart/chart.h"
 #include "tests/expect.h"
-
 #include <ostream>
 #include <string>
 #include <vector>
 
 namespace chartdraw {
-
 class BareChart : public Chart {
 public:
     BareChart() : Chart(Kind::BaseChart, 400, 300, kBackgroundColour, kTransparent, 0) {}
@@ -64,7 +62,6 @@ inline AxisRequest ofRows(int count, int first = 0) {
     request.firstRow = first;
     return request;
 }
-
 } // namespace chartdraw
 
 inline std::ostream& operator<<(std::ostream& out, const QRectF& rect) {

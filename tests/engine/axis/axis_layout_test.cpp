@@ -1,12 +1,10 @@
 #include "engine/data/label_filter.h"
 #include "tests/engine/axis/axis_fixture.h"
-
 #include <algorithm>
 #include <cmath>
 
 namespace chartdraw {
 namespace {
-
 using Type = ScaleSettings::Type;
 
 class AxisLayoutTest : public testing::Test {
@@ -196,6 +194,5 @@ TEST_F(AxisLayoutTest, LinesGrowOutwardsAndTicksCoverTheirPixels) {
     EXPECT_EQS((at(101, 150), 0xffffffu), (at(100, 49), 0xffffffu), (at(100, 251), 0xffffffu),
                (at(98, 100), 0xffffffu));
 }
-
 } // namespace
 } // namespace chartdraw

@@ -2,7 +2,6 @@
 
 namespace chartdraw {
 namespace {
-
 TEST(AxisMap, PutsValuesOnPixels) {
     const AxisMap up(Scale::linear(0, 100), 250, 50); // 2 pixels a unit, upwards
     EXPECT_DOUBLE_EQ(up.pixel(25), 200);
@@ -57,6 +56,5 @@ TEST(AxisPlace, TakesMarginsOffTheEnds) {
         EXPECT_EQ(place.upper, upper) << side << ' ' << top;
     }
 }
-
 } // namespace
 } // namespace chartdraw

@@ -3,12 +3,10 @@
 #include "engine/data/chart_time.h"
 #include "engine/data/label_filter.h"
 #include "tests/engine/axis/axis_fixture.h"
-
 #include <cmath>
 
 namespace chartdraw {
 namespace {
-
 using Texts = std::vector<std::string>;
 using Pixels = std::vector<int>;
 using Type = ScaleSettings::Type;
@@ -204,6 +202,5 @@ TEST_F(AxisPlanTest, HostileNumbersGiveAPlanAtOnce) {
         }
     }
 }
-
 } // namespace
 } // namespace chartdraw

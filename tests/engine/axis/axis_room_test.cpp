@@ -1,13 +1,11 @@
 // What an axis does where its labels, marks or title have little room: all stay in the picture, and none lies
 // over another.
 
-#include "tests/engine/axis/axis_fixture.h"
-
 #include "engine/text/alignment.h"
+#include "tests/engine/axis/axis_fixture.h"
 
 namespace chartdraw {
 namespace {
-
 class AxisRoomTest : public testing::Test {
 protected:
     /// An axis at the left of the picture with this many pixels for its labels.
@@ -85,6 +83,5 @@ TEST_F(AxisRoomTest, ALongTitleIsBrokenBesideTheAxis) {
     EXPECT_LE(below.title->box().width(), 301);
     EXPECT_LE(beside.title->box().height(), 201);
 }
-
 } // namespace
 } // namespace chartdraw

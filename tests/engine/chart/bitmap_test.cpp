@@ -1,7 +1,6 @@
 // The finished picture as bytes, when it is made anew, and the area of its pixels.
 
 #include "tests/engine/chart/picture.h"
-
 #include <QTemporaryDir>
 #include <cmath>
 #include <cstring>
@@ -11,7 +10,6 @@
 #include <vector>
 
 namespace {
-
 using namespace pictures;
 
 PieChart* pie(int width, int height) {
@@ -115,5 +113,4 @@ TEST(Bitmap, IsDrawnAtAScaleWithCrispLines) {
         EXPECT_FALSE(Bytes(chart, format).made) << format;
     CBaseChart_destroy(chart);
 }
-
 } // namespace

@@ -2,12 +2,10 @@
 
 #include "engine/pie/pie_chart.h"
 #include "tests/engine/chart/picture.h"
-
 #include <gmock/gmock.h>
 #include <vector>
 
 namespace {
-
 using namespace pictures;
 
 constexpr int kEdge = 0x123456;
@@ -126,5 +124,4 @@ TEST(Legend, HasAGroundOfItsOwnOnData) {
         CBaseChart_destroy(PieChart2BaseChart(child));
     }
 }
-
 } // namespace

@@ -2,11 +2,9 @@
 // A chart's picture for tests: made through the flat surface, looked at by pixel and by colour.
 
 #include "tests/expect.h"
-
-#include <chartdraw/surface.h>
-
 #include <QImage>
 #include <QRect>
+#include <chartdraw/surface.h>
 #include <ostream>
 
 inline std::ostream& operator<<(std::ostream& out, const QRect& rect) {
@@ -14,7 +12,6 @@ inline std::ostream& operator<<(std::ostream& out, const QRect& rect) {
 }
 
 namespace pictures {
-
 constexpr int kNone = CHART_TRANSPARENT;
 constexpr int kWhite = 0xffffff, kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff;
 
@@ -70,5 +67,4 @@ inline int inked(const QImage& image, int background) {
         for (int x = 0; x < image.width(); ++x) count += at(image, x, y) != background ? 1 : 0;
     return count;
 }
-
 } // namespace pictures

@@ -2,14 +2,12 @@
 // Looking at round charts: pixels by angle and distance, and patches of ink as boxes.
 
 #include "tests/engine/chart/picture.h"
-
 #include <cmath>
 #include <numbers>
 #include <string>
 #include <vector>
 
 namespace pictures {
-
 /// The pixel at an angle (degrees clockwise from the top) and a distance from the middle of a pixel.
 inline QPoint roundPoint(QPoint centre, double degrees, double distance) {
     const double angle = degrees * std::numbers::pi / 180;
@@ -82,5 +80,4 @@ inline std::vector<QRect> boxesApart(const QImage& image, const std::string& wha
     }
     return boxes;
 }
-
 } // namespace pictures

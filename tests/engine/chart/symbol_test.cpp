@@ -1,14 +1,12 @@
 // Symbols that are written straight into the image, beside the painter's.
 
 #include "engine/chart/data_symbol.h"
-
 #include <QColor>
 #include <gtest/gtest.h>
 #include <random>
 
 namespace chartdraw {
 namespace {
-
 QImage drawn(const DataSymbol& symbol, bool straight) {
     QImage image(80, 60, QImage::Format_ARGB32_Premultiplied);
     std::mt19937 random(static_cast<unsigned>(symbol.shape));
@@ -34,6 +32,5 @@ TEST(Symbols, AreTheSamePixelsWithAndWithoutThePainter) {
                 << shape << ", " << size;
     }
 }
-
 } // namespace
 } // namespace chartdraw

@@ -1,11 +1,9 @@
 // Titles, free texts and the frame of a picture, by where their coloured boxes stand.
 
 #include "tests/engine/chart/picture.h"
-
 #include <cstring>
 
 namespace {
-
 using namespace pictures;
 
 BaseChart* chart(int width = 300, int height = 200) {
@@ -41,5 +39,4 @@ TEST(Titles, StackInwardsAtTheNinePlaces) {
         EXPECT_EQ(boundsOf(image, kGreen), second) << alignment;
     }
 }
-
 } // namespace

@@ -1,7 +1,5 @@
 #include "engine/data/array_math.h"
-
 #include "engine/data/no_value.h"
-
 #include <algorithm>
 #include <climits>
 #include <cmath>
@@ -11,9 +9,7 @@
 #include <random>
 
 namespace chartdraw {
-
 namespace {
-
 using Series = std::vector<double>;
 using Operation = std::function<void(ArrayMath&)>;
 
@@ -42,7 +38,6 @@ void check(const std::vector<Case>& cases) {
         for (std::size_t i = 0; i < result.size(); ++i) EXPECT_DOUBLE_EQ(result[i], c.expected[i]) << "row " << i;
     }
 }
-
 } // namespace
 
 TEST(ArrayMath, OddIntervals) {
@@ -129,5 +124,4 @@ TEST(ArrayMath, MeanOfZerosIsZero) {
     const Series mean = run(changes, [](ArrayMath& a) { a.movAvg(4); });
     EXPECT_EQ(Series(mean.begin() + 7, mean.end()), Series(13, 0.0));
 }
-
 } // namespace chartdraw

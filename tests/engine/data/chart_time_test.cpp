@@ -1,17 +1,13 @@
 #include "engine/data/chart_time.h"
 #include "tests/expect.h"
-
 #include <climits>
 #include <limits>
 #include <vector>
 
 namespace chartdraw {
-
 namespace {
-
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
-
 } // namespace
 
 struct KnownDate {
@@ -116,5 +112,4 @@ TEST(ChartTime, RoundingErrorsDoNotShow) {
     const double noon = chartTime(2024, 5, 6, 12, 0, 0);
     EXPECT_EQS((toCivil(noon - 1e-5).hour, 12), (toCivil(noon - 0.01).hour, 11), (toCivil(noon + 0.99).second, 0));
 }
-
 } // namespace chartdraw

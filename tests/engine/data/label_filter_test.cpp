@@ -2,7 +2,6 @@
 #include "tests/expect.h"
 
 namespace chartdraw {
-
 TEST(LabelFilter, KeepsWhatItIsGiven) {
     for (int type = 1; type <= 8; ++type) {
         for (const int step : {1, 2, 3, 12, 100, 4095}) {
@@ -21,5 +20,4 @@ TEST(LabelFilter, BareRowNumbersAreTheTypeOfTheirRow) {
                (decodeFilter(6), (LabelFilter{FilterType::AllPass, 1, 0})),
                (decodeFilter(7), (LabelFilter{FilterType::NonePass, 1, 0})));
 }
-
 } // namespace chartdraw

@@ -1,14 +1,11 @@
 #include "engine/data/ran_table.h"
-
 #include <algorithm>
 #include <cmath>
 #include <gtest/gtest.h>
 #include <limits>
 
 namespace chartdraw {
-
 namespace {
-
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
 
@@ -22,7 +19,6 @@ std::vector<double> filled(int seed, int column, double minimum, double maximum,
     table.setCol(column, minimum, maximum);
     return columnOf(table, column);
 }
-
 } // namespace
 
 // Calculated with a second implementation of the generator in whole numbers of unlimited size, which was
@@ -103,5 +99,4 @@ TEST(RanTable, PriceRowsAreConsistentAndBounded) {
         }
     }
 }
-
 } // namespace chartdraw

@@ -4,13 +4,11 @@
 // it; that the toolkit comes through want of memory by itself is not ours to prove.
 
 #include "tests/expect.h"
-
 #include <cstdlib> // tells of the library
 
 #if defined(__GLIBC__) && !defined(__SANITIZE_ADDRESS__) && !defined(__SANITIZE_THREAD__)
 
 #include <chartdraw/surface.h>
-
 #include <cstdlib>
 #include <cstring>
 #include <link.h>
@@ -20,7 +18,6 @@
 extern "C" void* __libc_malloc(std::size_t);
 
 namespace {
-
 struct Range {
     std::uintptr_t from = 0, to = 0;
 };
@@ -41,7 +38,6 @@ int findLibrary(dl_phdr_info* info, std::size_t, void*) {
     }
     return 1;
 }
-
 } // namespace
 
 [[gnu::noinline]] void* operator new(std::size_t bytes) {
@@ -58,7 +54,6 @@ extern "C" void* malloc(std::size_t bytes) {
 }
 
 namespace {
-
 /// Two charts on a third, with what charts can have. Whether the picture was made.
 bool drawEverything() {
     const double values[] = {3, -4, 5, 6, 2, 8};
@@ -118,7 +113,6 @@ TEST(LowMemory, EndsInNoPictureAndNothingElse) {
     EXPECT_GT(failed, 20);
     EXPECT_TRUE(drawEverything());
 }
-
 } // namespace
 
 #endif

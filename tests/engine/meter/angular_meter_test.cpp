@@ -1,12 +1,10 @@
 // Round meters by the pixels of their zones, rings, ticks, labels and pointers, worked out by hand.
 
 #include "tests/engine/chart/round.h"
-
 #include <QColor>
 #include <limits>
 
 namespace {
-
 using namespace pictures;
 
 const QPoint kCentre(150, 150);
@@ -164,5 +162,4 @@ TEST(AngularMeter, ShowsAReadableScaleWhateverTheIncrements) {
         EXPECT_LE(runsAt(image, 98), 160) << "a tick for every two pixels at most";
     }
 }
-
 } // namespace

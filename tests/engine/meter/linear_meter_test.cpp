@@ -1,12 +1,10 @@
 // Straight meters by the pixels of their zones, ticks, labels and pointers, worked out by hand.
 
 #include "tests/engine/chart/round.h"
-
 #include <QColor>
 #include <limits>
 
 namespace {
-
 using namespace pictures;
 
 bool isUpright(int side) { return side == CHART_LEFT || side == CHART_RIGHT; }
@@ -138,5 +136,4 @@ TEST(LinearMeter, KeepsLabelsOutsideTheScaleInsideThePictureAndApart) {
         }
     }
 }
-
 } // namespace

@@ -1,12 +1,10 @@
 #include "engine/meter/meter_pointer.h"
-
 #include <gtest/gtest.h>
 
 using chartdraw::pointerOutline;
 using chartdraw::PointerShape;
 
 namespace {
-
 constexpr PointerShape kShapes[] = {PointerShape::Diamond, PointerShape::Triangular, PointerShape::Arrow,
                                     PointerShape::Arrow2,  PointerShape::Line,       PointerShape::Pencil};
 
@@ -57,5 +55,4 @@ TEST(PointerOutline, HasTheShapeThatItsNameSays) {
     // Without a tail a diamond lies across a bar, widest halfway.
     EXPECT_GE(breadthAt(pointerOutline(PointerShape::Diamond, 100, 0, 20), -50), 19);
 }
-
 } // namespace

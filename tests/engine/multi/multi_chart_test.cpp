@@ -1,13 +1,11 @@
 // Charts on a chart: where they stand, in which order, and what happens when they change or end.
 
 #include "tests/engine/chart/picture.h"
-
 #include <QColor>
 #include <climits>
 #include <vector>
 
 namespace {
-
 using namespace pictures;
 
 BaseChart* plain(int width, int height, int background) {
@@ -175,5 +173,4 @@ TEST(MultiChart, ListsTheKeysOfTheMainChartInItsLegend) {
     EXPECT_EQ(shown(), -1);
     CBaseChart_destroy(charts[2]);
 }
-
 } // namespace

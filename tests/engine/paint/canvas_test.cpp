@@ -1,12 +1,10 @@
 #include "tests/engine/paint/pixels.h"
-
 #include <cmath>
 #include <limits>
 #include <vector>
 
 namespace chartdraw {
 namespace {
-
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr QRgb kInk = 0xff123456;
@@ -192,6 +190,5 @@ TEST(DrawImage, StandsByItsAlignmentAndIsCutAtTheArea) {
     EXPECT_EQ(inked(cut), QRect(5, 3, 20, 10));
     EXPECT_TRUE(inked(drawn(8, 8, [](Canvas& on) { drawImage(on, {}, {0, 0, 8, 8}, 5); })).isNull());
 }
-
 } // namespace
 } // namespace chartdraw

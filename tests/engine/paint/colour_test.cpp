@@ -1,5 +1,4 @@
 #include "tests/engine/paint/pixels.h"
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -8,7 +7,6 @@
 
 namespace chartdraw {
 namespace {
-
 using Triple = std::array<double, 3>;
 using Matrix = std::array<Triple, 3>;
 
@@ -191,6 +189,5 @@ TEST(Pattern, BelongsToItsChart) {
     clear.fill(Qt::transparent);
     EXPECT_TRUE(mine.invisible(mine.addPattern(clear, 0, 0)));
 }
-
 } // namespace
 } // namespace chartdraw

@@ -1,10 +1,8 @@
 #include "tests/engine/paint/pixels.h"
-
 #include <climits>
 
 namespace chartdraw {
 namespace {
-
 using Type = Effect::Type;
 
 TEST(Effect, PlainSizesAndTokensNeverMix) {
@@ -133,6 +131,5 @@ TEST(Shape, ThinBarsAreThere) {
     const QImage image = drawn(20, 20, [&](Canvas& on) { on.shape(bar, 0x123456, kTransparent, 0); });
     EXPECT_EQS((inked(image), QRect(10, 4, 1, 10)), (count(image, 0xff123456), 10));
 }
-
 } // namespace
 } // namespace chartdraw

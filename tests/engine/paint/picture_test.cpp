@@ -1,9 +1,7 @@
-#include "engine/paint/picture.h"
-
 #include "engine/paint/file_bytes.h"
 #include "engine/paint/pack.h"
+#include "engine/paint/picture.h"
 #include "tests/expect.h"
-
 #include <QBuffer>
 #include <QColor>
 #include <QDir>
@@ -20,7 +18,6 @@
 
 namespace chartdraw {
 namespace {
-
 // 6 x 4: the left half red, the right half blue.
 QImage sample() {
     QImage image(6, 4, QImage::Format_RGB32);
@@ -188,6 +185,5 @@ TEST(BitmapFile, PacksRowsOfEveryWidthAlike) {
         }
     }
 }
-
 } // namespace
 } // namespace chartdraw

@@ -2,13 +2,11 @@
 
 #include "engine/paint/canvas.h"
 #include "tests/expect.h"
-
 #include <QImage>
 #include <cstdlib>
 #include <functional>
 
 namespace chartdraw {
-
 constexpr QRgb kWhite = 0xffffffff;
 
 /// What `draw` leaves on a picture of one colour.
@@ -50,5 +48,4 @@ inline int difference(const QImage& a, const QImage& b) {
     }
     return most;
 }
-
 } // namespace chartdraw

@@ -3,7 +3,6 @@
 #include "engine/pie/label_parts.h"
 #include "engine/pie/sector_geometry.h"
 #include "tests/expect.h"
-
 #include <algorithm>
 #include <cmath>
 #include <gmock/gmock.h>
@@ -15,7 +14,6 @@ using testing::DoubleNear;
 using testing::Pointwise;
 
 namespace {
-
 const QRectF kRoom(2, 2, 496, 546);
 const QPointF kCentre(250, 275);
 constexpr double kRadius = 140;
@@ -175,5 +173,4 @@ TEST(CircleLayout, PutsLabelsInsideForANegativeDistance) {
     const auto two = place(Layout::Circle, {spotAt(1.5, 1, {30, 14}), spotAt(1.52, 3, {30, 14})}, -40);
     EXPECT_EQS((two[0].shown, false), (two[1].shown, true));
 }
-
 } // namespace

@@ -1,12 +1,10 @@
 // What the picture of a pie shows, by pixels whose place is worked out by hand.
 
 #include "tests/engine/chart/round.h"
-
 #include <QColor>
 #include <functional>
 
 namespace {
-
 using namespace pictures;
 
 constexpr int kColours[] = {kRed, kGreen, kBlue};
@@ -148,5 +146,4 @@ TEST(PiePicture, ShowsInnerAndCutWalls) {
     EXPECT_LT(QColor(image.pixel(100, 106)).green(), 240);
     shows(image, {{100, 118, kWhite}, {100, 131, kRed, "the near one begins with its face"}});
 }
-
 } // namespace

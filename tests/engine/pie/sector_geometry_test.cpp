@@ -1,7 +1,6 @@
 // Sectors as numbers: parts of the turn, which walls face the viewer, and which of them hide others.
 
 #include "engine/pie/sector_geometry.h"
-
 #include <gmock/gmock.h>
 #include <limits>
 #include <numbers>
@@ -12,7 +11,6 @@ using testing::ElementsAre;
 using testing::Pointwise;
 
 namespace {
-
 constexpr double kPi = std::numbers::pi;
 constexpr double kDegree = kPi / 180;
 
@@ -113,5 +111,4 @@ TEST(WallOrder, GoesFromTheBackToTheFront) {
     // Sectors without a span have no walls.
     EXPECT_THAT(order({0, 180, 180, 360}, 100), ElementsAre(-3, 3, -1, 1));
 }
-
 } // namespace

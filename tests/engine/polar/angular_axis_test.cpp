@@ -3,7 +3,6 @@
 #include "engine/polar/angular_axis.h"
 #include "engine/polar/polar_chart.h"
 #include "tests/expect.h"
-
 #include <gmock/gmock.h>
 #include <limits>
 
@@ -13,7 +12,6 @@ using testing::ElementsAre;
 using testing::Pointwise;
 
 namespace {
-
 constexpr double kInf = std::numeric_limits<double>::infinity();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
@@ -98,5 +96,4 @@ TEST_F(AngularAxisTest, CoversZonesClockwise) {
         EXPECT_NEAR(covered, row.covered, 1e-9) << row.start << " to " << row.end;
     }
 }
-
 } // namespace

@@ -1,12 +1,10 @@
 // Polar charts by their pixels: plot area, grid, zones, layers and labels, at places worked out by hand.
 
 #include "tests/engine/chart/round.h"
-
 #include <QColor>
 #include <limits>
 
 namespace {
-
 using namespace pictures;
 
 const QPoint kCentre(150, 150);
@@ -245,5 +243,4 @@ TEST(PolarChart, PlacesDataLabelsBesideTheirPointsAndApart) {
     CPolarLayer_setDataLabelFormat(layer, " ");
     EXPECT_EQ(inked(format.picture(), kWhite), 0);
 }
-
 } // namespace

@@ -2,7 +2,6 @@
 
 #include "engine/polar/smooth_curve.h"
 #include "tests/expect.h"
-
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -10,7 +9,6 @@
 using chartdraw::smoothCurve;
 
 namespace {
-
 std::vector<QPointF> circle(int count) {
     std::vector<QPointF> points;
     for (int i = 0; i < count; ++i) {
@@ -61,5 +59,4 @@ TEST(SmoothCurve, TakesFewAndRepeatedPoints) {
     for (const QPointF& point : smoothCurve(std::vector{a, b, QPointF(60, 2), b, a}, false))
         EXPECT_TRUE(std::isfinite(point.x()) && std::isfinite(point.y()));
 }
-
 } // namespace

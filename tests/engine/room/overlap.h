@@ -2,18 +2,15 @@
 // Where the texts of a picture stand, and which of them lie over one another or leave the picture.
 
 #include "engine/chart/chart.h"
-
-#include <chartdraw/surface.h>
-
 #include <QImage>
 #include <algorithm>
+#include <chartdraw/surface.h>
 #include <cmath>
 #include <sstream>
 #include <string>
 #include <vector>
 
 namespace overlap {
-
 constexpr double kTolerance = 2; // pixels
 
 inline std::vector<QPolygonF> textsOf(BaseChart* chart) {
@@ -59,5 +56,4 @@ inline std::string faultOf(BaseChart* chart, std::size_t& count) {
                 return "overlap: " + place(texts[k]) + " and " + place(texts[i]);
     return {};
 }
-
 } // namespace overlap

@@ -6,7 +6,6 @@
 #include "tests/engine/room/overlap.h"
 
 namespace {
-
 using namespace pictures;
 
 using overlap::textsOf;
@@ -329,5 +328,4 @@ TEST(Placement, TheBackWallStaysOffTheLegend) {
     EXPECT_GT(dark(0), 0) << "the text";
     EXPECT_NEAR(dark(20), dark(0), 10); // the wall's upper edge is in row 20
 }
-
 } // namespace

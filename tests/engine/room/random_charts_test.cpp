@@ -3,13 +3,11 @@
 // CHART_RANDOM_SEED which one is the first.
 
 #include "tests/engine/room/overlap.h"
-
 #include <QtGlobal>
 #include <gtest/gtest.h>
 #include <random>
 
 namespace {
-
 const char* const kNames[] = {"North",
                               "South-East",
                               "Unbreakablelongnameofaplace",
@@ -248,5 +246,4 @@ TEST(RandomCharts, KeepTheirTextsApartAndInThePicture) {
     }
     EXPECT_GT(texts, static_cast<std::size_t>(charts) * 5) << "charts without texts tell nothing";
 }
-
 } // namespace

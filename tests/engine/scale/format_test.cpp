@@ -4,7 +4,6 @@
 #include "engine/data/no_value.h"
 #include "engine/scale/date_text.h"
 #include "engine/scale/format.h"
-
 #include <gtest/gtest.h>
 #include <limits>
 
@@ -15,7 +14,6 @@ using chartdraw::formatValue;
 using chartdraw::kNoValue;
 
 namespace {
-
 struct ValueCase {
     double value;
     std::string format;
@@ -36,7 +34,6 @@ struct Bar final : chartdraw::FieldSource {
         return FieldValue::unknown();
     }
 };
-
 } // namespace
 
 TEST(NumberFormat, FixedDecimalsRoundHalfAwayFromZero) {

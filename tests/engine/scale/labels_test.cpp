@@ -5,7 +5,6 @@
 #include "engine/scale/date_text.h"
 #include "engine/scale/label_picker.h"
 #include "engine/scale/label_thinning.h"
-
 #include <gtest/gtest.h>
 #include <limits>
 #include <string>
@@ -13,7 +12,6 @@
 using namespace chartdraw;
 
 namespace {
-
 /// Every `hours` from a time on, without weekends, and without the nights if there are hours.
 std::vector<double> tradingTimes(double start, int count, double hours = 24) {
     std::vector<double> times;
@@ -40,7 +38,6 @@ std::string shown(const std::vector<double>& times, int first, const std::vector
     }
     return text;
 }
-
 } // namespace
 
 TEST(LabelPicker, MonthsOfHalfAYearOfTradingDays) {

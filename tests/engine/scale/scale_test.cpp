@@ -6,7 +6,6 @@
 #include "engine/scale/number_text.h"
 #include "engine/scale/scale.h"
 #include "tests/expect.h"
-
 #include <cfloat>
 #include <cmath>
 #include <limits>
@@ -14,10 +13,8 @@
 using namespace chartdraw;
 
 namespace {
-
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
-
 } // namespace
 
 TEST(NiceNumbers, Steps) {

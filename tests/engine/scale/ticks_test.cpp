@@ -6,7 +6,6 @@
 #include "engine/scale/auto_scale.h"
 #include "engine/scale/ticks.h"
 #include "tests/expect.h"
-
 #include <cfloat>
 #include <cmath>
 #include <limits>
@@ -15,7 +14,6 @@
 using namespace chartdraw;
 
 namespace {
-
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 constexpr double kInf = std::numeric_limits<double>::infinity();
 
@@ -61,7 +59,6 @@ struct AutoCase {
     AutoScale options;
     const char* ticks;
 };
-
 } // namespace
 
 TEST(AutoScale, LinearLimits) {

@@ -1,9 +1,7 @@
 #include "tests/engine/surface/rows.h"
 
 namespace surface {
-
 namespace {
-
 /// Where the ink of the labels of the y axis and of the x axis stands.
 const QRect kLeft(0, 10, 45, 170), kBelow(40, 176, 260, 24);
 
@@ -34,7 +32,6 @@ void months(Scene& s) {
     CXYChart_addLineLayer(s.xy, values, 12, kNone, nullptr, 0);
     CAxis_setLabels2(s.x, times, 12, "{value|m}");
 }
-
 } // namespace
 
 std::vector<Row> axisRows() {
@@ -188,5 +185,4 @@ std::vector<Row> axisRows() {
          SHOWS(blocks(p, kBelow, false) == (b ? 2 : 3))},
     };
 }
-
 } // namespace surface

@@ -2,9 +2,8 @@
 // A caller without sense: operations of the surface with arguments at and beyond all limits, from a source of
 // numbers that a test seeds or a fuzzer writes.
 
-#include <chartdraw/surface.h>
-
 #include <algorithm>
+#include <chartdraw/surface.h>
 #include <climits>
 #include <cstdlib>
 #include <functional>
@@ -21,7 +20,6 @@
 #endif
 
 namespace surface {
-
 constexpr int kArrayLength = 64;
 
 // Files that exist, next to names that do not.
@@ -211,5 +209,4 @@ private:
     const char* m_outBytes = nullptr;
     int m_outCount = 0;
 };
-
 } // namespace surface

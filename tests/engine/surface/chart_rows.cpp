@@ -1,7 +1,6 @@
 #include "tests/engine/surface/rows.h"
 
 namespace surface {
-
 std::vector<Row> chartRows() {
     return {
         {"CBaseChart_setSize", blank, SET(CBaseChart_setSize(s.chart, b ? 40 : 70, b ? 90 : 30)),
@@ -253,5 +252,4 @@ std::vector<Row> chartRows() {
          SHOWS(b ? p.is(270, 100, kRed) : p.is(150, 10, kRed))},
     };
 }
-
 } // namespace surface

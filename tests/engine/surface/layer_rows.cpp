@@ -1,9 +1,7 @@
 #include "tests/engine/surface/rows.h"
 
 namespace surface {
-
 namespace {
-
 const double kThree[] = {30, 60, 90};
 const double kOther[] = {90, 30, 60};
 
@@ -23,7 +21,6 @@ HLOCLayer* prices(Scene& s, int colour) {
     const double high[] = {90, 80, 85}, low[] = {10, 20, 15}, open[] = {30, 70, 40}, close[] = {60, 40, 70};
     return CXYChart_addHLOCLayer(s.xy, high, 3, low, 3, open, 3, close, 3, colour);
 }
-
 } // namespace
 
 std::vector<Row> layerRows() {
@@ -262,5 +259,4 @@ std::vector<Row> layerRows() {
          }},
     };
 }
-
 } // namespace surface

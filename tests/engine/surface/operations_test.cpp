@@ -2,7 +2,6 @@
 
 #include "tests/engine/surface/rows.h"
 #include "tests/expect.h"
-
 #include <QTemporaryDir>
 #include <cmath>
 #include <fstream>
@@ -13,7 +12,6 @@
 #include <tuple>
 
 namespace surface {
-
 const char* imageFile() {
     static const QTemporaryDir folder;
     static const std::string path = [] {
@@ -28,7 +26,6 @@ const char* imageFile() {
 }
 
 namespace {
-
 std::vector<Row> allRows() {
     std::vector<Row> rows;
     for (const auto& some : {chartRows(), axisRows(), layerRows(), roundRows()})
@@ -155,7 +152,5 @@ TEST(Operations, AreAllInTheseTables) {
 #include "operations.inc"
 #undef OPERATION
 }
-
 } // namespace
-
 } // namespace surface

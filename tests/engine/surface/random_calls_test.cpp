@@ -3,14 +3,12 @@
 // a crash, a hang, or a sanitizer's complaint in the builds that have one.
 
 #include "tests/engine/surface/caller.h"
-
 #include <chrono>
 #include <gtest/gtest.h>
 #include <random>
 #include <string_view>
 
 namespace {
-
 using surface::Caller;
 
 /// Calls an operation of a family with a handle that is not of its kind, and nothing else.
@@ -39,7 +37,6 @@ requires(!std::is_pointer_v<First> ||
 bool endsWith(std::string_view name, std::string_view end) {
     return name.size() >= end.size() && name.substr(name.size() - end.size()) == end;
 }
-
 } // namespace
 
 TEST(Surface, HandlesOfNoOrAnotherKindGiveNothing) {

@@ -1,12 +1,9 @@
 #include "tests/engine/surface/rows.h"
-
 #include <cmath>
 #include <numbers>
 
 namespace surface {
-
 namespace {
-
 /// The pixel at degrees clockwise from the top and a distance from a centre.
 QPoint around(QPoint centre, double degrees, double distance) {
     const double angle = degrees * std::numbers::pi / 180;
@@ -39,7 +36,6 @@ template <class Add> void addPolar(Scene& s, bool b, Add add) {
     auto* layer = add(s.polar, b ? kRadii : kRadii + 1, b ? 4 : 3, b ? kRed : kBlue, nullptr);
     CPolarLayer_setLineWidth(reinterpret_cast<PolarLayer*>(layer), 3);
 }
-
 } // namespace
 
 std::vector<Row> roundRows() {
@@ -278,5 +274,4 @@ std::vector<Row> roundRows() {
                p.has(b ? kBlue : kPink))},
     };
 }
-
 } // namespace surface

@@ -4,11 +4,9 @@
 // arguments, each of them another, so that two that are exchanged show as well.
 
 #include "tests/engine/surface/scenes.h"
-
 #include <vector>
 
 namespace surface {
-
 struct Row {
     const char* operation;
     void (*scene)(Scene& s);
@@ -33,5 +31,4 @@ std::vector<Row> roundRows();
 
 /// An image file of 20 x 10 pixels, blue, its left half brown.
 const char* imageFile();
-
 } // namespace surface

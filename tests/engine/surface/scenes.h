@@ -1,15 +1,13 @@
 #pragma once
 // The charts that the table of operations changes, and what their pictures are asked.
 
-#include <chartdraw/surface.h>
-
 #include <QColor>
 #include <QImage>
 #include <QRect>
+#include <chartdraw/surface.h>
 #include <cstdlib>
 
 namespace surface {
-
 constexpr int kNone = CHART_TRANSPARENT;
 constexpr int kWhite = 0xffffff, kRed = 0xff0000, kGreen = 0x00ff00, kBlue = 0x0000ff, kCyan = 0x00ffff,
               kPink = 0xff00ff, kBrown = 0x804020;
@@ -199,5 +197,4 @@ inline void text(Scene& s) {
     blank(s);
     s.text = CBaseChart_addText(s.chart, 100, 80, "Hamburg", "bold", 14, kRed, CHART_TOP_LEFT, 0, false);
 }
-
 } // namespace surface

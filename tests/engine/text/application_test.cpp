@@ -1,6 +1,5 @@
 #include "tests/engine/text/ink.h"
 #include "tests/own_process.h"
-
 #include <QGuiApplication>
 #include <atomic>
 #include <chrono>
@@ -10,9 +9,7 @@
 // way of running these starts the test program anew for each.
 
 namespace chartdraw {
-
 namespace {
-
 bool drawsText(const char* font) {
     TextLook look;
     look.font = font;
@@ -25,7 +22,6 @@ int widthOfMono() {
     look.size = 72;
     return TextBlock(look, "iiiiiiiiii", FontSet()).boxSize().width();
 }
-
 } // namespace
 
 TEST(ApplicationDeathTest, MadeAtFirstNeedWithoutADisplay) {
@@ -114,5 +110,4 @@ TEST(ApplicationDeathTest, AFactoryMakesItWhereThereIsOne) {
         return QCoreApplication::applicationName() == "host" && drawsText("");
     });
 }
-
 } // namespace chartdraw

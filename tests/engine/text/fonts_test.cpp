@@ -1,17 +1,13 @@
-#include "engine/text/fonts.h"
-
 #include "engine/text/font_files.h"
+#include "engine/text/fonts.h"
 #include "tests/engine/text/ink.h"
-
 #include <QFile>
 #include <QFileInfo>
 #include <QFontDatabase>
 #include <QTemporaryDir>
 
 namespace chartdraw {
-
 namespace {
-
 // A screen of another resolution must not change a picture, so the tests run with one.
 const bool s_otherResolution = qputenv("QT_FONT_DPI", "144");
 
@@ -25,7 +21,6 @@ TextLook lookOf(const std::string& font, double size = 24) {
 int widthOf(const TextLook& look, std::string_view text, const FontSet& fonts = {}) {
     return TextBlock(look, text, fonts).boxSize().width();
 }
-
 } // namespace
 
 TEST(Fonts, FileNames) {
@@ -215,5 +210,4 @@ TEST(Fonts, Sizes) {
     wide.widthSize = 1e300;
     EXPECT_GT(widthOf(wide, "W"), 0);
 }
-
 } // namespace chartdraw

@@ -5,7 +5,6 @@
 #include "tests/expect.h"
 
 namespace chartdraw {
-
 inline QImage whitePicture(int width = 300, int height = 200) {
     QImage image(width, height, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::white);
@@ -44,5 +43,4 @@ inline double darkness(const QImage& image) {
         for (int x = 0; x < image.width(); ++x) sum += (255 - qGray(image.pixel(x, y))) / 255.0;
     return sum;
 }
-
 } // namespace chartdraw

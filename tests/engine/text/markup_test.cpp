@@ -1,13 +1,10 @@
 #include "engine/text/markup.h"
 #include "tests/expect.h"
-
 #include <iomanip>
 #include <sstream>
 
 namespace chartdraw {
-
 namespace {
-
 /// Lines as "style:text" parts between bars, lines between slashes: "f=bold:a|:b" / ":c".
 std::string dump(const std::vector<MarkupLine>& lines) {
     std::ostringstream out;
@@ -25,7 +22,6 @@ std::string dump(const std::vector<MarkupLine>& lines) {
     }
     return out.str();
 }
-
 } // namespace
 
 TEST(Markup, RunsAndLines) {
@@ -66,5 +62,4 @@ TEST(Markup, ZeroBytesAreText) {
     ASSERT_EQ(lines[0].size(), 2U);
     EXPECT_EQS((lines[0][0].text, std::string("a\0b", 3)), (lines[0][1].text, std::string(1, '\0')));
 }
-
 } // namespace chartdraw

@@ -1,9 +1,7 @@
-#include "engine/text/sfnt_face.h"
-
 #include "engine/text/application.h"
 #include "engine/text/font_files.h"
+#include "engine/text/sfnt_face.h"
 #include "tests/expect.h"
-
 #include <QFile>
 #include <QFontDatabase>
 #include <QPainterPath>
@@ -11,9 +9,7 @@
 #include <random>
 
 namespace chartdraw {
-
 namespace {
-
 QByteArray bytesOf(const char* fileName) {
     QFile file(findFontFile(fileName));
     EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << fileName << " is not installed";
@@ -28,7 +24,6 @@ std::vector<int> widths(const QByteArray& font, const QString& text) {
         result.push_back(qRound(advance.x()));
     return result;
 }
-
 } // namespace
 
 TEST(SfntFace, TakesTheFaceMeant) {
@@ -93,5 +88,4 @@ TEST(SfntFace, RefusesWhatIsNoFont) {
                 QByteArray("\0\0\0\0\0\0\x10\0\0\xa0\0\0", 12);
     EXPECT_TRUE(refused(bomb + QByteArray(11'000'000, '\1')));
 }
-
 } // namespace chartdraw

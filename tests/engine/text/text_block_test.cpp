@@ -1,12 +1,9 @@
 #include "tests/engine/text/ink.h"
-
 #include <QTransform>
 #include <cmath>
 
 namespace chartdraw {
-
 namespace {
-
 const FontSet kFonts;
 
 QSize boxOf(const TextLook& look, std::string_view text) { return TextBlock(look, text, kFonts).boxSize(); }
@@ -21,7 +18,6 @@ TextLook sized(double points, int width = 0, int height = 0, double angle = 0) {
 }
 
 const int kAllAlignments[] = {TopLeft, TopCenter, TopRight, Left, Center, Right, BottomLeft, BottomCenter, BottomRight};
-
 } // namespace
 
 TEST(TextBlock, LinesStackAndTheLongestSetsTheWidth) {
@@ -255,5 +251,4 @@ TEST(TextBlock, StackedLetters) {
     const QImage stacked = drawn(look, "\u6f22\u6f22", TopLeft);
     EXPECT_EQ(stacked.copy(150, 100, 30, 20), drawn(flat, "\u6f22", TopLeft).copy(150, 100, 30, 20));
 }
-
 } // namespace chartdraw

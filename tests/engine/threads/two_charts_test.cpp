@@ -1,17 +1,15 @@
 // Charts drawn at the same time in two threads: what they share (faces, images, colour tokens) is guarded,
 // and each picture is the one that a thread alone would have made. Meant for the build under ThreadSanitizer.
 
-#include <chartdraw/surface.h>
-
 #include <QImage>
 #include <QTemporaryDir>
+#include <chartdraw/surface.h>
 #include <gtest/gtest.h>
 #include <string>
 #include <thread>
 #include <vector>
 
 namespace {
-
 std::string picture(int variant, const std::string& image) {
     const double values[] = {3.0 + variant, 4, 5, 6};
     const char* const names[] = {"one", "zwei", "\xed\x95\x9c\xea\xb8\x80", "\xe6\x97\xa5\xe6\x9c\xac"};
@@ -58,5 +56,4 @@ TEST(TwoThreads, DrawTheSamePicturesAsOneAlone) {
         for (const auto& pictures : made) EXPECT_TRUE(pictures[static_cast<std::size_t>(variant)] == alone) << variant;
     }
 }
-
 } // namespace

@@ -2,11 +2,9 @@
 // its bars take 40 by default, from 20 left of its middle on.
 
 #include "tests/engine/xy/layers.h"
-
 #include <functional>
 
 namespace {
-
 using namespace layers;
 
 constexpr double kRest = 0; // fills up to six rows without a bar
@@ -174,5 +172,4 @@ TEST(BarLayer, BodiesReachBackByTheirDepthAndAreDarkerAtTheSides) {
     EXPECT_EQ(qGreen(image.pixel(side)), 0);
     shows(image, {{front.right() + 12, front.center().y(), kWhite}, {front.center().x(), front.top() - 12, kWhite}});
 }
-
 } // namespace

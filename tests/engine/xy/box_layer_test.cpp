@@ -4,7 +4,6 @@
 #include "tests/engine/xy/layers.h"
 
 namespace {
-
 using namespace layers;
 
 constexpr int kBlack = 0x000000;
@@ -191,5 +190,4 @@ TEST(Rows, HaveTheirRoomBesidePoints) {
     ASSERT_EQ(widths.size(), 6u);
     for (const int width : widths) EXPECT_NEAR(width, widths[2], 1);
 }
-
 } // namespace

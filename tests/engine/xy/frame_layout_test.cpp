@@ -8,12 +8,10 @@
 #include "engine/xy/frame_layout.h"
 #include "tests/engine/xy/probe.h"
 #include "tests/expect.h"
-
 #include <limits>
 
 namespace chartdraw {
 namespace {
-
 using Type = ScaleSettings::Type;
 using Form = Probe::Form;
 
@@ -286,6 +284,5 @@ TEST_F(FrameLayoutTest, DataSetsTakeTheNextColourWhereTheyHaveNone) {
     chart.collectKeys(keys);
     EXPECT_EQ(keys.size(), 1u); // only the named one
 }
-
 } // namespace
 } // namespace chartdraw

@@ -2,11 +2,9 @@
 
 #include "tests/engine/chart/picture.h"
 #include "tests/engine/xy/probe.h"
-
 #include <initializer_list>
 
 namespace {
-
 using namespace pictures;
 
 constexpr int kGrid = 0xcccccc, kEdge = 0x111111, kPaper = 0xeeeeff;
@@ -99,5 +97,4 @@ TEST(FramePicture, WallsStandBehindAFrontThatKeepsItsPlace) {
     EXPECT_NE(at(image, 58, 200), kPaper); // the side wall is a shade darker
     EXPECT_NE(at(image, 58, 200), kWhite);
 }
-
 } // namespace

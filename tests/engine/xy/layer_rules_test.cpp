@@ -3,11 +3,9 @@
 #include "engine/xy/data_labels.h"
 #include "engine/xy/inter_line_layer.h"
 #include "tests/engine/xy/layers.h"
-
 #include <string>
 
 namespace {
-
 using namespace layers;
 
 TEST(InterLineLayer, CutsExactlyWhereTheLinesCross) {
@@ -232,5 +230,4 @@ TEST(Limits, OfTickDensityHoldOnDateAxes) {
         EXPECT_EQ(chart.picture().size(), QSize(400, 300));
     }
 }
-
 } // namespace

@@ -4,12 +4,10 @@
 // of bars or boxes row i has its middle on column 75 + 50 i.
 
 #include "tests/engine/chart/picture.h"
-
 #include <cmath>
 #include <vector>
 
 namespace layers {
-
 using namespace pictures;
 
 constexpr double kGap = CHART_NO_VALUE;
@@ -41,5 +39,4 @@ inline LineLayer* line(Chart& chart, const std::vector<double>& data, int colour
     CLayer_setLineWidth(LineLayer2Layer(layer), width);
     return layer;
 }
-
 } // namespace layers

@@ -6,12 +6,10 @@
 #include "engine/xy/line_layer.h"
 #include "engine/xy/xy_chart.h"
 #include "tests/engine/xy/layers.h"
-
 #include <algorithm>
 #include <random>
 
 namespace {
-
 using namespace layers;
 
 TEST(LineLayer, RunsOnWholePixelsThroughItsValuesAndBreaksAtGaps) {
@@ -227,5 +225,4 @@ TEST(LineLayer, LongLinesLookAsIfAllPointsWereDrawn) {
         }
     }
 }
-
 } // namespace

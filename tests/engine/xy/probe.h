@@ -4,12 +4,10 @@
 
 #include "engine/xy/layer.h"
 #include "engine/xy/xy_chart.h"
-
 #include <utility>
 #include <vector>
 
 namespace chartdraw {
-
 class Probe : public Layer {
 public:
     enum class Form { Blocks, Polyline };
@@ -40,5 +38,4 @@ public:
 private:
     Form m_form;
 };
-
 } // namespace chartdraw

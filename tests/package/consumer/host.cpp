@@ -2,12 +2,10 @@
 // header. It is built in several dialects and run under the memory checkers.
 
 #include <charteditors/charteditors.h>
-
 #include <cstdio>
 #include <cstring>
 
 namespace {
-
 int failures = 0;
 
 void expect(bool good, const char* what) {
@@ -138,7 +136,6 @@ void edit() {
                             ShowPolarChartWnd(polar, layout)};
     for (bool ok : changed) std::puts(ok ? "changed" : "as it was");
 }
-
 } // namespace
 
 int main(int count, char**) {

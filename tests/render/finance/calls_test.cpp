@@ -7,7 +7,6 @@
 #include <gmock/gmock.h>
 
 namespace {
-
 constexpr bool CFinanceChart::*kFlags[] = {
     &CFinanceChart::m_showSma,     &CFinanceChart::m_showHloc,        &CFinanceChart::m_showBollingerBand,
     &CFinanceChart::m_showVolBars, &CFinanceChart::m_showCandleStick, &CFinanceChart::m_showDonchianChannel,
@@ -119,5 +118,4 @@ CXYChart_addBarLayer(XYChart#2, [130], 39, "Divergence: 0.0450644", 0); CLayer_s
 };
 
 INSTANTIATE_TEST_SUITE_P(Finance, Calls, testing::ValuesIn(cases), kNameOfCase);
-
 } // namespace

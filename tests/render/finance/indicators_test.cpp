@@ -8,7 +8,6 @@
 #include <sstream>
 
 namespace {
-
 using Rows = std::vector<double>;
 
 constexpr double _ = CHART_NO_VALUE;
@@ -193,5 +192,4 @@ TEST(FinanceLegend, SaysThePricesOfTheLastCloseInTheColourOfItsWay) {
     };
     for (const auto& row : rows) EXPECT_EQS((key(row, false), row.hloc), (key(row, true), row.candle));
 }
-
 } // namespace

@@ -7,7 +7,6 @@
 #include <numeric>
 
 namespace {
-
 /// The labels of the x axis for `rows` rows `step` seconds apart.
 std::vector<std::string> formats(int width, int rows, double step, int extraPoints) {
     std::vector<double> times;
@@ -106,5 +105,4 @@ TEST(FinancePanes, StandToThePixelInEveryOrder) {
         }
     } while (std::next_permutation(std::begin(order), std::end(order)));
 }
-
 } // namespace
