@@ -44,11 +44,13 @@ void Follow(const Person& person, QWidget& opener, const char* offset, std::vari
         });
 }
 
-void InLayer(const Person& person, const char* button, std::initializer_list<int> kinds, const char* name, bool ok) {
+void InLayer(const Person& person, const char* button, std::initializer_list<int> kinds, const char* name, bool ok,
+             const char* shown = "Layer Type") {
     person.In(
         person.Button("Layer", button),
         [&](Person& layer) {
             for (const int kind : kinds) layer.Choose("Layer Type", kind);
+            layer.Find(shown); // of the page of its kind
             if (name != nullptr) layer.Give("Name", name);
             ok ? layer.Ok() : layer.Cancel();
         });
@@ -75,7 +77,7 @@ TEST(XYRelations, HoldWhateverIsAddedMovedAndDeleted) {
             axis.Cancel();
         });
         person.Tab("Layer");
-        InLayer(person, "Add...", {5, 1}, "a", true);
+        InLayer(person, "Add...", {5, 1}, "a", true, "Line Type");
         InLayer(person, "Add...", {2}, "gone", false);
         person.Click("Y2");
         InLayer(person, "Add...", {3}, "b", true);
