@@ -1,7 +1,8 @@
 #pragma once
-// One premultiplied pixel over another.
+// Premultiplied pixels over others.
 
 #include <QRgb>
+#include <cstddef>
 
 namespace chartdraw {
 
@@ -16,5 +17,9 @@ inline QRgb over(QRgb above, QRgb below) {
     odd = (odd + (odd >> 8 & pair) + 0x800080) & ~pair;
     return above + (even | odd);
 }
+
+/// Lays rows over others. `width` is a multiple of the lanes, and the rows of `from` have no more; `stride`
+/// in pixels.
+void blendRows(QRgb* to, std::size_t stride, const QRgb* from, std::size_t width, std::size_t rows);
 
 } // namespace chartdraw

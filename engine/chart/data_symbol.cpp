@@ -1,7 +1,6 @@
 #include "engine/chart/data_symbol.h"
 
 #include "engine/chart/blend.h"
-#include "engine/data/fast_loop.h"
 
 #include <algorithm>
 #include <cmath>
@@ -51,19 +50,6 @@ std::span<const QPointF> corners(int shape) {
         return slanting;
     default:
         return {};
-    }
-}
-
-/// Lays premultiplied pixels over others. `width` is a multiple of
-/// the lanes, and the rows of `from` have no more.
-CHART_FAST_LOOP void blendRows(QRgb* __restrict to, std::size_t stride, const QRgb* __restrict from,
-                               std::size_t width, std::size_t rows) {
-    for (; rows > 0; --rows, to += stride, from += width) {
-        for (std::size_t x = 0; x < width; x += kLanes) {
-#pragma GCC unroll 1 // only what stays a loop is turned into operations on many pixels
-            for (std::size_t k = x; k < x + kLanes; ++k)
-                to[k] = over(from[k], to[k]);
-        }
     }
 }
 

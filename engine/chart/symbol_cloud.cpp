@@ -3,53 +3,102 @@
 #include "engine/chart/blend.h"
 #include "engine/data/fast_loop.h"
 
+#include <QtEndian>
 #include <algorithm>
+#include <bit>
 
 namespace chartdraw {
 
 namespace {
 
-constexpr int kTile = 8;      ///< pixels a side
-constexpr int kVisits = 12;   ///< symbols after which a tile is looked at
-constexpr int kLargest = 64;  ///< pixels
-constexpr double kOften = 16; ///< times that the area is covered, from which on it pays
+constexpr int kLargest = 64;        ///< pixels
+constexpr double kOften = 16;       ///< times that the area is covered, from which on it pays
+constexpr std::size_t kWindow = 56; ///< rows looked at together: as many bits as eight bytes hold from any on
 
-/// Lays premultiplied pixels behind others. `width` is a multiple of the lanes, and the rows of `from` have
-/// no more.
-CHART_FAST_LOOP void blendBehind(QRgb* __restrict to, std::size_t stride, const QRgb* __restrict from,
-                                 std::size_t width, std::size_t rows) {
-    for (; rows > 0; --rows, to += stride, from += width) {
-        for (std::size_t x = 0; x < width; x += kLanes) {
+/// For the loop over many points, which knows no containers.
+struct Tables {
+    QRgb* pixels;
+    const QRgb* sprites;
+    std::uint8_t *open, *hidden;
+    const std::uint64_t *shown, *anyShown;
+    std::size_t rows, spriteRows, strips, windows;
+    QRgb opaque;
+};
+
+/// Lays the rows of a sprite whose bits are set behind those of a strip from `first` on, and closes those
+/// that become opaque.
+inline void blendBehind(QRgb* strip, const QRgb* sprite, std::uint64_t rows, std::uint8_t* open,
+                        std::size_t first, QRgb opaque) {
+    for (; rows != 0; rows &= rows - 1) {
+        const auto row = static_cast<std::size_t>(std::countr_zero(rows));
+        QRgb* __restrict to = strip + row * kLanes;
+        const QRgb* __restrict from = sprite + row * kLanes;
+        QRgb least = opaque;
 #pragma GCC unroll 1 // only what stays a loop is turned into operations on many pixels
-            for (std::size_t k = x; k < x + kLanes; ++k)
-                to[k] = over(to[k], from[k]);
+        for (std::size_t k = 0; k < kLanes; ++k) {
+            const QRgb pixel = over(to[k], from[k]);
+            to[k] = pixel;
+            least = pixel < least ? pixel : least;
         }
+        const unsigned full = least == opaque;
+        open[(first + row) / 8] &= static_cast<std::uint8_t>(~(full << (first + row) % 8));
     }
 }
 
-/// Where symbols stand, for a loop over many.
-struct Grid {
-    double left, right, top, bottom; ///< of the middles that are shown
-    double x, y;                     ///< of the first pixel of the first tile
-    double phases;
-    int shift;  ///< the power of two that the phases are
-    int before; ///< pixels of a symbol before its middle
-    int columns, none;
+/// Leaves, in their order, the places where a symbol is not hidden, and tells their number.
+std::size_t keepShown(std::uint32_t* places, std::size_t count, const std::uint8_t* hidden) {
+    std::size_t kept = 0;
+    for (std::size_t i = 0; i < count; ++i) {
+        const std::uint32_t place = places[i];
+        places[kept] = place;
+        kept += 1 - (hidden[place / kLanes] >> place % kLanes & 1);
+    }
+    return kept;
+}
+
+/// The last place first.
+CHART_FAST_LOOP void drawPlaces(const Tables& given, const std::uint32_t* places, std::size_t count) {
+    const Tables t = given; // no pixel that is written is part of it
+    while (count-- > 0) {
+        const std::size_t begin = places[count] / kLanes, phase = places[count] % kLanes;
+        if ((t.hidden[begin] >> phase & 1) != 0)
+            continue;
+        std::uint64_t open = 0, openToAny = 0;
+        for (std::size_t strip = 0; strip < t.strips; ++strip) {
+            const QRgb* sprite = t.sprites + (phase * t.strips + strip) * t.spriteRows * kLanes;
+            for (std::size_t window = 0; window < t.windows; ++window) {
+                const std::size_t first = begin + strip * t.rows + window * kWindow;
+                const std::uint64_t here = qFromLittleEndian<quint64>(t.open + first / 8) >> first % 8;
+                const std::size_t i = strip * t.windows + window;
+                const std::uint64_t drawn = here & t.shown[phase * t.strips * t.windows + i];
+                blendBehind(t.pixels + first * kLanes, sprite + window * kWindow * kLanes, drawn, t.open,
+                            first, t.opaque);
+                open |= drawn;
+                openToAny |= here & t.anyShown[i];
+            }
+        }
+        const unsigned hidden = openToAny == 0 ? 0xff : open == 0 ? 1U << phase : 0;
+        t.hidden[begin] |= static_cast<std::uint8_t>(hidden);
+    }
+}
+
+/// Columns or rows from values.
+struct Along {
+    const double* values;
+    double offset, factor;
+    double begin, end; ///< of those where symbols may begin
+    double beyond;     ///< the one that takes what lies behind the end; what lies before goes to 0
 };
 
-/// The tiles in which symbols begin; `none` of those that are not shown.
-CHART_FAST_LOOP void findTiles(const double* x, const double* y, std::size_t count, const Grid& given,
-                               std::int32_t* tiles) {
-    const Grid grid = given;
+/// The places of pixels in strips of so many rows.
+CHART_FAST_LOOP void findPlaces(Along x, Along y, std::size_t count, std::int32_t rows,
+                                std::uint32_t* places) {
     for (std::size_t i = 0; i < count; ++i) {
-        const bool shown =
-            (x[i] >= grid.left) & (x[i] <= grid.right) & (y[i] >= grid.top) & (y[i] <= grid.bottom);
-        const double atX = shown ? x[i] : grid.left, atY = shown ? y[i] : grid.top;
-        const int column =
-            ((static_cast<int>((atX - grid.x) * grid.phases + 0.5) >> grid.shift) - grid.before) / kTile;
-        const int row =
-            ((static_cast<int>((atY - grid.y) * grid.phases + 0.5) >> grid.shift) - grid.before) / kTile;
-        tiles[i] = shown ? row * grid.columns + column : grid.none;
+        const double atX = x.offset + x.factor * x.values[i], atY = y.offset + y.factor * y.values[i];
+        const double afterX = atX >= x.begin ? atX : 0, afterY = atY >= y.begin ? atY : 0;
+        const auto column = static_cast<std::int32_t>(afterX < x.end ? afterX : x.beyond);
+        const auto row = static_cast<std::int32_t>(afterY < y.end ? afterY : y.beyond);
+        places[i] = static_cast<std::uint32_t>((column / kLanes * (rows - 1) + row) * kLanes + column);
     }
 }
 
@@ -57,134 +106,104 @@ CHART_FAST_LOOP void findTiles(const double* x, const double* y, std::size_t cou
 
 bool SymbolCloud::pays(const Canvas& canvas, const DataSymbol& symbol, const QRect& area, std::size_t count) {
     const double covered = static_cast<double>(count) * symbol.size * symbol.size;
-    return symbol.size > 0 && symbolReach(symbol.shape, symbol.size) <= kLargest &&
-           covered > kOften * std::max(1, area.width()) * std::max(1, area.height()) &&
-           canvas.pixels().image != nullptr;
+    return symbol.size > 0 && !area.isEmpty() && symbolReach(symbol.shape, symbol.size) <= kLargest &&
+           covered > kOften * area.width() * area.height() && canvas.pixels().image != nullptr;
 }
 
 SymbolCloud::SymbolCloud(Canvas& canvas, const DataSymbol& symbol, const QRect& area)
-    : m_canvas(canvas), m_symbol(symbol), m_reach(static_cast<int>(symbolReach(symbol.shape, symbol.size))) {
-    const int reach = m_reach / 2 + 3;
-    m_middles = QRectF(area).translated(-0.5, -0.5);
-    m_area = area.adjusted(-reach, -reach, reach, reach);
-    m_image = QImage((m_area.width() + 2 * kLanes) / kLanes * kLanes, m_area.height() + kTile,
-                     QImage::Format_ARGB32_Premultiplied);
-    m_image.fill(Qt::transparent);
-    m_bits = reinterpret_cast<QRgb*>(m_image.bits());
-    m_stride = static_cast<int>(m_image.bytesPerLine() / static_cast<qsizetype>(sizeof(QRgb)));
-    m_columns = (m_image.width() + kTile - 1) / kTile;
-    m_full.resize(static_cast<std::size_t>(m_columns) *
-                      static_cast<std::size_t>((m_image.height() + kTile - 1) / kTile) +
-                  1);
-    m_full.back() = 1;
-    m_hides = m_full;
-    m_visits.resize(m_full.size());
-    m_phaseBits = sprite(0).image == sprite(1).image ? 0 : kPhaseBits;
+    : m_canvas(canvas), m_area(area) {
+    const int reach = static_cast<int>(symbolReach(symbol.shape, symbol.size));
+    m_side = reach + 2; // as SymbolPainter draws them, with a pixel free on all sides
+    m_before = 1 + reach / 2;
+    makeSprites(symbol);
+    // A strip or a row around all, for the points that are not shown.
+    const auto shown = static_cast<std::size_t>((m_area.width() + kLanes - 1) / kLanes);
+    m_strips = 1 + shown + m_spriteStrips;
+    m_rows = static_cast<std::size_t>(m_area.height() + 2 + m_side);
+    m_pixels.resize(m_strips * m_rows * kLanes);
+    m_open.resize(m_strips * m_rows / 8 + sizeof(std::uint64_t), 0xff);
+    m_hidden.assign(m_strips * m_rows, 0xff);
+    for (std::size_t strip = 1; strip <= shown; ++strip)
+        std::fill_n(&m_hidden[strip * m_rows + 1], m_area.height(), 0);
 }
 
-/// As SymbolPainter draws it, with two pixels free before a symbol in the middle of its pixel and no fewer
-/// behind it.
-const SymbolCloud::Sprite& SymbolCloud::sprite(int phase) {
-    Sprite& sprite = m_sprites[phase];
-    QImage& image = sprite.image;
-    if (sprite.rows > 0)
-        return sprite;
-    const int side = m_reach + 5;
-    image = QImage((side + kLanes - 1) / kLanes * kLanes, side, QImage::Format_ARGB32_Premultiplied);
+void SymbolCloud::makeSprites(const DataSymbol& symbol) {
+    const int width = (m_side + 2 * kLanes - 2) / kLanes * kLanes;
+    QImage image(width, kLanes * m_side, QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
-    Canvas canvas(image, m_canvas.colours(), m_canvas.painter().testRenderHint(QPainter::Antialiasing));
-    const double middle = m_reach / 2 + 2;
-    SymbolPainter(canvas, m_symbol)
-        .draw({middle + 1.0 * (phase % kPhases) / kPhases, middle + 1.0 * (phase / kPhases) / kPhases},
-              QSizeF(m_symbol.size, m_symbol.size));
+    {
+        Canvas canvas(image, m_canvas.colours(), m_canvas.painter().testRenderHint(QPainter::Antialiasing));
+        SymbolPainter painter(canvas, symbol);
+        for (int i = 0; i < kLanes; ++i)
+            painter.draw(QPointF(m_before + i, m_before + i * m_side));
+    }
+    m_spriteStrips = static_cast<std::size_t>(width / kLanes);
+    const auto rows = static_cast<std::size_t>(m_side);
+    const std::size_t windows = (rows + kWindow - 1) / kWindow;
+    m_shown.resize(kLanes * m_spriteStrips * windows);
+    m_anyShown.resize(m_spriteStrips * windows);
     unsigned strongest = 1;
-    sprite.first = side;
-    for (int y = 0; y < side; ++y) {
-        for (int x = 0; x < side; ++x) {
-            const auto alpha = static_cast<unsigned>(qAlpha(image.pixel(x, y)));
-            strongest = std::max(strongest, alpha);
-            sprite.first = alpha > 0 ? std::min(sprite.first, y) : sprite.first;
-            sprite.rows = alpha > 0 ? y + 1 - sprite.first : sprite.rows;
-        }
+    for (std::size_t i = 0; i < kLanes * m_spriteStrips * rows; ++i) {
+        const std::size_t row = i % rows, strip = i / rows, sprite = strip / m_spriteStrips;
+        const auto* from =
+            reinterpret_cast<const QRgb*>(image.constScanLine(static_cast<int>(sprite * rows + row))) +
+            strip % m_spriteStrips * kLanes;
+        m_sprites.insert(m_sprites.end(), from, from + kLanes);
+        const unsigned most = *std::max_element(from, from + kLanes) >> 24;
+        strongest = std::max(strongest, most);
+        const std::uint64_t bit = std::uint64_t{most > 0} << row % kWindow;
+        m_shown[strip * windows + row / kWindow] |= bit;
+        m_anyShown[strip % m_spriteStrips * windows + row / kWindow] |= bit;
     }
-    m_opaque = std::min(m_opaque, 255 - 127 / strongest); // less than half of a step is rounded down to none
-    return sprite;
+    m_opaque = (255 - 127 / strongest) << 24; // less than half of a step is rounded down to none
 }
 
-bool SymbolCloud::isFull(const QRect& tiles) const {
-    for (int row = tiles.top(); row <= tiles.bottom(); ++row) {
-        for (int column = tiles.left(); column <= tiles.right(); ++column)
-            if (m_full[static_cast<std::size_t>(row * m_columns + column)] == 0)
-                return false;
-    }
-    return true;
-}
-
-/// Looks from time to time whether a tile is full.
-void SymbolCloud::lookAt(int column, int row) {
-    const auto tile = static_cast<std::size_t>(row * m_columns + column);
-    if (m_full[tile] != 0 || ++m_visits[tile] < kVisits)
-        return;
-    m_visits[tile] = 0;
-    const QRect pixels = QRect(column * kTile, row * kTile, kTile, kTile) & m_image.rect();
-    for (int y = pixels.top(); y <= pixels.bottom(); ++y) {
-        for (int x = pixels.left(); x <= pixels.right(); ++x)
-            if (m_bits[y * m_stride + x] >> 24 < m_opaque)
-                return;
-    }
-    m_full[tile] = 1;
-}
-
-void SymbolCloud::drawBehind(std::span<const double> x, std::span<const double> y) {
-    const Grid grid{.left = m_middles.left(),
-                    .right = m_middles.right(),
-                    .top = m_middles.top(),
-                    .bottom = m_middles.bottom(),
-                    .x = static_cast<double>(m_area.left()),
-                    .y = static_cast<double>(m_area.top()),
-                    .phases = static_cast<double>(1 << m_phaseBits),
-                    .shift = m_phaseBits,
-                    .before = m_reach / 2 + 2,
-                    .columns = m_columns,
-                    .none = static_cast<int>(m_full.size()) - 1};
-    m_tiles.resize(x.size());
-    findTiles(x.data(), y.data(), x.size(), grid, m_tiles.data());
-    for (std::size_t i = x.size(); i-- > 0;)
-        if (const auto tile = static_cast<std::size_t>(m_tiles[i]); m_hides[tile] == 0)
-            drawOne(x[i], y[i], tile);
-}
-
-void SymbolCloud::drawOne(double x, double y, std::size_t tile) {
-    const auto place = [this](double along, int& phase) {
-        const int nearest = static_cast<int>(along * (1 << m_phaseBits) + 0.5);
-        phase = nearest & ((1 << m_phaseBits) - 1);
-        return (nearest >> m_phaseBits) - m_reach / 2 - 2;
+void SymbolCloud::drawBehind(const Places& x, const Places& y) {
+    const std::size_t count = x.values.size();
+    const auto along = [](const Places& places, int from, int begin, int length, std::size_t beyond) {
+        return Along{.values = places.values.data(),
+                     .offset = places.offset + 0.5 - from + begin,
+                     .factor = places.factor,
+                     .begin = static_cast<double>(begin),
+                     .end = static_cast<double>(begin + length),
+                     .beyond = static_cast<double>(beyond)};
     };
-    int phaseX = 0, phaseY = 0;
-    const int left = place(x - m_area.left(), phaseX), top = place(y - m_area.top(), phaseY);
-    const int side = m_reach + 5;
-    const QRect tiles(QPoint(left / kTile, top / kTile),
-                      QPoint((left + side - 1) / kTile, (top + side - 1) / kTile));
-    if (isFull(tiles)) {
-        // What begins anywhere in the tile does not reach farther.
-        const int most = (side + kTile - 2) / kTile;
-        const QRect all(0, 0, m_columns, (m_image.height() + kTile - 1) / kTile);
-        m_hides[tile] = isFull(QRect(tiles.topLeft(), QSize(most + 1, most + 1)) & all);
-        return;
-    }
-    const Sprite& drawn = sprite(phaseY * kPhases + phaseX);
-    const auto width = static_cast<std::size_t>(drawn.image.width());
-    blendBehind(m_bits + (top + drawn.first) * m_stride + left, static_cast<std::size_t>(m_stride),
-                reinterpret_cast<const QRgb*>(drawn.image.constBits()) +
-                    width * static_cast<std::size_t>(drawn.first),
-                width, static_cast<std::size_t>(drawn.rows));
-    for (int row = tiles.top(); row <= tiles.bottom(); ++row)
-        for (int column = tiles.left(); column <= tiles.right(); ++column)
-            lookAt(column, row);
+    m_places.resize(count);
+    findPlaces(along(x, m_area.left(), kLanes, m_area.width(), (m_strips - m_spriteStrips) * kLanes),
+               along(y, m_area.top(), 1, m_area.height(), static_cast<std::size_t>(m_area.height()) + 1),
+               count, static_cast<std::int32_t>(m_rows), m_places.data());
+    const Tables tables{.pixels = m_pixels.data(),
+                        .sprites = m_sprites.data(),
+                        .open = m_open.data(),
+                        .hidden = m_hidden.data(),
+                        .shown = m_shown.data(),
+                        .anyShown = m_anyShown.data(),
+                        .rows = m_rows,
+                        .spriteRows = static_cast<std::size_t>(m_side),
+                        .strips = m_spriteStrips,
+                        .windows = m_anyShown.size() / m_spriteStrips,
+                        .opaque = m_opaque};
+    drawPlaces(tables, m_places.data(), keepShown(m_places.data(), count, m_hidden.data()));
 }
 
 void SymbolCloud::finish(QPoint offset) {
-    m_canvas.painter().drawImage(m_area.topLeft() + offset, m_image);
+    const QPoint corner = m_area.topLeft() - QPoint(m_before + kLanes, m_before + 1) + offset;
+    const Canvas::Pixels open = m_canvas.pixels();
+    for (std::size_t strip = 0; strip < m_strips; ++strip) {
+        const QRect place(corner + QPoint(static_cast<int>(strip) * kLanes, 0),
+                          QSize(kLanes, static_cast<int>(m_rows)));
+        const QRgb* pixels = &m_pixels[strip * m_rows * kLanes];
+        const QRect onImage = place.translated(open.origin);
+        if (open.image != nullptr && open.limits.contains(onImage)) {
+            auto* to = reinterpret_cast<QRgb*>(open.image->scanLine(onImage.top())) + onImage.left();
+            blendRows(to, static_cast<std::size_t>(open.image->bytesPerLine()) / sizeof(QRgb), pixels, kLanes,
+                      m_rows);
+        } else {
+            m_canvas.painter().drawImage(
+                place.topLeft(), QImage(reinterpret_cast<const uchar*>(pixels), kLanes, place.height(),
+                                        kLanes * sizeof(QRgb), QImage::Format_ARGB32_Premultiplied));
+        }
+    }
 }
 
 } // namespace chartdraw

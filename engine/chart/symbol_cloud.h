@@ -19,42 +19,36 @@ public:
     /// `symbol` is resolved; `canvas` must outlive the cloud.
     SymbolCloud(Canvas& canvas, const DataSymbol& symbol, const QRect& area);
 
+    /// Where points stand along an axis of the picture: at offset + factor * value, or anywhere beyond the
+    /// area what is no number.
+    struct Places {
+        std::span<const double> values;
+        double offset = 0, factor = 1;
+    };
     /// The last point first. As SymbolPainter::draw, but behind the points before them. Those with their
-    /// middles outside the area are passed over.
-    void drawBehind(std::span<const double> x, std::span<const double> y);
+    /// middles outside the area are passed over. `x` and `y` have equally many values.
+    void drawBehind(const Places& x, const Places& y);
     /// Lays all of them on the picture, moved by the offset.
     void finish(QPoint offset);
 
 private:
-    /// Places between whole pixels, in x and in y.
-    static constexpr int kPhaseBits = 2, kPhases = 1 << kPhaseBits;
-
-    struct Sprite {
-        QImage image;
-        int first = 0, rows = 0; ///< those that are not empty
-    };
-    const Sprite& sprite(int phase);
-    void drawOne(double x, double y, std::size_t tile);
-    bool isFull(const QRect& tiles) const;
-    void lookAt(int column, int row);
+    void makeSprites(const DataSymbol& symbol);
 
     Canvas& m_canvas;
-    DataSymbol m_symbol;
-    int m_reach;  ///< pixels a side
-    QRect m_area; ///< of the picture: where the symbols reach
-    QRectF m_middles;
-    QImage m_image;
-    QRgb* m_bits;
-    int m_stride;
-    unsigned m_opaque = 255;      ///< the alpha from which on no symbol adds anything
-    int m_phaseBits = kPhaseBits; ///< 0 for symbols that stand on whole pixels only
-    Sprite m_sprites[kPhases * kPhases];
-    int m_columns; ///< of the tiles of the image
-    // Of the tiles, row by row; the last is none but always full:
-    std::vector<std::uint8_t> m_full;   ///< whether all pixels are opaque
-    std::vector<std::uint8_t> m_hides;  ///< whether all symbols are hidden whose first pixel it has
-    std::vector<std::uint8_t> m_visits; ///< symbols since it was looked at
-    std::vector<std::int32_t> m_tiles;  ///< of points in hand
+    QRect m_area; ///< of the picture: the pixels where middles may be
+    // Pixels are blended in groups of kLanes, rows of strips that stand side by side. Each lies in one piece.
+    std::size_t m_strips, m_rows;
+    std::vector<QRgb> m_pixels;
+    std::vector<std::uint8_t> m_open;   ///< a bit a row of each strip: whether anything can be added to it
+    std::vector<std::uint8_t> m_hidden; ///< a bit a pixel: whether symbols are hidden that begin there
+    // Of the symbol, once for each pixel of a group that it may begin in:
+    int m_side, m_before; ///< pixels, and those before its middle
+    std::size_t m_spriteStrips;
+    std::vector<QRgb> m_sprites;
+    std::vector<std::uint64_t> m_shown;    ///< a bit a row of each strip: whether it is not empty
+    std::vector<std::uint64_t> m_anyShown; ///< in one of them at least
+    QRgb m_opaque = 0;                     ///< the least pixel to which nothing is added any more
+    std::vector<std::uint32_t> m_places;   ///< of points in hand: their first pixels
 };
 
 } // namespace chartdraw

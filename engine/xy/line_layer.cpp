@@ -13,6 +13,7 @@
 #include <cmath>
 #include <limits>
 #include <numeric>
+#include <optional>
 #include <utility>
 
 namespace chartdraw {
@@ -21,7 +22,7 @@ namespace {
 
 constexpr std::size_t kPiece = 1 << 14;      // points in hand at a time
 constexpr int kLargestWhole = 20;            // pixels of symbols that are not cut at the plot area
-constexpr std::size_t kCloudPiece = 1 << 10; // these all in the nearest cache
+constexpr std::size_t kCloudPiece = 1 << 12; // these are all in a near cache
 
 Kind kindOf(LineLayer::Form form) {
     switch (form) {
@@ -60,6 +61,13 @@ int wholeSize(std::span<const double> sizes, std::size_t row) {
 double notShown(const PlotFrame& frame) {
     const bool log = frame.y.scale().kind() == ScaleKind::Log;
     return log ? 0 : -std::numeric_limits<double>::infinity();
+}
+
+/// The map without its limits, where gaps lie far out by their size and no digit is lost.
+std::optional<AxisMap::Affine> plainMap(const AxisMap& map) {
+    const std::optional<AxisMap::Affine> affine = map.affine();
+    const bool safe = affine && std::abs(affine->offset) < 1e9 && std::abs(affine->factor) > 1e-280;
+    return safe ? affine : std::nullopt;
 }
 
 } // namespace
@@ -176,18 +184,24 @@ void LineLayer::drawCloud(Canvas& canvas, const DataSet& set, const DataSymbol& 
     const std::span<const double> data = set.data(), given = xData();
     const std::size_t begin = rows().begin;
     SymbolCloud cloud(canvas, symbol, m_frame.plot.translated(-m_frame.depthOffset));
-    std::vector<double> rowNumbers, x, y;
+    std::vector<double> rowNumbers, along[2];
+    const auto places = [](const AxisMap& map, std::span<const double> values, std::vector<double>& pixels) {
+        if (const std::optional<AxisMap::Affine> plain = plainMap(map))
+            return SymbolCloud::Places{values, plain->offset, plain->factor};
+        pixels.resize(values.size());
+        map.pixels(values, pixels.data());
+        return SymbolCloud::Places{pixels};
+    };
     std::size_t end = std::min({rows().end, data.size(), hasXData() ? given.size() : data.size()});
     for (std::size_t first = end; end > begin; end = first) {
         first = end - std::min(kCloudPiece, end - begin);
-        x.resize(end - first);
-        y.resize(end - first);
         if (!hasXData()) {
             rowNumbers.resize(end - first);
             std::iota(rowNumbers.begin(), rowNumbers.end(), static_cast<double>(first - begin));
         }
-        m_frame.x.pixels(hasXData() ? given.subspan(first, end - first) : rowNumbers, x.data());
-        m_frame.y.pixels(data.subspan(first, end - first), y.data());
+        const auto x =
+            places(m_frame.x, hasXData() ? given.subspan(first, end - first) : rowNumbers, along[0]);
+        const auto y = places(m_frame.y, data.subspan(first, end - first), along[1]);
         cloud.drawBehind(m_frame.swapped ? y : x, m_frame.swapped ? x : y);
     }
     cloud.finish(m_frame.depthOffset);

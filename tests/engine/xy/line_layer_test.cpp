@@ -69,8 +69,7 @@ TEST(LineLayer, DenseCloudsLookAsIfAllSymbolsWereDrawn) {
                                              nullptr, symbol, 9, static_cast<int>(colour), kNone);
                 return chart.picture();
             };
-            // Round ones are on whole pixels only where they are few.
-            const QImage all = drawn(1), inParts = drawn(symbol == CHART_CIRCLE_SYMBOL ? 4 : 20);
+            const QImage all = drawn(1), inParts = drawn(20);
             int most = 0;
             for (int row = 0; row < all.height(); ++row) {
                 for (int column = 0; column < all.width(); ++column) {
