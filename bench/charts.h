@@ -319,7 +319,8 @@ inline void longLineFloor(std::size_t count, int width) {
     static std::vector<double> values(wave().size());
     std::memcpy(values.data(), wave().data(), count * sizeof(double));
     std::vector<QPointF> points;
-    const auto y = [](double value) { return kTop + kPlotHeight * (150 - value) / 250; };
+    const double top = count > 1000 ? 150 : 55, range = count > 1000 ? 250 : 55; // of the chart's axis
+    const auto y = [=](double value) { return kTop + kPlotHeight * (top - value) / range; };
     for (std::size_t i = 0; i < count && count <= 4 * kPlotWidth; ++i)
         points.emplace_back(kLeft + static_cast<double>(i * kPlotWidth) / static_cast<double>(count),
                             y(values[i]));

@@ -91,29 +91,54 @@ void OpenLayout() {
     ShowChartLayoutWnd(layout);
 }
 
-/// From the press of an arrow to the repainted preview, beside the drawing of the picture alone.
-void Press(PaintWatch& watch, const char* name) {
-    CPieChart pie = SevenSectors();
-    pie.m_show3D = true;
+/// Hands `measure` a press of an arrow in a field of the editor that `show` runs, to the repainted preview.
+void Press(PaintWatch& watch, const char* field, const bench::Work& show,
+           const std::function<void(const bench::Work&)>& measure) {
     QTimer::singleShot(0, [&] {
-        auto* depth = QApplication::activeModalWidget()->findChild<QWidget*>(QStringLiteral("Depth"));
+        auto* edit = QApplication::activeModalWidget()->findChild<QWidget*>(QString::fromLatin1(field));
         watch.Wait();
         bool up = true;
-        const auto press = [&] {
+        measure([&] {
             QKeyEvent key(QEvent::KeyPress, up ? Qt::Key_Up : Qt::Key_Down, Qt::NoModifier);
-            QCoreApplication::sendEvent(depth, &key);
+            QCoreApplication::sendEvent(edit, &key);
             watch.Wait();
             up = !up;
-        };
-        const auto draw = [&] {
-            const double values[] = {40, 34, 34, 53, 64, 40, 34};
-            CChartPicture picture;
-            RenderPieChart(pie, CChartLayout(), {values, nullptr, 7}, ChartPictureFormat::Bmp, picture);
-        };
-        bench::row(name, press, draw);
+        });
         Close();
     });
-    ShowPieChartWnd(pie, CChartLayout());
+    show();
+}
+
+/// Beside the drawing of the picture alone.
+void PressPie(PaintWatch& watch, const char* name) {
+    CPieChart pie = SevenSectors();
+    pie.m_show3D = true;
+    const auto draw = [&pie] {
+        const double values[] = {40, 34, 34, 53, 64, 40, 34};
+        CChartPicture picture;
+        RenderPieChart(pie, CChartLayout(), {values, nullptr, 7}, ChartPictureFormat::Bmp, picture);
+    };
+    Press(
+        watch, "Depth", [&] { ShowPieChartWnd(pie, CChartLayout()); },
+        [&](const bench::Work& press) { bench::row(name, press, draw); });
+}
+
+/// The largest of the samples: 130 days with all panes and indicators.
+void PressLargest(PaintWatch& watch, const char* name, double limit) {
+    CFinanceChart chart;
+    for (bool* show : {&chart.m_showSma, &chart.m_showBollingerBand, &chart.m_showVolBars,
+                       &chart.m_showCandleStick, &chart.m_showDonchianChannel, &chart.m_showRsi,
+                       &chart.m_showMomentum, &chart.m_showSlowStochastic, &chart.m_showMacd})
+        *show = true;
+    Press(
+        watch, "Height", [&] { ShowFinanceChartWnd(chart, CChartLayout()); },
+        [&](const bench::Work& press) {
+            std::array<double, bench::kRounds> taken{};
+            for (double& time : taken)
+                time = bench::timeOf(press, bench::cpuTime);
+            const double median = bench::median(taken);
+            bench::print(name, {median, limit, median / limit});
+        });
 }
 
 } // namespace
@@ -144,6 +169,8 @@ int main(int argc, char** argv) {
         bench::print(name, {bench::median(taken), kLater, bench::median(taken) / kLater});
     }
     bench::heading("from a press to the repainted preview", "drawing");
-    Press(watch, "pie of 7 in 3D, depth");
+    PressPie(watch, "pie of 7 in 3D, depth");
+    bench::heading("preview of the largest sample", "limit");
+    PressLargest(watch, "finance chart, all panes and indicators", kLater);
     return 0;
 }
