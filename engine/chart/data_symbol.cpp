@@ -1,6 +1,6 @@
 #include "engine/chart/data_symbol.h"
 
-#include "engine/chart/blend.h"
+#include "engine/paint/blend.h"
 
 #include <algorithm>
 #include <cmath>
@@ -175,8 +175,9 @@ bool SymbolPainter::blend(const Sprite& sprite, int left, int top) const {
     if (m_bits == nullptr || left < m_limits.left() || left + sprite.width > m_limits.right() + 1 ||
         top < m_limits.top() || top + sprite.rows > m_limits.bottom() + 1)
         return false;
-    blendRows(m_bits + static_cast<std::size_t>(top) * m_stride + left, m_stride, sprite.pixels,
-              static_cast<std::size_t>(sprite.width), static_cast<std::size_t>(sprite.rows));
+    const auto width = static_cast<std::size_t>(sprite.width);
+    blendRows({m_bits + static_cast<std::size_t>(top) * m_stride + left, m_stride}, {sprite.pixels, width},
+              width, static_cast<std::size_t>(sprite.rows));
     return true;
 }
 

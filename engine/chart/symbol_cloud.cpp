@@ -1,7 +1,8 @@
 #include "engine/chart/symbol_cloud.h"
 
-#include "engine/chart/blend.h"
 #include "engine/data/fast_loop.h"
+#include "engine/paint/blend.h"
+#include "engine/paint/picture_layer.h"
 
 #include <QtEndian>
 #include <algorithm>
@@ -187,22 +188,13 @@ void SymbolCloud::drawBehind(const Places& x, const Places& y) {
 }
 
 void SymbolCloud::finish(QPoint offset) {
-    const QPoint corner = m_area.topLeft() - QPoint(m_before + kLanes, m_before + 1) + offset;
-    const Canvas::Pixels open = m_canvas.pixels();
+    const QPoint corner =
+        m_area.topLeft() - QPoint(m_before + kLanes, m_before + 1) + offset + m_canvas.pixels().origin;
     for (std::size_t strip = 0; strip < m_strips; ++strip) {
-        const QRect place(corner + QPoint(static_cast<int>(strip) * kLanes, 0),
-                          QSize(kLanes, static_cast<int>(m_rows)));
-        const QRgb* pixels = &m_pixels[strip * m_rows * kLanes];
-        const QRect onImage = place.translated(open.origin);
-        if (open.image != nullptr && open.limits.contains(onImage)) {
-            auto* to = reinterpret_cast<QRgb*>(open.image->scanLine(onImage.top())) + onImage.left();
-            blendRows(to, static_cast<std::size_t>(open.image->bytesPerLine()) / sizeof(QRgb), pixels, kLanes,
-                      m_rows);
-        } else {
-            m_canvas.painter().drawImage(
-                place.topLeft(), QImage(reinterpret_cast<const uchar*>(pixels), kLanes, place.height(),
-                                        kLanes * sizeof(QRgb), QImage::Format_ARGB32_Premultiplied));
-        }
+        const auto* pixels = reinterpret_cast<const uchar*>(&m_pixels[strip * m_rows * kLanes]);
+        drawPixels(m_canvas.painter(), corner + QPoint(static_cast<int>(strip) * kLanes, 0),
+                   QImage(pixels, kLanes, static_cast<int>(m_rows), kLanes * sizeof(QRgb),
+                          QImage::Format_ARGB32_Premultiplied));
     }
 }
 

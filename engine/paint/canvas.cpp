@@ -1,5 +1,6 @@
 #include "engine/paint/canvas.h"
 
+#include "engine/paint/blend.h"
 #include "engine/paint/clip.h"
 #include "engine/paint/lighting.h"
 
@@ -124,20 +125,31 @@ Canvas::Pixels Canvas::pixels() const {
     return {&m_image, origin, m_clips.empty() ? m_image.rect() : m_clips.back()};
 }
 
-bool Canvas::fillStraight(const QRect& pixels, QRgb colour) const {
+/// The painter hands the rows of a colour that shows through to other threads, and waits for these.
+bool Canvas::fillStraight(const QRect& pixels, const QColor& colour) const {
     const Pixels open = this->pixels();
     if (open.image == nullptr)
         return false;
     const QRect place = pixels.translated(open.origin) & open.limits;
-    for (int y = place.top(); y <= place.bottom(); ++y)
-        std::fill_n(reinterpret_cast<QRgb*>(open.image->scanLine(y)) + place.left(), place.width(), colour);
+    if (place.isEmpty())
+        return true;
+    const PixelRows<QRgb> rows{reinterpret_cast<QRgb*>(open.image->scanLine(place.top())) + place.left(),
+                               static_cast<std::size_t>(open.image->bytesPerLine()) / sizeof(QRgb)};
+    const auto width = static_cast<std::size_t>(place.width()),
+               height = static_cast<std::size_t>(place.height());
+    const QRgb premultiplied = colour.rgba64().premultiplied().toArgb32();
+    if (colour.alpha() < 255)
+        blendColour(rows, premultiplied, width, height);
+    else
+        for (std::size_t y = 0; y < height; ++y)
+            std::fill_n(rows.first + y * rows.stride, width, premultiplied);
     return true;
 }
 
 void Canvas::fillPixels(const QRect& pixels, Colour colour, const QRectF& extent) {
     if (scale() != 1)
         fillImage(onImage(pixels), colour, extent);
-    else if (colour <= 0xffffff && fillStraight(pixels, m_colours.solid(colour).rgb()))
+    else if (colour < kTransparent && fillStraight(pixels, m_colours.solid(colour)))
         return;
     else if (colour < kTransparent)
         m_painter.fillRect(pixels, m_colours.solid(colour));

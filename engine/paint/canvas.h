@@ -84,7 +84,7 @@ private:
     /// What can show, with `margin` pixels around it, in the painter's coordinates.
     QRectF visible(double margin) const;
     void fillPixels(const QRect& pixels, Colour colour, const QRectF& extent);
-    bool fillStraight(const QRect& pixels, QRgb colour) const;
+    bool fillStraight(const QRect& pixels, const QColor& colour) const;
     /// The whole pixels of the image that a box of the picture covers, at least one; boxes that touch each
     /// other there touch here.
     QRect onImage(const QRectF& box) const;

@@ -18,8 +18,16 @@ inline QRgb over(QRgb above, QRgb below) {
     return above + (even | odd);
 }
 
-/// Lays rows over others. `width` is a multiple of the lanes, and the rows of `from` have no more; `stride`
-/// in pixels.
-void blendRows(QRgb* to, std::size_t stride, const QRgb* from, std::size_t width, std::size_t rows);
+/// Pixels in memory; the stride from row to row is in pixels too.
+template <class Pixel>
+struct PixelRows {
+    Pixel* first;
+    std::size_t stride;
+};
+
+/// Lays pixels over others.
+void blendRows(PixelRows<QRgb> to, PixelRows<const QRgb> from, std::size_t width, std::size_t rows);
+/// Lays one colour over pixels.
+void blendColour(PixelRows<QRgb> to, QRgb colour, std::size_t width, std::size_t rows);
 
 } // namespace chartdraw
