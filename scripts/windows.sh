@@ -18,8 +18,8 @@ scripts/install-deps.sh --windows
 fetch() { # fetch PACKAGE VERSION: its sources, below src/. Their lists stand in the cache, the system's stay as they are.
     compgen -G "$cache/src/$1-*/CMakeLists.txt" >/dev/null && return
     apt-get indextargets --format 'deb-src $(REPO_URI) $(RELEASE) $(COMPONENT)' \
-        'Created-By: Packages' 'Origin: Debian' >"$cache/apt/sources.list"
-    local options=(-qq -o "Dir::Etc::SourceList=$cache/apt/sources.list" -o Dir::Etc::SourceParts=/dev/null
+        'Created-By: Packages' 'Origin: Debian' >"$cache/sources.list"
+    local options=(-qq -o "Dir::Etc::SourceList=$cache/sources.list" -o Dir::Etc::SourceParts=/dev/null
         -o "Dir::State::Lists=$cache/apt" -o Dir::Cache::pkgcache= -o Dir::Cache::srcpkgcache=
         -o APT::Sandbox::User=root)
     apt-get "${options[@]}" update
@@ -46,7 +46,7 @@ version() { dpkg-query -W -f '${source:Version}' "$1"; }
 off=(network sql dbus opengl xml concurrent printsupport vulkan tabletevent directwrite3 androiddeployqt direct2d
     direct2d1_1 dynamicgl qmake sessionmanager picture movie pdf textodfwriter textmarkdownreader textmarkdownwriter
     undocommand undogroup undostack systemtrayicon tuiotouch graphicsview graphicseffect mdiarea wizard lcdnumber
-    dial columnview datawidgetmapper fontdialog inputdialog errormessage splashscreen zstd icu glib
+    dial columnview datawidgetmapper fontdialog errormessage splashscreen zstd icu glib
     system_zlib system_png system_jpeg system_freetype system_harfbuzz system_pcre2 system_doubleconversion)
 host_qt=(-DQT_HOST_PATH=/usr "-DQT_HOST_PATH_CMAKE_DIR=/usr/lib/$(gcc -print-multiarch)/cmake")
 fetch qt6-base "$(version qt6-base-dev)"
@@ -80,8 +80,8 @@ export WINEPREFIX=$cache/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
 [ -e "$WINEPREFIX/system.reg" ] || wineboot --init >/dev/null 2>&1
 find /usr/share/fonts \( -name '*.ttf' -o -name '*.ttc' -o -name '*.otf' \) \
     -exec ln -sf -t "$WINEPREFIX/drive_c/windows/Fonts" {} +
-screen() { # screen COMMAND...: on a screen of its own
-    xvfb-run -a -s '-screen 0 1920x1080x24' "$@"
+screen() { # screen COMMAND...: on a screen of its own, with a manager without which no window becomes active
+    xvfb-run -a -s '-screen 0 1920x1080x24' bash -c 'openbox & "$@"; status=$?; kill %1; exit $status' -- "$@"
     wineserver -w
 }
 

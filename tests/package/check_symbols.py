@@ -22,7 +22,7 @@ def exported(library):
     if library.endswith(".dll"):
         table = printed(["objdump", "-p", library]).partition("[Ordinal/Name Pointer] Table")[2].partition("\n\n")[0]
         names = printed(["c++filt"], "\n".join(re.findall(r"^\s+\[\s*\d+\] (?:\S+\s+\S+ )?(\S+)$", table, flags=re.M)))
-        names = names.splitlines()
+        names = names.replace("unsigned long long", "unsigned long").splitlines()  # what a size is there
     else:
         # A line is "address kind name". Sanitizers and the linker add names of their own, with an underscore.
         output = printed(["nm", "-DC", "--defined-only", library])
@@ -55,6 +55,8 @@ def main():
         print("\n".join(sorted(actual)))
         return 0
     expected = listed(options.list) if options.list else declared(options.header)
+    if options.library.endswith(".dll"):
+        expected = {name for name in expected if not name.startswith("typeinfo name for ")}  # each keeps its own
     if not expected:
         print("Nothing is expected: the list or the header could not be understood.")
         return 1

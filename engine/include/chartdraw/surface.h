@@ -79,6 +79,8 @@
 #if defined(_WIN32)
 #if defined(CHARTDRAW_BUILD)
 #define CHARTDRAW_API __declspec(dllexport)
+#elif defined(CHARTDRAW_ROOM) /* in or beside the library, as the linker finds it */
+#define CHARTDRAW_API
 #else
 #define CHARTDRAW_API __declspec(dllimport)
 #endif

@@ -27,6 +27,8 @@
 #if defined(_WIN32)
 #if defined(CHARTEDITORS_BUILD)
 #define CHARTEDITORS_API __declspec(dllexport)
+#elif defined(CHARTEDITORS_ROOM) // in or beside the library, as the linker finds it
+#define CHARTEDITORS_API
 #else
 #define CHARTEDITORS_API __declspec(dllimport)
 #endif

@@ -21,14 +21,14 @@
 #include <charteditors/charteditors.h>
 #include <cstddef>
 
-#if defined(_WIN32)
+#if defined(CHARTSTYLE_ROOM) // inside another library
+#define CHARTSTYLE_API
+#elif defined(_WIN32)
 #if defined(CHARTSTYLE_BUILD)
 #define CHARTSTYLE_API __declspec(dllexport)
 #else
 #define CHARTSTYLE_API __declspec(dllimport)
 #endif
-#elif defined(CHARTSTYLE_ROOM) // inside another library
-#define CHARTSTYLE_API
 #else
 #define CHARTSTYLE_API __attribute__((visibility("default")))
 #endif
