@@ -49,6 +49,8 @@ endfunction()
 
 # Where windows are that nobody looks at. The off-screen platform knows no fonts of Windows.
 set(chart_screen $<IF:$<PLATFORM_ID:Windows>,windows,offscreen>)
+# What a path of this system begins with where such tests run.
+set(chart_drive $<$<PLATFORM_ID:Windows>:Z:>)
 
 # chart_test(NAME DEPS...): one GoogleTest program from the *.cpp files of the current folder.
 function(chart_test name)
