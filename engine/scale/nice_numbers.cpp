@@ -1,5 +1,6 @@
 #include "engine/scale/nice_numbers.h"
 
+#include "engine/data/no_value.h"
 #include "engine/scale/number_text.h"
 
 #include <algorithm>
@@ -73,6 +74,13 @@ int stepDecimals(double step, double origin) {
     return all > enough + 2 ? enough : all;
 }
 
+std::string valueText(double value, int decimals) {
+    const int digits = exponentOf(value) + decimals + 1;
+    if (digits < -1) // far below what shows: nothing
+        return isValue(value) ? "0" : std::string();
+    return numberText(value, {.form = NumberSpec::Form::General, .digits = std::clamp(digits, 2, 6)});
+}
+
 std::vector<std::string> stepLabels(const std::vector<double>& values, double step, double origin) {
     double largest = 0;
     for (const double value : values)
@@ -80,19 +88,11 @@ std::vector<std::string> stepLabels(const std::vector<double>& values, double st
     const int decimals = stepDecimals(step, origin);
     NumberSpec spec = NumberSpec::fixed(std::max(0, decimals));
     if (largest >= 1e15 || largest < 1e-5)
-        spec = {.form = NumberSpec::Form::Plain,
-                .digits = std::clamp(exponentOf(largest) + decimals + 1, 1, 17)};
+        spec = NumberSpec::atPower(exponentOf(largest), decimals);
     std::vector<std::string> labels;
     labels.reserve(values.size());
-    bool exponents = false;
-    for (const double value : values) {
-        labels.push_back(numberText(value, spec));
-        exponents = exponents || labels.back().find('e') != std::string::npos;
-    }
-    for (std::size_t i = 0; exponents && i < values.size(); ++i) // then all of them, but zero
-        if (values[i] != 0 && labels[i].find('e') == std::string::npos)
-            labels[i] = numberText(values[i], {.form = NumberSpec::Form::Exponent,
-                                               .digits = exponentOf(values[i]) + decimalsOf(values[i])});
+    for (const double value : values)
+        labels.push_back(value == 0 && spec.power ? "0" : numberText(value, spec));
     return labels;
 }
 

@@ -29,6 +29,10 @@ int finestDecimals(double step, double origin = 0);
 /// The same for reading: an uneven step, such as a third, is shown with four digits of its own.
 int stepDecimals(double step, double origin = 0);
 
+/// A value for reading beside an axis whose labels, or somewhat finer, have `decimals`: two significant
+/// digits to six, and nothing that is finer than the axis can tell, such as the noise of computing.
+std::string valueText(double value, int decimals);
+
 /// Texts of values that lie `step` apart: all with the decimals of the step (and of `origin`, when the values
 /// are counted from there), with exponents where they are huge or tiny; no two of different values are alike.
 std::vector<std::string> stepLabels(const std::vector<double>& values, double step, double origin = 0);

@@ -93,12 +93,13 @@ void appendPositional(std::string& out, const Decimal& number, int decimals, con
     appendDecimals(out, number, number.point, decimals, spec);
 }
 
-void appendExponent(std::string& out, const Decimal& number, int decimals, const NumberSpec& spec) {
-    out += number.digit(0);
-    appendDecimals(out, number, 1, decimals, spec);
+void appendExponent(std::string& out, Decimal number, int decimals, const NumberSpec& spec) {
+    const int power = spec.power.value_or(number.exponent());
+    number.point -= number.count > 0 ? power : 0;
+    appendPositional(out, number, decimals, spec);
     out += 'e';
     std::array<char, 8> text{};
-    out.append(text.data(), std::to_chars(text.data(), text.data() + text.size(), number.exponent()).ptr);
+    out.append(text.data(), std::to_chars(text.data(), text.data() + text.size(), power).ptr);
 }
 
 bool needsExponent(const Decimal& number) {
@@ -124,7 +125,7 @@ void roundFor(Decimal& number, const NumberSpec& spec, int digits) {
     case NumberSpec::Form::AtMost:
         return number.round(number.point + digits);
     case NumberSpec::Form::Exponent:
-        return number.round(digits + 1);
+        return number.round(digits + 1 + (spec.power ? number.exponent() - *spec.power : 0));
     }
 }
 

@@ -3,8 +3,10 @@
 // made here. Rounding is done on the shortest decimal digits of a value, half away from zero, so that 2.5
 // gives 3 and 1.005 with two decimals gives 1.01, as a reader of the chart computes it.
 
+#include <algorithm>
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -27,18 +29,23 @@ struct NumberSpec {
         General,   ///< as Plain, but the digits before the point are never rounded away below 1e15
         Fixed,     ///< exactly `digits` decimals; from 1e21 on as Plain
         AtMost,    ///< up to `digits` decimals, no trailing zeros; from 1e21 on as Plain
-        Exponent,  ///< d.ddde5 with `digits` decimals
+        Exponent,  ///< d.ddde5 with `digits` decimals; at `power` of ten, where that is given
         Precision, ///< exactly `digits` significant digits, trailing zeros kept
     };
     Form form = Form::Plain;
-    int digits = 15;           ///< limited to 0..20, as the form's comment tells
-    Glyph thousand{};          ///< between groups of three digits before the point; none
-    Glyph point{'.'};          ///< decimal point
-    Glyph negative{'-'};       ///< before a negative number
-    bool alwaysSigned = false; ///< "+" before a number above zero
+    int digits = 15;            ///< limited to 0..20, as the form's comment tells
+    std::optional<int> power{}; ///< of ten, that numbers beside each other share: 0.5e-9 beside 1.0e-9
+    Glyph thousand{};           ///< between groups of three digits before the point; none
+    Glyph point{'.'};           ///< decimal point
+    Glyph negative{'-'};        ///< before a negative number
+    bool alwaysSigned = false;  ///< "+" before a number above zero
 
     static NumberSpec plain() { return {}; }
     static NumberSpec fixed(int decimals) { return {.form = Form::Fixed, .digits = decimals}; }
+    /// All at 10 to the `power`, as finely as `decimals` of the number itself tell.
+    static NumberSpec atPower(int power, int decimals) {
+        return {.form = Form::Exponent, .digits = std::max(0, power + decimals), .power = power};
+    }
     static NumberSpec atMost(int decimals) { return {.form = Form::AtMost, .digits = decimals}; }
 };
 

@@ -9,11 +9,7 @@ namespace chartdraw {
 
 namespace {
 
-struct Unit {
-    double size;
-    const char* name;
-};
-constexpr Unit kUnits[] = {{1e12, "T"}, {1e9, "G"}, {1e6, "M"}, {1e3, "k"}};
+constexpr ShortUnit kUnits[] = {{1e12, "T"}, {1e9, "G"}, {1e6, "M"}, {1e3, "k"}};
 
 std::size_t longest(std::span<const std::string> texts) {
     std::size_t most = 0;
@@ -29,7 +25,7 @@ double greatest(std::span<const double> values) {
     return most;
 }
 
-std::vector<std::string> byUnit(std::span<const double> values, double step, const Unit& unit) {
+std::vector<std::string> byUnit(std::span<const double> values, double step, const ShortUnit& unit) {
     const NumberSpec spec = NumberSpec::fixed(std::max(0, decimalsOf(step / unit.size)));
     std::vector<std::string> texts;
     for (const double value : values)
@@ -38,9 +34,8 @@ std::vector<std::string> byUnit(std::span<const double> values, double step, con
 }
 
 std::vector<std::string> byExponent(std::span<const double> values, double step) {
-    const int most = exponentOf(greatest(values));
-    const NumberSpec spec{.form = NumberSpec::Form::Exponent,
-                          .digits = std::clamp(most + decimalsOf(step), 0, 6)};
+    NumberSpec spec = NumberSpec::atPower(exponentOf(greatest(values)), decimalsOf(step));
+    spec.digits = std::min(spec.digits, 6);
     std::vector<std::string> texts;
     for (const double value : values)
         texts.push_back(value == 0 ? "0" : numberText(value, spec));
@@ -68,6 +63,12 @@ std::vector<std::string> byFactor(std::span<const double> values, double step, i
 
 } // namespace
 
+const ShortUnit* shortUnit(double value) {
+    const auto* unit = std::find_if(std::begin(kUnits), std::end(kUnits),
+                                    [&](const ShortUnit& each) { return value >= each.size; });
+    return unit != std::end(kUnits) && value < 1e15 ? unit : nullptr;
+}
+
 ShortLabels shortLabels(std::span<const double> values, double span, bool withFactor) {
     const double most = greatest(values);
     // The span tells how exact a step is meant: its noise is cut off.
@@ -81,10 +82,9 @@ ShortLabels shortLabels(std::span<const double> values, double span, bool withFa
         if (longest(texts) < longest(best.texts))
             best = {std::move(texts), std::move(factor)};
     };
-    const auto* unit =
-        std::find_if(std::begin(kUnits), std::end(kUnits), [&](const Unit& u) { return most >= u.size; });
+    const ShortUnit* unit = shortUnit(most);
     const int exponent = exponentOf(most);
-    if (unit != std::end(kUnits) && most < 1e15)
+    if (unit != nullptr)
         take(byUnit(values, step, *unit));
     else if (withFactor && std::abs(exponent) < 300)
         take(byFactor(values, step, exponent), "\u00d710" + raised(exponent));

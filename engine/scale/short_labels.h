@@ -7,6 +7,15 @@
 
 namespace chartdraw {
 
+/// A power of a thousand and its letter.
+struct ShortUnit {
+    double size;
+    const char* name;
+};
+
+/// The largest unit that is not above `value`: k, M, G or T; null below a thousand and from 1e15 on.
+const ShortUnit* shortUnit(double value);
+
 struct ShortLabels {
     std::vector<std::string> texts;
     /// What all of them are to be multiplied by, such as "\u00d710\u00b9\u2075"; empty: nothing.

@@ -45,8 +45,8 @@ TEST(NiceNumbers, DecimalsAndLabels) {
     EXPECT_EQS((stepLabels({0, 0.25, 0.5}, 0.25), (Texts{"0.00", "0.25", "0.50"})),
                (stepLabels({0.5, 1.5}, 1, 0.5), (Texts{"0.5", "1.5"})),
                (stepLabels({0, 1.0 / 3, 2.0 / 3}, 1.0 / 3), (Texts{"0.0000", "0.3333", "0.6667"})),
-               (stepLabels({1e15, 1e15 + 1}, 1), (Texts{"1e15", "1.000000000000001e15"})),
-               (stepLabels({0, 5e-301, 1e-300}, 5e-301), (Texts{"0", "5e-301", "1e-300"})));
+               (stepLabels({1e15, 1e15 + 1}, 1), (Texts{"1.000000000000000e15", "1.000000000000001e15"})),
+               (stepLabels({0, 5e-301, 1e-300}, 5e-301), (Texts{"0", "0.5e-300", "1.0e-300"})));
 }
 
 TEST(Scale, FractionsAndBack) {
