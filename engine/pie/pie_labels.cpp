@@ -3,6 +3,7 @@
 #include "engine/data/no_value.h"
 #include "engine/pie/label_parts.h"
 #include "engine/pie/pie_chart.h"
+#include "engine/scale/number_text.h"
 #include "engine/text/fitted_text.h"
 
 #include <algorithm>
@@ -12,7 +13,7 @@ namespace chartdraw {
 
 namespace {
 
-constexpr double kLeastWrap = 40;     ///< pixels that a line of a label has at least
+constexpr double kLeastWrap = 3.5;    ///< lines high that a label is broad at least
 constexpr int kMargin = 2;            ///< pixels between labels and the border of the picture
 constexpr double kCircleDistance = 6; ///< pixels between rim and label when nothing else is told
 
@@ -20,13 +21,14 @@ constexpr double kCircleDistance = 6; ///< pixels between rim and label when not
 class SectorFields final : public FieldSource {
 public:
     SectorFields(std::string label, double value, double share, std::size_t index)
-        : m_label(std::move(label)), m_value(value), m_percent(share * 100), m_index(index) {}
+        : m_label(std::move(label)), m_value(value), m_percent(share * 100), m_index(index),
+          m_text(numberText(value, {.form = NumberSpec::Form::General, .digits = 6})) {}
 
     FieldValue field(std::string_view name) const override {
         if (name == "label" || name == "dataSetName")
             return FieldValue::text(m_label);
         if (name == "value")
-            return FieldValue::number(m_value);
+            return FieldValue::number(m_value, m_text);
         if (name == "percent")
             return FieldValue::number(m_percent);
         if (name == "sector")
@@ -39,6 +41,7 @@ private:
     double m_value;
     double m_percent;
     std::size_t m_index;
+    std::string m_text; ///< of the value, without the noise of computing
 };
 
 } // namespace
@@ -82,7 +85,8 @@ int PieChart::widthBeside(const PieBody& body, QPointF about, double angle, cons
         const double beside = side < 0 ? rim - rooms.left.left() : rooms.right.right() - rim;
         room = beside - std::max(0.0, labelDistance(body));
     }
-    return static_cast<int>(std::max(kLeastWrap, room));
+    const double line = m_labelStyle->block("0").boxSize().height();
+    return static_cast<int>(std::max(kLeastWrap * line, room));
 }
 
 std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span<const double> shares,

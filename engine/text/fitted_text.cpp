@@ -5,6 +5,19 @@
 
 namespace chartdraw {
 
+namespace {
+
+constexpr std::size_t kEllipsis = 3; // bytes
+constexpr std::size_t kLeastCut = 2; // of text before it, that still tell something
+
+/// Digits and signs alone: a part of them would be another number.
+bool isNumber(const std::string& text) {
+    return text.find_first_of("0123456789") != std::string::npos &&
+           text.find_first_not_of("0123456789.,+-% ") == std::string::npos;
+}
+
+} // namespace
+
 std::string cutToFit(std::string_view whole, const std::function<bool(const std::string&)>& fits) {
     if (std::string all(whole); fits(all))
         return all;
@@ -33,13 +46,17 @@ TextBlock fittedText(TextLook look, const std::string& text, const FontSet& font
     if (text.empty() || fits(block))
         return block;
     const auto cut = [&](const std::string& part) {
-        return cutToFit(part, [&](const std::string& tried) { return fits(TextBlock(look, tried, fonts)); });
+        std::string result =
+            cutToFit(part, [&](const std::string& tried) { return fits(TextBlock(look, tried, fonts)); });
+        const bool whole = result == part;
+        return whole || (!isNumber(part) && result.size() >= kEllipsis + kLeastCut) ? result : std::string();
     };
     // Each line for itself, so that a short one below a long one stays.
     std::string lines;
     for (std::size_t start = 0; start <= text.size();) {
         const std::size_t end = std::min(text.find('\n', start), text.size());
-        lines += (start > 0 ? "\n" : "") + cut(text.substr(start, end - start));
+        const std::string line = cut(text.substr(start, end - start));
+        lines += (lines.empty() || line.empty() ? "" : "\n") + line;
         start = end + 1;
     }
     TextBlock shortened(look, lines, fonts);

@@ -14,7 +14,8 @@ namespace chartdraw {
 std::string cutToFit(std::string_view whole, const std::function<bool(const std::string&)>& fits);
 
 /// The text within `most` pixels, turned as its look tells; a side of 0 or below is not limited. A level text
-/// without a wrap width of its own is broken at words.
+/// without a wrap width of its own is broken at words. Lines that are numbers, and what has no room for two
+/// letters, go as a whole.
 TextBlock fittedText(TextLook look, const std::string& text, const FontSet& fonts, QSize most);
 
 } // namespace chartdraw

@@ -147,12 +147,33 @@ private:
         for (QTextLine line = layout.createLine();
              line.isValid() && m_lines.size() + m_pending.size() < kMaxLines; line = layout.createLine()) {
             line.setLineWidth(wraps ? m_look.wrapWidth : 1e6);
+            if (wraps)
+                keepNumbers(line, layout.text());
             placeLine(line, runs);
         }
         layout.endLayout();
         for (std::size_t i = 0; i < m_pending.size(); ++i)
             takeGlyphs(layout.lineAt(static_cast<int>(i)), runs, m_pending[i]);
         m_pending.clear();
+    }
+
+    /// A line that would end at the point of a number ends before the number, or where it begins with it,
+    /// behind it.
+    static void keepNumbers(QTextLine& line, const QString& text) {
+        const auto digit = [&](qsizetype at) { return at >= 0 && at < text.size() && text[at].isDigit(); };
+        const auto part = [&](qsizetype at) {
+            return digit(at) || (digit(at - 1) && digit(at + 1) && !text[at].isSpace());
+        };
+        const qsizetype start = line.textStart();
+        qsizetype end = start + line.textLength();
+        if (!part(end) || !part(end - 1))
+            return;
+        while (end > start && part(end - 1))
+            --end;
+        if (end == start)
+            while (end < text.size() && !text[end].isSpace())
+                ++end;
+        line.setNumColumns(static_cast<int>(end - start));
     }
 
     /// Puts a line below the ones before it, its baseline on a whole pixel.
