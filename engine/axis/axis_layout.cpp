@@ -271,7 +271,13 @@ bool titleStandsBeyond(const Axis& axis, const AxisPlace& place) {
     return place.upright() ? code == TopCenter || code == BottomCenter : code == Left || code == Right;
 }
 
-/// Beside the axis a long title is broken, so that it does not run into that of the next side.
+/// From the line to the labels.
+double labelDistance(const Axis& axis) {
+    return std::max(0, axis.width() - 1) + std::max(0, axis.ticks().majorLength) + kLabelGap + 0.5;
+}
+
+/// Beside the axis a long title is broken, so that it does not run into that of the next side. Below a level
+/// one it takes no line that the labels need.
 TextBlock titleBlock(const Axis& axis, const AxisPlace& place) {
     const bool beyond = titleStandsBeyond(axis, place);
     TextLook look = axis.titleLook(place.upright() && !beyond);
@@ -279,13 +285,18 @@ TextBlock titleBlock(const Axis& axis, const AxisPlace& place) {
     const int picture = place.upright() ? place.picture.height() : place.picture.width();
     if (!beyond && (along || std::fmod(look.angle, 180) == (place.upright() ? -90 : 0)) && !look.vertical)
         look.wrapWidth = std::max(place.to - place.from + 1, std::min(picture, kLeastTitle));
-    const QRect room = place.picture.adjusted(kTitleBorder, kTitleBorder, -kTitleBorder, -kTitleBorder);
-    return fittedText(look, axis.title().text(), axis.chart().fonts(), room.size());
-}
-
-/// From the line to the labels.
-double labelDistance(const Axis& axis) {
-    return std::max(0, axis.width() - 1) + std::max(0, axis.ticks().majorLength) + kLabelGap + 0.5;
+    QSize room = place.picture.adjusted(kTitleBorder, kTitleBorder, -kTitleBorder, -kTitleBorder).size();
+    const TextLook& labels = axis.labelBox().look();
+    if (!place.upright() && !beyond && !axis.title().pos() && look.angle == 0 &&
+        !axis.chart().colours().invisible(labels.colour)) {
+        const FontSet& fonts = axis.chart().fonts();
+        const double taken = labelDistance(axis) + TextBlock(labels, "0", fonts).boxSize().height() +
+                             std::max(0, axis.titleGap()) + kTitleBorder;
+        const int line = TextBlock(look, "0", fonts).boxSize().height();
+        room.setHeight(
+            std::clamp(static_cast<int>(spaceBeside(place) - taken), line, std::max(line, room.height())));
+    }
+    return fittedText(look, axis.title().text(), axis.chart().fonts(), room);
 }
 
 /// Beyond the upper end of the labels, or where the picture ends there, inside of the line.

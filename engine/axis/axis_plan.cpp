@@ -121,8 +121,10 @@ private:
         // A level axis starts dense: what its labels want in breadth is found by looking at them. Rows are
         // worth a label each where it fits.
         const double level = settings().type == Type::Date ? kDateSpacing : kLevelSpacing;
-        const double spacing =
-            m_request.upright ? std::max(kUprightSpacing, 1.6 * m_fit.lineHeight()) : level;
+        // On a short one steps that are too coarse would leave half of it empty.
+        const double upright =
+            std::max(std::min(kUprightSpacing, m_request.length / 4), 1.6 * m_fit.lineHeight());
+        const double spacing = m_request.upright ? upright : level;
         return rows() ? spacing / 2 : spacing;
     }
 

@@ -20,6 +20,10 @@ public:
     bool reachesByLength() const { return m_slant > 0.05; }
     /// Whether labels lie along the axis's own direction of reading, so that a long one can be wrapped.
     bool wraps() const { return m_upright && m_slant > 0.999; }
+    /// Whether labels follow each other end to start.
+    bool sideBySide() const { return !m_upright && m_slant < 0.05; }
+    /// Pixels that two labels keep between them.
+    double gap() const { return m_gap; }
     /// Pixels of a label of one line.
     double lineHeight() const { return m_lineHeight; }
     /// The distance that the labels' ticks want for all to have room; 0 if they have it. `ticks` ascending,
@@ -38,7 +42,7 @@ private:
     bool m_upright;
     double m_slant; ///< part of the line height that a label takes along the axis; 0: its bounds count
     double m_lineHeight;
-    double m_gap; ///< pixels that two labels keep between them
+    double m_gap;
 };
 
 } // namespace chartdraw

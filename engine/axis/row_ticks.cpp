@@ -14,6 +14,7 @@ namespace chartdraw {
 namespace {
 
 constexpr double kLeastLabelPitch = 4; // pixels; no label of any font is narrower
+constexpr double kLeastCutName = 4;    // lines high that a name is wide before it ends in an ellipsis
 constexpr double kLeastTickPitch = 5;  // pixels; ticks without labels closer than this are left out
 
 class TickFields final : public FieldSource {
@@ -163,6 +164,30 @@ void LabelMaker::shorten(PlannedTick& tick, const LabelFit& fit, double room, do
     tick.label = m_axis.labelBox().block(tick.text);
 }
 
+void LabelMaker::fitNames(std::vector<PlannedTick>& ticks, const LabelFit& fit, double room,
+                          double width) const {
+    const QSize most(static_cast<int>(width), static_cast<int>(std::max(room, fit.lineHeight())));
+    if (most.width() < 1)
+        return;
+    TextLook look = m_axis.labelBox().look();
+    look.wrapWidth = std::max(1, most.width() - look.marginLeft - look.marginRight);
+    const bool mayCut = width >= kLeastCutName * fit.lineHeight();
+    std::vector<std::optional<TextBlock>> fitted(ticks.size());
+    for (std::size_t i = 0; i < ticks.size(); ++i) {
+        if (!ticks[i].label)
+            continue;
+        const FontSet& fonts = m_axis.chart().fonts();
+        fitted[i] =
+            mayCut ? fittedText(look, ticks[i].text, fonts, most) : TextBlock(look, ticks[i].text, fonts);
+        if (fitted[i]->empty() || fitted[i]->size().width() > most.width() ||
+            fitted[i]->size().height() > most.height())
+            return;
+    }
+    for (std::size_t i = 0; i < ticks.size(); ++i)
+        if (fitted[i])
+            ticks[i].label = std::move(fitted[i]);
+}
+
 void addRowTicks(std::vector<PlannedTick>& ticks, const LabelMaker& maker, RowSpan rows, const AxisMap& map,
                  const LabelFit& fit, double room) {
     std::vector<Candidate> found = candidates(maker, rows);
@@ -184,6 +209,9 @@ void addRowTicks(std::vector<PlannedTick>& ticks, const LabelMaker& maker, RowSp
         ranks.push_back(candidate.rule);
         maker.shorten(ticks.back(), fit, room, pitch);
     }
+    const bool names = maker.content().rowFormat.find('\t') != std::string_view::npos;
+    if (names && fit.sideBySide() && fit.wantedDistance(ticks, map) > 0)
+        maker.fitNames(ticks, fit, room, pitch - fit.gap());
     fit.thin(ticks, map,
              hasRules(maker.content().rules) ? std::span<const int>(ranks) : std::span<const int>());
     if (pitch < kLeastTickPitch)

@@ -39,6 +39,10 @@ public:
     /// wrapped for that.
     void shorten(PlannedTick& tick, const LabelFit& fit, double room, double pitch) const;
 
+    /// Breaks names that stand side by side into lines of `width` pixels, or ends them in an ellipsis where
+    /// there is some width for that; `room` as above. Otherwise they stay as they are.
+    void fitNames(std::vector<PlannedTick>& ticks, const LabelFit& fit, double room, double width) const;
+
 private:
     const Axis& m_axis;
     const RowContent& m_content;
