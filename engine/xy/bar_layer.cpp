@@ -307,6 +307,7 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
     std::vector<Piece> pieces;
     if (aggregateLabels() != nullptr) {
         DataLabels labels(canvas, *this, frame, *aggregateLabels(), aggregateLabelFormat());
+        addBodies(labels, frame, places);
         for (std::size_t row = rows().begin; row < rows().end; ++row) {
             piecesOf(row, pieces);
             labelSums(labels, frame, places, row, pieces);
@@ -317,6 +318,8 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
     // Beside a sum the values go into their bars.
     const bool inside = stacked() || aggregateLabels() != nullptr;
     DataLabels labels(canvas, *this, frame, *dataLabels(), dataLabelFormat());
+    if (!inside)
+        addBodies(labels, frame, places);
     for (std::size_t row = rows().begin; row < rows().end; ++row) {
         piecesOf(row, pieces);
         for (const Piece& piece : pieces) {
@@ -333,9 +336,25 @@ void BarLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
                          .side = inside          ? LabelSide::Inside
                                  : piece.to >= 0 ? LabelSide::Above
                                                  : LabelSide::Below,
-                         .body = inside ? std::max(1.0, std::abs(tip - root)) : 0,
+                         .body = std::max(1.0, std::abs(tip - root)),
+                         .first = x0,
+                         .last = x1,
+                         .overlaid = m_combine == Combine::Overlay,
+                         .mayLeave = !inside && piece.to >= 0,
                          .ground = inside ? set->colour() : groundOf(piece, pieces),
                          .otherGround = set->colour()});
+        }
+    }
+}
+
+void BarLayer::addBodies(DataLabels& labels, const PlotFrame& frame, const Places& places) const {
+    std::vector<Piece> pieces;
+    for (std::size_t row = rows().begin; row < rows().end; ++row) {
+        piecesOf(row, pieces);
+        for (const Piece& piece : pieces) {
+            int x0 = 0, x1 = 0;
+            if (places.find(row, piece.set, x0, x1))
+                labels.addBody(x0, x1, alongY(frame, piece.from), alongY(frame, piece.to));
         }
     }
 }
@@ -363,24 +382,36 @@ Colour BarLayer::groundOf(const Piece& piece, std::span<const Piece> pieces) con
 
 void BarLayer::labelSums(DataLabels& labels, const PlotFrame& frame, const Places& places, std::size_t row,
                          std::span<const Piece> pieces) const {
-    double sum = 0, highest = 0, lowest = 0;
+    double sum = 0;
+    const Piece *highest = nullptr, *lowest = nullptr;
     int x0 = 0, x1 = 0;
-    const auto label = [&](const DataSet* set, double value, double share, double tip) {
-        labels.draw({row, set, value, share},
-                    {(x0 + x1) / 2.0, alongY(frame, tip), tip >= 0 ? LabelSide::Above : LabelSide::Below});
+    const auto label = [&](const DataSet* set, double value, double share, const Piece& end) {
+        const double tip = alongY(frame, end.to);
+        labels.draw({row, set, value, share}, {.alongX = (x0 + x1) / 2.0,
+                                               .alongY = tip,
+                                               .side = end.to >= 0 ? LabelSide::Above : LabelSide::Below,
+                                               .body = std::max(1.0, std::abs(tip - alongY(frame, end.from))),
+                                               .first = x0,
+                                               .last = x1,
+                                               .overlaid = m_combine == Combine::Overlay,
+                                               .mayLeave = end.to >= 0,
+                                               .otherGround = dataSets()[end.set]->colour()});
     };
     for (const Piece& piece : pieces) {
         if (!places.find(row, piece.set, x0, x1))
             return;
         const DataSet* set = dataSets()[piece.set];
         sum += set->data()[row];
-        highest = std::max(highest, piece.to);
-        lowest = std::min(lowest, piece.to);
+        if (piece.to >= 0 && (highest == nullptr || piece.to >= highest->to))
+            highest = &piece;
+        if (piece.to < 0 && (lowest == nullptr || piece.to < lowest->to))
+            lowest = &piece;
         if (!stacked()) // each bar is a stack of its own
-            label(set, set->data()[row], piece.share, piece.to);
+            label(set, set->data()[row], piece.share, piece);
     }
-    if (stacked() && !pieces.empty())
-        label(nullptr, sum, 100, sum < 0 && lowest < 0 ? lowest : highest);
+    const Piece* end = lowest != nullptr && (sum < 0 || highest == nullptr) ? lowest : highest;
+    if (stacked() && end != nullptr)
+        label(nullptr, sum, 100, *end);
 }
 
 void BarLayer::collectKeys(std::vector<LegendKey>& keys) const {

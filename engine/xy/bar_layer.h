@@ -62,6 +62,7 @@ private:
     void drawOnlySet(Canvas& canvas, const PlotFrame& frame, const Places& places) const;
     bool isHidden(const Piece& piece, std::span<const Piece> pieces) const;
     Colour groundOf(const Piece& piece, std::span<const Piece> pieces) const;
+    void addBodies(DataLabels& labels, const PlotFrame& frame, const Places& places) const;
     void labelSums(DataLabels& labels, const PlotFrame& frame, const Places& places, std::size_t row,
                    std::span<const Piece> pieces) const;
     std::vector<std::size_t> drawingOrder(const PlotFrame& frame) const;

@@ -114,15 +114,27 @@ void BaseBoxLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
         return;
     DataLabels labels(canvas, *this, frame, *dataLabels(), dataLabelFormat());
     std::vector<std::pair<std::string_view, double>> fields;
-    forEachPlace(frame, [&](const Place& place) {
-        double value = kNoValue;
+    double highest = 0, lowest = 0, value = 0;
+    const auto find = [&](const Place& place) {
+        value = kNoValue;
         fields.clear();
-        if (labelOf(place.row, value, fields)) {
-            double highest = value, lowest = value;
-            for (const auto& [name, number] : fields) {
-                highest = isValue(number) ? std::max(highest, number) : highest;
-                lowest = isValue(number) ? std::min(lowest, number) : lowest;
-            }
+        if (!labelOf(place.row, value, fields))
+            return false;
+        highest = lowest = value;
+        for (const auto& [name, number] : fields) {
+            highest = isValue(number) ? std::max(highest, number) : highest;
+            lowest = isValue(number) ? std::min(lowest, number) : lowest;
+        }
+        return true;
+    };
+    forEachPlace(
+        frame,
+        [&](const Place& place) {
+            if (find(place))
+                labels.addBody(place.first, place.last, pixel(frame, lowest), pixel(frame, highest));
+        });
+    forEachPlace(frame, [&](const Place& place) {
+        if (find(place)) {
             // On a wick a label would be struck through, in a plain box it is not.
             const bool wicks = std::any_of(fields.begin() + 2, fields.end(),
                                            [](const auto& field) { return isValue(field.second); });
@@ -133,7 +145,10 @@ void BaseBoxLayer::drawLabels(Canvas& canvas, const PlotFrame& frame) {
                         {.alongX = static_cast<double>(place.middle),
                          .alongY = upsideDown ? below : above,
                          .side = upsideDown ? LabelSide::Below : LabelSide::Above,
-                         .otherY = wicks ? (upsideDown ? above : below) : NAN});
+                         .otherY = wicks ? (upsideDown ? above : below) : NAN,
+                         .body = std::abs(above - below),
+                         .first = wicks ? 0 : place.first,
+                         .last = wicks ? -1 : place.last});
         }
     });
 }

@@ -43,8 +43,8 @@ struct PlotFrame {
     QRect inner() const { return plot.adjusted(1, 1, -1, -1); }
     /// The layer's front face from the front of the chart, in pixels: (z, -z).
     QPoint depthOffset;
-    int depth = 0;    ///< pixels of this layer's bodies, 0 flat; the back of a body is at (depth, -depth)
-    int decimals = 6; ///< that tell values on the y axis apart, for labels of values; below 0: tens...
+    int depth = 0;     ///< pixels of this layer's bodies, 0 flat; the back of a body is at (depth, -depth)
+    int decimals = 15; ///< that tell values on the y axis apart, for labels of values; below 0: tens...
 
     /// Position on the picture of a point given by its positions along the x and the y axis, and of one given
     /// by its values. Depth offset included.
