@@ -1,5 +1,7 @@
 #include "engine/polar/polar_chart.h"
 
+#include "engine/scale/nice_numbers.h"
+
 #include "engine/paint/picture.h"
 
 #include <algorithm>
@@ -97,7 +99,10 @@ PolarChart::Plot PolarChart::plot() const {
     request.upright = true;
     plot.radial = planAxis(*m_radial, request);
     frame.radial = scale.reverse ? plot.radial.map(outer, inner) : plot.radial.map(inner, outer);
-    for (const PlannedTick& tick : plot.radial.ticks) {
+    const std::vector<PlannedTick>& ticks = plot.radial.ticks;
+    if (plot.radial.scale.kind() == ScaleKind::Linear && ticks.size() > 1 && ticks[1].major)
+        frame.decimals = stepDecimals(ticks[1].value - ticks[0].value) + 2;
+    for (const PlannedTick& tick : ticks) {
         const double pixels = frame.pixels(tick.value);
         if (tick.major && pixels >= 1 && pixels <= m_radius + 0.5)
             plot.rings.push_back(pixels);
@@ -114,7 +119,8 @@ QRectF PolarChart::room() const {
 void PolarChart::drawBody(Canvas& canvas) {
     if (m_radius <= 0)
         return;
-    const Plot plot = this->plot();
+    Plot plot = this->plot();
+    placeTexts(plot);
     drawArea(canvas, plot);
     drawZones(canvas, plot.frame);
     if (!m_gridOnTop)
@@ -123,10 +129,12 @@ void PolarChart::drawBody(Canvas& canvas) {
         layer->draw(canvas, plot.frame, *m_angular);
     if (m_gridOnTop)
         drawGrid(canvas, plot);
-    canvas.strokePath(plot.frame.ring(m_radius), m_edge, m_edgeWidth);
+    drawRim(canvas, plot);
     drawMarks(canvas, plot.frame);
-    drawAngularLabels(canvas, plot);
     drawRadialAxis(canvas, plot);
+    for (const auto* texts : {&plot.texts, &plot.values})
+        for (const PlacedText& text : *texts)
+            text.text.drawAt(canvas, text.box.topLeft(), TopLeft);
     drawRadialTitle(canvas, plot.frame);
     for (const PolarLayer* layer : m_layers)
         layer->drawLabels(canvas, plot.frame, *m_angular, room(), textRoom());

@@ -33,11 +33,17 @@ protected:
     void drawBody(Canvas& canvas) override;
 
 private:
+    struct PlacedText {
+        TextBlock text;
+        QRectF box;
+    };
     struct Plot {
         AngularTicks angular;
         AxisPlan radial;
         PolarFrame frame;
-        std::vector<double> rings; ///< pixels of the grid's rings, rising
+        std::vector<double> rings;        ///< pixels of the grid's rings, rising
+        std::vector<PlacedText> texts{};  ///< of marks and spokes
+        std::vector<PlacedText> values{}; ///< of the radial axis; the grid has gaps for them
     };
 
     Plot plot() const;
@@ -47,10 +53,17 @@ private:
     void drawAlternating(Canvas& canvas, const Plot& plot) const;
     void drawZones(Canvas& canvas, const PolarFrame& frame) const;
     void drawGrid(Canvas& canvas, const Plot& plot) const;
-    void drawRadialAxis(Canvas& canvas, const Plot& plot);
+    void drawRim(Canvas& canvas, const Plot& plot) const;
+    template <class Draw>
+    void leaveValues(Canvas& canvas, const Plot& plot, const Draw& draw) const;
+    void drawGridLines(Canvas& canvas, const Plot& plot) const;
+    void drawRadialAxis(Canvas& canvas, const Plot& plot) const;
     void drawRadialTitle(Canvas& canvas, const PolarFrame& frame);
-    void drawMarks(Canvas& canvas, const PolarFrame& frame);
-    void drawAngularLabels(Canvas& canvas, const Plot& plot);
+    void drawMarks(Canvas& canvas, const PolarFrame& frame) const;
+    /// Looks for room for the texts of a plot, those that are missed most first.
+    void placeTexts(Plot& plot);
+    void placeAngularLabels(Plot& plot);
+    void placeValues(Plot& plot);
 
     QPoint m_centre;
     int m_radius;

@@ -14,6 +14,7 @@ struct PolarFrame {
     QPointF centre;
     double radius = 0;          ///< pixels
     AxisMap radial;             ///< from a value to pixels from the centre
+    int decimals = 15;          ///< that tell values on the radial axis apart; below 0: tens...
     std::vector<double> spokes; ///< parts of the turn, 0 up to 1, rising
     bool polygon = false;       ///< rings have corners at the spokes
 

@@ -4,6 +4,7 @@
 #include "engine/chart/chart.h"
 #include "engine/data/no_value.h"
 #include "engine/polar/smooth_curve.h"
+#include "engine/scale/nice_numbers.h"
 
 #include <QPolygonF>
 #include <algorithm>
@@ -22,12 +23,14 @@ constexpr const char* kDefaultFormat = "{value}";
 /// What the format of a data label may name.
 class PointFields final : public FieldSource {
 public:
-    PointFields(double value, double angle, std::string_view label, std::string_view name, std::size_t row)
-        : m_value(value), m_angle(angle), m_label(label), m_name(name), m_row(row) {}
+    PointFields(double value, double angle, std::string_view label, std::string_view name, std::size_t row,
+                int decimals)
+        : m_value(value), m_angle(angle), m_label(label), m_name(name), m_row(row),
+          m_text(valueText(value, decimals)) {}
 
     FieldValue field(std::string_view name) const override {
         if (name == "value")
-            return FieldValue::number(m_value);
+            return FieldValue::number(m_value, m_text);
         if (name == "angle" || name == "x")
             return FieldValue::number(m_angle);
         if (name == "label" || name == "xLabel")
@@ -43,6 +46,7 @@ private:
     double m_value, m_angle;
     std::string_view m_label, m_name;
     std::size_t m_row;
+    std::string m_text;
 };
 
 } // namespace
@@ -215,7 +219,7 @@ void PolarLayer::drawLabels(Canvas& canvas, const PolarFrame& frame, const Angul
         const std::size_t row = point->row;
         const bool named = m_angles.empty() && row < axis.labels().size();
         const auto label = named ? std::string_view(axis.labels()[row]) : std::string_view();
-        const PointFields fields(m_data[row], angles[row], label, m_name, row);
+        const PointFields fields(m_data[row], angles[row], label, m_name, row, frame.decimals);
         const TextBlock text = m_labelStyle->block(m_labelFormat.apply(fields));
         if (text.empty())
             continue;

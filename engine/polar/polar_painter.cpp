@@ -6,6 +6,7 @@
 #include "engine/polar/polar_chart.h"
 #include "engine/text/fitted_text.h"
 
+#include <QRegion>
 #include <algorithm>
 #include <cmath>
 #include <numbers>
@@ -17,7 +18,7 @@ namespace {
 constexpr double kLabelGap = 3;     ///< pixels between a line and its labels
 constexpr double kLabelAir = 2;     ///< and between two labels
 constexpr double kMinorLength = 5;  ///< of the marks of minor ticks at the rim
-constexpr int kLeastWrap = 24;      ///< pixels that a line of a label has at least
+constexpr double kLeastWrap = 2.5;  ///< lines high that a label is broad at least
 const QPointF kToBorders(0.5, 0.5); ///< from centres of pixels to the pixel borders that paths count
 
 /// What a pen of this width covers.
@@ -101,7 +102,30 @@ void PolarChart::drawZones(Canvas& canvas, const PolarFrame& frame) const {
     }
 }
 
+/// Draws lines with gaps for the values of the radial axis, which they would strike through.
+template <class Draw>
+void PolarChart::leaveValues(Canvas& canvas, const Plot& plot, const Draw& draw) const {
+    QRegion rest(0, 0, width(), height());
+    for (const PlacedText& value : plot.values)
+        rest -= value.box.toAlignedRect().adjusted(-1, 0, 1, 0);
+    QPainter& painter = canvas.painter();
+    painter.save();
+    painter.setClipRegion(rest, painter.hasClipping() ? Qt::IntersectClip : Qt::ReplaceClip);
+    draw();
+    painter.restore();
+}
+
 void PolarChart::drawGrid(Canvas& canvas, const Plot& plot) const {
+    leaveValues(
+        canvas, plot, [&] { drawGridLines(canvas, plot); });
+}
+
+void PolarChart::drawRim(Canvas& canvas, const Plot& plot) const {
+    leaveValues(
+        canvas, plot, [&] { canvas.strokePath(plot.frame.ring(m_radius), m_edge, m_edgeWidth); });
+}
+
+void PolarChart::drawGridLines(Canvas& canvas, const Plot& plot) const {
     const PolarFrame& frame = plot.frame;
     QPainterPath rings, spokes;
     for (const double ring : plot.rings)
@@ -134,30 +158,40 @@ void PolarChart::drawGrid(Canvas& canvas, const Plot& plot) const {
 }
 
 /// From the centre upwards, ticks and labels on its left.
-void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot) {
-    const PolarFrame& frame = plot.frame;
-    const auto point = [&](double pixels, double left) { return frame.at(0, pixels) - QPointF(left, 0); };
+void PolarChart::drawRadialAxis(Canvas& canvas, const Plot& plot) const {
+    const auto point = [&](double pixels, double left) {
+        return plot.frame.at(0, pixels) - QPointF(left, 0);
+    };
+    const TickSettings& settings = m_radial->ticks();
+    for (const PlannedTick& tick : plot.radial.ticks) {
+        const double pixels = std::round(plot.frame.pixels(tick.value));
+        const int length = tick.major ? settings.majorLength : settings.minorLength;
+        if (pixels <= m_radius + 0.5 && length != 0 && m_radial->width() > 0)
+            canvas.line(point(pixels, length), point(pixels, 0), m_radial->tickColour(), 1);
+    }
+    canvas.line(point(0, 0), point(m_radius, 0), m_radial->colour(), m_radial->width());
+}
+
+void PolarChart::placeValues(Plot& plot) {
     const TickSettings& settings = m_radial->ticks();
     const double reach = std::max({0, settings.majorLength, settings.minorLength}) + kLabelGap;
-    for (const PlannedTick& tick : plot.radial.ticks) {
-        const double pixels = std::round(frame.pixels(tick.value));
-        const int length = tick.major ? settings.majorLength : settings.minorLength;
-        if (!(pixels <= m_radius + 0.5))
-            continue;
-        if (length != 0 && m_radial->width() > 0)
-            canvas.line(point(pixels, length), point(pixels, 0), m_radial->tickColour(), 1);
-        if (!tick.label)
+    for (PlannedTick& tick : plot.radial.ticks) {
+        const double pixels = std::round(plot.frame.pixels(tick.value));
+        if (!tick.label || !(pixels <= m_radius + 0.5))
             continue;
         // At the rim, where the labels of the angles are, there may only be room below it.
-        const QRectF box = movedInto(tick.label->boundsAt(point(pixels, reach) + kToBorders, Right), room());
-        for (const double top : {box.top(), std::max(box.top(), frame.centre.y() - m_radius + 1)}) {
-            if (textRoom().claim(QRectF(QPointF(box.left(), top), box.size()))) {
-                tick.label->drawAt(canvas, {box.left(), top}, TopLeft);
+        const QPointF end = plot.frame.at(0, pixels) - QPointF(reach, 0);
+        QRectF box = movedInto(tick.label->boundsAt(end + kToBorders, Right), room());
+        for (const double top : {box.top(), std::max(box.top(), plot.frame.centre.y() - m_radius + 1)}) {
+            box.moveTop(top);
+            if (textRoom().claim(box)) {
+                plot.values.push_back({std::move(*tick.label), box});
                 break;
             }
         }
     }
-    canvas.line(point(0, 0), point(m_radius, 0), m_radial->colour(), m_radial->width());
+    if (colours().invisible(m_radial->labelBox().look().colour))
+        plot.values.clear();
 }
 
 /// Right of the axis, as near to its middle as there is room beside the labels of marks.
@@ -175,29 +209,35 @@ void PolarChart::drawRadialTitle(Canvas& canvas, const PolarFrame& frame) {
     }
 }
 
-/// A ring at the value of each mark of the radial axis, its label right of the axis.
-void PolarChart::drawMarks(Canvas& canvas, const PolarFrame& frame) {
-    for (const Mark* mark : m_radial->marks()) {
-        if (!isValue(mark->value()) || !frame.radial.contains(mark->value()))
-            continue;
-        const double pixels = frame.pixels(mark->value());
-        canvas.strokePath(frame.ring(pixels), mark->colour(), 1);
-        const TextBlock label = mark->block();
-        if (!label.empty()) {
-            const QPointF beside = frame.at(0, pixels) + QPointF(kLabelGap, -1);
-            const QRectF box = movedInto(label.boundsAt(beside, BottomLeft), room());
-            if (textRoom().claim(box))
-                label.drawAt(canvas, box.topLeft(), TopLeft);
-        }
-    }
+/// A ring at the value of each mark of the radial axis.
+void PolarChart::drawMarks(Canvas& canvas, const PolarFrame& frame) const {
+    for (const Mark* mark : m_radial->marks())
+        if (isValue(mark->value()) && frame.radial.contains(mark->value()))
+            canvas.strokePath(frame.ring(frame.pixels(mark->value())), mark->colour(), 1);
 }
 
-void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot) {
-    const bool edged = !canvas.colours().invisible(m_edge);
+void PolarChart::placeTexts(Plot& plot) {
+    const PolarFrame& frame = plot.frame;
+    for (const Mark* mark : m_radial->marks()) { // right of the axis
+        TextBlock label = mark->block();
+        if (label.empty() || !isValue(mark->value()) || !frame.radial.contains(mark->value()))
+            continue;
+        const QPointF beside = frame.at(0, frame.pixels(mark->value())) + QPointF(kLabelGap, -1);
+        const QRectF box = movedInto(label.boundsAt(beside, BottomLeft), room());
+        if (textRoom().claim(box))
+            plot.texts.push_back({std::move(label), box});
+    }
+    placeAngularLabels(plot);
+    placeValues(plot);
+}
+
+void PolarChart::placeAngularLabels(Plot& plot) {
+    const bool edged = !colours().invisible(m_edge);
     const double radius = m_radius + (edged ? m_edgeWidth / 2.0 : 0) + kLabelGap;
     const QPointF centre = plot.frame.centre + kToBorders;
     TextLook look = m_angular->labelBox().look();
     const bool wraps = look.wrapWidth == 0 && look.angle == 0 && !look.vertical;
+    const double least = kLeastWrap * TextBlock(look, "0", fonts()).boxSize().height();
     std::vector<TextBlock> labels;
     std::vector<QRectF> boxes;
     for (const AngularTick& spoke : plot.angular.spokes) {
@@ -207,7 +247,7 @@ void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot) {
             const double side = roundDirection(angle).x();
             const double rim = centre.x() + side * radius;
             const double beside = side < 0 ? rim - room().left() : room().right() - rim;
-            most.setWidth(std::max(kLeastWrap, static_cast<int>(beside)));
+            most.setWidth(static_cast<int>(std::max(least, beside)));
         }
         TextBlock label = fittedText(look, spoke.label, fonts(), most);
         if (label.empty())
@@ -220,7 +260,7 @@ void PolarChart::drawAngularLabels(Canvas& canvas, const Plot& plot) {
     const std::vector<bool> kept = thinAround(boxes, kLabelAir);
     for (std::size_t i = 0; i < labels.size(); ++i)
         if (kept[i] && textRoom().claim(boxes[i]))
-            labels[i].drawAt(canvas, boxes[i].topLeft(), TopLeft);
+            plot.texts.push_back({std::move(labels[i]), boxes[i]});
 }
 
 } // namespace chartdraw

@@ -3,6 +3,7 @@
 #include "engine/xy/frame_layout.h"
 #include "engine/xy/xy_chart.h"
 
+#include <QRegion>
 #include <algorithm>
 #include <cmath>
 #include <optional>
@@ -129,9 +130,22 @@ private:
         }
     }
 
+    /// What is left of a grid line of an axis that stands within the plot area, where it would strike its
+    /// labels through.
+    QRegion besideLabels(const QRect& line, const AxisPlace& place) const {
+        QRegion rest(line);
+        if (place.avoid)
+            for (const AxisLayout& axis : m_frame.axes)
+                for (const AxisLayout::Label& label : axis.labels)
+                    if (label.box().intersects(line))
+                        rest -= label.box().toAlignedRect().adjusted(-1, 0, 1, 0);
+        return rest;
+    }
+
     void drawGridLine(const AxisPlace& place, int pixel, const GridLook& look) {
         const QRect line = strip(place, pixel, pixel);
-        m_canvas.line(line.topLeft(), line.bottomRight(), look.colour, look.width);
+        for (const QRect& part : besideLabels(line, place))
+            m_canvas.line(part.topLeft(), part.bottomRight(), look.colour, look.width);
         if (m_frame.depth > 0) { // on to the front along the side wall or the floor
             const QPoint end = place.upright() ? line.topLeft() : line.bottomLeft();
             m_canvas.line(end, end - m_frame.back(), look.colour, look.width);
@@ -172,6 +186,19 @@ private:
         factor.block.drawAt(m_canvas, factor.anchor, factor.alignment);
     }
 
+    /// A label that touches another text moves a little to the middle of its axis, before it goes.
+    void drawLabel(AxisLayout::Label& label, bool upright) {
+        TextRoom& room = m_chart.textRoom();
+        const QRectF box = label.box();
+        const QPointF inwards = QRectF(m_frame.plot).center() - box.center();
+        const QPointF step =
+            upright ? QPointF(0, std::copysign(1, inwards.y())) : QPointF(std::copysign(1, inwards.x()), 0);
+        const QPointF anchor = label.anchor;
+        for (int by = 1; by <= box.height() / 4 && !label.pivot && !room.hasRoom(label.outline()); ++by)
+            label.anchor = anchor + step * by;
+        label.draw(m_canvas, room);
+    }
+
     /// What is missed most first: where texts of the axes lie over one another, the later ones go.
     void drawAxisTexts() {
         TextRoom& room = m_chart.textRoom();
@@ -184,9 +211,9 @@ private:
         for (const AxisLayout& axis : m_frame.axes)
             for (const AxisLayout::Label& mark : axis.marks)
                 mark.draw(m_canvas, room);
-        for (const AxisLayout& axis : m_frame.axes)
-            for (const AxisLayout::Label& label : axis.labels)
-                label.draw(m_canvas, room);
+        for (AxisLayout& axis : m_frame.axes)
+            for (AxisLayout::Label& label : axis.labels)
+                drawLabel(label, axis.place.upright());
     }
 
     static constexpr Colour kWallShade = 0xe0000000; // a breath of black over the background
