@@ -101,6 +101,33 @@ BaseChart* barsOf(int combine) {
     return chart.base;
 }
 
+BaseChart* narrowBars() {
+    const Chart chart;
+    std::vector<double> data;
+    for (int i = 0; i < 60; ++i)
+        data.push_back(40 + i * 37 % 60);
+    BarLayer* layer = CXYChart_addBarLayer(chart.xy, data.data(), 60, -1, nullptr, 0);
+    Chart::label(BarLayer2Layer(layer));
+    return chart.base;
+}
+
+BaseChart* hugeBars() {
+    const Chart chart;
+    const double data[] = {2614880000000, 847840000000, 3e12, 1e12, 1955000000000, 9e11};
+    CAxis_setLinearScale(chart.y, 0, 3e12, 1e12, 0);
+    Chart::label(BarLayer2Layer(CXYChart_addBarLayer(chart.xy, data, 6, -1, nullptr, 0)));
+    return chart.base;
+}
+
+BaseChart* brokenNames() {
+    const Chart chart;
+    chart.addBars({25, 18, 31, 22, 28});
+    const double rows[] = {0, 1, 2, 3, 4};
+    CAxis_setLabels2(chart.x, rows, 5,
+                     "{value|\tNorthern Territories\tSouth\tIslands and reefs\tUnbreakablelongname\tWest}");
+    return chart.base;
+}
+
 BaseChart* stepLabels() {
     const Chart chart;
     const double data[] = {10, 30, 20, 20, 45, 5};
@@ -178,6 +205,9 @@ const gallery::Family
                       {"A long word beside a radar, data to the corners", radar},
                       {"Labels read on their bars", [] { return barsOf(CHART_COMBINE_STACK); }},
                       {"Bars that others hide have none", [] { return barsOf(CHART_COMBINE_OVERLAY); }},
+                      {"Labels of narrow bars keep off the others", narrowBars},
+                      {"Large values in one unit", hugeBars},
+                      {"Names are broken or shortened", brokenNames},
                       {"Labels beside the risers of steps", stepLabels},
                       {"Boxes upside down", upsideDown},
                       {"A power of ten, once",

@@ -102,6 +102,28 @@ BaseChart* areas() {
     return p.chart;
 }
 
+/// Inside the circle all is seen, the polygon of the grid cuts nothing off.
+BaseChart* beyondPolygon() {
+    Polar p;
+    const double data[] = {95, 90, 150, 92}, angles[] = {45, 135, 225, 315};
+    CPolarChart_setGridStyle(p.polar, true, false);
+    CAxis_setLinearScale(CPolarChart_radialAxis(p.polar), 0, 100, 25, 0);
+    CAngularAxis_setLinearScale(CPolarChart_angularAxis(p.polar), 0, 360, 90, 0);
+    p.line(data, 4, angles);
+    PolarSplineLineLayer* spline = CPolarChart_addSplineLineLayer(p.polar, data, 4, 0xcc3366, nullptr);
+    CPolarLayer_setAngles(PolarLineLayer2PolarLayer(PolarSplineLineLayer2PolarLineLayer(spline)), angles, 4);
+    return p.chart;
+}
+
+BaseChart* fineSectors() {
+    Polar p(340, 320, 8000);
+    CPolarChart_setPlotAreaBg(p.polar, 0xf4f8ff, 0xa0b8d8, false);
+    CPolarChart_setGridColor(p.polar, CHART_TRANSPARENT, 0, CHART_TRANSPARENT, 0);
+    CAngularAxis_setLinearScale(CPolarChart_angularAxis(p.polar), 0, 360, 0.05, 0);
+    p.line(kRadii, 9, kAngles);
+    return p.chart;
+}
+
 BaseChart* splineArea() {
     Polar p;
     p.months();
@@ -289,10 +311,12 @@ const gallery::Family family("polar", {
                                           {"lines at even angles", evenLine},
                                           {"spline", spline},
                                           {"areas, polygon grid", areas},
+                                          {"values beyond polygon and scale", beyondPolygon},
                                           {"spline area, grid below", splineArea},
                                           {"open spline", openLoop},
                                           {"alternating rings", rings},
                                           {"alternating sectors", sectors},
+                                          {"sectors beyond count", fineSectors},
                                           {"alternating polygons", polygonRings},
                                           {"zones", zones},
                                           {"symbols only", scatter},

@@ -26,13 +26,13 @@ struct Prices {
     Prices& operator=(const Prices&) = delete;
 };
 
-template <int rows, int depth = 0>
+template <int rows, int depth = 0, int edge = CHART_LINE_COLOR>
 BaseChart* candles() {
     LayerChart chart(460, 260, depth);
     const Prices prices(rows);
     CandleStickLayer* layer = CXYChart_addCandleStickLayer(chart.xy, prices.column[0], rows, prices.column[1],
                                                            rows, prices.column[2], rows, prices.column[3],
-                                                           rows, 0x33aa55, 0xcc3333, CHART_LINE_COLOR);
+                                                           rows, 0x33aa55, 0xcc3333, edge);
     BaseBoxLayer* box = CandleStickLayer2BaseBoxLayer(layer);
     CBaseBoxLayer_setDataGap(box, 0.4);
     CLayer_set3D(BaseBoxLayer2Layer(box), depth, 0);
@@ -125,6 +125,7 @@ BaseChart* finance() {
 const Family kFamily("prices", {{"Candles", candles<30>},
                                 {"Many candles", candles<110>},
                                 {"Candles with depth", candles<12, 10>},
+                                {"Wicks where the edge is transparent", candles<30, 0, kClear>},
                                 {"Price bars by the close before", priceBars},
                                 {"Thick price bars, labelled", priceLabels},
                                 {"Boxes and whiskers", whiskers<>},

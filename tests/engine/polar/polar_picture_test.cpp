@@ -78,12 +78,39 @@ TEST(PolarChart, LaysATranslucentGridOnOnce) {
 }
 
 TEST(PolarChart, CutsDataOffAtTheCircleAndNotAtThePolygon) {
+    const auto picture = [](bool curved, const std::vector<double>& data, const std::vector<double>& angles) {
+        Polar p;
+        CPolarChart_setGridStyle(p.polar, true, true);
+        CAngularAxis_setLinearScale(p.angular, 0, 360, 90, 0);
+        const int count = static_cast<int>(data.size());
+        if (!curved) {
+            p.line(data, angles, kRed);
+        } else {
+            PolarSplineLineLayer* spline = CPolarChart_addSplineLineLayer(p.polar, data.data(), count, kRed, nullptr);
+            PolarLayer* layer = PolarLineLayer2PolarLayer(PolarSplineLineLayer2PolarLineLayer(spline));
+            CPolarLayer_setAngles(layer, angles.data(), count);
+            CPolarLayer_setLineWidth(layer, 3);
+        }
+        return p.picture();
+    };
+    around(picture(false, {10, 95, CHART_NO_VALUE, 150}, {45, 45, 45, 200}),
+           {{45, 85, kRed, "the polygon ends at 71"}, {200, 110, kWhite}});
+    for (const bool curved : {false, true}) {
+        const QImage image = picture(curved, {90, 92, 150, 90}, {45, 135, 225, 315});
+        around(image, {{45, 90, kRed}, {135, 92, kRed}, {315, 90, kRed}, {225, 95, kWhite, "above the scale"}});
+        for (int degrees = 0; degrees < 360; ++degrees)
+            around(image, {{static_cast<double>(degrees), 104, kWhite, "beyond the circle"}});
+    }
+}
+
+TEST(PolarChart, TakesSectorsBeyondCount) {
     Polar p;
-    CPolarChart_setGridStyle(p.polar, true, true);
-    CAngularAxis_setLinearScale(p.angular, 0, 360, 90, 0);
-    p.line({10, 95, CHART_NO_VALUE, 150}, {45, 45, 45, 200}, kRed);
+    CPolarChart_setPlotArea(p.polar, 150, 150, 8000, -1, -1, 1);
+    CPolarChart_setPlotAreaBg(p.polar, kGreen, kBlue, false);
+    CAngularAxis_setLinearScale(p.angular, 0, 360, 0.05, 0); // sectors of a tenth of a pixel
     const QImage image = p.picture();
-    around(image, {{45, 85, kRed, "the polygon ends at 71"}, {200, 110, kWhite}});
+    EXPECT_EQ(inked(image, kWhite), 300 * 300);
+    EXPECT_NEAR(qGreen(image.pixel(250, 80)), 127, 60) << "one sector as good as the other";
 }
 
 TEST(PolarChart, DrawsLinesThroughTheirPoints) {

@@ -328,4 +328,116 @@ TEST(Placement, TheBackWallStaysOffTheLegend) {
     EXPECT_GT(dark(0), 0) << "the text";
     EXPECT_NEAR(dark(20), dark(0), 10); // the wall's upper edge is in row 20
 }
+
+TEST(Placement, LabelsOfNarrowBarsKeepOffTheirNeighbours) {
+    const auto picture = [](int colour) {
+        const Chart chart;
+        chart.hideLabels();
+        std::vector<double> data;
+        for (int i = 0; i < 60; ++i) data.push_back(40 + i * 37 % 60);
+        Layer* layer = chart.bars(CHART_COMBINE_SIDE, {data}, {0xff0000});
+        CLayer_setDataLabelStyle(layer, nullptr, 8, colour, 0);
+        return of(chart.base);
+    };
+    const QImage bare = picture(kClear), labelled = picture(0x0000ff);
+    int ink = 0;
+    for (int y = 0; y < bare.height(); ++y) {
+        for (int x = 0; x < bare.width(); ++x) {
+            if (bare.pixel(x, y) == labelled.pixel(x, y)) continue;
+            ++ink;
+            EXPECT_NE(at(bare, x, y), 0xff0000) << x << ", " << y;
+        }
+    }
+    EXPECT_GT(ink, 100) << "peaks have their labels";
+}
+
+TEST(Placement, ALabelWithoutRoomBelowTheFrameStandsAboveIt) {
+    const Chart chart;
+    chart.hideLabels();
+    CAxis_setLinearScale(chart.y, 0, 100, 0, 0);
+    std::vector<double> data(30, CHART_NO_VALUE); // the bars are narrower than their labels
+    data[10] = 100;
+    chart.bars(CHART_COMBINE_SIDE, {data}, {0x000080});
+    const std::vector<QRectF> boxes = placed(chart.base, 1);
+    EXPECT_LE(boxes[0].bottom(), 20);
+}
+
+TEST(Placement, LargeValuesHaveTheUnitOfTheirLayer) {
+    const auto picture = [](const std::vector<double>& data, const char* format) {
+        const Chart chart;
+        chart.hideLabels();
+        CAxis_setLinearScale(chart.y, 0, 4e12, 1e12, 0);
+        CLayer_setDataLabelFormat(chart.bars(CHART_COMBINE_SIDE, {data}, {0xff0000}), format);
+        return of(chart.base).copy(51, 21, 150, 190);
+    };
+    const std::vector<double> rows = {2614880000000, 847840000000, 3e12, 1e12, 2e12, 9e11, 1e12};
+    EXPECT_EQ(picture({rows.begin(), rows.begin() + 1}, "{value}"),
+              picture({rows.begin(), rows.begin() + 1}, "{value|0}"));
+    EXPECT_NE(picture(rows, "{value}"), picture(rows, "{value|0}")) << "13 digits have no room";
+}
+
+TEST(Placement, NamesBelowBarsAreBrokenBeforeTheyGo) {
+    const Chart chart;
+    chart.hideLabels();
+    chart.line({20, 30, 10, 20, 30});
+    const double rows[] = {0, 1, 2, 3, 4};
+    Axis* x = CXYChart_xAxis(chart.xy);
+    CAxis_setLabels2(x, rows, 5, "{value|\tNorthern Territories\tSouth\tIslands\tUnbreakablelongname\tWest}");
+    CAxis_setLabelStyle(x, nullptr, 8, 0, 0);
+    const std::vector<QRectF> boxes = placed(chart.base, 5);
+    EXPECT_GT(boxes[0].height(), 1.5 * boxes[1].height()) << "two lines";
+    EXPECT_LT(boxes[3].width(), 60) << "an ellipsis";
+}
+
+TEST(Placement, LabelsOfTwoAxesMeetAtTheirCorner) {
+    const Chart chart;
+    CXYChart_setPlotArea(chart.xy, 50, 20, 300, 60, 0xffffff, -1, -1, kClear, kClear);
+    chart.line({0, 30, 40});
+    const double rows[] = {0, 1, 2};
+    CAxis_setLabels2(CXYChart_xAxis(chart.xy), rows, 3, "{value|\tNorthern\tSouthern\tIslands}");
+    CAxis_setLinearScale(chart.y, 0, 40, 20, 0);
+    for (Axis* axis : {CXYChart_xAxis(chart.xy), chart.y}) CAxis_setLabelStyle(axis, nullptr, 8, 0, 0);
+    placed(chart.base, 6);
+}
+
+TEST(Placement, ALongTitleLeavesTheLabelsTheirLine) {
+    const Chart chart;
+    chart.hideLabels();
+    chart.line({0, 30, 40});
+    CAxis_setLabelStyle(CXYChart_xAxis(chart.xy), nullptr, 8, 0, 0);
+    const char* const title =
+        "A title of so many words that it wants several lines for itself below the axis of a chart";
+    CAxis_setTitle(CXYChart_xAxis(chart.xy), title, nullptr, 12, -1);
+    placed(chart.base, 3 + 1);
+}
+
+TEST(Placement, DatesOnANarrowUprightAxisAreReadWhole) {
+    const Chart chart(36);
+    const double from = CChart_chartTime(2004, 12, 1, 0, 0, 0), day = 86400;
+    CAxis_setDateScale(chart.y, from, from + 30 * day, 0, 0);
+    CAxis_setLabelStyle(chart.y, nullptr, 8, 0, 0);
+    placed(chart.base, 4); // of 6, 13, 20 and 27 December
+}
+
+TEST(Placement, GridLinesLeaveGapsForLabelsThatStandOnThem) {
+    PolarChart* polar = CPolarChart_create(300, 300, 0xffffff, kClear, 0);
+    CPolarChart_setPlotArea(polar, 150, 150, 100, kClear, 0xff0000, 1);
+    CPolarChart_setGridColor(polar, 0xff0000, 1, 0xff0000, 1);
+    CAxis_setLinearScale(CPolarChart_radialAxis(polar), 0, 100, 25, 0);
+    CAxis_setLabelStyle(CPolarChart_radialAxis(polar), nullptr, 8, 0, 0);
+    const Chart xy;
+    CXYChart_setPlotArea(xy.xy, 50, 20, 300, 200, 0xffffff, -1, -1, 0xff0000, 0xff0000);
+    CXYChart_setAxisAtOrigin(xy.xy, CHART_ORIGIN_XY, 0);
+    CAxis_setLinearScale(xy.y, -20, 20, 10, 0);
+    CAxis_setLinearScale(CXYChart_xAxis(xy.xy), -20, 20, 10, 0);
+    CAxis_setLabelStyle(xy.y, nullptr, 8, 0, 0);
+    for (BaseChart* chart : {PolarChart2BaseChart(polar), xy.base}) {
+        const QImage image = of(chart, false);
+        int red = 0;
+        for (const QPolygonF& text : textsOf(chart)) red += countOf(image, text.boundingRect().toRect(), 0xff0000);
+        EXPECT_EQ(red, 0);
+        EXPECT_GT(countOf(image, image.rect(), 0xff0000), 200);
+        CBaseChart_destroy(chart);
+    }
+}
 } // namespace

@@ -72,6 +72,8 @@ TEST(Operations, ThatAnswerSayWhatWasAsked) {
     Scene s;
     bars(s);
     EXPECT_STREQ(CBaseChart_formatValue(s.chart, 1234.5, "{value|1,.}"), "1,234.5");
+    for (const char* format : {"\xff", "\xc3", "{value|2\xe2\x82}", "{value|\xed\xa0\x80}", "a\xf4\x90\x80\x80{value"})
+        EXPECT_TRUE(QUtf8StringView(CBaseChart_formatValue(s.chart, 1234.5, format)).isValidUtf8()) << format;
     EXPECT_EQ(CBaseChart_getLegend(s.chart), nullptr);
     LegendBox* legend = CBaseChart_addLegend(s.chart, 0, 0, true, nullptr, 8);
     EXPECT_EQ(CBaseChart_getLegend(s.chart), legend);

@@ -41,6 +41,9 @@ TEST(CandleStickLayer, BodyWickAndColoursTellThePrices) {
                   {{250, 170, 50, 1}, 0, {13, 0, 25, 1}, "unchanged: a line"}});
     EXPECT_EQ(inked(image.copy(205, 0, 45, 300), kWhite), 0);
     EXPECT_EQ(inked(image.copy(300, 0, 50, 300), kWhite), 25); // all equal: nothing else
+    Chart edgeless;
+    candles(edgeless, {{50, kGap, kGap, kGap, kGap, kGap}, {10}, {20}, {40}}, kGreen, kRed, CHART_TRANSPARENT);
+    shows(edgeless.picture(), {{{75, 0, 1, 300}, kGreen, {0, 130, 1, 81}, "the wick without an edge"}});
 }
 
 TEST(HLOCLayer, TicksOfNeighboursStayApart) {
