@@ -86,7 +86,9 @@ int PieChart::widthBeside(const PieBody& body, QPointF about, double angle, cons
         room = beside - std::max(0.0, labelDistance(body));
     }
     const double line = m_labelStyle->block("0").boxSize().height();
-    return static_cast<int>(std::max(kLeastWrap * line, room));
+    // The label may come nearer to the pie for it, but not onto it.
+    const double least = std::min(kLeastWrap * line, room + std::max(0.0, labelDistance(body)) / 4);
+    return static_cast<int>(std::max({1.0, least, room}));
 }
 
 std::vector<PieChart::Label> PieChart::makeLabels(const PieBody& body, std::span<const double> shares,
