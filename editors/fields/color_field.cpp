@@ -8,17 +8,29 @@
 
 #include <QLabel>
 #include <algorithm>
+#include <utility>
+
+namespace {
+
+/// Room for each of the kinds, so that a choice does not move the page.
+int WidestKind(QLabel& label) {
+    static std::pair<QString, int> known; // of the font that all labels have
+    if (const QString font = label.font().key(); known.first != font) {
+        known = {font, 0};
+        for (const int kind : {ChartText::TypeArgb, ChartText::TypeMetal, ChartText::TypePattern}) {
+            label.setText(QString::fromUtf8(LoadChartString(kind)));
+            known.second = std::max(known.second, label.sizeHint().width());
+        }
+    }
+    return known.second;
+}
+
+} // namespace
 
 CChartColorField::CChartColorField()
     : m_preview(new CChartPreviewView(this)), m_type(new QLabel(this)),
       m_typeText(QString::fromUtf8(LoadChartString(ChartText::TypeArgb))) {
-    // Room for each of the kinds, so that a choice does not move the page.
-    int width = 0;
-    for (const int kind : {ChartText::TypeArgb, ChartText::TypeMetal, ChartText::TypePattern}) {
-        m_type->setText(QString::fromUtf8(LoadChartString(kind)));
-        width = std::max(width, m_type->sizeHint().width());
-    }
-    m_type->setMinimumWidth(width);
+    m_type->setMinimumWidth(WidestKind(*m_type));
     LaySwatchField(*this, *m_preview, *m_type, [this] { Choose(); });
     m_preview->setMaximumWidth(m_preview->minimumHeight() * 5); // a wide page leaves more than a colour needs
 }

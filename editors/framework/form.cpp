@@ -9,6 +9,7 @@
 #include "platform/widgets/simple_combo.h"
 #include "resources/string_table.h"
 
+#include <QComboBox>
 #include <QCoreApplication>
 #include <QGridLayout>
 #include <QGroupBox>
@@ -232,7 +233,9 @@ QWidget* CForm::AddRow(const char* label, QWidget& control) {
     }
     auto* text = new QLabel(QString::fromUtf8(label), &m_page);
     text->setBuddy(control.focusProxy() != nullptr ? control.focusProxy() : &control);
-    const bool tall = control.sizeHint().height() > 2 * text->sizeHint().height();
+    const bool oneLine = number || qobject_cast<QComboBox*>(&control) != nullptr ||
+                         qobject_cast<QHBoxLayout*>(control.layout()) != nullptr;
+    const bool tall = !oneLine && control.sizeHint().height() > 2 * m_page.fontMetrics().height();
     m_part->addWidget(text, line, 0, tall ? Qt::AlignTop : Qt::AlignVCenter);
     m_part->addWidget(&control, line, 1, 1, number ? 1 : 2, place);
     return text;
@@ -266,7 +269,10 @@ void CForm::AlignLabels() const {
 void CForm::Start() {
     for (auto* column : m_bands->findChildren<QVBoxLayout*>()) {
         const bool hasPeers = static_cast<QLayout*>(column->parent())->count() > 1;
-        if (hasPeers && (column->expandingDirections() & Qt::Vertical) == 0)
+        bool grows = false;
+        for (int i = 0; i < column->count(); ++i)
+            grows = grows || column->stretch(i) > 0;
+        if (hasPeers && !grows)
             column->setStretch(column->count() - 1, 1); // the last group ends where the other columns end
     }
     if (m_page.layout() == nullptr)

@@ -254,6 +254,8 @@ void CChartPreviewView::PopUpMenu(const QPoint& place) {
 // ---- Mouse
 
 void CChartPreviewView::UpdateCursor() {
+    if (m_kind == PreviewColor || m_kind == PreviewFont)
+        return; // nothing to drag
     if (m_fitMode)
         viewport()->unsetCursor();
     else
