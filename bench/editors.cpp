@@ -1,6 +1,6 @@
-// The editors as their users wait for them: from the host's call to the first finished preview, with all
-// pages built, and from one press of an arrow to the repainted preview. Pies of seven sectors, all else as a
-// new object has it, at the default size of 500 x 550.
+// The editors as their users wait for them: from the host's call to the first finished preview, with the
+// page that shows, and from one press of an arrow to the repainted preview. Pies of seven sectors, all else
+// as a new object has it, at the default size of 500 x 550.
 
 #include "bench/table.h"
 

@@ -1,5 +1,6 @@
 #include "editors/finance/finance_chart_dlg.h"
 
+#include "editors/finance/finance_pages.h"
 #include "resources/string_table.h"
 
 #include <QListWidget>
@@ -30,13 +31,14 @@ QString PaneCaption(int pane) {
 } // namespace
 
 CFinanceChartDlg::CFinanceChartDlg()
-    : CDialog(QStringLiteral("FinanceChart")), m_preview(this), m_tabs(*this), m_mainPage(Chart(), *this),
-      m_rsiPage(Chart(), *this), m_momentumPage(Chart(), *this), m_stochasticPage(Chart(), *this),
-      m_macdPage(Chart(), *this), m_order(*this, [this] { m_preview.RefreshPreview(); }),
-      m_panes(new CPaneList(this)) {
-    CDialog* const pages[] = {&m_mainPage, &m_rsiPage, &m_momentumPage, &m_stochasticPage, &m_macdPage};
-    for (int pane = 0; pane < kPanes; ++pane)
-        m_tabs.AttachPage(*pages[pane], PaneCaption(pane));
+    : CDialog(QStringLiteral("FinanceChart")), m_preview(this), m_tabs(*this),
+      m_order(*this, [this] { m_preview.RefreshPreview(); }), m_panes(new CPaneList(this)) {
+    int caption = ChartText::MainChart; // and those behind it
+    m_tabs.AttachPage<CFinanceMainPage>(caption++, Chart(), *this);
+    m_tabs.AttachPage<CFinanceRsiPage>(caption++, Chart(), *this);
+    m_tabs.AttachPage<CFinanceMomentumPage>(caption++, Chart(), *this);
+    m_tabs.AttachPage<CFinanceStochasticPage>(caption++, Chart(), *this);
+    m_tabs.AttachPage<CFinanceMacdPage>(caption++, Chart(), *this);
     TableOfOrder();
 }
 

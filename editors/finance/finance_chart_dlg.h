@@ -1,7 +1,7 @@
 #pragma once
 // The editor of finance charts: a page a pane, and the order of the panes.
 
-#include "editors/finance/finance_pages.h"
+#include "editors/framework/form.h"
 #include "editors/framework/page_tabs.h"
 #include "editors/preview/chart_preview_view.h"
 
@@ -37,11 +37,6 @@ private:
 
     CChartPreviewView m_preview;
     CPageTabs m_tabs;
-    CFinanceMainPage m_mainPage;
-    CFinanceRsiPage m_rsiPage;
-    CFinanceMomentumPage m_momentumPage;
-    CFinanceStochasticPage m_stochasticPage;
-    CFinanceMacdPage m_macdPage;
     CForm m_order;
     QListWidget* m_panes;
     std::vector<int> m_places; ///< of the rows, in the chart's order

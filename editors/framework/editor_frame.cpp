@@ -163,6 +163,12 @@ void ActivateLayouts(QWidget& widget) {
     }
 }
 
+/// Sizes can be known once all stands in its place and has its style.
+void Polish(const QWidget& part) {
+    for (const QWidget* widget : part.findChildren<QWidget*>())
+        widget->ensurePolished();
+}
+
 /// The size of `dialog` with all in it at its natural size, and the preview as the left third.
 QSize NaturalSize(CDialog& dialog, const CEditorParts& parts, bool low) {
     ActivateLayouts(dialog);
@@ -195,9 +201,7 @@ void OpenEditor(CDialog& dialog, const CEditorParts& parts) {
         LayOut(dialog, parts);
         new CSizeKeeper(dialog);
     }
-    // Sizes can be known once all stands in its place and has its style.
-    for (const QWidget* widget : dialog.findChildren<QWidget*>())
-        widget->ensurePolished();
+    Polish(dialog);
     QSize natural = NaturalSize(dialog, parts, false);
     if (natural.height() > Room(dialog).height())
         natural = NaturalSize(dialog, parts, true);
@@ -206,4 +210,29 @@ void OpenEditor(CDialog& dialog, const CEditorParts& parts) {
             keeper->Open(natural);
     if (CStrip* strip = FindStrip(dialog))
         strip->Open({parts.preview, parts.edited, parts.restored});
+}
+
+void TakeIn(CScrollRoom& room, const QWidget& tabs) {
+    // The new controls are the last that Tab comes to. What came behind the tabs goes behind them.
+    QWidget* last = nullptr;
+    std::vector<QWidget*> behind;
+    const QWidget* window = room.window();
+    for (QWidget* next = window->nextInFocusChain(); next != window; next = next->nextInFocusChain()) {
+        if (next->focusPolicy() == Qt::NoFocus)
+            continue;
+        if (room.isAncestorOf(next))
+            last = next;
+        else if (tabs.isAncestorOf(next))
+            behind.clear();
+        else
+            behind.push_back(next);
+    }
+    for (QWidget* stop : behind) {
+        QWidget::setTabOrder(last, stop);
+        last = stop;
+    }
+    Polish(room);
+    ActivateLayouts(room);
+    room.MeasureAgain();
+    ActivateLayouts(room);
 }

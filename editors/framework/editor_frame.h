@@ -6,7 +6,9 @@
 
 class CChartPreviewView;
 class CDialog;
+class CScrollRoom;
 class QLayout;
+class QWidget;
 
 /// What stands in an editor dialog, from left to right. Null for what it has not.
 struct CEditorParts {
@@ -27,3 +29,6 @@ struct CEditorParts {
 /// scrolls; OK and Cancel are always seen. In a larger dialog the preview takes the growth. Tab goes through
 /// the parts in their order and then to the preview. The parts belong to the dialog then.
 void OpenEditor(CDialog& dialog, const CEditorParts& parts);
+
+/// Takes in a page of `tabs` that has been made in its room since the dialog was opened.
+void TakeIn(CScrollRoom& room, const QWidget& tabs);

@@ -37,10 +37,14 @@ void CListBase::Select(int index) {
     }
 }
 
-void CListBase::SyncFromItem(int index) {
+void CListBase::ShowItem(int index) {
     if (index < 0)
         RenewDefault();
     m_form.LoadRows(this);
+}
+
+void CListBase::SyncFromItem(int index) {
+    ShowItem(index);
     m_form.Committed(); // nothing has changed, but other values show
 }
 
@@ -65,7 +69,7 @@ void CListBase::ShowAppended() {
     m_combo.Add(CaptionOf(last));
     ShowSwatch(last);
     m_combo.Select(last);
-    SyncFromItem(last);
+    ShowItem(last);
     m_form.Notify();
 }
 
@@ -89,7 +93,7 @@ void CListBase::FillAndSelect(int row) {
         ShowSwatch(i);
     }
     m_combo.Select(std::min(row, Count() - 1));
-    SyncFromItem(m_combo.Selected());
+    ShowItem(m_combo.Selected());
 }
 
 void CListBase::ShowSwatch(int row) {

@@ -61,6 +61,7 @@ protected:
     void ShowAppended();
 
 private:
+    void ShowItem(int index);
     void ShowSwatch(int row);
 
     CForm& m_form;

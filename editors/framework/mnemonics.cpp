@@ -120,7 +120,8 @@ void MarkPage(QWidget& page, QSet<QChar> taken) {
 /// does not even begin.
 class CCommitFirst : public QObject {
 public:
-    explicit CCommitFirst(QWidget& dialog) : QObject(&dialog) {
+    using QObject::QObject;
+    void Watch(const QWidget& dialog) {
         for (QAbstractButton* button : dialog.findChildren<QAbstractButton*>())
             button->installEventFilter(this);
     }
@@ -133,5 +134,11 @@ public:
 
 void AssignMnemonics(QWidget& dialog) {
     MarkPage(dialog, {});
-    new CCommitFirst(dialog);
+    CCommitFirst* first = nullptr;
+    for (QObject* child : dialog.children())
+        if (auto* known = dynamic_cast<CCommitFirst*>(child))
+            first = known;
+    if (first == nullptr)
+        first = new CCommitFirst(&dialog);
+    first->Watch(dialog);
 }

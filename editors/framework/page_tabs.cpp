@@ -1,7 +1,6 @@
 #include "editors/framework/page_tabs.h"
 
 #include "editors/framework/mnemonics.h"
-#include "editors/framework/page_stack.h"
 #include "editors/framework/scroll_room.h"
 #include "platform/widgets/complaint.h"
 #include "platform/widgets/dialog.h"
@@ -9,7 +8,14 @@
 
 #include <QEvent>
 #include <QHBoxLayout>
+#include <QMap>
+#include <QStyle>
 #include <QTabBar>
+#include <QTimer>
+#include <utility>
+
+/// What shows first comes first, on the screen as well.
+constexpr int kPause = 30; // milliseconds
 
 CPageTabs::CPageTabs(CDialog& dialog) : QTabWidget(&dialog), m_dialog(dialog) {
     tabBar()->installEventFilter(this);
@@ -19,11 +25,19 @@ CPageTabs::CPageTabs(CDialog& dialog) : QTabWidget(&dialog), m_dialog(dialog) {
     connect(this, &QTabWidget::tabBarClicked, this, [this] { m_dialog.setFocus(); });
     // A letter or a screen reader shows the other page first: where the edit complains then, back to it.
     connect(this, &QTabWidget::currentChanged, this, [this](int index) {
+        if (m_body != nullptr && index >= 0)
+            Complete(index);
         if (!CComplaint::Stands(m_dialog))
             m_shown = index;
         else if (index != m_shown)
             setCurrentIndex(m_shown);
     });
+}
+
+/// What has the focus tells its dialog when it goes, so the pages go while all is whole.
+CPageTabs::~CPageTabs() {
+    for (int i = 0; i < count(); ++i)
+        Stack(i)->Clear();
 }
 
 CPageStack* CPageTabs::Stack(int index) const {
@@ -40,8 +54,49 @@ void CPageTabs::AttachPage(CDialog& page, int caption) {
     AttachPage(page, QString::fromUtf8(LoadChartString(caption)));
 }
 
-void CPageTabs::Choose(CDialog& page) {
-    static_cast<CPageStack*>(page.parentWidget())->setCurrentWidget(&page);
+void CPageTabs::AttachPage(int caption, CPageStack::Make make) {
+    addTab(new CScrollRoom(new CPageStack), QString::fromUtf8(LoadChartString(caption)));
+    Stack(count() - 1)->Attach(std::move(make));
+}
+
+void CPageTabs::Choose(int index) {
+    Stack(count() - 1)->Choose(index);
+}
+
+QSize& CPageTabs::KeptSize(int index) const {
+    static QMap<QString, QSize> sizes;
+    const QStringList look{m_dialog.windowTitle(), QString::number(index), font().key(), style()->name(),
+                           QString::number(logicalDpiY())};
+    return sizes[look.join(u'|')];
+}
+
+void CPageTabs::Complete(int index) {
+    if (Stack(index)->IsComplete())
+        return;
+    Stack(index)->Complete();
+    TakeIn(*static_cast<CScrollRoom*>(widget(index)), *this);
+    AssignMnemonics(m_dialog);
+}
+
+void CPageTabs::Complete() {
+    for (int i = 0; i < count(); ++i)
+        Complete(i);
+}
+
+void CPageTabs::CompleteNext() {
+    int next = 0;
+    while (next < count() && Stack(next)->IsComplete())
+        ++next;
+    if (next == count())
+        return;
+    Complete(next);
+    QTimer::singleShot(0, this, &CPageTabs::CompleteNext);
+}
+
+void CPageTabs::paintEvent(QPaintEvent* event) {
+    QTabWidget::paintEvent(event);
+    if (!std::exchange(m_painted, true))
+        QTimer::singleShot(kPause, this, &CPageTabs::CompleteNext);
 }
 
 void CPageTabs::ShowPage(int index) {
@@ -50,14 +105,22 @@ void CPageTabs::ShowPage(int index) {
 }
 
 void CPageTabs::Open(CEditorParts besides) {
-    for (int i = 0; i < count(); ++i)
+    // The dialog has the size for all of its pages, so that one can be made later only if its size is known.
+    for (int i = 0; i < count(); ++i) {
         Stack(i)->Start();
+        Stack(i)->Expect(KeptSize(i));
+        if (i == 0 || !KeptSize(i).isValid())
+            Stack(i)->Complete();
+    }
     if (m_body == nullptr) {
         m_body = new QHBoxLayout;
         m_body->addWidget(this);
     }
     besides.body = m_body;
     OpenEditor(m_dialog, besides);
+    for (int i = 0; i < count(); ++i)
+        if (Stack(i)->IsComplete())
+            KeptSize(i) = Stack(i)->sizeHint();
     AssignMnemonics(m_dialog);
     ShowPage(0);
 }

@@ -14,6 +14,7 @@ public:
     /// Takes the natural size of the content again, when fonts or pages have changed. `low` says that it will
     /// scroll up and down, which takes the width of a scroll bar.
     void Measure(bool low);
+    void MeasureAgain() { Measure(m_low); }
 
     QSize sizeHint() const override;
     QSize minimumSizeHint() const override;

@@ -1,5 +1,6 @@
 #include "editors/framework/spots.h"
 
+#include "editors/framework/page_tabs.h"
 #include "platform/widgets/simple_combo.h"
 
 #include <QAbstractButton>
@@ -59,6 +60,8 @@ QString Short(const QString& text) {
 } // namespace
 
 std::vector<CForm*> FormsOf(CDialog& dialog) {
+    for (CPageTabs* tabs : dialog.findChildren<CPageTabs*>())
+        tabs->Complete();
     std::vector<CForm*> forms;
     QSet<const QWidget*> fields;
     CollectForms(dialog, forms, fields);

@@ -8,7 +8,8 @@
 
 class CDialog;
 
-/// The forms of all pages of `dialog`, in their order; not those that a field is made of.
+/// The forms of all pages of `dialog`, in their order; not those that a field is made of. Pages that are
+/// still to be made are.
 std::vector<CForm*> FormsOf(CDialog& dialog);
 
 /// How a place is called, as it is read on the screen.

@@ -1,5 +1,7 @@
 #include "editors/meter/meter_dlgs.h"
 
+#include "editors/meter/meter_pages.h"
+#include "editors/meter/ring_and_zone_pages.h"
 #include "resources/string_table.h"
 
 namespace {
@@ -23,23 +25,18 @@ CChartTextBox TextAt(std::int32_t x, std::int32_t y) {
 } // namespace
 
 CAngularMeterDlg::CAngularMeterDlg()
-    : CDialog(QStringLiteral("AngularMeter")), m_preview(this), m_tabs(*this),
-      m_general(m_preview.m_ownAngularMeter, *this),
-      m_pointers(m_preview.m_ownAngularMeter.m_pointers, *this, "FillColor:", Pointer(0, 1.0)),
-      m_rings(m_preview.m_ownAngularMeter.m_rings, *this),
-      m_zones(m_preview.m_ownAngularMeter.m_zones, *this),
-      m_texts(m_preview.m_ownAngularMeter.m_texts, *this,
-              [this] {
-                  const CAngularMeterPA& area = m_preview.m_ownLayout.m_angularPlotArea;
-                  return TextAt(area.m_centerX, area.m_centerY);
-              }),
-      m_labels(m_preview.m_ownAngularMeter.m_useLabelStyle, m_preview.m_ownAngularMeter.m_labelStyle, *this) {
-    m_tabs.AttachPage(m_general, ChartText::General);
-    m_tabs.AttachPage(m_pointers, ChartText::Pointer);
-    m_tabs.AttachPage(m_rings, ChartText::Ring);
-    m_tabs.AttachPage(m_zones, ChartText::Zone);
-    m_tabs.AttachPage(m_texts, ChartText::Text);
-    m_tabs.AttachPage(m_labels, ChartText::Label);
+    : CDialog(QStringLiteral("AngularMeter")), m_preview(this), m_tabs(*this) {
+    CAngularMeter& meter = m_preview.m_ownAngularMeter;
+    m_tabs.AttachPage<CMeterGeneralPage>(ChartText::General, meter, *this);
+    m_tabs.AttachPage<CMeterPointerPage>(ChartText::Pointer, meter.m_pointers, *this,
+                                         "FillColor:", Pointer(0, 1.0));
+    m_tabs.AttachPage<CAngularRingPage>(ChartText::Ring, meter.m_rings, *this);
+    m_tabs.AttachPage<CAngularZonePage>(ChartText::Zone, meter.m_zones, *this);
+    m_tabs.AttachPage<CMeterTextPage>(ChartText::Text, meter.m_texts, *this, [this] {
+        const CAngularMeterPA& area = m_preview.m_ownLayout.m_angularPlotArea;
+        return TextAt(area.m_centerX, area.m_centerY);
+    });
+    m_tabs.AttachPage<CMeterLabelPage>(ChartText::Label, meter.m_useLabelStyle, meter.m_labelStyle, *this);
 }
 
 bool CAngularMeterDlg::OnInitDialog() {
@@ -52,22 +49,17 @@ void CAngularMeterDlg::OnFieldChanged(int /*key*/) {
     m_preview.RefreshPreview();
 }
 
-CLinearMeterDlg::CLinearMeterDlg()
-    : CDialog(QStringLiteral("LinearMeter")), m_preview(this), m_tabs(*this),
-      m_general(m_preview.m_ownLinearMeter, *this),
-      m_pointers(m_preview.m_ownLinearMeter.m_pointers, *this, "Fill Color:", Pointer(5, 0.75)),
-      m_zones(m_preview.m_ownLinearMeter.m_zones, *this),
-      m_texts(m_preview.m_ownLinearMeter.m_texts, *this,
-              [this] {
-                  const CLinearMeterPA& area = m_preview.m_ownLayout.m_linearPlotArea;
-                  return TextAt(area.m_left, area.m_top);
-              }),
-      m_labels(m_preview.m_ownLinearMeter.m_useLabelStyle, m_preview.m_ownLinearMeter.m_labelStyle, *this) {
-    m_tabs.AttachPage(m_general, ChartText::General);
-    m_tabs.AttachPage(m_pointers, ChartText::Pointer);
-    m_tabs.AttachPage(m_zones, ChartText::Zone);
-    m_tabs.AttachPage(m_texts, ChartText::Text);
-    m_tabs.AttachPage(m_labels, ChartText::Label);
+CLinearMeterDlg::CLinearMeterDlg() : CDialog(QStringLiteral("LinearMeter")), m_preview(this), m_tabs(*this) {
+    CLinearMeter& meter = m_preview.m_ownLinearMeter;
+    m_tabs.AttachPage<CMeterGeneralPage>(ChartText::General, meter, *this);
+    m_tabs.AttachPage<CMeterPointerPage>(ChartText::Pointer, meter.m_pointers, *this,
+                                         "Fill Color:", Pointer(5, 0.75));
+    m_tabs.AttachPage<CLinearZonePage>(ChartText::Zone, meter.m_zones, *this);
+    m_tabs.AttachPage<CMeterTextPage>(ChartText::Text, meter.m_texts, *this, [this] {
+        const CLinearMeterPA& area = m_preview.m_ownLayout.m_linearPlotArea;
+        return TextAt(area.m_left, area.m_top);
+    });
+    m_tabs.AttachPage<CMeterLabelPage>(ChartText::Label, meter.m_useLabelStyle, meter.m_labelStyle, *this);
 }
 
 bool CLinearMeterDlg::OnInitDialog() {

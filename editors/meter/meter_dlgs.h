@@ -2,8 +2,6 @@
 // The editors of the two meters.
 
 #include "editors/framework/page_tabs.h"
-#include "editors/meter/meter_pages.h"
-#include "editors/meter/ring_and_zone_pages.h"
 #include "editors/preview/chart_preview_view.h"
 
 class CAngularMeterDlg : public CDialog {
@@ -24,12 +22,6 @@ protected:
 private:
     CChartPreviewView m_preview;
     CPageTabs m_tabs;
-    CMeterGeneralPage m_general;
-    CMeterPointerPage m_pointers;
-    CAngularRingPage m_rings;
-    CAngularZonePage m_zones;
-    CMeterTextPage m_texts;
-    CMeterLabelPage m_labels;
 };
 
 class CLinearMeterDlg : public CDialog {
@@ -50,9 +42,4 @@ protected:
 private:
     CChartPreviewView m_preview;
     CPageTabs m_tabs;
-    CMeterGeneralPage m_general;
-    CMeterPointerPage m_pointers;
-    CLinearZonePage m_zones;
-    CMeterTextPage m_texts;
-    CMeterLabelPage m_labels;
 };

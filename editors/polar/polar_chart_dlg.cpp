@@ -1,17 +1,15 @@
 #include "editors/polar/polar_chart_dlg.h"
 
+#include "editors/polar/polar_pages.h"
 #include "resources/string_table.h"
 
-CPolarChartDlg::CPolarChartDlg()
-    : CDialog(QStringLiteral("PolarChart")), m_preview(this), m_tabs(*this),
-      m_general(m_preview.m_ownPolarChart, m_preview.m_ownLayout, *this),
-      m_angularLabels(m_preview.m_ownPolarChart, *this), m_radialLabels(m_preview.m_ownPolarChart, *this),
-      m_angularZones(m_preview.m_ownPolarChart, *this), m_radialZones(m_preview.m_ownPolarChart, *this) {
-    m_tabs.AttachPage(m_general, ChartText::General);
-    m_tabs.AttachPage(m_angularLabels, ChartText::AngularLabels);
-    m_tabs.AttachPage(m_radialLabels, ChartText::RadialLabels);
-    m_tabs.AttachPage(m_angularZones, ChartText::AngularZones);
-    m_tabs.AttachPage(m_radialZones, ChartText::RadialZones);
+CPolarChartDlg::CPolarChartDlg() : CDialog(QStringLiteral("PolarChart")), m_preview(this), m_tabs(*this) {
+    CPolarChart& chart = m_preview.m_ownPolarChart;
+    m_tabs.AttachPage<CPolarGeneralPage>(ChartText::General, chart, m_preview.m_ownLayout, *this);
+    m_tabs.AttachPage<CPolarAngularLabelPage>(ChartText::AngularLabels, chart, *this);
+    m_tabs.AttachPage<CPolarRadialLabelPage>(ChartText::RadialLabels, chart, *this);
+    m_tabs.AttachPage<CPolarAngularZonePage>(ChartText::AngularZones, chart, *this);
+    m_tabs.AttachPage<CPolarRadialZonePage>(ChartText::RadialZones, chart, *this);
 }
 
 bool CPolarChartDlg::OnInitDialog() {

@@ -2,7 +2,6 @@
 // The editor of polar charts: the chart in five pages, one layer in a dialog of its own.
 
 #include "editors/framework/page_tabs.h"
-#include "editors/polar/polar_pages.h"
 #include "editors/preview/chart_preview_view.h"
 #include "platform/widgets/dialog.h"
 
@@ -24,9 +23,4 @@ protected:
 private:
     CChartPreviewView m_preview;
     CPageTabs m_tabs;
-    CPolarGeneralPage m_general;
-    CPolarAngularLabelPage m_angularLabels;
-    CPolarRadialLabelPage m_radialLabels;
-    CPolarAngularZonePage m_angularZones;
-    CPolarRadialZonePage m_radialZones;
 };

@@ -2,15 +2,19 @@
 
 #include "resources/string_table.h"
 
-CXYChartDlg::CXYChartDlg()
-    : CDialog(QStringLiteral("XYChart")), m_preview(this), m_tabs(*this),
-      m_general(m_preview.m_ownXYChart, *this), m_background(m_preview.m_ownXYChart, *this),
-      m_axes(m_preview.m_ownXYChart, *this, [this] { m_layers.ShowAxes(); }),
-      m_layers(m_preview.m_ownXYChart, m_preview.m_ownLayout, *this) {
-    m_tabs.AttachPage(m_general, ChartText::General);
-    m_tabs.AttachPage(m_background, ChartText::Background);
-    m_tabs.AttachPage(m_axes, ChartText::Axis);
-    m_tabs.AttachPage(m_layers, ChartText::Layer);
+CXYChartDlg::CXYChartDlg() : CDialog(QStringLiteral("XYChart")), m_preview(this), m_tabs(*this) {
+    CXYChart& chart = m_preview.m_ownXYChart;
+    m_tabs.AttachPage<CXYGeneralPage>(ChartText::General, chart, *this);
+    m_tabs.AttachPage<CXYBackgroundPage>(ChartText::Background, chart, *this);
+    m_tabs.AttachPage<CXYAxisPage>(ChartText::Axis, chart, *this, [this] {
+        if (m_layers != nullptr)
+            m_layers->ShowAxes();
+    });
+    m_tabs.AttachPage(ChartText::Layer, [this, &chart] {
+        auto page = std::make_unique<CXYLayerPage>(chart, m_preview.m_ownLayout, *this);
+        m_layers = page.get();
+        return page;
+    });
 }
 
 bool CXYChartDlg::OnInitDialog() {

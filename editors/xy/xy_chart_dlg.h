@@ -22,8 +22,5 @@ protected:
 private:
     CChartPreviewView m_preview;
     CPageTabs m_tabs;
-    CXYGeneralPage m_general;
-    CXYBackgroundPage m_background;
-    CXYAxisPage m_axes;
-    CXYLayerPage m_layers;
+    CXYLayerPage* m_layers = nullptr; ///< null until it is made
 };

@@ -39,7 +39,7 @@ TEST_F(Dialogs, PagesCanShareATab) {
     Open();
     editor.m_tabs.ShowPage(1);
     EXPECT_TRUE(editor.m_itemsPage.isVisible());
-    editor.m_tabs.Choose(other);
+    editor.m_tabs.Choose(1);
     EXPECT_EQS((editor.m_itemsPage.isVisible(), false), (other.isVisible(), true),
                (other.geometry(), editor.m_itemsPage.geometry()), (editor.m_tabs.count(), 2));
 }

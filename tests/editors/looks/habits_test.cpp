@@ -4,6 +4,7 @@
 #include "tests/driver/dialogs.h"
 #include <QHelpEvent>
 #include <QToolTip>
+#include <set>
 
 using namespace driver;
 
@@ -53,6 +54,33 @@ TEST(Habits, AControlTellsWhatItsValueMeans) {
             EXPECT_EQ(QToolTip::text().toStdString(), tip);
         });
     }
+}
+
+TEST(Habits, ADialogIsTheSameWhenItIsOpenedAgain) { // then its pages are made later
+    AtFont(
+        10.5,
+        [] {
+            for (const Dialog& dialog : AllDialogs()) {
+                if (!dialog.own) continue;
+                std::vector<std::pair<std::string, QRect>> seen[2]; // where Tab goes
+                for (auto& stops : seen)
+                    dialog.visit([&stops](Person& person) {
+                        QWidget& window = person.Window();
+                        OnEachPage(
+                            person,
+                            [&](const QString& tab) {
+                                stops.emplace_back(tab.toStdString(), window.geometry());
+                                for (std::set<QWidget*> passed; passed.insert(window.focusWidget()).second;) {
+                                    person.Key(Qt::Key_Tab);
+                                    const QWidget& stop = *window.focusWidget();
+                                    stops.emplace_back(stop.objectName().toStdString(),
+                                                       QRect(stop.mapTo(&window, QPoint()), stop.size()));
+                                }
+                            });
+                    });
+                EXPECT_EQ(seen[0], seen[1]) << dialog.name;
+            }
+        });
 }
 
 TEST(Habits, ListsShowTheColorsOfTheirItems) {
