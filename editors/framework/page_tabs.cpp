@@ -14,9 +14,6 @@
 #include <QTimer>
 #include <utility>
 
-/// What shows first comes first, on the screen as well.
-constexpr int kPause = 30; // milliseconds
-
 CPageTabs::CPageTabs(CDialog& dialog) : QTabWidget(&dialog), m_dialog(dialog) {
     tabBar()->installEventFilter(this);
     // A click takes the focus from the edit that has it, before the page changes, and leaves it with the
@@ -83,20 +80,10 @@ void CPageTabs::Complete() {
         Complete(i);
 }
 
-void CPageTabs::CompleteNext() {
-    int next = 0;
-    while (next < count() && Stack(next)->IsComplete())
-        ++next;
-    if (next == count())
-        return;
-    Complete(next);
-    QTimer::singleShot(0, this, &CPageTabs::CompleteNext);
-}
-
 void CPageTabs::paintEvent(QPaintEvent* event) {
     QTabWidget::paintEvent(event);
     if (!std::exchange(m_painted, true))
-        QTimer::singleShot(kPause, this, &CPageTabs::CompleteNext);
+        QTimer::singleShot(0, this, [this] { Complete(); });
 }
 
 void CPageTabs::ShowPage(int index) {

@@ -58,8 +58,6 @@ private:
     QSize& KeptSize(int index) const;
     /// Makes the pages of that tab, of a dialog that is open.
     void Complete(int index);
-    /// Makes those of the next tab, and goes on when no events wait.
-    void CompleteNext();
 
     CDialog& m_dialog;
     QHBoxLayout* m_body = nullptr;
