@@ -2,7 +2,9 @@
 #include "editors/font/font_dlg.h"
 #include "editors/preview/chart_preview_view.h"
 #include "tests/driver/person.h"
+#include "tests/driver/random_person.h"
 #include <QAbstractButton>
+#include <cmath>
 
 namespace {
 class FontDlg : public WidgetTest {
@@ -190,4 +192,21 @@ TEST_F(FontDlg, PutsTheLastSizeBackWhereTheTextIsNone) {
             EXPECT_FALSE(m_dialog.isVisible());
             EXPECT_EQ(box.m_count, 1); // nobody complains about a size that is thrown away
         });
+}
+
+TEST_F(FontDlg, RandomEventsLeaveItAliveAndItsFontLegal) {
+    RandomPerson person(5);
+    int opened = 0;
+    CChartFont font;
+    person.Use(RandomEventCount(), [&] {
+        CFontDlg dialog;
+        dialog.m_font = font;
+        if (dialog.DoModal() == CDialog::kOK) {
+            font = dialog.m_font;
+            EXPECT_TRUE(std::isfinite(font.m_size));
+            EXPECT_STREQ(font.m_fileName.data(), GetFontFileName(font.m_faceName.data()));
+        }
+        ++opened;
+    });
+    EXPECT_GT(opened, 1);
 }
