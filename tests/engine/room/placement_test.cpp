@@ -441,3 +441,19 @@ TEST(Placement, GridLinesLeaveGapsForLabelsThatStandOnThem) {
     }
 }
 } // namespace
+
+TEST(Placement, TitlesStayInsideBelowTurnedNames) {
+    const Chart chart;
+    chart.bars(CHART_COMBINE_SIDE, {{20, 30}}, {0xff0000});
+    const double rows[] = {0, 1};
+    CAxis_setLabels2(CXYChart_xAxis(chart.xy), rows, 2, "{value|\tA name that is longer than the room\tAnother}");
+    CAxis_setLabelStyle(CXYChart_xAxis(chart.xy), nullptr, 8, -1, 90);
+    CAxis_setTitle(CXYChart_xAxis(chart.xy), "Title", nullptr, 8, -1);
+    std::size_t texts = 0;
+    EXPECT_EQ(overlap::faultOf(chart.base, texts), "");
+    const std::vector<QPolygonF> all = textsOf(chart.base);
+    EXPECT_TRUE(std::any_of(all.begin(), all.end(), [](const QPolygonF& text) {
+        return text.boundingRect().top() > 230 && std::abs(text.boundingRect().center().x() - 200) < 3;
+    }));
+    CBaseChart_destroy(chart.base);
+}
